@@ -1,0 +1,30 @@
+# Language level, warnings and instrumentation: every target of ours links TarnOptions.
+# TarnStrict adds the Qt switches for what we ship; tests and benchmarks do without them.
+add_library(TarnOptions INTERFACE)
+target_compile_features(TarnOptions INTERFACE cxx_std_17)
+target_compile_options(TarnOptions INTERFACE -Wall -Wextra -Wpedantic $<$<BOOL:${TARN_WERROR}>:-Werror>)
+target_compile_definitions(TarnOptions INTERFACE QT_NO_KEYWORDS QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
+
+# No silent casts between text and bytes.
+add_library(TarnStrict INTERFACE)
+target_link_libraries(TarnStrict INTERFACE TarnOptions)
+target_compile_definitions(TarnStrict INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+                                                QT_NO_URL_CAST_FROM_STRING)
+
+if(TARN_SANITIZE)
+  target_compile_options(TarnOptions INTERFACE -fsanitize=${TARN_SANITIZE} -fno-sanitize-recover=all
+                                               -fno-omit-frame-pointer)
+  target_link_options(TarnOptions INTERFACE -fsanitize=${TARN_SANITIZE})
+endif()
+if(TARN_COVERAGE)
+  target_compile_options(TarnOptions INTERFACE --coverage)
+  target_link_options(TarnOptions INTERFACE --coverage)
+endif()
+
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE RelWithDebInfo)
+endif()

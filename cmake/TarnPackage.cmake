@@ -1,0 +1,16 @@
+# The installed CMake package and the pkg-config file.
+include(CMakePackageConfigHelpers)
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/TarnGUICommon)
+configure_package_config_file(cmake/TarnGUICommonConfig.cmake.in "${PROJECT_BINARY_DIR}/TarnGUICommonConfig.cmake"
+                              INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/TarnGUICommonConfigVersion.cmake"
+                                 COMPATIBILITY SameMajorVersion)
+install(EXPORT TarnGUICommonTargets NAMESPACE TarnGUICommon:: DESTINATION ${package_dir}
+        COMPONENT development)
+install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommonConfig.cmake"
+              "${PROJECT_BINARY_DIR}/TarnGUICommonConfigVersion.cmake"
+        DESTINATION ${package_dir} COMPONENT development)
+
+configure_file(cmake/TarnGUICommon.pc.in "${PROJECT_BINARY_DIR}/TarnGUICommon.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommon.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+        COMPONENT development)

@@ -1,0 +1,38 @@
+# A locale with a decimal comma, made for the tests: the machine need not have one.
+set(TARN_TEST_LOCALES "${PROJECT_BINARY_DIR}/locales")
+add_custom_command(
+  OUTPUT "${TARN_TEST_LOCALES}/de_DE.UTF-8/LC_NUMERIC"
+  COMMAND ${CMAKE_COMMAND} -E make_directory "${TARN_TEST_LOCALES}"
+  COMMAND localedef -i de_DE -f UTF-8 "${TARN_TEST_LOCALES}/de_DE.UTF-8"
+  VERBATIM)
+add_custom_target(TarnTestLocales ALL DEPENDS "${TARN_TEST_LOCALES}/de_DE.UTF-8/LC_NUMERIC")
+
+# tarn_test(<class> [INTERNAL] [WINDOW_SYSTEM] [TIMEOUT <seconds>] [LIBRARIES <target>...])
+#
+# One test program for one class: tst_<class>.cpp beside the caller. It runs offscreen, with
+# WINDOW_SYSTEM under Xvfb. INTERNAL tests what the dialog library does not export, by linking its
+# objects instead of the library.
+function(tarn_test name)
+  cmake_parse_arguments(arg "INTERNAL;WINDOW_SYSTEM" "TIMEOUT" "LIBRARIES;DEFINITIONS" ${ARGN})
+  set(target tst_${name})
+  add_executable(${target} tst_${name}.cpp)
+  target_link_libraries(
+    ${target} PRIVATE TarnTestSupport TarnOptions $<IF:$<BOOL:${arg_INTERNAL}>,TarnGUICommonObjects,TarnGUICommon>
+                      ${arg_LIBRARIES})
+  if(arg_INTERNAL)
+    target_sources(${target} PRIVATE $<TARGET_OBJECTS:TarnGUICommonObjects>)
+  endif()
+  target_compile_definitions(${target} PRIVATE TARN_SOURCE_DIR="${PROJECT_SOURCE_DIR}" ${arg_DEFINITIONS})
+  if(arg_WINDOW_SYSTEM)
+    add_test(NAME ${target} COMMAND xvfb-run -a -s "-screen 0 1280x1024x24" $<TARGET_FILE:${target}>)
+    set(platform xcb)
+  else()
+    add_test(NAME ${target} COMMAND ${target})
+    set(platform offscreen)
+  endif()
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
+  set_tests_properties(${target} PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT
+                       "QT_QPA_PLATFORM=${platform};LOCPATH=${TARN_TEST_LOCALES}")
+endfunction()

@@ -1,0 +1,83 @@
+#include "DrawerOutput.h"
+
+#include <QTextCodec>
+
+#include <cstdarg>
+#include <cstdio>
+#include <cstring>
+#include <locale.h>
+#include <new>
+
+DrawerOutput* DrawerOutput::m_ConnectorInstance = nullptr;
+
+namespace
+{
+
+/// Puts LC_NUMERIC of this thread at "C" while it lives: printf follows the locale that the
+/// application object has set, and a decimal comma is not wanted in messages.
+class CNumericLocale
+{
+public:
+    CNumericLocale()
+        : m_locale(newlocale(LC_NUMERIC_MASK, "C", duplocale(uselocale(locale_t(nullptr)))))
+        , m_previous(uselocale(m_locale))
+    {
+    }
+    ~CNumericLocale()
+    {
+        uselocale(m_previous);
+        freelocale(m_locale);
+    }
+    Q_DISABLE_COPY(CNumericLocale)
+
+private:
+    locale_t m_locale;
+    locale_t m_previous;
+};
+
+QString FormatText(const char* format, va_list arguments)
+{
+    char buffer[1024] = {};
+    int length = 0;
+    {
+        const CNumericLocale numericLocale;
+        length = std::vsnprintf(buffer, sizeof buffer, format, arguments);
+    }
+    if (length < int(sizeof buffer))
+        return QString::fromLocal8Bit(buffer);
+
+    // The cut may have split a character: a decoder with a state keeps such a rest to itself.
+    QTextCodec::ConverterState state;
+    return QTextCodec::codecForLocale()->toUnicode(buffer, int(std::strlen(buffer)), &state);
+}
+
+} // namespace
+
+DrawerOutput::DrawerOutput() = default;
+
+DrawerOutput::~DrawerOutput() = default;
+
+DrawerOutput* DrawerOutput::GetInstance()
+{
+    if (m_ConnectorInstance == nullptr)
+        m_ConnectorInstance = new (std::nothrow) DrawerOutput;
+    return m_ConnectorInstance;
+}
+
+void DrawerOutput::EmitMessage2MessageWidget(int level, const char* format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    const QString text = FormatText(format, arguments);
+    va_end(arguments);
+    Q_EMIT MessageWidgetMessage(level, text);
+}
+
+QString DrawerOutput::GetQStringFromChar(const char* format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    QString text = FormatText(format, arguments);
+    va_end(arguments);
+    return text;
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "tarnguicommon_export.h"
+
+/// Stands for the library: it exists so that the library exports a class of its own name.
+class TARNGUICOMMON_EXPORT TarnGUICommon
+{
+public:
+    TarnGUICommon();
+    ~TarnGUICommon();
+    TarnGUICommon(const TarnGUICommon& other) = default;
+    TarnGUICommon& operator=(const TarnGUICommon& other);
+};

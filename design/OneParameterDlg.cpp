@@ -1,0 +1,194 @@
+#include "OneParameterDlg.h"
+
+#include "Notice.h"
+#include "NumberText.h"
+#include "sParaArrayData.h"
+
+#include <QScopedValueRollback>
+#include <QTableWidgetItem>
+
+#include <cmath>
+#include <utility>
+
+namespace
+{
+
+enum SampleType
+{
+    LinearType,
+    Log10Type,
+    LnType,
+    GaussType
+};
+
+// The most rows that a range may generate.
+constexpr std::size_t MaximumSamples = 1000000;
+
+double SampleValue(int type, double x)
+{
+    switch (type) {
+    case Log10Type:
+        return std::log10(x);
+    case LnType:
+        return std::log(x);
+    default:
+        return x;
+    }
+}
+
+} // namespace
+
+OneParameterDlg::OneParameterDlg(QWidget* parent, QString name) : QDialog(parent)
+{
+    m_ui.setupUi(this);
+    if (name.isEmpty()) {
+        tarn::ShowNotice(tr("Error"), tr("No parameter input"));
+        return;
+    }
+
+    m_strName = std::move(name);
+    InitGUIData();
+
+    connect(m_ui.lineEdit_Min, SIGNAL(editingFinished()), this, SLOT(RefreshTableData()));
+    connect(m_ui.lineEdit_Max, SIGNAL(editingFinished()), this, SLOT(RefreshTableData()));
+    connect(m_ui.lineEdit_Deta, SIGNAL(editingFinished()), this, SLOT(RefreshTableData()));
+    connect(m_ui.radioButton_Linear, SIGNAL(clicked()), this, SLOT(RefreshTableData()));
+    connect(m_ui.radioButton_Log, SIGNAL(clicked()), this, SLOT(RefreshTableData()));
+    connect(m_ui.pushButton_OK, SIGNAL(clicked()), this, SLOT(m_Slot_OK()));
+    connect(m_ui.pushButton_Cancel, SIGNAL(clicked()), this, SLOT(m_Slot_Cancel()));
+    connect(m_ui.pushButton_Add, SIGNAL(clicked()), this, SLOT(m_Slot_Add()));
+    connect(m_ui.pushButton_Delete, SIGNAL(clicked()), this, SLOT(m_Slot_Delete()));
+}
+
+OneParameterDlg::~OneParameterDlg() = default;
+
+void OneParameterDlg::RefreshTableData()
+{
+    // A box takes the focus from the field, which then reports a finished edit once more.
+    if (m_bRefreshing)
+        return;
+    const QScopedValueRollback<bool> refreshing(m_bRefreshing, true);
+
+    m_vecValues.clear();
+    m_ui.tableWidget->setRowCount(0);
+    m_ui.tableWidget->clearContents();
+
+    const double step = m_ui.lineEdit_Deta->text().toDouble();
+    const double min = m_ui.lineEdit_Min->text().toDouble();
+    const double max = m_ui.lineEdit_Max->text().toDouble();
+    const bool finite = std::isfinite(step) && std::isfinite(min) && std::isfinite(max);
+    if (step > max - min || min >= max || !finite || step <= 0.0) {
+        tarn::ShowNotice(tr("Error"), tr("Check input data!"));
+        return;
+    }
+
+    int type = LinearType;
+    if (m_ui.radioButton_Linear->isChecked()) {
+        type = LinearType;
+    } else if (m_ui.radioButton_Log->isChecked()) {
+        type = Log10Type;
+    } else if (m_ui.radioButton_Ln->isChecked()) {
+        type = LnType;
+    } else if (m_ui.radioButton_Gauss->isChecked()) {
+        m_nSampleType = GaussType;
+        tarn::ShowNotice(tr("Error"), tr("Not implement yet"));
+        return;
+    } else {
+        return;
+    }
+
+    const std::vector<double> samples = Samples(min, max, step);
+    if (samples.empty()) {
+        tarn::ShowNotice(tr("Error"), tr("Check input data!"));
+        return;
+    }
+    m_nSampleType = type;
+    m_ui.tableWidget->setRowCount(int(samples.size()));
+    int row = 0;
+    for (const double x : samples)
+        m_ui.tableWidget->setItem(
+            row++, 0, new QTableWidgetItem(tarn::NumberText(SampleValue(type, x))));
+}
+
+std::vector<double> OneParameterDlg::Samples(double min, double max, double step) const
+{
+    // Repeated addition decides whether the end is reached. The bound also ends a range in which
+    // the step is too small to move x.
+    std::vector<double> samples;
+    for (double x = min; x <= max; x += step) {
+        if (samples.size() == MaximumSamples)
+            return {};
+        samples.push_back(x);
+    }
+    return samples;
+}
+
+void OneParameterDlg::m_Slot_OK()
+{
+    const double step = m_ui.lineEdit_Deta->text().toDouble();
+    const double min = m_ui.lineEdit_Min->text().toDouble();
+    const double max = m_ui.lineEdit_Max->text().toDouble();
+
+    m_vecValues.clear();
+    const int rows = m_ui.tableWidget->rowCount();
+    m_vecValues.reserve(std::size_t(rows));
+    for (int row = 0; row < rows; ++row) {
+        const QTableWidgetItem* const item = m_ui.tableWidget->item(row, 0);
+        m_vecValues.push_back(item != nullptr ? item->text().toDouble() : 0.0);
+    }
+
+    sParaArrayData& record = g_mapParaArrays[m_strName];
+    record.bChecked = 1;
+    record.strName = m_strName;
+    record.vecValues = m_vecValues;
+    record.dMin = min;
+    record.dMax = max;
+    record.dDelta = step;
+    record.nSampleType = m_nSampleType;
+    accept();
+}
+
+void OneParameterDlg::m_Slot_Cancel()
+{
+    reject();
+}
+
+void OneParameterDlg::InitGUIData()
+{
+    const sParaArrayData& record = g_mapParaArrays[m_strName];
+    m_ui.lineEdit_Deta->setText(tarn::NumberText(record.dDelta));
+    m_ui.lineEdit_Max->setText(tarn::NumberText(record.dMax));
+    m_ui.lineEdit_Min->setText(tarn::NumberText(record.dMin));
+    switch (record.nSampleType) {
+    case LinearType:
+        m_ui.radioButton_Linear->setChecked(true);
+        break;
+    case Log10Type:
+        m_ui.radioButton_Log->setChecked(true);
+        break;
+    case LnType:
+        m_ui.radioButton_Ln->setChecked(true);
+        break;
+    case GaussType:
+        m_ui.radioButton_Gauss->setChecked(true);
+        break;
+    default:
+        break;
+    }
+    RefreshTableData();
+}
+
+void OneParameterDlg::m_Slot_Add()
+{
+    m_ui.tableWidget->insertRow(m_ui.tableWidget->rowCount());
+}
+
+void OneParameterDlg::m_Slot_Delete()
+{
+    const int row = m_ui.tableWidget->currentRow();
+    if (row < 0) {
+        tarn::ShowNotice(tr("Notify"), tr("Select one row first!"));
+        return;
+    }
+    m_ui.tableWidget->removeRow(row);
+}

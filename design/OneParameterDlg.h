@@ -1,0 +1,49 @@
+#pragma once
+
+#include "tarnguicommon_export.h"
+#include "ui_OneParameterDlg.h"
+
+#include <QDialog>
+#include <vector>
+
+/// Asks for the sample values of one global parameter.
+///
+///     OneParameterDlg dialog(window, name);
+///     if (dialog.exec() == QDialog::Accepted)
+///         Use(g_mapParaArrays[name].vecValues);
+///
+/// A range and a spacing type generate the samples; rows can be added, deleted and edited. OK
+/// stores them in g_mapParaArrays under the name and marks the parameter as taking part. Opening
+/// for a name enters a default record, also when the user cancels. Reopening generates the samples
+/// anew from the stored range: rows edited by hand are not shown again.
+class TARNGUICOMMON_EXPORT OneParameterDlg : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// An empty @p name is refused with a notice and leaves an inert dialog.
+    OneParameterDlg(QWidget* parent, QString name);
+    ~OneParameterDlg() override;
+
+public Q_SLOTS:
+    /// Generates the samples from the range and the checked type.
+    void RefreshTableData();
+    /// Stores range, type and table rows in the registry and accepts; nothing is checked.
+    void m_Slot_OK();
+    void m_Slot_Cancel();
+    /// Shows the stored range and type and generates the samples.
+    void InitGUIData();
+    /// Appends an empty row, which counts as the sample 0 until it is filled.
+    void m_Slot_Add();
+    void m_Slot_Delete();
+
+private:
+    /// The samples of the range, or nothing when they would be too many.
+    std::vector<double> Samples(double min, double max, double step) const;
+
+    Ui::OneParameterDlg m_ui;
+    QString m_strName;
+    std::vector<double> m_vecValues;
+    int m_nSampleType = 0;
+    bool m_bRefreshing = false;
+};

@@ -1,0 +1,260 @@
+#include "ParameterEditor.h"
+
+#include "GlobalParaMeterMgr.h"
+#include "ExpressionEngine.h"
+#include "LocalText.h"
+#include "Notice.h"
+#include "NumberText.h"
+
+#include <QComboBox>
+#include <QPersistentModelIndex>
+#include <QTableWidgetItem>
+
+#include <array>
+#include <map>
+
+namespace
+{
+
+enum Column
+{
+    NameColumn,
+    ValueColumn,
+    TypeColumn,
+    ExpressionColumn,
+    ExpressionParaColumn,
+    DescriptionColumn
+};
+
+enum TypeCode
+{
+    BoolType,
+    ScalarType,
+    VectorType,
+    TensorType
+};
+
+// The stored type code of each entry of the type combo box, in the combo's order.
+constexpr std::array<int, 4> ComboTypeCodes = {ScalarType, VectorType, TensorType, BoolType};
+
+const QString Separator = QStringLiteral(",");
+
+int TypeCodeOfCombo(int index)
+{
+    return index >= 0 && index < int(ComboTypeCodes.size()) ? ComboTypeCodes[std::size_t(index)]
+                                                            : int(ScalarType);
+}
+
+int ComboOfTypeCode(int code)
+{
+    for (std::size_t index = 0; index < ComboTypeCodes.size(); ++index) {
+        if (ComboTypeCodes[index] == code)
+            return int(index);
+    }
+    return 0;
+}
+
+QComboBox* NewTypeCombo(int index)
+{
+    auto* const combo = new QComboBox;
+    combo->addItem(ParameterEditor::tr("Scalar"));
+    combo->addItem(ParameterEditor::tr("Vector"));
+    combo->addItem(ParameterEditor::tr("Tensor"));
+    combo->addItem(ParameterEditor::tr("Bool"));
+    combo->setCurrentIndex(index);
+    return combo;
+}
+
+QString CellText(const QTableWidget& table, int row, int column)
+{
+    const QTableWidgetItem* const item = table.item(row, column);
+    return item != nullptr ? item->text() : QString();
+}
+
+double StoredNumber(const QString& name)
+{
+    return GlobalParaMeterMgr::GetParameterRawValue(name).toDouble();
+}
+
+// A vector component: a number, or else the name of a parameter.
+double ComponentValue(const QString& text)
+{
+    return tarn::IsNumberText(text) ? text.toDouble() : StoredNumber(text);
+}
+
+} // namespace
+
+ParameterEditor::ParameterEditor(QWidget* parent) : QDialog(parent)
+{
+    m_ui.setupUi(this);
+
+    connect(m_ui.pushButton_Apply, SIGNAL(clicked()), this, SLOT(m_Slot_Apply()));
+    connect(m_ui.pushButton_Add, SIGNAL(clicked()), this, SLOT(m_Slot_Add()));
+    connect(m_ui.pushButton_Del, SIGNAL(clicked()), this, SLOT(m_Slot_Delete()));
+    connect(m_ui.pushButton_OK, SIGNAL(clicked()), this, SLOT(m_Slot_OK()));
+    connect(m_ui.pushButton_Cancel, SIGNAL(clicked()), this, SLOT(m_Slot_Cancel()));
+    connect(m_ui.tableWidget, SIGNAL(itemPressed(QTableWidgetItem*)), this,
+            SLOT(m_Slot_ProcessExp()));
+    connect(m_ui.tableWidget, SIGNAL(itemChanged(QTableWidgetItem*)), this,
+            SLOT(m_Slot_NoNumber(QTableWidgetItem*)));
+}
+
+ParameterEditor::~ParameterEditor() = default;
+
+void ParameterEditor::m_Slot_Apply()
+{
+    UpdateAllParameterDef();
+    RefreshParameterData();
+    m_Slot_RefreshGUI();
+    Q_EMIT m_Signal_Apply();
+}
+
+void ParameterEditor::m_Slot_Delete()
+{
+    m_ui.tableWidget->removeRow(m_ui.tableWidget->currentRow());
+}
+
+void ParameterEditor::m_Slot_Add()
+{
+    QTableWidget& table = *m_ui.tableWidget;
+    const int row = table.rowCount();
+    table.setRowCount(row + 1);
+    for (const int column : {NameColumn, ValueColumn, ExpressionColumn, ExpressionParaColumn,
+                             DescriptionColumn})
+        table.setItem(row, column, new QTableWidgetItem(QString()));
+    table.setCellWidget(row, TypeColumn, NewTypeCombo(0));
+}
+
+void ParameterEditor::m_Slot_OK()
+{
+    m_Slot_Apply();
+    accept();
+}
+
+void ParameterEditor::m_Slot_Cancel()
+{
+    Q_EMIT rejected();
+    close();
+}
+
+void ParameterEditor::m_Slot_ProcessExp() {}
+
+void ParameterEditor::m_Slot_RefreshGUI()
+{
+    QTableWidget& table = *m_ui.tableWidget;
+    table.clearContents();
+    const ParameterMap parameters = GlobalParaMeterMgr::m_nameMapParameters;
+    table.setRowCount(int(parameters.size()));
+
+    int row = 0;
+    for (const auto& [name, record] : parameters) {
+        table.setItem(row, NameColumn, new QTableWidgetItem(name));
+        table.setItem(row, ValueColumn, new QTableWidgetItem(record.m_strValue));
+        table.setCellWidget(row, TypeColumn, NewTypeCombo(ComboOfTypeCode(record.m_nType)));
+        table.setItem(row, ExpressionColumn,
+                      new QTableWidgetItem(tarn::FromLocal8Bit(record.m_strExpression)));
+        table.setItem(row, ExpressionParaColumn, new QTableWidgetItem(record.m_strExpressPara));
+        table.setItem(row, DescriptionColumn, new QTableWidgetItem(record.m_strDescription));
+        ++row;
+    }
+}
+
+void ParameterEditor::m_Slot_NoNumber(QTableWidgetItem* item)
+{
+    const QTableWidget& table = *m_ui.tableWidget;
+    if (table.currentColumn() != ValueColumn || tarn::IsNumberText(item->text()))
+        return;
+
+    // The host may rebuild the table behind the box: the cell is looked up again after it.
+    const QPersistentModelIndex cell = table.model()->index(item->row(), item->column());
+    tarn::ShowNotice(tr("Notify"), tr("Please Input a digital number"));
+    if (!cell.isValid())
+        return;
+    if (QTableWidgetItem* const refused = table.item(cell.row(), cell.column()))
+        refused->setText(QString());
+}
+
+void ParameterEditor::UpdateAllParameterDef()
+{
+    const QTableWidget& table = *m_ui.tableWidget;
+    const int rows = table.rowCount();
+    for (int row = 0; row < rows; ++row) {
+        ParametersDef record;
+        const QString name = CellText(table, row, NameColumn);
+        record.m_strValue = CellText(table, row, ValueColumn);
+
+        const auto* const combo = qobject_cast<QComboBox*>(table.cellWidget(row, TypeColumn));
+        const int type = combo != nullptr ? TypeCodeOfCombo(combo->currentIndex())
+                                          : int(ScalarType);
+        if (combo != nullptr && combo->currentIndex() == 0) {
+            record.m_dValue = record.m_strValue.toDouble();
+        } else if (type == VectorType) {
+            const QStringList parts = record.m_strValue.split(Separator);
+            if (parts.size() != 3) {
+                tarn::ShowNotice(tr("Error"), tr("invalid coordinate type"));
+                return;
+            }
+            record.m_dX = ComponentValue(parts[0]);
+            record.m_dY = ComponentValue(parts[1]);
+            record.m_dZ = ComponentValue(parts[2]);
+        }
+
+        record.m_strExpression = tarn::ToLocal8Bit(CellText(table, row, ExpressionColumn));
+        record.m_strExpressPara = CellText(table, row, ExpressionParaColumn);
+        record.m_strDescription = CellText(table, row, DescriptionColumn);
+        record.m_strName = name;
+        record.m_nType = type;
+        GlobalParaMeterMgr::AddParameter(name, record);
+    }
+}
+
+void ParameterEditor::RefreshParameterData()
+{
+    // By name and not by iterator: the host may change the store behind a box.
+    const std::vector<QString> names = GlobalParaMeterMgr::GetAllParametersName();
+    ParameterMap& store = GlobalParaMeterMgr::m_nameMapParameters;
+    for (const QString& name : names) {
+        auto entry = store.find(name);
+        if (entry == store.end() || entry->second.m_strExpression.empty())
+            continue;
+        if (!IsValidExpressPara(entry->second.m_strExpressPara))
+            continue;
+
+        entry = store.find(name);
+        if (entry == store.end())
+            continue;
+        ParametersDef& record = entry->second;
+        const double value = GetCurrParaValueByExprsion(record);
+        record.m_dValue = value;
+        record.m_strValue = tarn::NumberText(value);
+        record.m_varRawValue = value;
+    }
+}
+
+bool ParameterEditor::IsValidExpressPara(QString names)
+{
+    // These texts stand as they are in every language.
+    const QString error = QStringLiteral("Error");
+    for (const QString& name : names.split(Separator)) {
+        if (name.isEmpty()) {
+            tarn::ShowNotice(error, QStringLiteral("Please input parameters name for expression"));
+        } else if (GlobalParaMeterMgr::m_nameMapParameters.count(name) == 0) {
+            tarn::ShowNotice(error, QStringLiteral("Not find parameter: ") + name);
+            return false;
+        } else if (tarn::IsNumberText(name)) {
+            tarn::ShowNotice(error, QStringLiteral("Digital is not allowed as paramter"));
+            return false;
+        }
+    }
+    return true;
+}
+
+double ParameterEditor::GetCurrParaValueByExprsion(ParametersDef def)
+{
+    std::map<std::string, double> variables;
+    for (const QString& name : def.m_strExpressPara.split(Separator))
+        variables[tarn::ToLocal8Bit(name)] = StoredNumber(name);
+    return ExpressionEngine::CalculateExpress(def.m_strExpression, variables);
+}
+
+void ParameterEditor::AddOneRecord(ParametersDef&) {}

@@ -1,0 +1,3 @@
+#include "sParaArrayData.h"
+
+std::map<QString, sParaArrayData> g_mapParaArrays;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "tarnguicommon_export.h"
+
+#include <QString>
+#include <map>
+#include <vector>
+
+/// The samples that one parameter takes in a design-of-experiments study.
+struct sParaArrayData
+{
+    int bChecked = 0;              ///< 1 when the parameter takes part in the study.
+    QString strName;               ///< The parameter's name.
+    std::vector<double> vecValues; ///< The sample values, in table order.
+    double dMin = 0.0;             ///< Range minimum.
+    double dMax = 1.0;             ///< Range maximum.
+    double dDelta = 1.0;           ///< Step.
+    int nSampleType = 0;           ///< Spacing: 0 Linear, 1 Log10, 2 Ln, 3 Gauss.
+};
+
+/// The process-wide registry of samples, by parameter name. It outlives every dialog, so ticks and
+/// sample lists are there again when a dialog is opened the next time. GUI thread only.
+extern TARNGUICOMMON_EXPORT std::map<QString, sParaArrayData> g_mapParaArrays;

@@ -1,0 +1,165 @@
+#include "TestCase.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QTextCodec>
+#include <QVector>
+
+#include <clocale>
+#include <locale.h>
+
+namespace
+{
+
+QtMessageHandler g_nextHandler = nullptr;
+QStringList g_unexpected;
+QVector<QRegularExpression> g_expected;
+
+bool IsPlatformNoise(const QString& text)
+{
+    return text.contains(QLatin1String("propagateSizeHints"));
+}
+
+void CollectWarnings(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (type != QtDebugMsg && type != QtInfoMsg && !IsPlatformNoise(text)) {
+        for (int i = 0; i < g_expected.size(); ++i) {
+            if (g_expected[i].match(text).hasMatch()) {
+                g_expected.remove(i);
+                return;
+            }
+        }
+        g_unexpected << text;
+    }
+    if (g_nextHandler != nullptr)
+        g_nextHandler(type, context, text);
+}
+
+void UseDefaultLocale()
+{
+    std::setlocale(LC_ALL, "C.UTF-8");
+    std::setlocale(LC_NUMERIC, "C");
+    QLocale::setDefault(QLocale::c());
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
+} // namespace
+
+void TestCase::ExpectWarning(const QString& pattern)
+{
+    g_expected << QRegularExpression(pattern);
+}
+
+QString TestCase::EnterTemporaryDirectory()
+{
+    m_directoryBefore = QDir::currentPath();
+    m_directory = std::make_unique<QTemporaryDir>();
+    QDir::setCurrent(m_directory->path());
+    return m_directory->path();
+}
+
+bool TestCase::UseLocale(const char* name)
+{
+    QLocale::setDefault(QLocale(QString::fromLatin1(name)));
+    return std::setlocale(LC_ALL, name) != nullptr;
+}
+
+void TestCase::UseCodePage(const char* codec)
+{
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName(codec));
+}
+
+void TestCase::init()
+{
+    // The test framework puts its own handler in place when it starts, so ours comes in here.
+    const QtMessageHandler previous = qInstallMessageHandler(CollectWarnings);
+    if (previous != CollectWarnings)
+        g_nextHandler = previous;
+    g_unexpected.clear();
+    g_expected.clear();
+    UseDefaultLocale();
+}
+
+void TestCase::cleanup()
+{
+    UseDefaultLocale();
+    if (m_directory) {
+        QDir::setCurrent(m_directoryBefore);
+        m_directory.reset();
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    QStringList failures;
+    for (const QString& text : qAsConst(g_unexpected))
+        failures << QStringLiteral("unexpected warning: ") + text;
+    for (const QRegularExpression& pattern : qAsConst(g_expected))
+        failures << QStringLiteral("a warning did not come: ") + pattern.pattern();
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget* const window : windows) {
+        if (window->isVisible())
+            failures << QStringLiteral("a window was left open: ") + window->windowTitle();
+    }
+    if (!failures.isEmpty())
+        QFAIL(qPrintable(failures.join(QLatin1Char('\n'))));
+}
+
+QWidget* FindWidget(const QWidget& parent, const QString& name, const QMetaObject& type)
+{
+    QStringList names;
+    const QList<QWidget*> children = parent.findChildren<QWidget*>();
+    for (QWidget* const child : children) {
+        if (child->objectName() == name && type.cast(child) != nullptr)
+            return child;
+        if (!child->objectName().isEmpty())
+            names << QStringLiteral("%1 %2").arg(QString::fromLatin1(child->metaObject()->className()),
+                                                 child->objectName());
+    }
+    qFatal("No %s named \"%s\" in \"%s\". There are: %s", type.className(), qPrintable(name),
+           qPrintable(parent.objectName()), qPrintable(names.join(QStringLiteral(", "))));
+}
+
+void Click(const QWidget& parent, const char* name)
+{
+    auto& button = Find<QAbstractButton>(parent, name);
+    if (button.isEnabled() && button.isVisible() && button.window()->isVisible())
+        QTest::mouseClick(&button, Qt::LeftButton);
+    else
+        QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(3, button.height() / 2));
+}
+
+void Type(const QWidget& parent, const char* name, const QString& text)
+{
+    auto& edit = Find<QLineEdit>(parent, name);
+    edit.setFocus();
+    QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&edit, Qt::Key_Delete);
+    QTest::keyClicks(&edit, text);
+    QTest::keyClick(&edit, Qt::Key_Tab);
+}
+
+QStringList TabOrder(QWidget& window)
+{
+    QStringList names;
+    const QWidget* widget = &window;
+    do {
+        widget = widget->nextInFocusChain();
+        if (widget != &window && window.isAncestorOf(widget) && widget->isEnabled()
+            && (widget->focusPolicy() & Qt::TabFocus) != 0
+            && widget->isVisibleTo(&window) && !widget->objectName().startsWith(QLatin1String("qt_")))
+            names << widget->objectName();
+    } while (widget != &window);
+    return names;
+}
+
+int RunTest(int argc, char** argv, std::unique_ptr<QObject> (*make)())
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "*.debug=true;qt.*.debug=false");
+    QApplication application(argc, argv);
+    const std::unique_ptr<QObject> test = make();
+    return QTest::qExec(test.get(), argc, argv);
+}
