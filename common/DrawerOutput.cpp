@@ -2,16 +2,16 @@
 
 #include <QTextCodec>
 
+#include <locale.h>
+
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
-#include <locale.h>
 #include <new>
 
 DrawerOutput* DrawerOutput::m_ConnectorInstance = nullptr;
 
-namespace
-{
+namespace {
 
 /// Puts LC_NUMERIC of this thread at "C" while it lives: printf follows the locale that the
 /// application object has set, and a decimal comma is not wanted in messages.

@@ -2,11 +2,11 @@
 
 #include <QByteArray>
 #include <QString>
+
 #include <string>
 
 /// Conversions between the dialogs' texts and the model libraries' local 8-bit strings.
-namespace tarn
-{
+namespace tarn {
 
 /// Up to the first zero byte, as the model libraries take C strings.
 inline std::string ToLocal8Bit(const QString& text)

@@ -2,8 +2,7 @@
 
 #include <QString>
 
-namespace tarn
-{
+namespace tarn {
 
 /// Shows a notice and waits until it is closed: an information box with one OK button and without
 /// parent, so that it stands in the middle of the screen. The host lives on behind the box; look up

@@ -2,8 +2,7 @@
 
 #include <QString>
 
-namespace tarn
-{
+namespace tarn {
 
 /// A number as the dialogs show it: general format with 6 significant digits.
 QString NumberText(double value);

@@ -12,8 +12,7 @@
 #include <QTableWidgetItem>
 #include <QVariant>
 
-namespace
-{
+namespace {
 
 enum Column
 {
@@ -33,7 +32,8 @@ int g_nRunCounter = 1;
 
 } // namespace
 
-DOEDlg::DOEDlg(QWidget* parent) : QDialog(parent)
+DOEDlg::DOEDlg(QWidget* parent)
+    : QDialog(parent)
 {
     m_ui.setupUi(this);
     InitGUI();

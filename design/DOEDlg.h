@@ -1,10 +1,12 @@
 #pragma once
 
-#include "tarnguicommon_export.h"
 #include "ui_DOEDlg.h"
+
+#include "tarnguicommon_export.h"
 
 #include <QDialog>
 #include <QString>
+
 #include <map>
 #include <vector>
 

@@ -10,8 +10,7 @@
 #include <cmath>
 #include <utility>
 
-namespace
-{
+namespace {
 
 enum SampleType
 {
@@ -38,7 +37,8 @@ double SampleValue(int type, double x)
 
 } // namespace
 
-OneParameterDlg::OneParameterDlg(QWidget* parent, QString name) : QDialog(parent)
+OneParameterDlg::OneParameterDlg(QWidget* parent, QString name)
+    : QDialog(parent)
 {
     m_ui.setupUi(this);
     if (name.isEmpty()) {
@@ -106,8 +106,8 @@ void OneParameterDlg::RefreshTableData()
     m_ui.tableWidget->setRowCount(int(samples.size()));
     int row = 0;
     for (const double x : samples)
-        m_ui.tableWidget->setItem(
-            row++, 0, new QTableWidgetItem(tarn::NumberText(SampleValue(type, x))));
+        m_ui.tableWidget->setItem(row++, 0,
+                                  new QTableWidgetItem(tarn::NumberText(SampleValue(type, x))));
 }
 
 std::vector<double> OneParameterDlg::Samples(double min, double max, double step) const

@@ -1,9 +1,11 @@
 #pragma once
 
-#include "tarnguicommon_export.h"
 #include "ui_OneParameterDlg.h"
 
+#include "tarnguicommon_export.h"
+
 #include <QDialog>
+
 #include <vector>
 
 /// Asks for the sample values of one global parameter.

@@ -1,7 +1,7 @@
 #include "ParameterEditor.h"
 
-#include "GlobalParaMeterMgr.h"
 #include "ExpressionEngine.h"
+#include "GlobalParaMeterMgr.h"
 #include "LocalText.h"
 #include "Notice.h"
 #include "NumberText.h"
@@ -13,8 +13,7 @@
 #include <array>
 #include <map>
 
-namespace
-{
+namespace {
 
 enum Column
 {
@@ -84,7 +83,8 @@ double ComponentValue(const QString& text)
 
 } // namespace
 
-ParameterEditor::ParameterEditor(QWidget* parent) : QDialog(parent)
+ParameterEditor::ParameterEditor(QWidget* parent)
+    : QDialog(parent)
 {
     m_ui.setupUi(this);
 
@@ -119,8 +119,8 @@ void ParameterEditor::m_Slot_Add()
     QTableWidget& table = *m_ui.tableWidget;
     const int row = table.rowCount();
     table.setRowCount(row + 1);
-    for (const int column : {NameColumn, ValueColumn, ExpressionColumn, ExpressionParaColumn,
-                             DescriptionColumn})
+    for (const int column :
+         {NameColumn, ValueColumn, ExpressionColumn, ExpressionParaColumn, DescriptionColumn})
         table.setItem(row, column, new QTableWidgetItem(QString()));
     table.setCellWidget(row, TypeColumn, NewTypeCombo(0));
 }
@@ -184,8 +184,8 @@ void ParameterEditor::UpdateAllParameterDef()
         record.m_strValue = CellText(table, row, ValueColumn);
 
         const auto* const combo = qobject_cast<QComboBox*>(table.cellWidget(row, TypeColumn));
-        const int type = combo != nullptr ? TypeCodeOfCombo(combo->currentIndex())
-                                          : int(ScalarType);
+        const int type =
+            combo != nullptr ? TypeCodeOfCombo(combo->currentIndex()) : int(ScalarType);
         if (combo != nullptr && combo->currentIndex() == 0) {
             record.m_dValue = record.m_strValue.toDouble();
         } else if (type == VectorType) {

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "tarnguicommon_export.h"
 #include "ui_ParameterEditor.h"
+
+#include "tarnguicommon_export.h"
 
 #include <QDialog>
 

@@ -3,6 +3,7 @@
 #include "tarnguicommon_export.h"
 
 #include <QString>
+
 #include <map>
 #include <vector>
 

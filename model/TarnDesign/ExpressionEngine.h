@@ -3,6 +3,7 @@
 #include "tarndesign_export.h"
 
 #include <QString>
+
 #include <map>
 #include <string>
 

@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QVariant>
+
 #include <vector>
 
 /// The process-wide store of the global design parameters.

@@ -2,7 +2,8 @@
 
 #include <iterator>
 
-ParameterMap::ParameterMap(const ParameterMap& other) : m_entries(other.m_entries)
+ParameterMap::ParameterMap(const ParameterMap& other)
+    : m_entries(other.m_entries)
 {
     m_index.reserve(m_entries.size());
     for (auto it = m_entries.begin(); it != m_entries.end(); ++it)

@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QString>
+
 #include <cstddef>
 #include <list>
 #include <unordered_map>

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QVariant>
+
 #include <string>
 
 /// One global design parameter.
@@ -12,10 +13,10 @@ struct ParametersDef
     std::string m_strExpression; ///< Local 8-bit text; empty when the parameter is a plain value.
     QString m_strExpressPara;    ///< Names that the expression uses, separated by ",".
     double m_dValue = 0.0;       ///< Value of a Scalar or of the evaluated expression.
-    QVariant m_varRawValue; ///< What expressions see; while it is invalid they see m_dValue.
-    double m_dX = 0.0;      ///< First component of a Vector.
-    double m_dY = 0.0;      ///< Second component of a Vector.
-    double m_dZ = 0.0;      ///< Third component of a Vector.
-    QString m_strValue;     ///< The value as typed, or as formatted after evaluation.
-    QString m_strDescription; ///< Free text.
+    QVariant m_varRawValue;      ///< What expressions see; while it is invalid they see m_dValue.
+    double m_dX = 0.0;           ///< First component of a Vector.
+    double m_dY = 0.0;           ///< Second component of a Vector.
+    double m_dZ = 0.0;           ///< Third component of a Vector.
+    QString m_strValue;          ///< The value as typed, or as formatted after evaluation.
+    QString m_strDescription;    ///< Free text.
 };

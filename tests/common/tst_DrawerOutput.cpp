@@ -1,5 +1,4 @@
 #include "DrawerOutput.h"
-
 #include "TestCase.h"
 
 #include <QMetaMethod>
@@ -42,7 +41,7 @@ void tst_DrawerOutput::TheObjectHasNoParent()
 
 void tst_DrawerOutput::TheSignalIsConnectedByItsNormalisedSignature()
 {
-    QSignalSpy spy(DrawerOutput::GetInstance(), SIGNAL(MessageWidgetMessage(int,QString)));
+    QSignalSpy spy(DrawerOutput::GetInstance(), SIGNAL(MessageWidgetMessage(int, QString)));
     QVERIFY(spy.isValid());
     DrawerOutput::GetInstance()->EmitMessage2MessageWidget(0, "x");
     QCOMPARE(spy.count(), 1);
@@ -86,8 +85,9 @@ void tst_DrawerOutput::TheLevelPassesUnchanged()
 void tst_DrawerOutput::ADirectConnectionHasTheLineBeforeTheCallReturns()
 {
     QString shown;
-    const auto connection = connect(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage,
-                                    [&shown](int, const QString& text) { shown = text; });
+    const auto connection =
+        connect(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage,
+                [&shown](int, const QString& text) { shown = text; });
     DrawerOutput::GetInstance()->EmitMessage2MessageWidget(1, "now");
     QCOMPARE(shown, QStringLiteral("now"));
     disconnect(connection);
@@ -98,9 +98,12 @@ void tst_DrawerOutput::BytesAreReadInTheLocalCodePage_data()
     QTest::addColumn<QByteArray>("codePage");
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("text");
-    QTest::newRow("UTF-8") << QByteArray("UTF-8") << QByteArray("\xE9\x95\xBF") << QStringLiteral("长");
-    QTest::newRow("GB18030") << QByteArray("GB18030") << QByteArray("\xB3\xA4") << QStringLiteral("长");
-    QTest::newRow("Latin-1") << QByteArray("ISO 8859-1") << QByteArray("\xE9") << QStringLiteral("é");
+    QTest::newRow("UTF-8") << QByteArray("UTF-8") << QByteArray("\xE9\x95\xBF")
+                           << QStringLiteral("长");
+    QTest::newRow("GB18030") << QByteArray("GB18030") << QByteArray("\xB3\xA4")
+                             << QStringLiteral("长");
+    QTest::newRow("Latin-1") << QByteArray("ISO 8859-1") << QByteArray("\xE9")
+                             << QStringLiteral("é");
 }
 
 void tst_DrawerOutput::BytesAreReadInTheLocalCodePage()

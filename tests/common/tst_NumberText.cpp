@@ -1,5 +1,4 @@
 #include "NumberText.h"
-
 #include "TestCase.h"
 
 #include <limits>
@@ -38,19 +37,19 @@ void tst_NumberText::OnlyDigitsAndFullStopsAreANumber_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("isNumber");
-    QTest::newRow("empty")           << ""     << true;
-    QTest::newRow("integer")         << "12"   << true;
-    QTest::newRow("decimal")         << "2.5"  << true;
-    QTest::newRow("two full stops")  << "1.2.3" << true;
-    QTest::newRow("full stop alone") << "."    << true;
-    QTest::newRow("minus sign")      << "-2"   << false;
-    QTest::newRow("plus sign")       << "+2"   << false;
-    QTest::newRow("exponent")        << "1e3"  << false;
-    QTest::newRow("leading blank")   << " 1"   << false;
-    QTest::newRow("comma")           << "1,2"  << false;
-    QTest::newRow("letters")         << "abc"  << false;
+    QTest::newRow("empty") << "" << true;
+    QTest::newRow("integer") << "12" << true;
+    QTest::newRow("decimal") << "2.5" << true;
+    QTest::newRow("two full stops") << "1.2.3" << true;
+    QTest::newRow("full stop alone") << "." << true;
+    QTest::newRow("minus sign") << "-2" << false;
+    QTest::newRow("plus sign") << "+2" << false;
+    QTest::newRow("exponent") << "1e3" << false;
+    QTest::newRow("leading blank") << " 1" << false;
+    QTest::newRow("comma") << "1,2" << false;
+    QTest::newRow("letters") << "abc" << false;
     QTest::newRow("full-width digit") << QStringLiteral("１") << false;
-    QTest::newRow("Arabic digit")    << QStringLiteral("١") << false;
+    QTest::newRow("Arabic digit") << QStringLiteral("١") << false;
 }
 
 void tst_NumberText::OnlyDigitsAndFullStopsAreANumber()

@@ -1,6 +1,5 @@
-#include "OneParameterDlg.h"
-
 #include "ModalDriver.h"
+#include "OneParameterDlg.h"
 #include "TestCase.h"
 #include "sParaArrayData.h"
 

@@ -1,12 +1,10 @@
 #include "ParameterMap.h"
-
 #include "TestCase.h"
 
 #include <stdexcept>
 #include <type_traits>
 
-namespace
-{
+namespace {
 
 ParametersDef Record(double value)
 {

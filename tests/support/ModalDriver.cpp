@@ -12,8 +12,8 @@ ShownBox ShownBox::Notice(const QString& title, const QString& text)
 
 bool ShownBox::operator==(const ShownBox& other) const
 {
-    return title == other.title && text == other.text && icon == other.icon
-           && buttons == other.buttons && parent == other.parent;
+    return title == other.title && text == other.text && icon == other.icon &&
+           buttons == other.buttons && parent == other.parent;
 }
 
 char* toString(const QVector<ShownBox>& boxes)
@@ -25,9 +25,8 @@ char* toString(const QVector<ShownBox>& boxes)
                      .arg(int(box.icon))
                      .arg(int(box.buttons), 0, 16)
                      .arg(box.parent ? QStringLiteral("with parent") : QStringLiteral("no parent"));
-    return qstrdup(qPrintable(QStringLiteral("%1 box(es) %2")
-                                  .arg(boxes.size())
-                                  .arg(lines.join(QLatin1Char(' ')))));
+    return qstrdup(qPrintable(
+        QStringLiteral("%1 box(es) %2").arg(boxes.size()).arg(lines.join(QLatin1Char(' ')))));
 }
 
 ModalDriver::ModalDriver()
@@ -92,8 +91,8 @@ void ModalDriver::Poll()
 
 void ModalDriver::AnswerBox(QMessageBox& box)
 {
-    m_boxes.append({box.windowTitle(), box.text(), box.icon(), box.standardButtons(),
-                    box.parentWidget()});
+    m_boxes.append(
+        {box.windowTitle(), box.text(), box.icon(), box.standardButtons(), box.parentWidget()});
     if (!m_whileOpen.empty()) {
         const auto action = std::move(m_whileOpen.front());
         m_whileOpen.pop_front();

@@ -8,11 +8,11 @@
 #include <QTextCodec>
 #include <QVector>
 
-#include <clocale>
 #include <locale.h>
 
-namespace
-{
+#include <clocale>
+
+namespace {
 
 QtMessageHandler g_nextHandler = nullptr;
 QStringList g_unexpected;
@@ -114,8 +114,8 @@ QWidget* FindWidget(const QWidget& parent, const QString& name, const QMetaObjec
         if (child->objectName() == name && type.cast(child) != nullptr)
             return child;
         if (!child->objectName().isEmpty())
-            names << QStringLiteral("%1 %2").arg(QString::fromLatin1(child->metaObject()->className()),
-                                                 child->objectName());
+            names << QStringLiteral("%1 %2").arg(
+                QString::fromLatin1(child->metaObject()->className()), child->objectName());
     }
     qFatal("No %s named \"%s\" in \"%s\". There are: %s", type.className(), qPrintable(name),
            qPrintable(parent.objectName()), qPrintable(names.join(QStringLiteral(", "))));
@@ -146,9 +146,9 @@ QStringList TabOrder(QWidget& window)
     const QWidget* widget = &window;
     do {
         widget = widget->nextInFocusChain();
-        if (widget != &window && window.isAncestorOf(widget) && widget->isEnabled()
-            && (widget->focusPolicy() & Qt::TabFocus) != 0
-            && widget->isVisibleTo(&window) && !widget->objectName().startsWith(QLatin1String("qt_")))
+        if (widget != &window && window.isAncestorOf(widget) && widget->isEnabled() &&
+            (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isVisibleTo(&window) &&
+            !widget->objectName().startsWith(QLatin1String("qt_")))
             names << widget->objectName();
     } while (widget != &window);
     return names;
