@@ -45,11 +45,13 @@ std::string ExpressionText::LocalName(const std::string& name) const
 
 int ExpressionText::PositionOf(std::size_t offset) const
 {
-    const auto end = m_utf8.begin() + std::ptrdiff_t(std::min(offset, m_utf8.size()));
+    if (m_codec == nullptr)
+        return int(offset) + 1;
     const auto isFirstByte = [](char byte) {
         return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
     };
-    return 1 + int(std::count_if(m_utf8.begin(), end, isFirstByte));
+    return 1 +
+           int(std::count_if(m_utf8.begin(), m_utf8.begin() + std::ptrdiff_t(offset), isFirstByte));
 }
 
 bool ExpressionText::IsAscii(const std::string& bytes)
