@@ -151,6 +151,7 @@ void tst_GlobalParaMeterMgr::TheStoreHoldsACopyOfTheRecord()
     QCOMPARE(Store().at("a").m_dValue, 1.0);
 }
 
+// clang-format off
 void tst_GlobalParaMeterMgr::TheRawValueIsWhatOthersSee_data()
 {
     QTest::addColumn<double>("value");
@@ -164,6 +165,7 @@ void tst_GlobalParaMeterMgr::TheRawValueIsWhatOthersSee_data()
     QTest::newRow("set to an empty text") << 2.5 << QVariant(QString())        << QVariant(QString());
     QTest::newRow("typed, but null")      << 2.5 << QVariant(QVariant::Double) << QVariant(QVariant::Double);
 }
+// clang-format on
 
 void tst_GlobalParaMeterMgr::TheRawValueIsWhatOthersSee()
 {
