@@ -44,6 +44,7 @@ Sample MakeSample(int number)
 std::vector<Sample> MakeSamples(int count, int first = 0)
 {
     std::vector<Sample> samples;
+    samples.reserve(std::size_t(count));
     for (int i = 0; i < count; ++i)
         samples.push_back(MakeSample(first + i));
     return samples;
@@ -82,7 +83,7 @@ void DistinctOurs(benchmark::State& state)
 {
     const int count = int(state.range(0));
     static int next = 1000000;
-    for (auto step : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         std::vector<Sample> samples = MakeSamples(count, next);
         next += count;
@@ -98,7 +99,7 @@ void DistinctReference(benchmark::State& state)
 {
     const int count = int(state.range(0));
     static int next = 1000000;
-    for (auto step : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         const std::vector<Sample> samples = MakeSamples(count, next);
         next += count;
@@ -114,7 +115,7 @@ void RepeatedOurs(benchmark::State& state)
     std::vector<Sample> samples = MakeSamples(int(state.range(0)));
     if (!ResultsAgree(state, samples))
         return;
-    for (auto step : state) {
+    while (state.KeepRunning()) {
         for (Sample& sample : samples)
             benchmark::DoNotOptimize(
                 ExpressionEngine::CalculateExpress(sample.text, sample.variables));
@@ -125,7 +126,7 @@ void RepeatedOurs(benchmark::State& state)
 void RepeatedReference(benchmark::State& state)
 {
     const std::vector<Sample> samples = MakeSamples(int(state.range(0)));
-    for (auto step : state) {
+    while (state.KeepRunning()) {
         for (const Sample& sample : samples)
             benchmark::DoNotOptimize(CalculateByReference(sample));
     }

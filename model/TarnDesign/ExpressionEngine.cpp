@@ -23,11 +23,16 @@ constexpr std::size_t MaxBytes = 4 * std::size_t(ExpressionTranslator::MaxCharac
 // a few long expressions take too much memory: it holds some 10,000 expressions of usual length.
 constexpr int BaseCost = 64;
 constexpr int MaxCost = 1 << 20;
-static_assert(MaxBytes + BaseCost <= MaxCost, "every program must fit");
 
 /// A compiled expression and the code page in which its text was read.
 struct KeptProgram
 {
+    KeptProgram(ExpressionFormula formula, const QTextCodec* textCodec)
+        : program(std::move(formula))
+        , codec(textCodec)
+    {
+    }
+
     ExpressionProgram program;
     const QTextCodec* codec; // Null for a text that is the same in all of them.
 };
@@ -66,12 +71,15 @@ ExpressionProgram* Compile(const std::string& expression, ExpressionError& error
         error = translator.Error();
         return nullptr;
     }
-    auto compiled = std::unique_ptr<KeptProgram>(
-        new KeptProgram{ExpressionProgram(std::move(*formula)), codec});
+    auto compiled = std::make_unique<KeptProgram>(std::move(*formula), codec);
     ExpressionProgram* const program = &compiled->program;
     // The key is copied: the caller's bytes do not last.
-    KeptPrograms().insert(QByteArray(expression.data(), int(expression.size())), compiled.release(),
-                          BaseCost + int(expression.size()));
+    const QByteArray ownKey(expression.data(), int(expression.size()));
+    if (!KeptPrograms().insert(ownKey, compiled.release(), BaseCost + ownKey.size())) {
+        // Does not happen while MaxBytes fits into MaxCost.
+        error = ExpressionTranslator::TooLong();
+        return nullptr;
+    }
     return program;
 }
 

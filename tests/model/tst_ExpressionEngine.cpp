@@ -16,11 +16,13 @@ using Variables = std::map<std::string, double>;
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
-const QStringList Functions =
-    QString(
-        "sin cos tan asin acos atan atan2 sinh cosh tanh asinh acosh atanh exp ln log log2 log10 "
-        "sqrt cbrt abs sign floor ceil round rint mod pow hypot min max sum avg")
+QStringList Functions()
+{
+    return QString(
+               "sin cos tan asin acos atan atan2 sinh cosh tanh asinh acosh atanh exp ln log log2 "
+               "log10 sqrt cbrt abs sign floor ceil round rint mod pow hypot min max sum avg")
         .split(' ');
+}
 
 double Calculate(const std::string& expression, Variables variables = {})
 {
@@ -78,7 +80,7 @@ QString WithoutEscapes(QString text)
 QVector<Example> ExamplesOfDocument()
 {
     QVector<Example> examples;
-    const QRegularExpression pattern("`([^`]+)` = `([^`]+)`");
+    static const QRegularExpression pattern("`([^`]+)` = `([^`]+)`");
     auto match = pattern.globalMatch(UserDocument());
     while (match.hasNext()) {
         const auto found = match.next();
@@ -414,7 +416,7 @@ void tst_ExpressionEngine::EveryFunctionChecksHowManyValuesItTakes_data()
     QTest::addColumn<int>("most");
     const QStringList two = {"atan2", "mod", "pow", "hypot"};
     const QStringList many = {"min", "max", "sum", "avg"};
-    for (const QString& name : Functions) {
+    for (const QString& name : Functions()) {
         const int least = two.contains(name) ? 2 : 1;
         QTest::newRow(qPrintable(name)) << name << least << (many.contains(name) ? 100 : least);
     }
@@ -488,7 +490,7 @@ void tst_ExpressionEngine::AVariableWinsOverAConstant()
 void tst_ExpressionEngine::AVariableWinsOverAFunction_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString& name : Functions)
+    for (const QString& name : Functions())
         QTest::newRow(qPrintable(name)) << name;
 }
 
@@ -599,7 +601,7 @@ void tst_ExpressionEngine::NamesMayHoldAnyLetters()
 void tst_ExpressionEngine::NamesMayHoldBytesThatLookLikeOperators_data()
 {
     QTest::addColumn<QByteArray>("name");
-    for (const char second : QByteArray("@ABCXYZ[\\]^_`abcxyz{|}~"))
+    for (const char second : std::string("@ABCXYZ[\\]^_`abcxyz{|}~"))
         QTest::addRow("second byte %c", second) << QByteArray("\x81") + second;
     QTest::newRow("bars") << QByteArray("\x81\x7C\x81\x7C");
     QTest::newRow("digits") << QByteArray("\x94\x39\xFC\x36");
@@ -861,8 +863,9 @@ void tst_ExpressionEngine::EveryReasonOfTheDocumentIsGiven_data()
 {
     QTest::addColumn<QString>("expression");
     QTest::addColumn<QString>("reason");
-    const QRegularExpression pattern("^\\|[^|]*\\| `([^`]+)`[^|]*\\| (Position [^|]*[^| ]) \\|$",
-                                     QRegularExpression::MultilineOption);
+    static const QRegularExpression pattern(
+        "^\\|[^|]*\\| `([^`]+)`[^|]*\\| (Position [^|]*[^| ]) \\|$",
+        QRegularExpression::MultilineOption);
     auto match = pattern.globalMatch(UserDocument());
     int count = 0;
     while (match.hasNext()) {
@@ -884,21 +887,21 @@ void tst_ExpressionEngine::EveryReasonOfTheDocumentIsGiven()
 
 void tst_ExpressionEngine::TheDocumentHasAnExampleOfEverything_data()
 {
-    QTest::addColumn<QString>("pattern");
-    for (const QString& name : Functions)
-        QTest::newRow(qPrintable(name)) << "\\b" + name + "\\(";
+    QTest::addColumn<QRegularExpression>("wanted");
+    for (const QString& name : Functions())
+        QTest::newRow(qPrintable(name)) << QRegularExpression("\\b" + name + "\\(");
     for (const char* const name : {"pi", "e"})
-        QTest::newRow(name) << QString("\\b%1\\b").arg(name);
+        QTest::newRow(name) << QRegularExpression(QString("\\b%1\\b").arg(name));
     for (const char* const sign :
          {"+", "-", "*", "/", "^", "<", "<=", ">", ">=", "==", "!=", "&&", "||", "?", ":"})
-        QTest::newRow(sign) << QRegularExpression::escape(sign);
+        QTest::newRow(sign) << QRegularExpression(QRegularExpression::escape(sign));
 }
 
 void tst_ExpressionEngine::TheDocumentHasAnExampleOfEverything()
 {
-    QFETCH(QString, pattern);
-    const QRegularExpression wanted(pattern);
-    for (const Example& example : ExamplesOfDocument()) {
+    QFETCH(QRegularExpression, wanted);
+    const QVector<Example> examples = ExamplesOfDocument();
+    for (const Example& example : examples) {
         if (wanted.match(example.expression).hasMatch())
             return;
     }
