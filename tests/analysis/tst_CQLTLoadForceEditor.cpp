@@ -460,6 +460,8 @@ void tst_CQLTLoadForceEditor::ForcesAreConvertedWithoutReport_data()
     QTest::newRow("grouping") << "1,000" << 0.0;
     QTest::newRow("two stops") << "1.2.3" << 0.0;
     QTest::newRow("hexadecimal") << "0x10" << 0.0;
+    QTest::newRow("overflow") << "-1e400" << -Infinity;
+    QTest::newRow("underflow") << "1e-400" << 0.0;
     QTest::newRow("infinite") << "inf" << Infinity;
     QTest::newRow("no number") << "nan" << std::nan("");
 }
