@@ -34,7 +34,7 @@ public:
 public Q_SLOTS:
     /// Refuses a name that is taken; otherwise stores name and kind, and for kind 1 the components
     /// (a text that is no number counts as 0), and accepts.
-    void on_okButton_clicked();
+    void on_okButton_clicked(); // clazy:exclude=connect-by-name
 
 private:
     Ui::QLTLoadForceEditor m_ui;

@@ -18,8 +18,10 @@ namespace {
 constexpr std::array<const char*, 6> Boxes = {"chb_XD", "chb_YD", "chb_ZD",
                                               "chb_XR", "chb_YR", "chb_ZR"};
 
-const ShownBox Duplicate =
-    ShownBox::Notice("Warning", "CQLTConstrainEditor: Duplicated Attribute Name");
+ShownBox Duplicate()
+{
+    return ShownBox::Notice("Warning", "CQLTConstrainEditor: Duplicated Attribute Name");
+}
 
 std::array<bool, 6> Flags(const sConstrainData& data)
 {
@@ -164,7 +166,7 @@ void tst_CQLTConstrainEditor::TheMessagesBelongToTheClass()
     ModalDriver user;
     CQLTConstrainEditor editor(nullptr);
     editor.m_OK_ButtonPushed();
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate}));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate()}));
     QCOMPARE(recorder.TextsOf("CQLTConstrainEditor"),
              QStringList({"CQLTConstrainEditor: Duplicated Attribute Name", "Warning"}));
 }
@@ -308,7 +310,7 @@ void tst_CQLTConstrainEditor::ATakenNameIsRefusedEveryTime()
     });
     QCOMPARE(editor.exec(), int(QDialog::Accepted));
     QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate, Duplicate}));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate(), Duplicate()}));
     QCOMPARE(editor.GetConstrainData().m_strName, std::string("other"));
     QCOMPARE(editor.GetConstrainData().m_bZR, false);
 }
@@ -327,7 +329,7 @@ void tst_CQLTConstrainEditor::ARefusalKeepsTheRecordOfInitData()
     });
     QCOMPARE(editor.exec(), int(QDialog::Rejected));
     QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate}));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate()}));
     QCOMPARE(editor.GetConstrainData().m_strName, std::string("wall"));
     QVERIFY(Flags(editor.GetConstrainData()) == flags);
 }
@@ -372,7 +374,7 @@ void tst_CQLTConstrainEditor::TheNameIsTakenAsTyped()
     });
     QCOMPARE(editor.exec(), int(boxes > 0 ? QDialog::Rejected : QDialog::Accepted));
     QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>(boxes, Duplicate));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>(boxes, Duplicate()));
     QCOMPARE(editor.GetConstrainData().m_strName, boxes > 0 ? std::string() : typed.toStdString());
 }
 
@@ -388,7 +390,7 @@ void tst_CQLTConstrainEditor::TheNameEndsAtTheFirstZero()
     AttributeCommonMgr::GetInstance()->AddName("ab");
     ModalDriver user;
     editor.m_OK_ButtonPushed();
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate}));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate()}));
 }
 
 void tst_CQLTConstrainEditor::NamesAreBytesOfTheLocalCodePage_data()
@@ -427,7 +429,7 @@ void tst_CQLTConstrainEditor::NamesAreBytesOfTheLocalCodePage()
     });
     QCOMPARE(editor.exec(), int(QDialog::Rejected));
     QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate}));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate()}));
 }
 
 void tst_CQLTConstrainEditor::ATakenNameIsFoundByItsBytes()

@@ -16,7 +16,10 @@
 
 namespace {
 
-const ShownBox Duplicate = ShownBox::Notice("Warning", "Duplicated Attribute Name");
+ShownBox Duplicate()
+{
+    return ShownBox::Notice("Warning", "Duplicated Attribute Name");
+}
 
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 
@@ -235,7 +238,7 @@ void tst_CQLTLoadForceEditor::TheMessagesBelongToTheClass()
     ModalDriver user;
     CQLTLoadForceEditor editor(nullptr);
     editor.on_okButton_clicked();
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate}));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate()}));
     QCOMPARE(recorder.TextsOf("CQLTLoadForceEditor"),
              QStringList({"Duplicated Attribute Name", "Warning"}));
 }
@@ -546,7 +549,7 @@ void tst_CQLTLoadForceEditor::ATakenNameIsRefusedEveryTime()
     });
     QCOMPARE(editor.exec(), int(QDialog::Accepted));
     QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate, Duplicate}));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate(), Duplicate()}));
     CompareRecord(editor.GetLoadForceData(), {"Other", 1, 6.0, 0.0, 0.0});
 }
 
@@ -563,7 +566,7 @@ void tst_CQLTLoadForceEditor::OnePressOfOkAsksOnce()
     });
     QCOMPARE(editor.exec(), int(QDialog::Rejected));
     QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate}));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate()}));
 }
 
 void tst_CQLTLoadForceEditor::ARefusalKeepsTheRecordOfInitData()
@@ -580,7 +583,7 @@ void tst_CQLTLoadForceEditor::ARefusalKeepsTheRecordOfInitData()
     });
     QCOMPARE(editor.exec(), int(QDialog::Rejected));
     QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate}));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate()}));
     CompareRecord(editor.GetLoadForceData(), {"Load", 1, 1.0, 2.0, 3.0});
 }
 
@@ -622,7 +625,7 @@ void tst_CQLTLoadForceEditor::TheNameIsTakenAsTyped()
     });
     QCOMPARE(editor.exec(), int(boxes > 0 ? QDialog::Rejected : QDialog::Accepted));
     QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>(boxes, Duplicate));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>(boxes, Duplicate()));
     QCOMPARE(editor.GetLoadForceData().m_strName, boxes > 0 ? std::string() : typed.toStdString());
 }
 
@@ -677,7 +680,7 @@ void tst_CQLTLoadForceEditor::NamesAreBytesOfTheLocalCodePage()
     });
     QCOMPARE(editor.exec(), int(QDialog::Rejected));
     QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate}));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate()}));
 }
 
 void tst_CQLTLoadForceEditor::ATakenNameIsFoundByItsBytes()

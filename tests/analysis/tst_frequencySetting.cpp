@@ -12,7 +12,10 @@
 
 namespace {
 
-const ShownBox Refusal = ShownBox::Notice("Warning", "Invalid Parameter");
+ShownBox Refusal()
+{
+    return ShownBox::Notice("Warning", "Invalid Parameter");
+}
 
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 
@@ -460,7 +463,7 @@ void tst_frequencySetting::InvalidValuesAreRefused()
     });
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
     QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Refusal}));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({Refusal()}));
     CompareSweep(Told(dialog), {min, max, count});
     CompareSweep(Stored(), {11.0, 22.0, 33});
 }
@@ -479,7 +482,7 @@ void tst_frequencySetting::ARefusedEntryCanBeCorrected()
     });
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Refusal, Refusal}));
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({Refusal(), Refusal()}));
     CompareSweep(Stored(), {1.0, 1000000.0, 2});
 }
 
