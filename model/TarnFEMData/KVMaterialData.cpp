@@ -3,8 +3,6 @@
 #include "SafeFile.h"
 #include "XmlRecords.h"
 
-#include <QSet>
-
 #include <list>
 #include <unordered_map>
 #include <utility>
@@ -85,7 +83,8 @@ struct KVMaterialData::Private
     }
 
     void Add(KVMaterialInfo* record);
-    void TakeOver(std::unique_ptr<KVMaterialInfo> record);
+    /// Enters what was read; true when its name is a new one.
+    bool TakeOver(std::unique_ptr<KVMaterialInfo> record);
 };
 
 void KVMaterialData::Private::Add(KVMaterialInfo* record)
@@ -119,16 +118,17 @@ void KVMaterialData::Private::Add(KVMaterialInfo* record)
 }
 
 // A record held already keeps its object: reading a file again and again takes no more memory.
-void KVMaterialData::Private::TakeOver(std::unique_ptr<KVMaterialInfo> record)
+bool KVMaterialData::Private::TakeOver(std::unique_ptr<KVMaterialInfo> record)
 {
     const auto found = index.find(record->m_strName);
     if (found == index.end()) {
         Add(record.release());
-        return;
+        return true;
     }
     KVMaterialInfo& held = *found->second->record;
     if (held.m_nType != MATERIAL_USER || record->m_nType == MATERIAL_USER)
         held = std::move(*record);
+    return false;
 }
 
 KVMaterialData::KVMaterialData()
@@ -208,14 +208,19 @@ int KVMaterialData::ReadXML(const std::string& path, MATERIAL_TYPE type)
     if (reading == tarn::XmlReading::Refused)
         return -1;
 
-    QSet<QString> names;
+    QVector<QString> names;
+    names.reserve(int(records.size()));
+    m_d->index.reserve(m_d->index.size() + records.size());
+    m_d->owned.reserve(m_d->owned.size() + records.size());
+    bool isEachNew = true;
     for (auto& record : records) {
-        names.insert(record->m_strName);
-        m_d->TakeOver(std::move(record));
+        names << record->m_strName;
+        isEachNew = m_d->TakeOver(std::move(record)) && isEachNew;
     }
-    // System materials are not written again, nor is the earlier of two of one name.
+    // What is not written again is not remembered: a system library, the earlier of two of one
+    // name.
     if (type == MATERIAL_USER && reading == tarn::XmlReading::Fully &&
-        std::size_t(names.size()) == records.size())
+        (isEachNew || tarn::AreDistinct(names)))
         m_d->files.Remember(file, content);
     return 0;
 }

@@ -3,7 +3,7 @@
 #include "SafeFile.h"
 #include "XmlRecords.h"
 
-#include <QSet>
+#include <QVector>
 
 #include <optional>
 #include <unordered_map>
@@ -78,6 +78,8 @@ struct KVPropertyData::Private
     }
 
     void Add(CQLTElemPropDef* record);
+    /// Enters what was read; true when its name is a new one.
+    bool TakeOver(std::unique_ptr<CQLTElemPropDef> record);
 };
 
 void KVPropertyData::Private::Add(CQLTElemPropDef* record)
@@ -91,6 +93,17 @@ void KVPropertyData::Private::Add(CQLTElemPropDef* record)
     if (place != nullptr)
         owned[place].reset();
     place = record;
+}
+
+bool KVPropertyData::Private::TakeOver(std::unique_ptr<CQLTElemPropDef> record)
+{
+    // Files are written in the order of the map, so each one's place is usually the end.
+    const auto count = records.size();
+    const auto place = records.emplace_hint(records.end(), record->m_strName, record.get());
+    if (records.size() == count)
+        return false;
+    owned.emplace(record.release(), place->first);
+    return true;
 }
 
 KVPropertyData::KVPropertyData()
@@ -144,14 +157,16 @@ int KVPropertyData::ReadXML(const std::string& path)
     if (reading == tarn::XmlReading::Refused)
         return -1;
 
-    QSet<QString> names;
+    QVector<QString> names;
+    names.reserve(int(records.size()));
+    m_d->owned.reserve(m_d->owned.size() + records.size());
+    bool isEachNew = true;
     for (auto& record : records) {
-        names.insert(record->m_strName);
-        if (m_d->records.count(record->m_strName) == 0)
-            m_d->Add(record.release());
+        names << record->m_strName;
+        isEachNew = m_d->TakeOver(std::move(record)) && isEachNew;
     }
     // Of two of one name only one is written again.
-    if (reading == tarn::XmlReading::Fully && std::size_t(names.size()) == records.size())
+    if (reading == tarn::XmlReading::Fully && (isEachNew || tarn::AreDistinct(names)))
         m_d->files.Remember(file, content);
     return 0;
 }

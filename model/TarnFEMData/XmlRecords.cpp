@@ -3,6 +3,7 @@
 #include "SafeFile.h"
 
 #include <QIODevice>
+#include <QSet>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -133,6 +134,7 @@ public:
         , m_input(content)
         , m_xml(&m_input)
         , m_texts(std::size_t(format.fields.size()))
+        , m_last(m_texts)
     {
         // Our files declare no entities, so there is nothing to expand.
         m_xml.setEntityExpansionLimit(0);
@@ -141,6 +143,7 @@ public:
     XmlReading Read(const std::function<bool(std::vector<QString>&)>& take);
 
 private:
+    int FieldOf(const QStringRef& name, int likely) const;
     bool ReadRoot();
     bool ReadRecord(const std::function<bool(std::vector<QString>&)>& take);
 
@@ -148,9 +151,22 @@ private:
     BoundedInput m_input;
     QXmlStreamReader m_xml;
     std::vector<QString> m_texts;
+    std::vector<QString> m_last; ///< The texts as they stood in the record before.
     int m_records = 0;
     bool m_isFull = true;
 };
+
+/// The field called @p name, or -1; it is usually the one at @p likely.
+int RecordReader::FieldOf(const QStringRef& name, int likely) const
+{
+    if (likely < m_format.fields.size() && m_format.fields[likely] == name)
+        return likely;
+    for (int i = 0; i < m_format.fields.size(); ++i) {
+        if (m_format.fields[i] == name)
+            return i;
+    }
+    return -1;
+}
 
 XmlReading RecordReader::Read(const std::function<bool(std::vector<QString>&)>& take)
 {
@@ -216,15 +232,18 @@ bool RecordReader::ReadRecord(const std::function<bool(std::vector<QString>&)>& 
         text.clear();
     bool isNamed = false;
     const QXmlStreamAttributes attributes = m_xml.attributes();
-    for (const QXmlStreamAttribute& attribute : attributes) {
-        const int field = int(
-            std::find(m_format.fields.begin(), m_format.fields.end(), attribute.qualifiedName()) -
-            m_format.fields.begin());
-        if (field == m_format.fields.size()) {
+    for (int i = 0; i < attributes.size(); ++i) {
+        const int field = FieldOf(attributes[i].qualifiedName(), i);
+        if (field < 0) {
             m_isFull = false;
             continue;
         }
-        m_texts[std::size_t(field)] = Unescaped(attribute.value().toString());
+        // One record often has a text of the one before: they then share it.
+        const QStringRef value = attributes[i].value();
+        QString& last = m_last[std::size_t(field)];
+        if (last.isNull() || value != last)
+            last = value.toString();
+        m_texts[std::size_t(field)] = Unescaped(last);
         isNamed = isNamed || field == 0;
     }
     ++m_records;
@@ -262,6 +281,15 @@ bool WriteRecords(const XmlFormat& format, QByteArray& content,
     }
     xml.writeEndDocument();
     return !xml.hasError();
+}
+
+bool AreDistinct(const QVector<QString>& names)
+{
+    QSet<QString> distinct;
+    distinct.reserve(names.size());
+    for (const QString& name : names)
+        distinct.insert(name);
+    return distinct.size() == names.size();
 }
 
 QString ToText(double number)
