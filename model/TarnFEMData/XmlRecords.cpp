@@ -298,6 +298,8 @@ QString ToText(double number)
         return QStringLiteral("NaN");
     if (std::isinf(number))
         return number > 0.0 ? QStringLiteral("INF") : QStringLiteral("-INF");
+    if (number == 0.0 && std::signbit(number))
+        return QStringLiteral("-0"); // Qt drops the sign.
     return QString::number(number, 'g', std::numeric_limits<double>::max_digits10);
 }
 

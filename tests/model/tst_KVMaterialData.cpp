@@ -519,6 +519,7 @@ void tst_KVMaterialData::ThePathIsInTheLocalCodePage()
     QCOMPARE(Store().WriteXML(name.toLocal8Bit().toStdString()), 0);
     QVERIFY(QFile::exists(name));
     QCOMPARE(Store().ReadXML(name.toLocal8Bit().toStdString(), MATERIAL_USER), 0);
+    QVERIFY(QFile::remove(name));
 }
 
 void tst_KVMaterialData::AFileNotReadIsKeptAsACopy_data()
