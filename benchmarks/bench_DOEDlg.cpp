@@ -40,34 +40,36 @@ double HeapBytes()
 
 void RefreshData(benchmark::State& state)
 {
+    const int runs = int(state.range(0));
+    const auto lists = SampleLists(runs);
     g_mapParaArrays.clear();
-    const auto lists = SampleLists(int(state.range(0)));
+    for (int column = 0; column < Columns; ++column) {
+        sParaArrayData& record = g_mapParaArrays[QStringLiteral("p%1").arg(column)];
+        record.strName = QStringLiteral("p%1").arg(column);
+        record.vecValues = lists[std::size_t(column)];
+    }
     DOEDlg dialog(nullptr);
     dialog.show();
     QCoreApplication::processEvents();
     auto& table = *dialog.findChild<QTableWidget*>(QStringLiteral("tableWidget_Final"));
     auto& refresh = *dialog.findChild<QPushButton*>(QStringLiteral("pushButton_RefreshData"));
-    double bytes = 0;
+    const auto build = [&refresh](bool ticked) {
+        for (auto& entry : g_mapParaArrays)
+            entry.second.bChecked = ticked ? 1 : 0;
+        refresh.click();
+    };
+
+    const double before = HeapBytes();
+    build(true);
+    state.counters["bytes"] = HeapBytes() - before;
     for (auto _ : state) {
         state.PauseTiming();
-        g_mapParaArrays.clear();
-        refresh.click();
-        for (int column = 0; column < Columns; ++column) {
-            sParaArrayData& record = g_mapParaArrays[QStringLiteral("p%1").arg(column)];
-            record.bChecked = 1;
-            record.strName = QStringLiteral("p%1").arg(column);
-            record.vecValues = lists[std::size_t(column)];
-        }
-        const double before = HeapBytes();
+        build(false);
         state.ResumeTiming();
-        refresh.click();
-        state.PauseTiming();
-        bytes = HeapBytes() - before;
-        state.ResumeTiming();
+        build(true);
     }
-    if (table.rowCount() != state.range(0))
+    if (table.rowCount() != runs)
         state.SkipWithError("not the runs that were asked for");
-    state.counters["bytes"] = bytes;
     g_mapParaArrays.clear();
 }
 
@@ -78,14 +80,7 @@ void FillPlainTable(benchmark::State& state)
     QTableWidget table;
     table.show();
     QCoreApplication::processEvents();
-    double bytes = 0;
-    for (auto _ : state) {
-        state.PauseTiming();
-        table.clearContents();
-        table.setRowCount(0);
-        table.setColumnCount(0);
-        const double before = HeapBytes();
-        state.ResumeTiming();
+    const auto fill = [&] {
         table.setColumnCount(Columns);
         table.setRowCount(runs);
         for (int column = 0; column < Columns; ++column)
@@ -100,11 +95,19 @@ void FillPlainTable(benchmark::State& state)
                 table.setItem(row, column, new QTableWidgetItem(QString::number(value, 'g', 6)));
             }
         }
+    };
+
+    const double before = HeapBytes();
+    fill();
+    state.counters["bytes"] = HeapBytes() - before;
+    for (auto _ : state) {
         state.PauseTiming();
-        bytes = HeapBytes() - before;
+        table.clearContents();
+        table.setRowCount(0);
+        table.setColumnCount(0);
         state.ResumeTiming();
+        fill();
     }
-    state.counters["bytes"] = bytes;
 }
 
 BENCHMARK(RefreshData)->Name("RunTable/ours")->Arg(100000)->Unit(benchmark::kMillisecond);
