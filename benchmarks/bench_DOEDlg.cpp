@@ -6,7 +6,6 @@
 #include <QTableWidget>
 
 #include <benchmark/benchmark.h>
-
 #include <malloc.h>
 
 #include <array>
@@ -84,8 +83,8 @@ void FillPlainTable(benchmark::State& state)
         table.setColumnCount(Columns);
         table.setRowCount(runs);
         for (int column = 0; column < Columns; ++column)
-            table.setHorizontalHeaderItem(
-                column, new QTableWidgetItem(QStringLiteral("p%1").arg(column)));
+            table.setHorizontalHeaderItem(column,
+                                          new QTableWidgetItem(QStringLiteral("p%1").arg(column)));
         for (int row = 0; row < runs; ++row) {
             int position = row;
             for (int column = Columns - 1; column >= 0; --column) {
@@ -111,10 +110,7 @@ void FillPlainTable(benchmark::State& state)
 }
 
 BENCHMARK(RefreshData)->Name("RunTable/ours")->Arg(100000)->Unit(benchmark::kMillisecond);
-BENCHMARK(FillPlainTable)
-    ->Name("RunTable/reference")
-    ->Arg(100000)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(FillPlainTable)->Name("RunTable/reference")->Arg(100000)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -15,8 +15,7 @@ bool IsTextRole(int role)
 }
 
 // A place for an item, or, while it is free, the way to the next free place.
-union Place
-{
+union Place {
     Place* next;
     alignas(NumberItem) unsigned char item[sizeof(NumberItem)];
 };

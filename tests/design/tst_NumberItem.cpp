@@ -92,7 +92,7 @@ void tst_NumberItem::AnEditedTextIsKeptAsTyped()
     table.setCurrentCell(0, 0);
     table.show();
     QVERIFY(QTest::qWaitForWindowActive(&table));
-    QSignalSpy changed(&table, SIGNAL(cellChanged(int,int)));
+    QSignalSpy changed(&table, SIGNAL(cellChanged(int, int)));
 
     table.editItem(table.item(0, 0));
     QWidget* const editor = QApplication::focusWidget();
@@ -114,7 +114,7 @@ void tst_NumberItem::AnEditWithoutChangeIsNoChange()
     QTableWidget table(1, 2);
     table.setItem(0, 0, new NumberItem(1.0 / 3));
     table.setItem(0, 1, new QTableWidgetItem("0.333333"));
-    QSignalSpy changed(&table, SIGNAL(cellChanged(int,int)));
+    QSignalSpy changed(&table, SIGNAL(cellChanged(int, int)));
     table.item(0, 0)->setText("0.333333");
     table.item(0, 1)->setText("0.333333");
     QCOMPARE(changed.count(), 0);

@@ -167,23 +167,57 @@ void tst_OneParameterDlg::TheFormHoldsItsWidgets_data()
     QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("parent");
     QTest::addColumn<QString>("text");
-    QTest::newRow("groupBox") << "QGroupBox" << "OneParameterDlg" << "Type";
-    QTest::newRow("groupBox_2") << "QGroupBox" << "OneParameterDlg" << "Range";
-    QTest::newRow("groupBox_3") << "QGroupBox" << "OneParameterDlg" << "Table";
-    QTest::newRow("radioButton_Log") << "QRadioButton" << "groupBox" << "Log10";
-    QTest::newRow("radioButton_Linear") << "QRadioButton" << "groupBox" << "Linear";
-    QTest::newRow("radioButton_Ln") << "QRadioButton" << "groupBox" << "Ln";
-    QTest::newRow("radioButton_Gauss") << "QRadioButton" << "groupBox" << "Gauss";
-    QTest::newRow("label") << "QLabel" << "groupBox_2" << "Min";
-    QTest::newRow("label_2") << "QLabel" << "groupBox_2" << "Max";
-    QTest::newRow("label_3") << "QLabel" << "groupBox_2" << "Delta";
-    QTest::newRow("lineEdit_Min") << "QLineEdit" << "groupBox_2" << "0";
-    QTest::newRow("lineEdit_Max") << "QLineEdit" << "groupBox_2" << "1";
-    QTest::newRow("lineEdit_Deta") << "QLineEdit" << "groupBox_2" << "1";
-    QTest::newRow("pushButton_Add") << "QPushButton" << "groupBox_3" << "Add";
-    QTest::newRow("pushButton_Delete") << "QPushButton" << "groupBox_3" << "Delete";
-    QTest::newRow("pushButton_OK") << "QPushButton" << "OneParameterDlg" << "OK";
-    QTest::newRow("pushButton_Cancel") << "QPushButton" << "OneParameterDlg" << "Cancel";
+    QTest::newRow("groupBox") << "QGroupBox"
+                              << "OneParameterDlg"
+                              << "Type";
+    QTest::newRow("groupBox_2") << "QGroupBox"
+                                << "OneParameterDlg"
+                                << "Range";
+    QTest::newRow("groupBox_3") << "QGroupBox"
+                                << "OneParameterDlg"
+                                << "Table";
+    QTest::newRow("radioButton_Log") << "QRadioButton"
+                                     << "groupBox"
+                                     << "Log10";
+    QTest::newRow("radioButton_Linear") << "QRadioButton"
+                                        << "groupBox"
+                                        << "Linear";
+    QTest::newRow("radioButton_Ln") << "QRadioButton"
+                                    << "groupBox"
+                                    << "Ln";
+    QTest::newRow("radioButton_Gauss") << "QRadioButton"
+                                       << "groupBox"
+                                       << "Gauss";
+    QTest::newRow("label") << "QLabel"
+                           << "groupBox_2"
+                           << "Min";
+    QTest::newRow("label_2") << "QLabel"
+                             << "groupBox_2"
+                             << "Max";
+    QTest::newRow("label_3") << "QLabel"
+                             << "groupBox_2"
+                             << "Delta";
+    QTest::newRow("lineEdit_Min") << "QLineEdit"
+                                  << "groupBox_2"
+                                  << "0";
+    QTest::newRow("lineEdit_Max") << "QLineEdit"
+                                  << "groupBox_2"
+                                  << "1";
+    QTest::newRow("lineEdit_Deta") << "QLineEdit"
+                                   << "groupBox_2"
+                                   << "1";
+    QTest::newRow("pushButton_Add") << "QPushButton"
+                                    << "groupBox_3"
+                                    << "Add";
+    QTest::newRow("pushButton_Delete") << "QPushButton"
+                                       << "groupBox_3"
+                                       << "Delete";
+    QTest::newRow("pushButton_OK") << "QPushButton"
+                                   << "OneParameterDlg"
+                                   << "OK";
+    QTest::newRow("pushButton_Cancel") << "QPushButton"
+                                       << "OneParameterDlg"
+                                       << "Cancel";
 }
 
 void tst_OneParameterDlg::TheFormHoldsItsWidgets()
@@ -288,11 +322,11 @@ void tst_OneParameterDlg::TabFollowsTheReadingOrder()
 {
     const EmptyDesignStores stores;
     OneParameterDlg dialog(nullptr, "a");
-    QCOMPARE(TabOrder(dialog),
-             QStringList({"radioButton_Log", "radioButton_Linear", "radioButton_Ln",
-                          "radioButton_Gauss", "lineEdit_Min", "lineEdit_Max", "lineEdit_Deta",
-                          "tableWidget", "pushButton_Add", "pushButton_Delete", "pushButton_OK",
-                          "pushButton_Cancel"}));
+    QCOMPARE(
+        TabOrder(dialog),
+        QStringList({"radioButton_Log", "radioButton_Linear", "radioButton_Ln", "radioButton_Gauss",
+                     "lineEdit_Min", "lineEdit_Max", "lineEdit_Deta", "tableWidget",
+                     "pushButton_Add", "pushButton_Delete", "pushButton_OK", "pushButton_Cancel"}));
 }
 
 void tst_OneParameterDlg::NoButtonIsPressedByEnter()
@@ -337,9 +371,8 @@ void tst_OneParameterDlg::TheDialogOfAnEmptyNameIsInert()
     OneParameterDlg dialog(nullptr, "");
     user.Then([](QDialog& shown) {
         Type(shown, "lineEdit_Max", "-5");
-        for (const char* const name :
-             {"radioButton_Log", "pushButton_Add", "pushButton_Delete", "pushButton_OK",
-              "pushButton_Cancel"})
+        for (const char* const name : {"radioButton_Log", "pushButton_Add", "pushButton_Delete",
+                                       "pushButton_OK", "pushButton_Cancel"})
             Click(shown, name);
         QVERIFY(shown.isVisible());
         QCOMPARE(Rows(shown), QStringList());
@@ -438,32 +471,58 @@ void tst_OneParameterDlg::TheRangeGeneratesTheSamples_data()
     QTest::addColumn<int>("type");
     QTest::addColumn<QStringList>("rows");
     QTest::newRow("the end is reached")
-        << "0" << "1" << "0.25" << int(Linear) << QStringList({"0", "0.25", "0.5", "0.75", "1"});
+        << "0"
+        << "1"
+        << "0.25" << int(Linear) << QStringList({"0", "0.25", "0.5", "0.75", "1"});
     QTest::newRow("the end is not reached")
-        << "0" << "1" << "0.3" << int(Linear) << QStringList({"0", "0.3", "0.6", "0.9"});
+        << "0"
+        << "1"
+        << "0.3" << int(Linear) << QStringList({"0", "0.3", "0.6", "0.9"});
     // Ten steps of 0.1 add up to a little less than 1, three steps to a little more than 0.3.
     QTest::newRow("added up below the end")
-        << "0" << "1" << "0.1" << int(Linear)
+        << "0"
+        << "1"
+        << "0.1" << int(Linear)
         << QStringList({"0", "0.1", "0.2", "0.3", "0.4", "0.5", "0.6", "0.7", "0.8", "0.9", "1"});
     QTest::newRow("added up beyond the end")
-        << "0" << "0.3" << "0.1" << int(Linear) << QStringList({"0", "0.1", "0.2"});
-    QTest::newRow("step as wide as the range")
-        << "5" << "6" << "1" << int(Linear) << QStringList({"5", "6"});
-    QTest::newRow("negative") << "-2" << "0" << "1" << int(Linear)
-                              << QStringList({"-2", "-1", "0"});
-    QTest::newRow("six digits") << "0.1234567" << "2" << "1.5" << int(Linear)
-                                << QStringList({"0.123457", "1.62346"});
-    QTest::newRow("exponents") << "1e6" << "3e6" << "1234567" << int(Linear)
-                               << QStringList({"1e+06", "2.23457e+06"});
-    QTest::newRow("text is 0") << "min" << "1" << "1" << int(Linear) << QStringList({"0", "1"});
-    QTest::newRow("huge range") << "-1.7e308" << "1.7e308" << "1.7e308" << int(Linear)
+        << "0"
+        << "0.3"
+        << "0.1" << int(Linear) << QStringList({"0", "0.1", "0.2"});
+    QTest::newRow("step as wide as the range") << "5"
+                                               << "6"
+                                               << "1" << int(Linear) << QStringList({"5", "6"});
+    QTest::newRow("negative") << "-2"
+                              << "0"
+                              << "1" << int(Linear) << QStringList({"-2", "-1", "0"});
+    QTest::newRow("six digits") << "0.1234567"
+                                << "2"
+                                << "1.5" << int(Linear) << QStringList({"0.123457", "1.62346"});
+    QTest::newRow("exponents") << "1e6"
+                               << "3e6"
+                               << "1234567" << int(Linear) << QStringList({"1e+06", "2.23457e+06"});
+    QTest::newRow("text is 0") << "min"
+                               << "1"
+                               << "1" << int(Linear) << QStringList({"0", "1"});
+    QTest::newRow("huge range") << "-1.7e308"
+                                << "1.7e308"
+                                << "1.7e308" << int(Linear)
                                 << QStringList({"-1.7e+308", "0", "1.7e+308"});
-    QTest::newRow("Log10") << "1" << "100" << "99" << int(Log10) << QStringList({"0", "2"});
+    QTest::newRow("Log10") << "1"
+                           << "100"
+                           << "99" << int(Log10) << QStringList({"0", "2"});
     QTest::newRow("Log10 is spaced linearly")
-        << "10" << "30" << "10" << int(Log10) << QStringList({"1", "1.30103", "1.47712"});
-    QTest::newRow("Log10 of 0") << "0" << "1" << "1" << int(Log10) << QStringList({"-inf", "0"});
-    QTest::newRow("Ln") << "1" << "2" << "1" << int(Ln) << QStringList({"0", "0.693147"});
-    QTest::newRow("Ln of 0") << "0" << "1" << "1" << int(Ln) << QStringList({"-inf", "0"});
+        << "10"
+        << "30"
+        << "10" << int(Log10) << QStringList({"1", "1.30103", "1.47712"});
+    QTest::newRow("Log10 of 0") << "0"
+                                << "1"
+                                << "1" << int(Log10) << QStringList({"-inf", "0"});
+    QTest::newRow("Ln") << "1"
+                        << "2"
+                        << "1" << int(Ln) << QStringList({"0", "0.693147"});
+    QTest::newRow("Ln of 0") << "0"
+                             << "1"
+                             << "1" << int(Ln) << QStringList({"-inf", "0"});
 }
 
 void tst_OneParameterDlg::TheRangeGeneratesTheSamples()
