@@ -8,8 +8,10 @@
 
 #include <QComboBox>
 #include <QPersistentModelIndex>
+#include <QSignalBlocker>
 #include <QTableWidgetItem>
 
+#include <algorithm>
 #include <array>
 #include <map>
 
@@ -53,9 +55,11 @@ int ComboOfTypeCode(int code)
     return 0;
 }
 
-QComboBox* NewTypeCombo(int index)
+// Born in the table: a combo box that inherits another font later builds its drop-down list at
+// once.
+QComboBox* NewTypeCombo(const QTableWidget& table, int index)
 {
-    auto* const combo = new QComboBox;
+    auto* const combo = new QComboBox(table.viewport());
     combo->addItem(ParameterEditor::tr("Scalar"));
     combo->addItem(ParameterEditor::tr("Vector"));
     combo->addItem(ParameterEditor::tr("Tensor"));
@@ -79,6 +83,19 @@ double StoredNumber(const QString& name)
 double ComponentValue(const QString& text)
 {
     return tarn::IsNumberText(text) ? text.toDouble() : StoredNumber(text);
+}
+
+// Whether the record and the parameters it names are still what was checked before a box stood
+// open.
+bool StandsAsChecked(const ParametersDef& record, const ParametersDef& checked)
+{
+    if (record.m_strExpression != checked.m_strExpression ||
+        record.m_strExpressPara != checked.m_strExpressPara)
+        return false;
+    const QStringList names = record.m_strExpressPara.split(Separator, Qt::SkipEmptyParts);
+    return std::all_of(names.begin(), names.end(), [](const QString& name) {
+        return GlobalParaMeterMgr::m_nameMapParameters.count(name) != 0;
+    });
 }
 
 } // namespace
@@ -117,12 +134,13 @@ void ParameterEditor::m_Slot_Delete()
 void ParameterEditor::m_Slot_Add()
 {
     QTableWidget& table = *m_ui.tableWidget;
+    const QSignalBlocker quiet(table); // filling is no change that m_Slot_NoNumber should test
     const int row = table.rowCount();
     table.setRowCount(row + 1);
     for (const int column :
          {NameColumn, ValueColumn, ExpressionColumn, ExpressionParaColumn, DescriptionColumn})
         table.setItem(row, column, new QTableWidgetItem(QString()));
-    table.setCellWidget(row, TypeColumn, NewTypeCombo(0));
+    table.setCellWidget(row, TypeColumn, NewTypeCombo(table, 0));
 }
 
 void ParameterEditor::m_Slot_OK()
@@ -142,6 +160,7 @@ void ParameterEditor::m_Slot_ProcessExp() {}
 void ParameterEditor::m_Slot_RefreshGUI()
 {
     QTableWidget& table = *m_ui.tableWidget;
+    const QSignalBlocker quiet(table); // filling is no change that m_Slot_NoNumber should test
     table.clearContents();
     const ParameterMap parameters = GlobalParaMeterMgr::m_nameMapParameters;
     table.setRowCount(int(parameters.size()));
@@ -150,13 +169,15 @@ void ParameterEditor::m_Slot_RefreshGUI()
     for (const auto& [name, record] : parameters) {
         table.setItem(row, NameColumn, new QTableWidgetItem(name));
         table.setItem(row, ValueColumn, new QTableWidgetItem(record.m_strValue));
-        table.setCellWidget(row, TypeColumn, NewTypeCombo(ComboOfTypeCode(record.m_nType)));
+        table.setCellWidget(row, TypeColumn, NewTypeCombo(table, ComboOfTypeCode(record.m_nType)));
         table.setItem(row, ExpressionColumn,
                       new QTableWidgetItem(tarn::FromLocal8Bit(record.m_strExpression)));
         table.setItem(row, ExpressionParaColumn, new QTableWidgetItem(record.m_strExpressPara));
         table.setItem(row, DescriptionColumn, new QTableWidgetItem(record.m_strDescription));
         ++row;
     }
+    // Until they are laid out, the new combo boxes lie upon each other and are slow to paint.
+    table.doItemsLayout();
 }
 
 void ParameterEditor::m_Slot_NoNumber(QTableWidgetItem* item)
@@ -214,14 +235,15 @@ void ParameterEditor::RefreshParameterData()
     const std::vector<QString> names = GlobalParaMeterMgr::GetAllParametersName();
     ParameterMap& store = GlobalParaMeterMgr::m_nameMapParameters;
     for (const QString& name : names) {
-        auto entry = store.find(name);
-        if (entry == store.end() || entry->second.m_strExpression.empty())
+        const auto found = store.find(name);
+        if (found == store.end() || found->second.m_strExpression.empty())
             continue;
-        if (!IsValidExpressPara(entry->second.m_strExpressPara))
+        const ParametersDef checked = found->second;
+        if (!IsValidExpressPara(checked.m_strExpressPara))
             continue;
 
-        entry = store.find(name);
-        if (entry == store.end())
+        const auto entry = store.find(name);
+        if (entry == store.end() || !StandsAsChecked(entry->second, checked))
             continue;
         ParametersDef& record = entry->second;
         const double value = GetCurrParaValueByExprsion(record);
