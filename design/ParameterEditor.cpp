@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QPersistentModelIndex>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <QTableWidgetItem>
 
 #include <algorithm>
@@ -54,6 +55,37 @@ int ComboOfTypeCode(int code)
     }
     return 0;
 }
+
+// The table goes on with a cell's field after its text was taken over. The notice about that text
+// may stand open meanwhile, and a table that is refilled behind it must not destroy the field.
+class CellDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override
+    {
+        m_inUse = editor;
+        QStyledItemDelegate::setModelData(editor, model, index);
+        m_inUse = nullptr;
+        if (m_isDropped)
+            editor->deleteLater();
+        m_isDropped = false;
+    }
+
+    void destroyEditor(QWidget* editor, const QModelIndex& index) const override
+    {
+        if (editor == m_inUse)
+            m_isDropped = true;
+        else
+            QStyledItemDelegate::destroyEditor(editor, index);
+    }
+
+private:
+    mutable QWidget* m_inUse = nullptr;
+    mutable bool m_isDropped = false;
+};
 
 // Born in the table: a combo box that inherits another font later builds its drop-down list at
 // once.
@@ -104,6 +136,7 @@ ParameterEditor::ParameterEditor(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    m_ui.tableWidget->setItemDelegate(new CellDelegate(m_ui.tableWidget));
 
     connect(m_ui.pushButton_Apply, SIGNAL(clicked()), this, SLOT(m_Slot_Apply()));
     connect(m_ui.pushButton_Add, SIGNAL(clicked()), this, SLOT(m_Slot_Add()));

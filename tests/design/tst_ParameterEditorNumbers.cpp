@@ -132,7 +132,7 @@ void tst_ParameterEditorNumbers::TheHostMayChangeTheTableBehindTheBox()
     ModalDriver user;
     user.WhileBoxOpen([&](QMessageBox&) {
         action(editor);
-        QCoreApplication::processEvents();
+        QTest::qWait(20); // until what was deleted for later is gone
     });
     user.Then([&](QDialog& shown) {
         TypeIntoCell(shown, 1, ValueColumn, "x");
