@@ -7,6 +7,7 @@
 #include "NumberText.h"
 
 #include <QComboBox>
+#include <QHeaderView>
 #include <QPersistentModelIndex>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
@@ -97,6 +98,8 @@ QComboBox* NewTypeCombo(const QTableWidget& table, int index)
     combo->addItem(ParameterEditor::tr("Tensor"));
     combo->addItem(ParameterEditor::tr("Bool"));
     combo->setCurrentIndex(index);
+    // With a size of its own it is not measured when shown; the table's layout sets the real one.
+    combo->resize(table.columnWidth(TypeColumn), table.verticalHeader()->defaultSectionSize());
     return combo;
 }
 
