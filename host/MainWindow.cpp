@@ -18,12 +18,6 @@
 
 namespace {
 
-void PostProblems(const std::vector<QString>& problems)
-{
-    for (const QString& problem : problems)
-        PostMessageToChannel(ErrorLevel, problem);
-}
-
 QAction* AddAction(QMenu& menu, const QString& text, const char* name)
 {
     QAction* const action = menu.addAction(text);
@@ -134,9 +128,8 @@ void MainWindow::DesignExperiments()
     const ParameterMap before = GlobalParaMeterMgr::m_nameMapParameters;
     DOEDlg dialog(this);
     const DoeSession session(dialog);
-    connect(&session, &DoeSession::RunReady, this, [this, &before, &session] {
+    connect(&session, &DoeSession::RunReady, this, [this, &before] {
         KeepDesign(before);
-        PostProblems(session.Problems());
         Rebuild();
     });
     dialog.exec();
@@ -163,7 +156,8 @@ void MainWindow::RestoreParameters()
 
 void MainWindow::SettleExpressions()
 {
-    PostProblems(SettleParameters());
+    for (const QString& problem : SettleParameters())
+        PostMessageToChannel(ErrorLevel, problem);
 }
 
 void MainWindow::Rebuild()
