@@ -82,8 +82,9 @@ void MainWindow::CreateMenus()
 
 void MainWindow::AskForProject()
 {
-    const QString directory =
-        m_project.has_value() ? QFileInfo(m_project->Path()).absolutePath() : QString();
+    QString directory;
+    if (m_project.has_value() && m_project->Path() != Project::SamplePath())
+        directory = QFileInfo(m_project->Path()).absolutePath();
     const QString path = QFileDialog::getOpenFileName(this, tr("Open project"), directory,
                                                       tr("Projects (*.json);;All files (*)"));
     if (path.isEmpty())

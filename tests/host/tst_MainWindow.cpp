@@ -10,12 +10,14 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTableView>
@@ -106,6 +108,8 @@ void TypeIntoCell(QTableWidget& table, int row, int column, const QString& text)
     edit->selectAll();
     QTest::keyClicks(edit, text);
     QTest::keyClick(edit, Qt::Key_Return);
+    // Enter commits through a posted event.
+    QCoreApplication::sendPostedEvents();
     QCOMPARE(table.item(row, column)->text(), text);
 }
 
@@ -164,7 +168,8 @@ void ChooseFile(ModalDriver& user, const QString& path)
 {
     user.Then([path](QDialog& dialog) {
         Find<QLineEdit>(dialog, "fileNameEdit").setText(path);
-        QTest::keyClick(&Find<QLineEdit>(dialog, "fileNameEdit"), Qt::Key_Return);
+        auto& buttons = Find<QDialogButtonBox>(dialog, "buttonBox");
+        QTest::mouseClick(buttons.button(QDialogButtonBox::Open), Qt::LeftButton);
     });
 }
 
@@ -186,7 +191,7 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
         const QList<QAction*> actions = menu->menu()->actions();
         for (const QAction* const action : actions) {
             if (!action->isSeparator())
-                texts << (menu->text() + "/" + action->text()).remove('&');
+                texts << QString(menu->text() + "/" + action->text()).remove('&');
         }
     }
     QCOMPARE(texts, QStringList({"File/Open project", "File/Quit", "Design/Parameters",
@@ -530,13 +535,13 @@ void tst_MainWindow::DialogsAreGoneAfterTheirRun()
 void tst_MainWindow::AnotherProjectReplacesTheFirst()
 {
     OpenWindow open;
-    EnterTemporaryDirectory();
+    const QString directory = EnterTemporaryDirectory();
     QByteArray project = SampleProject();
     project.replace("Bolted flange", "Another flange");
     project.replace("\"value\": 200", "\"value\": 260");
     WriteFile("other.json", project);
     ModalDriver user;
-    ChooseFile(user, "other.json");
+    ChooseFile(user, directory + "/other.json");
     Trigger(open.window, "action_OpenProject");
     QVERIFY(user.IsDone());
     QVERIFY(open.window.windowTitle().contains("Another flange"));
@@ -546,11 +551,11 @@ void tst_MainWindow::AnotherProjectReplacesTheFirst()
 void tst_MainWindow::ABadProjectIsToldAndChangesNothing()
 {
     OpenWindow open;
-    EnterTemporaryDirectory();
+    const QString directory = EnterTemporaryDirectory();
     WriteFile("bad.json", "{ 100% nonsense");
     QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
     ModalDriver user;
-    ChooseFile(user, "bad.json");
+    ChooseFile(user, directory + "/bad.json");
     Trigger(open.window, "action_OpenProject");
     QVERIFY(user.IsDone());
     const QStringList errors = Messages(posted, ErrorLevel);
