@@ -7,6 +7,8 @@
 #include <stdexcept>
 #include <vector>
 
+class QJsonValue;
+
 /// Why a project file cannot be used: one line, with the file's name, in UTF-8.
 class ProjectError : public std::runtime_error
 {
@@ -54,6 +56,8 @@ public:
 
 private:
     Project() = default;
+
+    void Read(const QJsonValue& json);
 
     QString m_path;
     QString m_title;

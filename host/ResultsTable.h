@@ -41,8 +41,8 @@ public:
     /// Writes the file; an existing one is replaced as a whole or left alone. @throws ResultsError
     void Write(const QString& path) const;
 
-    /// The result of @p run, counted from 1, or null when there is none.
-    const RunResult* Find(int run) const;
+    /// The results by run number, counted from 1.
+    const std::map<int, RunResult>& Runs() const { return m_runs; }
     void Set(int run, RunResult result);
 
 private:

@@ -46,6 +46,8 @@ public:
     Summary Run();
 
 private:
+    Summary RunStudy();
+
     const Project& m_project;
     Options m_options;
     std::function<void(const QString&)> m_tell;
