@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "DOEDlg.h"
+#include "DialogTables.h"
 #include "DoeSession.h"
 #include "FlangeBuilder.h"
 #include "GlobalParaMeterMgr.h"
@@ -33,7 +34,7 @@ MainWindow::MainWindow(QWidget* parent)
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(tr("Tarn host"));
-    resize(1200, 760);
+    resize(1360, 760);
     setCentralWidget(m_summary);
     CreateDocks();
     CreateMenus();
@@ -47,7 +48,7 @@ void MainWindow::CreateDocks()
     m_overview = new ParameterOverview(this);
     addDockWidget(Qt::BottomDockWidgetArea, m_messages);
     addDockWidget(Qt::LeftDockWidgetArea, m_overview);
-    resizeDocks({m_overview}, {640}, Qt::Horizontal);
+    resizeDocks({m_overview}, {820}, Qt::Horizontal);
     resizeDocks({m_messages}, {170}, Qt::Vertical);
     m_overview->Refresh();
 }
@@ -114,6 +115,7 @@ void MainWindow::EditParameters()
 {
     ParameterEditor editor(this);
     editor.m_Slot_RefreshGUI();
+    FitTables(editor);
     connect(&editor, &ParameterEditor::m_Signal_Apply, this, [this, &editor] {
         // What the user applied is the design from now on.
         m_storeIsRun = false;
@@ -129,6 +131,7 @@ void MainWindow::DesignExperiments()
     const ParameterMap before = GlobalParaMeterMgr::m_nameMapParameters;
     DOEDlg dialog(this);
     const DoeSession session(dialog);
+    FitTables(dialog);
     connect(&session, &DoeSession::RunReady, this, [this, &before] {
         KeepDesign(before);
         Rebuild();

@@ -1,6 +1,7 @@
 #include "Screenshots.h"
 
 #include "DOEDlg.h"
+#include "DialogTables.h"
 #include "DoeSession.h"
 #include "GlobalParaMeterMgr.h"
 #include "MainWindow.h"
@@ -9,8 +10,9 @@
 #include "ParameterEditor.h"
 #include "Project.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
+#include <QFont>
 #include <QPixmap>
 #include <QTableWidget>
 
@@ -21,6 +23,26 @@
 namespace {
 
 using Window = std::unique_ptr<QWidget>;
+
+constexpr int PointSize = 9; // Without a desktop the toolkit takes a size that no desktop has.
+constexpr int ChosenRow = 4;
+constexpr QSize RoomySampling(360, 460); // The form's own size shows one sample.
+
+class PictureFont
+{
+public:
+    PictureFont()
+    {
+        QFont font = m_before;
+        font.setPointSize(PointSize);
+        QApplication::setFont(font);
+    }
+    ~PictureFont() { QApplication::setFont(m_before); }
+    Q_DISABLE_COPY(PictureFont)
+
+private:
+    QFont m_before = QApplication::font();
+};
 
 Window NewMainWindow(const Project& project)
 {
@@ -33,6 +55,7 @@ Window NewParameterEditor(const Project&)
 {
     auto editor = std::make_unique<ParameterEditor>(nullptr);
     editor->m_Slot_RefreshGUI();
+    FitTables(*editor);
     return editor;
 }
 
@@ -45,14 +68,17 @@ Window NewOneParameterDlg(const Project& project)
         if (samples.values.empty())
             name = samples.name;
     }
-    return std::make_unique<OneParameterDlg>(nullptr, name);
+    auto dialog = std::make_unique<OneParameterDlg>(nullptr, name);
+    dialog->resize(RoomySampling);
+    return dialog;
 }
 
 Window NewDOEDlg(const Project&)
 {
     auto dialog = std::make_unique<DOEDlg>(nullptr);
     const DoeSession ticksByName(*dialog);
-    dialog->findChild<QTableWidget*>(QStringLiteral("tableWidget_Final"))->setCurrentCell(0, 0);
+    FitTables(*dialog);
+    dialog->findChild<QTableWidget*>(QStringLiteral("tableWidget_Final"))->selectRow(ChosenRow);
     return dialog;
 }
 
@@ -91,6 +117,7 @@ int WriteScreenshots(const Project& project, const QString& directory)
     if (!QDir().mkpath(directory))
         return Fail(QStringLiteral("cannot make the directory %1").arg(directory));
 
+    const PictureFont font;
     const NoticeWatcher notices;
     for (const Picture& picture : Pictures) {
         const Window window = picture.make(project);

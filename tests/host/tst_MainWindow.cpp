@@ -103,8 +103,8 @@ void TypeIntoCell(QTableWidget& table, int row, int column, const QString& text)
     QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
                       table.visualItemRect(table.item(row, column)).center());
     QTest::keyClick(table.viewport(), Qt::Key_F2);
-    auto* const edit = table.viewport()->findChild<QLineEdit*>();
-    QVERIFY(edit != nullptr);
+    auto* const edit = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    QVERIFY(edit != nullptr && table.viewport()->isAncestorOf(edit));
     edit->selectAll();
     QTest::keyClicks(edit, text);
     QTest::keyClick(edit, Qt::Key_Return);
@@ -327,7 +327,8 @@ void tst_MainWindow::AnExpressionThatCannotBeSettledIsToldOnce()
     });
     Trigger(open.window, "action_Parameters");
     QVERIFY(user.IsDone());
-    QCOMPARE(Messages(posted, ErrorLevel).filter("\"hub_diameter\"").size(), 1);
+    const QStringList errors = Messages(posted, ErrorLevel);
+    QVERIFY2(errors.filter("hub_diameter").size() == 1, qPrintable(errors.join('\n')));
 }
 
 void tst_MainWindow::APartThatCannotBeBuiltIsToldOnceAndTheLastGoodShapeStays()
@@ -335,7 +336,6 @@ void tst_MainWindow::APartThatCannotBeBuiltIsToldOnceAndTheLastGoodShapeStays()
     OpenWindow open;
     const QString volume = Shown(open.window, "label_Volume");
     const QString box = Shown(open.window, "label_BoundingBox");
-    const QImage picture = Find<QWidget>(open.window, "shapePicture").grab().toImage();
     QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
     ModalDriver user;
     user.Then([](QDialog& editor) {
@@ -353,8 +353,6 @@ void tst_MainWindow::APartThatCannotBeBuiltIsToldOnceAndTheLastGoodShapeStays()
     QVERIFY(Shown(open.window, "label_Status").contains("last good shape"));
     QCOMPARE(Shown(open.window, "label_Volume"), volume);
     QCOMPARE(Shown(open.window, "label_BoundingBox"), box);
-    QCOMPARE(Find<QWidget>(open.window, "shapePicture").grab().toImage().isNull(),
-             picture.isNull());
     const auto& overview = Find<QTableWidget>(open.window, "parameterTable");
     QCOMPARE(
         overview.item(RowOf(overview, "bore_diameter"), ParameterOverview::ValueColumn)->text(),
@@ -471,7 +469,7 @@ void tst_MainWindow::RestoreAfterSeveralRunsBringsTheDesignBack()
         Trigger(open.window, "action_DesignOfExperiments");
     }
     QVERIFY(user.IsDone());
-    QVERIFY(Stored("thickness") != 20.0 || Stored("bore_diameter") != 70.0);
+    QCOMPARE(Stored("bolt_count"), 4.0);
     Trigger(open.window, "action_RestoreParameters");
     QCOMPARE(Stored("thickness"), 20.0);
     QCOMPARE(Stored("bore_diameter"), 70.0);
