@@ -65,5 +65,6 @@ bool HostApplication::notify(QObject* receiver, QEvent* event)
     } catch (...) {
         PostFailure(tr("An unexpected error of an unknown kind"));
     }
-    return false;
+    // Handled, as far as it can be: the event is not to try its luck elsewhere.
+    return true;
 }

@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QStyle>
 #include <QTableView>
 #include <QTime>
@@ -69,6 +70,9 @@ MessageDock::MessageDock(QWidget* parent)
     m_view->addActions({copy, clear});
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
 
+    // Also when the dock is laid out only after the lines have come.
+    QScrollBar* const bar = m_view->verticalScrollBar();
+    connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int end) { bar->setValue(end); });
     connect(copy, &QAction::triggered, this, &MessageDock::CopySelection);
     connect(clear, &QAction::triggered, this, &MessageDock::Clear);
     connect(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage, this,
@@ -118,6 +122,8 @@ void MessageDock::AddMessage(int level, const QString& text)
 void MessageDock::CopySelection() const
 {
     QModelIndexList selected = m_view->selectionModel()->selectedRows();
+    if (selected.isEmpty())
+        return;
     std::sort(selected.begin(), selected.end());
     QStringList lines;
     for (const QModelIndex& index : qAsConst(selected)) {

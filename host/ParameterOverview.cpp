@@ -38,12 +38,12 @@ QString ExactText(double value)
     return QString::number(value, 'g', QLocale::FloatingPointShortest);
 }
 
-QString RawValueText(const ParametersDef& record)
+QString RawValueText(const QString& name, const ParametersDef& record)
 {
     if (record.m_nType == VectorType)
         return QStringLiteral("(%1, %2, %3)")
             .arg(ExactText(record.m_dX), ExactText(record.m_dY), ExactText(record.m_dZ));
-    const QVariant raw = GlobalParaMeterMgr::GetParameterRawValue(record.m_strName);
+    const QVariant raw = GlobalParaMeterMgr::GetParameterRawValue(name);
     return raw.type() == QVariant::Double ? ExactText(raw.toDouble()) : raw.toString();
 }
 
@@ -85,7 +85,7 @@ void ParameterOverview::Refresh()
         show(NameColumn, name);
         show(TypeColumn, TypeWord(record.m_nType));
         show(ValueColumn, record.m_strValue);
-        show(RawValueColumn, RawValueText(record));
+        show(RawValueColumn, RawValueText(name, record));
         show(ExpressionColumn, QString::fromLocal8Bit(record.m_strExpression.c_str()));
         show(DescriptionColumn, record.m_strDescription);
         for (const int column : {ValueColumn, RawValueColumn})

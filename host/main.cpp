@@ -1,6 +1,8 @@
 #include "CommandLine.h"
 #include "HostApplication.h"
+#include "MainWindow.h"
 #include "Project.h"
+#include "Screenshots.h"
 #include "StudyRunner.h"
 
 #include <QTextStream>
@@ -36,6 +38,15 @@ int RunStudy(const CommandLine& line)
         Print(stdout, progress + QLatin1Char('\n'));
     });
     return runner.Run().failed == 0 ? DoneCode : FailedRunsCode;
+}
+
+int OpenWindow(const CommandLine& line)
+{
+    const Project project = Project::Load(line.projectFile);
+    MainWindow window;
+    window.show();
+    window.OpenProject(project);
+    return HostApplication::exec();
 }
 
 // A window needs a display; everything else does without.
@@ -75,8 +86,10 @@ int Act(const CommandLine& line)
         return DoneCode;
     case CommandLine::RunStudy:
         return RunStudy(line);
+    case CommandLine::WriteScreenshots:
+        return WriteScreenshots(Project::Load(line.projectFile), line.screenshotDirectory);
     default:
-        return DoneCode;
+        return OpenWindow(line);
     }
 }
 
