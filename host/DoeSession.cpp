@@ -78,9 +78,10 @@ void DoeSession::CompleteRun()
     }
     m_problems = SettleParameters(ticked);
 
-    PostMessageToChannel(InfoLevel,
-                         tr("Run %1: %n other parameter(s) got their values back.", nullptr, given)
-                             .arg(run.join(QStringLiteral(", "))));
+    PostMessageToChannel(InfoLevel, tr("Run taken: %1. The other parameters, %2 of them, have "
+                                       "their values from before again.")
+                                        .arg(run.join(QStringLiteral(", ")))
+                                        .arg(given));
     for (const QString& problem : m_problems)
         PostMessageToChannel(ErrorLevel, problem);
     Q_EMIT RunReady();

@@ -160,7 +160,7 @@ private:
             if (store.count(name) == 0) {
                 node.isBad = true;
                 m_messages.push_back(
-                    QStringLiteral("%1: its expression uses %2, which is no parameter")
+                    QStringLiteral("%1: its expression uses \"%2\", which is no parameter")
                         .arg(node.name, name));
                 return;
             }

@@ -115,6 +115,10 @@ ParametersDef ReadParameter(const QJsonValue& value, int number)
     const QString name = JsonSection(place, value, keys).NeededText(NameKey);
     const JsonSection section(QStringLiteral("%1, %2,").arg(place, Quoted(name)), value, keys);
 
+    // Such a name could not be told in a list of names.
+    if (name.contains(QLatin1Char(',')))
+        section.Fail(QStringLiteral("has a comma in its name"));
+
     ParametersDef record;
     record.m_strName = name;
     const QString type = section.Text(TypeKey, TypeWords[ScalarType]);
