@@ -58,7 +58,7 @@ MessageDock::MessageDock(QWidget* parent)
     m_view->horizontalHeader()->setStretchLastSection(true);
     const int letter = m_view->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     m_view->setColumnWidth(TimeColumn, 11 * letter);
-    m_view->setColumnWidth(LevelColumn, 14 * letter);
+    m_view->setColumnWidth(LevelColumn, 12 * letter);
     m_view->setColumnWidth(CountColumn, 8 * letter);
 
     auto* const copy = new QAction(tr("Copy"), m_view);

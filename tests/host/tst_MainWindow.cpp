@@ -103,8 +103,14 @@ void TypeIntoCell(QTableWidget& table, int row, int column, const QString& text)
     QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
                       table.visualItemRect(table.item(row, column)).center());
     QTest::keyClick(table.viewport(), Qt::Key_F2);
-    auto* const edit = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    QVERIFY(edit != nullptr && table.viewport()->isAncestorOf(edit));
+    QLineEdit* edit = nullptr;
+    // An editor that is done is hidden first and deleted later.
+    const QList<QLineEdit*> edits = table.viewport()->findChildren<QLineEdit*>();
+    for (QLineEdit* const child : edits) {
+        if (child->isVisible())
+            edit = child;
+    }
+    QVERIFY(edit != nullptr);
     edit->selectAll();
     QTest::keyClicks(edit, text);
     QTest::keyClick(edit, Qt::Key_Return);

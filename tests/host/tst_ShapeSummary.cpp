@@ -58,12 +58,14 @@ void tst_ShapeSummary::AFailureKeepsTheLastGoodShape()
 {
     ShapeSummary summary(nullptr);
     ShowBlock(summary);
-    const QImage picture = Find<QWidget>(summary, "shapePicture").grab().toImage();
+    auto& drawing = Find<QWidget>(summary, "shapePicture");
+    drawing.setFixedSize(300, 200);
+    const QImage picture = drawing.grab().toImage();
     summary.ShowFailure("the bore is too large");
     QVERIFY(Shown(summary, "label_Status").contains("the bore is too large"));
     QVERIFY(Shown(summary, "label_Status").contains("last good shape"));
     QCOMPARE(Shown(summary, "label_Volume"), QStringLiteral("1000 cm³"));
-    QCOMPARE(Find<QWidget>(summary, "shapePicture").grab().toImage(), picture);
+    QCOMPARE(drawing.grab().toImage(), picture);
 }
 
 void tst_ShapeSummary::AFailureWithoutAnEarlierShapeSaysSo()
