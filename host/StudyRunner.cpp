@@ -11,6 +11,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
 #include <QPushButton>
 #include <QTableWidget>
@@ -68,6 +69,7 @@ public:
         m_project.FillStores();
         FailOnNotices();
         m_dialog = std::make_unique<DOEDlg>(nullptr);
+        FailOnNotices();
         m_session = std::make_unique<DoeSession>(*m_dialog);
         QObject::connect(m_session.get(), &DoeSession::RunReady, [this] { m_isReady = true; });
         Button("pushButton_RefreshData").click();
@@ -87,7 +89,7 @@ public:
             problems << problem;
         if (!m_isReady && problems.isEmpty())
             problems << QStringLiteral("The run could not be chosen.");
-        return problems.join(QStringLiteral("; "));
+        return problems.join(QStringLiteral("; ")).simplified();
     }
 
 private:
@@ -124,6 +126,7 @@ QString StepPath(const QDir& directory, int run)
 RunResult BuildRun(Study& study, int run, double density, const QString& stepPath)
 {
     RunResult result;
+    QFile::remove(stepPath); // Whatever stands there, it is not this run's part.
     result.error = study.Choose(run);
     result.values = ParameterValues();
     if (!result.error.isEmpty())

@@ -5,7 +5,8 @@
 #include "Screenshots.h"
 #include "StudyRunner.h"
 
-#include <QTextStream>
+#include <QTextCodec>
+#include <Standard_Failure.hxx>
 
 #include <cstdio>
 #include <cstdlib>
@@ -93,6 +94,11 @@ int Act(const CommandLine& line)
     }
 }
 
+void Refuse(const char* reason)
+{
+    Print(stderr, QStringLiteral("tarnhost: %1\n").arg(QString::fromUtf8(reason)));
+}
+
 QStringList Arguments(int argc, char** argv)
 {
     QStringList arguments;
@@ -105,6 +111,8 @@ QStringList Arguments(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    // Even before the application object says so: file names in the arguments are UTF-8.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     try {
         const CommandLine line = CommandLine::Parse(Arguments(argc, argv));
         ChoosePlatform(line);
@@ -112,8 +120,10 @@ int main(int argc, char** argv)
             qInstallMessageHandler(DropDesktopWarnings);
         HostApplication application(argc, argv);
         return Act(line);
+    } catch (const Standard_Failure& failure) {
+        Refuse(failure.GetMessageString());
     } catch (const std::exception& error) {
-        Print(stderr, QStringLiteral("tarnhost: %1\n").arg(QString::fromUtf8(error.what())));
-        return BadInputCode;
+        Refuse(error.what());
     }
+    return BadInputCode;
 }

@@ -5,10 +5,10 @@ QString ExpressionError::Text() const
     return QStringLiteral("Position %1: %2").arg(QString::number(position), reason);
 }
 
-QString ExpressionError::Shown(const std::string& part)
+QString ExpressionError::Shown(std::string_view part)
 {
     constexpr int MaxShown = 40;
-    QString text = QString::fromStdString(part);
+    QString text = QString::fromUtf8(part.data(), int(part.size()));
     if (text.size() == 1 && !text.at(0).isPrint())
         return QStringLiteral("the character with code %1").arg(text.at(0).unicode());
     if (text.size() > MaxShown) {

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include <string>
+#include <string_view>
 
 /// Why an expression has no value.
 struct ExpressionError
@@ -15,5 +15,5 @@ struct ExpressionError
 
     /// A part of an expression, in UTF-8, as messages quote it: shortened, and without control
     /// characters.
-    static QString Shown(const std::string& part);
+    static QString Shown(std::string_view part);
 };

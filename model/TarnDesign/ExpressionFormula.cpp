@@ -1,7 +1,7 @@
 #include "ExpressionFormula.h"
 
 // Capitals only, which no function uses: A to Z, AA to ZZ, AAA and so on.
-std::string ExpressionFormula::NameOfValue(std::size_t index)
+std::string ExpressionFormula::NameInText(std::size_t index)
 {
     constexpr std::size_t Letters = 26;
     std::string name;

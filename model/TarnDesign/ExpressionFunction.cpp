@@ -82,11 +82,11 @@ constexpr std::array Functions = {
 
 } // namespace
 
-const ExpressionFunction* ExpressionFunction::Find(const std::string& name)
+const ExpressionFunction* ExpressionFunction::Find(std::string_view name)
 {
     const auto* const found =
         std::lower_bound(Functions.begin(), Functions.end(), name,
-                         [](const ExpressionFunction& function, const std::string& wanted) {
+                         [](const ExpressionFunction& function, std::string_view wanted) {
                              return wanted.compare(function.name) > 0;
                          });
     return found != Functions.end() && name == found->name ? found : nullptr;

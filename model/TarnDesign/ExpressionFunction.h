@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string>
+#include <string_view>
 
 namespace mu {
 class ParserBase;
@@ -16,5 +16,5 @@ struct ExpressionFunction
     void (*define)(mu::ParserBase& parser, const char* name);
 
     /// The function named @p name, or null.
-    static const ExpressionFunction* Find(const std::string& name);
+    static const ExpressionFunction* Find(std::string_view name);
 };

@@ -27,5 +27,5 @@ private:
     bool Bind(const std::map<std::string, double>& variables, ExpressionError& error);
 
     ExpressionFormula m_formula;
-    std::unique_ptr<Parser> m_parser; // Refers to the values of the formula.
+    std::unique_ptr<Parser> m_parser; // Refers to the variables of the formula.
 };

@@ -1,10 +1,17 @@
 #include "ExpressionScanner.h"
 
 #include <charconv>
-#include <string_view>
 #include <system_error>
 
 namespace {
+
+using Kind = ExpressionScanner::Kind;
+
+struct Piece
+{
+    Kind kind;
+    std::size_t length;
+};
 
 bool IsBlank(char c)
 {
@@ -23,31 +30,64 @@ bool IsLetter(char c)
            static_cast<unsigned char>(c) >= 0x80;
 }
 
-ExpressionScanner::Kind KindOfSign(char sign)
+Piece Name(std::string_view rest)
 {
-    using Kind = ExpressionScanner::Kind;
-    switch (sign) {
+    std::size_t length = 1;
+    while (length < rest.size() && (IsLetter(rest[length]) || IsDigit(rest[length])))
+        ++length;
+    return {Kind::Name, length};
+}
+
+Piece Number(std::string_view rest)
+{
+    double number = 0.0;
+    // Unlike the C library it reads a full stop as decimal sign under every locale.
+    const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), number);
+    if (error == std::errc::invalid_argument)
+        return {Kind::Unknown, 1};
+    return {error == std::errc() ? Kind::Number : Kind::NumberOutOfRange,
+            std::size_t(end - rest.data())};
+}
+
+// The first piece of what is left, which does not begin with a blank.
+Piece FirstPiece(std::string_view rest)
+{
+    if (rest.empty())
+        return {Kind::End, 0};
+    const char first = rest[0];
+    const char second = rest.size() > 1 ? rest[1] : '\0';
+    switch (first) {
+    case '(':
+        return {Kind::Open, 1};
+    case ')':
+        return {Kind::Close, 1};
     case '+':
     case '-':
     case '*':
     case '/':
     case '^':
+        return {Kind::Operator, 1};
     case '<':
     case '>':
-        return Kind::Operator;
+        return {Kind::Operator, second == '=' ? std::size_t(2) : std::size_t(1)};
+    case '=':
+    case '!':
+        return second == '=' ? Piece{Kind::Operator, 2} : Piece{Kind::Unknown, 1};
+    case '&':
+    case '|':
+        return second == first ? Piece{Kind::Operator, 2} : Piece{Kind::Unknown, 1};
     case '?':
-        return Kind::Condition;
+        return {Kind::Condition, 1};
     case ':':
-        return Kind::Otherwise;
-    case '(':
-        return Kind::Open;
-    case ')':
-        return Kind::Close;
+        return {Kind::Otherwise, 1};
     case ',':
-        return Kind::Comma;
+        return {Kind::Comma, 1};
     default:
-        return Kind::Unknown;
+        break;
     }
+    if (IsLetter(first))
+        return Name(rest);
+    return IsDigit(first) || first == '.' ? Number(rest) : Piece{Kind::Unknown, 1};
 }
 
 } // namespace
@@ -61,44 +101,9 @@ ExpressionScanner::Token ExpressionScanner::Next()
 
 ExpressionScanner::Token ExpressionScanner::Peek() const
 {
-    ExpressionScanner ahead(*this);
-    while (ahead.m_offset < m_text.size() && IsBlank(m_text[ahead.m_offset]))
-        ++ahead.m_offset;
-    if (ahead.m_offset == m_text.size())
-        return {Kind::End, ahead.m_offset, 0};
-    const char first = m_text[ahead.m_offset];
-    if (IsDigit(first) || first == '.')
-        return ahead.ScanNumber();
-    return IsLetter(first) ? ahead.ScanName() : ahead.ScanSign();
-}
-
-ExpressionScanner::Token ExpressionScanner::ScanNumber() const
-{
-    const char* const begin = m_text.data() + m_offset;
-    double number = 0.0;
-    // Unlike the C library it reads a full stop as decimal sign under every locale.
-    const auto [end, error] = std::from_chars(begin, m_text.data() + m_text.size(), number);
-    if (error == std::errc::invalid_argument)
-        return {Kind::Unknown, m_offset, 1};
-    return {error == std::errc() ? Kind::Number : Kind::NumberOutOfRange, m_offset,
-            std::size_t(end - begin), number};
-}
-
-ExpressionScanner::Token ExpressionScanner::ScanName() const
-{
-    std::size_t end = m_offset;
-    while (end < m_text.size() && (IsLetter(m_text[end]) || IsDigit(m_text[end])))
-        ++end;
-    return {Kind::Name, m_offset, end - m_offset};
-}
-
-ExpressionScanner::Token ExpressionScanner::ScanSign() const
-{
-    using namespace std::string_view_literals;
-    const std::string_view two = std::string_view(m_text).substr(m_offset, 2);
-    for (const std::string_view sign : {"<="sv, ">="sv, "=="sv, "!="sv, "&&"sv, "||"sv}) {
-        if (two == sign)
-            return {Kind::Operator, m_offset, 2};
-    }
-    return {KindOfSign(m_text[m_offset]), m_offset, 1};
+    std::size_t begin = m_offset;
+    while (begin < m_text.size() && IsBlank(m_text[begin]))
+        ++begin;
+    const Piece piece = FirstPiece(m_text.substr(begin));
+    return {piece.kind, begin, piece.length};
 }

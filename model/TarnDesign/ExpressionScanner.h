@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
+#include <string_view>
 
 /// Cuts the text of an expression, in UTF-8, into tokens.
 class ExpressionScanner
@@ -27,11 +27,10 @@ public:
         Kind kind = Kind::End;
         std::size_t begin = 0;
         std::size_t length = 0;
-        double number = 0.0;
     };
 
     /// @p text must outlive the scanner.
-    explicit ExpressionScanner(const std::string& text)
+    explicit ExpressionScanner(std::string_view text)
         : m_text(text)
     {
     }
@@ -42,16 +41,12 @@ public:
     /// The token after that, without moving on.
     Token Peek() const;
 
-    std::string TextOf(const Token& token) const
+    std::string_view TextOf(const Token& token) const
     {
         return m_text.substr(token.begin, token.length);
     }
 
 private:
-    Token ScanNumber() const;
-    Token ScanName() const;
-    Token ScanSign() const;
-
-    const std::string& m_text;
+    std::string_view m_text;
     std::size_t m_offset = 0;
 };

@@ -8,13 +8,21 @@
 namespace {
 
 constexpr int Latin1Mib = 4;
+constexpr int Utf8Mib = 106;
 
-bool IsLossless(const QTextCodec& codec, const std::string& bytes, const QString& text,
-                const QTextCodec::ConverterState& state)
+// A byte order mark is a character like any other, or it would be lost.
+constexpr QTextCodec::ConversionFlag KeepAll = QTextCodec::IgnoreHeader;
+
+QString Decoded(const QTextCodec& codec, const std::string& bytes)
 {
-    if (state.invalidChars != 0 || state.remainingChars != 0)
-        return false;
-    return codec.fromUnicode(text).toStdString() == bytes;
+    QTextCodec::ConverterState state(KeepAll);
+    return codec.toUnicode(bytes.data(), int(bytes.size()), &state);
+}
+
+std::string Encoded(const QTextCodec& codec, const QString& text)
+{
+    QTextCodec::ConverterState state(KeepAll);
+    return codec.fromUnicode(text.constData(), text.size(), &state).toStdString();
 }
 
 } // namespace
@@ -26,12 +34,10 @@ ExpressionText::ExpressionText(const std::string& bytes)
         return;
     }
     m_codec = QTextCodec::codecForLocale();
-    // A byte order mark is a character like any other, or it would not come back.
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    QString text = m_codec->toUnicode(bytes.data(), int(bytes.size()), &state);
-    if (!IsLossless(*m_codec, bytes, text, state)) {
+    QString text = Decoded(*m_codec, bytes);
+    if (Encoded(*m_codec, text) != bytes) {
         m_codec = QTextCodec::codecForMib(Latin1Mib);
-        text = QString::fromLatin1(bytes.data(), int(bytes.size()));
+        text = Decoded(*m_codec, bytes);
     }
     m_utf8 = text.toStdString();
 }
@@ -40,16 +46,18 @@ std::string ExpressionText::LocalName(const std::string& name) const
 {
     if (m_codec == nullptr || IsAscii(name))
         return name;
-    return m_codec->fromUnicode(QString::fromStdString(name)).toStdString();
+    return Encoded(*m_codec, Decoded(*QTextCodec::codecForMib(Utf8Mib), name));
 }
 
 int ExpressionText::PositionOf(std::size_t offset) const
 {
-    const auto end = m_utf8.begin() + std::ptrdiff_t(std::min(offset, m_utf8.size()));
+    if (m_codec == nullptr)
+        return int(offset) + 1;
     const auto isFirstByte = [](char byte) {
         return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
     };
-    return 1 + int(std::count_if(m_utf8.begin(), end, isFirstByte));
+    return 1 +
+           int(std::count_if(m_utf8.begin(), m_utf8.begin() + std::ptrdiff_t(offset), isFirstByte));
 }
 
 bool ExpressionText::IsAscii(const std::string& bytes)

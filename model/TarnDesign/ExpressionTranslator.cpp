@@ -20,13 +20,13 @@ constexpr std::array<Constant, 2> Constants = {{
     {"pi", 3.14159265358979323846},
 }};
 
-const Constant* FindConstant(const std::string& name)
+std::optional<double> FindConstant(std::string_view name)
 {
     for (const Constant& constant : Constants) {
         if (name == constant.name)
-            return &constant;
+            return constant.value;
     }
-    return nullptr;
+    return std::nullopt;
 }
 
 } // namespace
@@ -67,7 +67,7 @@ bool ExpressionTranslator::TakeValue(const Token& token)
 {
     switch (token.kind) {
     case Kind::Number:
-        Write(ExpressionFormula::NameOfValue(NewValue(token.number)));
+        Write(m_scanner.TextOf(token));
         m_needsValue = false;
         return true;
     case Kind::Name:
@@ -123,33 +123,31 @@ bool ExpressionTranslator::TakeOperator(const Token& token)
 
 bool ExpressionTranslator::TakeName(const Token& token)
 {
-    std::string name = m_scanner.TextOf(token);
-    const auto [entry, isNew] = m_valueOfName.emplace(name, m_formula.values.size());
+    std::string name(m_scanner.TextOf(token));
+    const auto [entry, isNew] = m_variableOfName.emplace(name, m_formula.variables.size());
     if (isNew) {
-        const Constant* const constant = FindConstant(name);
-        const double value = constant != nullptr ? constant->value : 0.0;
         std::string key = m_text.LocalName(name);
-        m_formula.variables.push_back({std::move(name), std::move(key),
-                                       m_text.PositionOf(token.begin), NewValue(value),
-                                       constant != nullptr, value});
+        const std::optional<double> constant = FindConstant(name);
+        m_formula.variables.push_back(
+            {std::move(name), std::move(key), m_text.PositionOf(token.begin), constant});
     }
-    Write(ExpressionFormula::NameOfValue(entry->second));
+    Write(ExpressionFormula::NameInText(entry->second));
     m_needsValue = false;
     return true;
 }
 
 bool ExpressionTranslator::TakeCall(const Token& token)
 {
-    const std::string name = m_scanner.TextOf(token);
+    const std::string_view name = m_scanner.TextOf(token);
     const ExpressionFunction* const function = ExpressionFunction::Find(name);
     if (function == nullptr)
         return Refuse(token.begin, QStringLiteral("there is no function %1").arg(Shown(token)));
     auto& calls = m_formula.calls;
-    const auto isSame = [&name](const ExpressionFormula::Call& call) {
-        return call.name == name;
+    const auto isSame = [function](const auto& call) {
+        return call.function == function;
     };
     if (std::none_of(calls.begin(), calls.end(), isSame))
-        calls.push_back({name, function, m_text.PositionOf(token.begin)});
+        calls.push_back({function, m_text.PositionOf(token.begin)});
     m_scanner.Next(); // The bracket.
     Write(name);
     Open(Kind::Open, token, function);
@@ -222,18 +220,12 @@ void ExpressionTranslator::Open(Kind kind, const Token& token, const ExpressionF
 }
 
 // A minus sign is held back until its value comes.
-void ExpressionTranslator::Write(const std::string& text)
+void ExpressionTranslator::Write(std::string_view text)
 {
     if (m_isNegated)
         m_formula.text += '-';
     m_isNegated = false;
     m_formula.text += text;
-}
-
-std::size_t ExpressionTranslator::NewValue(double value)
-{
-    m_formula.values.push_back(value);
-    return m_formula.values.size() - 1;
 }
 
 bool ExpressionTranslator::Refuse(std::size_t offset, const QString& reason)

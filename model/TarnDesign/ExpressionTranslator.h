@@ -8,6 +8,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class ExpressionText;
@@ -59,8 +60,7 @@ private:
     bool CheckArguments(const Frame& call);
 
     void Open(Kind kind, const Token& token, const ExpressionFunction* function = nullptr);
-    void Write(const std::string& text);
-    std::size_t NewValue(double value);
+    void Write(std::string_view text);
     bool Refuse(std::size_t offset, const QString& reason);
     bool RefuseUnclosed(const Frame& frame);
     QString Shown(const Token& token) const;
@@ -70,7 +70,7 @@ private:
     ExpressionFormula m_formula;
     ExpressionError m_error;
     std::vector<Frame> m_open;
-    std::map<std::string, std::size_t> m_valueOfName;
+    std::map<std::string, std::size_t> m_variableOfName;
     bool m_isEmpty = true;
     bool m_needsValue = true;
     bool m_isNegated = false;

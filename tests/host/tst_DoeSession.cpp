@@ -1,6 +1,7 @@
 #include "DOEDlg.h"
 #include "DoeSession.h"
 #include "DrawerOutput.h"
+#include "EmptyDesignStores.h"
 #include "GlobalParaMeterMgr.h"
 #include "ModalDriver.h"
 #include "TestCase.h"
@@ -16,7 +17,6 @@ class tst_DoeSession : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void TicksStandInTheRowsOfTheirParameters();
     void ParametersOutsideTheRunGetTheirRecordsBack();
     void ExpressionsFollowTheRun();
@@ -43,6 +43,20 @@ static void Add(const QString& name, double value, const char* expression = "",
     record.m_strDescription = "about " + name;
     GlobalParaMeterMgr::AddParameter(name, record);
 }
+
+/// Four parameters, one of them an expression. Not in the order of their names, which is the
+/// registry's.
+class BoxInStores : public EmptyDesignStores
+{
+public:
+    BoxInStores()
+    {
+        Add("width", 10.0);
+        Add("depth", 20.0);
+        Add("area", 200.0, "width*depth", "width,depth");
+        Add("height", 5.0);
+    }
+};
 
 static void Tick(const QString& name, const std::vector<double>& values)
 {
@@ -82,19 +96,9 @@ static void Run(DOEDlg& dialog, const std::function<void(QDialog&)>& step)
     QCOMPARE(user.Boxes(), QVector<ShownBox>());
 }
 
-void tst_DoeSession::init()
-{
-    GlobalParaMeterMgr::m_nameMapParameters.clear();
-    g_mapParaArrays.clear();
-    // Not in the order of their names, which is the registry's.
-    Add("width", 10.0);
-    Add("depth", 20.0);
-    Add("area", 200.0, "width*depth", "width,depth");
-    Add("height", 5.0);
-}
-
 void tst_DoeSession::TicksStandInTheRowsOfTheirParameters()
 {
+    const BoxInStores stores;
     Tick("depth", {1.0});
     g_mapParaArrays["width"].bChecked = 0;
     DOEDlg dialog(nullptr);
@@ -109,6 +113,7 @@ void tst_DoeSession::TicksStandInTheRowsOfTheirParameters()
 
 void tst_DoeSession::ParametersOutsideTheRunGetTheirRecordsBack()
 {
+    const BoxInStores stores;
     Tick("width", {11.0, 12.0});
     DOEDlg dialog(nullptr);
     DoeSession session(dialog);
@@ -123,6 +128,7 @@ void tst_DoeSession::ParametersOutsideTheRunGetTheirRecordsBack()
 
 void tst_DoeSession::ExpressionsFollowTheRun()
 {
+    const BoxInStores stores;
     Tick("width", {11.0, 12.0});
     DOEDlg dialog(nullptr);
     DoeSession session(dialog);
@@ -133,6 +139,7 @@ void tst_DoeSession::ExpressionsFollowTheRun()
 
 void tst_DoeSession::ATickedParameterWithAnExpressionKeepsTheRunsValue()
 {
+    const BoxInStores stores;
     Add("volume", 0.0, "area*height", "area,height");
     Tick("area", {7.0});
     DOEDlg dialog(nullptr);
@@ -146,6 +153,7 @@ void tst_DoeSession::ATickedParameterWithAnExpressionKeepsTheRunsValue()
 
 void tst_DoeSession::ParametersOutsideEveryRunStayThroughSeveralRuns()
 {
+    const BoxInStores stores;
     Tick("width", {11.0, 12.0});
     Tick("depth", {21.0, 22.0});
     DOEDlg dialog(nullptr);
@@ -162,6 +170,7 @@ void tst_DoeSession::ParametersOutsideEveryRunStayThroughSeveralRuns()
 
 void tst_DoeSession::ATickTakenInTheDialogCounts()
 {
+    const BoxInStores stores;
     Tick("width", {11.0});
     g_mapParaArrays["height"].strName = "height";
     g_mapParaArrays["height"].vecValues = {6.0};
@@ -178,6 +187,7 @@ void tst_DoeSession::ATickTakenInTheDialogCounts()
 
 void tst_DoeSession::TheRunIsCompleteBeforeTheHostHears()
 {
+    const BoxInStores stores;
     Tick("width", {11.0});
     DOEDlg dialog(nullptr);
     DoeSession session(dialog);
@@ -190,6 +200,7 @@ void tst_DoeSession::TheRunIsCompleteBeforeTheHostHears()
 
 void tst_DoeSession::TheChannelTellsARunOnce()
 {
+    const BoxInStores stores;
     Tick("width", {11.5});
     DOEDlg dialog(nullptr);
     DoeSession session(dialog);
@@ -204,6 +215,7 @@ void tst_DoeSession::TheChannelTellsARunOnce()
 
 void tst_DoeSession::ProblemsAreToldAndKept()
 {
+    const BoxInStores stores;
     Add("bad", 1.0, "x", "x");
     Tick("width", {11.0});
     DOEDlg dialog(nullptr);
@@ -221,6 +233,7 @@ void tst_DoeSession::ProblemsAreToldAndKept()
 
 void tst_DoeSession::RestoreBringsAllRecordsBack()
 {
+    const BoxInStores stores;
     Tick("width", {11.0});
     DOEDlg dialog(nullptr);
     DoeSession session(dialog);
@@ -237,6 +250,7 @@ void tst_DoeSession::RestoreBringsAllRecordsBack()
 
 void tst_DoeSession::AParameterRemovedMeanwhileComesBack()
 {
+    const BoxInStores stores;
     DOEDlg dialog(nullptr);
     DoeSession session(dialog);
     GlobalParaMeterMgr::m_nameMapParameters.erase("depth");

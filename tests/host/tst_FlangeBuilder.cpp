@@ -1,3 +1,4 @@
+#include "EmptyDesignStores.h"
 #include "FlangeBuilder.h"
 #include "GlobalParaMeterMgr.h"
 #include "ShapeMeasures.h"
@@ -42,7 +43,7 @@ static FlangeDimensions Flange()
     return flange;
 }
 
-static double Square(double x)
+static double Squared(double x)
 {
     return x * x;
 }
@@ -51,11 +52,12 @@ static double Square(double x)
 static double Volume(const FlangeDimensions& f)
 {
     const double plate =
-        Square(f.outerDiameter) - Square(f.boreDiameter) - f.boltCount * Square(f.boltHole);
-    const double hub = Square(f.hubDiameter) - Square(f.boreDiameter);
+        Squared(f.outerDiameter) - Squared(f.boreDiameter) - f.boltCount * Squared(f.boltHole);
+    const double hub = Squared(f.hubDiameter) - Squared(f.boreDiameter);
     const double r = f.filletRadius;
     const double ring =
-        2.0 * Pi * ((f.hubDiameter / 2.0 + r) * Square(r) * (1.0 - Pi / 4.0) - Square(r) * r / 6.0);
+        2.0 * Pi *
+        ((f.hubDiameter / 2.0 + r) * Squared(r) * (1.0 - Pi / 4.0) - Squared(r) * r / 6.0);
     return Pi / 4.0 * (plate * f.thickness + hub * f.hubHeight) + ring;
 }
 
@@ -80,7 +82,6 @@ static void Store(const char* name, double value)
 
 static void StoreFlange()
 {
-    GlobalParaMeterMgr::m_nameMapParameters.clear();
     const FlangeDimensions flange = Flange();
     Store("outer_diameter", flange.outerDiameter);
     Store("bore_diameter", flange.boreDiameter);
@@ -128,6 +129,7 @@ void tst_FlangeBuilder::ThePartStandsWhereItIsToldToStand()
 
 void tst_FlangeBuilder::TheMeasuresComeFromTheStore()
 {
+    const EmptyDesignStores stores;
     StoreFlange();
     // What expressions see counts: the raw value.
     GlobalParaMeterMgr::m_nameMapParameters["thickness"].m_varRawValue = 25.0;
@@ -139,6 +141,7 @@ void tst_FlangeBuilder::TheMeasuresComeFromTheStore()
 
 void tst_FlangeBuilder::TheFilletMayBeMissingInTheStore()
 {
+    const EmptyDesignStores stores;
     StoreFlange();
     GlobalParaMeterMgr::m_nameMapParameters.erase("fillet_radius");
     QCOMPARE(FlangeBuilder::ReadDimensions().filletRadius, 0.0);
@@ -146,6 +149,7 @@ void tst_FlangeBuilder::TheFilletMayBeMissingInTheStore()
 
 void tst_FlangeBuilder::AMissingParameterIsTold()
 {
+    const EmptyDesignStores stores;
     StoreFlange();
     GlobalParaMeterMgr::m_nameMapParameters.erase("bolt_hole");
     try {

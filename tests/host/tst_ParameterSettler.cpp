@@ -1,3 +1,4 @@
+#include "EmptyDesignStores.h"
 #include "GlobalParaMeterMgr.h"
 #include "ParameterSettler.h"
 #include "TestCase.h"
@@ -9,7 +10,6 @@ class tst_ParameterSettler : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void PlainParametersAreLeftAlone();
     void AnExpressionFillsValueRawValueAndText();
     void TheOrderOfTheStoreDoesNotMatter();
@@ -59,13 +59,9 @@ static QStringList Messages(const QSet<QString>& held = {})
     return messages;
 }
 
-void tst_ParameterSettler::init()
-{
-    GlobalParaMeterMgr::m_nameMapParameters.clear();
-}
-
 void tst_ParameterSettler::PlainParametersAreLeftAlone()
 {
+    const EmptyDesignStores stores;
     Add("a", "", "nobody", 2.0);
     QCOMPARE(Messages(), QStringList());
     QCOMPARE(Value("a"), 2.0);
@@ -74,6 +70,7 @@ void tst_ParameterSettler::PlainParametersAreLeftAlone()
 
 void tst_ParameterSettler::AnExpressionFillsValueRawValueAndText()
 {
+    const EmptyDesignStores stores;
     Add("a", "", "", 411522.0);
     Add("b", "a*3+1", "a");
     QCOMPARE(Messages(), QStringList());
@@ -84,6 +81,7 @@ void tst_ParameterSettler::AnExpressionFillsValueRawValueAndText()
 
 void tst_ParameterSettler::TheOrderOfTheStoreDoesNotMatter()
 {
+    const EmptyDesignStores stores;
     Add("d", "b+c", "b,c");
     Add("c", "b*2", "b");
     Add("b", "a+1", "a");
@@ -96,6 +94,7 @@ void tst_ParameterSettler::TheOrderOfTheStoreDoesNotMatter()
 
 void tst_ParameterSettler::NothingIsTrimmedAndEmptyNamesArePassedOver()
 {
+    const EmptyDesignStores stores;
     Add("a", "", "", 1.0);
     Add("b", "a+1", "a,,");
     Add("c", "a+1", "a, b");
@@ -105,6 +104,7 @@ void tst_ParameterSettler::NothingIsTrimmedAndEmptyNamesArePassedOver()
 
 void tst_ParameterSettler::AnExpressionNeedsNoNames()
 {
+    const EmptyDesignStores stores;
     Add("a", "2*3", "");
     QCOMPARE(Messages(), QStringList());
     QCOMPARE(Value("a"), 6.0);
@@ -112,6 +112,7 @@ void tst_ParameterSettler::AnExpressionNeedsNoNames()
 
 void tst_ParameterSettler::AnUnknownNameIsToldAndTheRecordKeepsItsValue()
 {
+    const EmptyDesignStores stores;
     Add("a", "x1*2", "x1", 7.0);
     Add("b", "a+1", "a");
     QCOMPARE(Messages(), QStringList("a: its expression uses \"x1\", which is no parameter"));
@@ -121,6 +122,7 @@ void tst_ParameterSettler::AnUnknownNameIsToldAndTheRecordKeepsItsValue()
 
 void tst_ParameterSettler::AnExpressionWithoutValueIsToldAndGivesNaN()
 {
+    const EmptyDesignStores stores;
     Add("a", "2*(3", "", 7.0);
     const QStringList messages = Messages();
     QCOMPARE(messages.size(), 1);
@@ -133,6 +135,7 @@ void tst_ParameterSettler::AnExpressionWithoutValueIsToldAndGivesNaN()
 
 void tst_ParameterSettler::WhatHandsAFailureOnIsNotTold()
 {
+    const EmptyDesignStores stores;
     Add("c", "b*2", "b");
     Add("b", "a*2", "a");
     Add("a", "1/0", "");
@@ -156,6 +159,7 @@ void tst_ParameterSettler::ACycleIsNamed_data()
 
 void tst_ParameterSettler::ACycleIsNamed()
 {
+    const EmptyDesignStores stores;
     QFETCH(QStringList, uses);
     QFETCH(QString, cycle);
     const QStringList names = {"a", "b", "c", "d"};
@@ -167,6 +171,7 @@ void tst_ParameterSettler::ACycleIsNamed()
 
 void tst_ParameterSettler::EachCycleIsToldOnce()
 {
+    const EmptyDesignStores stores;
     Add("a", "b", "b");
     Add("b", "a", "a");
     Add("c", "d+a", "d,a");
@@ -177,6 +182,7 @@ void tst_ParameterSettler::EachCycleIsToldOnce()
 
 void tst_ParameterSettler::ALongCycleIsToldInShort()
 {
+    const EmptyDesignStores stores;
     constexpr int Length = 50000;
     for (int i = 0; i < Length; ++i)
         Add(QString("p%1").arg(i), "1", QString("p%1").arg((i + 1) % Length));
@@ -187,6 +193,7 @@ void tst_ParameterSettler::ALongCycleIsToldInShort()
 
 void tst_ParameterSettler::WhatStandsBesideACycleIsSettled()
 {
+    const EmptyDesignStores stores;
     Add("a", "b", "b", 3.0);
     Add("b", "a", "a", 4.0);
     Add("c", "a+1", "a");
@@ -199,6 +206,7 @@ void tst_ParameterSettler::WhatStandsBesideACycleIsSettled()
 
 void tst_ParameterSettler::HeldParametersKeepTheirValues()
 {
+    const EmptyDesignStores stores;
     Add("a", "", "", 1.0);
     Add("b", "a*10", "a", 7.0);
     Add("c", "b*10", "b");
@@ -209,6 +217,7 @@ void tst_ParameterSettler::HeldParametersKeepTheirValues()
 
 void tst_ParameterSettler::AHeldParameterOpensACycle()
 {
+    const EmptyDesignStores stores;
     Add("a", "b+1", "b");
     Add("b", "a+1", "a", 7.0);
     QCOMPARE(Messages({"b"}), QStringList());
@@ -217,6 +226,7 @@ void tst_ParameterSettler::AHeldParameterOpensACycle()
 
 void tst_ParameterSettler::AChainOfAHundredThousandIsSettled()
 {
+    const EmptyDesignStores stores;
     // Against the store's order, so that each waits for all that follow.
     constexpr int Length = 100000;
     for (int i = 0; i < Length; ++i)

@@ -1,3 +1,4 @@
+#include "EmptyDesignStores.h"
 #include "GlobalParaMeterMgr.h"
 #include "ModalDriver.h"
 #include "Project.h"
@@ -150,6 +151,7 @@ void tst_Project::LittleIsNeeded()
 
 void tst_Project::TheStoresAreReplaced()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     GlobalParaMeterMgr::AddParameter("old", {});
     g_mapParaArrays["old"].bChecked = 1;
@@ -161,6 +163,7 @@ void tst_Project::TheStoresAreReplaced()
 
 void tst_Project::ParametersKeepTheOrderOfTheFile()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     Project::Load(Write(WithParameter(R"({"name": "c", "value": 1}, {"name": "a", "value": 1},
                                          {"name": "b", "value": 1})")))
@@ -189,6 +192,7 @@ void tst_Project::RangesGoThroughTheSamplingDialog_data()
 
 void tst_Project::RangesGoThroughTheSamplingDialog()
 {
+    const EmptyDesignStores stores;
     QFETCH(QByteArray, entries);
     QFETCH(QVector<double>, values);
     EnterTemporaryDirectory();
@@ -205,6 +209,7 @@ void tst_Project::RangesGoThroughTheSamplingDialog()
 
 void tst_Project::SingleValuesAreTakenAsTheyAre()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     Project::Load(Write(WithSamples(R"({"parameter": "a", "values": [8, 4.123456789, 8]})")))
         .FillStores();
@@ -216,6 +221,7 @@ void tst_Project::SingleValuesAreTakenAsTheyAre()
 
 void tst_Project::ARangeThatTheDialogRefusesShowsItsNotice()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     ModalDriver user;
     Project::Load(Write(WithSamples(
@@ -233,7 +239,7 @@ void tst_Project::BadFilesAreToldInOneLine_data()
         QTest::newRow(name) << content << QString("p.json: %1").arg(reason);
     };
     row("empty", "", "is no valid JSON: illegal value at byte 0");
-    row("broken", "{\"version\": 1,", "is no valid JSON: unterminated object at byte 13");
+    row("broken", "{\"version\": 1,", "is no valid JSON: unterminated object at byte 14");
     row("trailing text", "{} x", "is no valid JSON: garbage at the end of the document at byte 3");
     row("a list", "[]", "the project is no object");
     row("no version", "{}", "the project has no \"version\"");

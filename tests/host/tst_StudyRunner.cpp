@@ -1,4 +1,5 @@
 #include "DOEDlg.h"
+#include "EmptyDesignStores.h"
 #include "GlobalParaMeterMgr.h"
 #include "Project.h"
 #include "ResultsTable.h"
@@ -105,13 +106,14 @@ static ResultsTable Results()
     return table;
 }
 
-static double Square(double x)
+static double Squared(double x)
 {
     return x * x;
 }
 
 void tst_StudyRunner::EveryRunIsBuiltAndWritten()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     const Outcome outcome = RunStudy(Flange());
     QCOMPARE(outcome.error, QString());
@@ -129,6 +131,7 @@ void tst_StudyRunner::EveryRunIsBuiltAndWritten()
 
 void tst_StudyRunner::ARunHoldsWhatItsPartHas()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     RunStudy(Flange(), 3, 3);
     // The last name turns fastest: bore 60, 60, 70, 70 and thickness 16, 20, 16, 20.
@@ -138,7 +141,7 @@ void tst_StudyRunner::ARunHoldsWhatItsPartHas()
     QCOMPARE(run.error, QString());
     const double volume =
         std::acos(-1.0) / 4.0 *
-        ((Square(200) - Square(70) - 2 * Square(18)) * 16 + (Square(110) - Square(70)) * 24);
+        ((Squared(200) - Squared(70) - 2 * Squared(18)) * 16 + (Squared(110) - Squared(70)) * 24);
     QVERIFY(std::abs(run.measures.volume - volume) <= 1e-9 * volume);
     QCOMPARE(run.mass, run.measures.volume * 7850.0 / 1e9);
     QVERIFY(std::abs(run.measures.boundingBox[5] - 40.0) < 1e-6);
@@ -146,6 +149,7 @@ void tst_StudyRunner::ARunHoldsWhatItsPartHas()
 
 void tst_StudyRunner::ASecondCallPassesOverWhatIsDone()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     RunStudy(Flange(), 2, 3);
     const QByteArray step = Content("out/run_0002.step");
@@ -166,6 +170,7 @@ void tst_StudyRunner::ASecondCallPassesOverWhatIsDone()
 
 void tst_StudyRunner::ARunWithoutItsStepFileIsDoneAgain()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     RunStudy(Flange(), 1, 2);
     QVERIFY(QFile::remove("out/run_0001.step"));
@@ -177,6 +182,7 @@ void tst_StudyRunner::ARunWithoutItsStepFileIsDoneAgain()
 
 void tst_StudyRunner::AFailedRunDoesNotStopTheStudyAndIsTriedAgain()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     const QByteArray project = Flange("[60, 150, 70]");
     Outcome outcome = RunStudy(project, 2, 5);
@@ -198,6 +204,7 @@ void tst_StudyRunner::AFailedRunDoesNotStopTheStudyAndIsTriedAgain()
 
 void tst_StudyRunner::OnlyTheRunsAskedForAreDone()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     const Outcome outcome = RunStudy(Flange(), 2, 3);
     QCOMPARE(outcome.summary.ok, 2);
@@ -207,6 +214,7 @@ void tst_StudyRunner::OnlyTheRunsAskedForAreDone()
 
 void tst_StudyRunner::RunsThatDoNotExistAreRefused()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     const Outcome outcome = RunStudy(Flange(), 3, 5);
     QCOMPARE(outcome.error, QString("p.json: the study has the runs 1 to 4, so 3-5 cannot be run"));
@@ -230,6 +238,7 @@ void tst_StudyRunner::ResultsOfAnotherStudyAreNotTouched_data()
 
 void tst_StudyRunner::ResultsOfAnotherStudyAreNotTouched()
 {
+    const EmptyDesignStores stores;
     QFETCH(QByteArray, project);
     QFETCH(QString, reason);
     EnterTemporaryDirectory();
@@ -242,6 +251,7 @@ void tst_StudyRunner::ResultsOfAnotherStudyAreNotTouched()
 
 void tst_StudyRunner::AStudyWithoutRunsIsRefused()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     const Outcome outcome =
         RunStudy(R"({"version": 1, "parameters": [{"name": "a", "value": 1}]})");
@@ -251,6 +261,7 @@ void tst_StudyRunner::AStudyWithoutRunsIsRefused()
 
 void tst_StudyRunner::ANoticeEndsTheStudyInsteadOfBlockingIt()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     const Outcome outcome =
         RunStudy(Flange().replace("\"delta\": 4", "\"delta\": 4, \"spacing\": \"Gauss\""));
@@ -260,6 +271,7 @@ void tst_StudyRunner::ANoticeEndsTheStudyInsteadOfBlockingIt()
 
 void tst_StudyRunner::AnExpressionThatCannotBeSettledFailsTheRun()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     const Outcome outcome = RunStudy(Flange().replace("\"expressionParameters\": [\"thickness\"]",
                                                       "\"expressionParameters\": [\"height\"]"),
@@ -272,6 +284,7 @@ void tst_StudyRunner::AnExpressionThatCannotBeSettledFailsTheRun()
 
 void tst_StudyRunner::AFolderThatCannotBeMadeIsTold()
 {
+    const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     Write("a file", "out");
     QCOMPARE(RunStudy(Flange()).error, QString("out: the folder cannot be made"));

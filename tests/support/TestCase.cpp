@@ -133,6 +133,10 @@ void Click(const QWidget& parent, const char* name)
 void Type(const QWidget& parent, const char* name, const QString& text)
 {
     auto& edit = Find<QLineEdit>(parent, name);
+    // A field of a window that is not active yet would not notice that it is left.
+    edit.activateWindow();
+    if (edit.isVisible())
+        QVERIFY(QTest::qWaitForWindowActive(edit.window()));
     edit.setFocus();
     QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&edit, Qt::Key_Delete);
