@@ -25,8 +25,8 @@ namespace {
 const QString DialogFont = QStringLiteral("微软雅黑");
 
 // What the application object left behind, noted before the test framework sets its own locale.
-QByteArray g_decimalSign;
-QByteArray g_codePage;
+bool g_decimalSignIsFullStop = false;
+bool g_codePageIsUtf8 = false;
 
 const QEvent::Type FailingEvent = QEvent::Type(QEvent::registerEventType());
 
@@ -72,12 +72,12 @@ private Q_SLOTS:
 
 void tst_HostApplication::NumbersHaveAFullStopUnderEverySystemLocale()
 {
-    QCOMPARE(g_decimalSign, QByteArray("."));
+    QVERIFY(g_decimalSignIsFullStop);
 }
 
 void tst_HostApplication::EightBitTextsAreUtf8()
 {
-    QCOMPARE(g_codePage, QByteArray("UTF-8"));
+    QVERIFY(g_codePageIsUtf8);
 }
 
 void tst_HostApplication::TheDialogFontHasASubstituteThatKnowsItsCharacters()
@@ -194,8 +194,8 @@ int main(int argc, char** argv)
     qputenv("LC_ALL", "de_DE.UTF-8");
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO 8859-1"));
     HostApplication application(argc, argv);
-    g_decimalSign = std::localeconv()->decimal_point;
-    g_codePage = QTextCodec::codecForLocale()->name();
+    g_decimalSignIsFullStop = std::localeconv()->decimal_point == QByteArray(".");
+    g_codePageIsUtf8 = QTextCodec::codecForLocale()->name() == "UTF-8";
     tst_HostApplication test;
     return QTest::qExec(&test, argc, argv);
 }
