@@ -104,8 +104,8 @@ void tst_HostApplication::AnExceptionBecomesAMessage_data()
 {
     QTest::addColumn<std::function<void()>>("fail");
     QTest::addColumn<QString>("said");
-    const auto row = [](const char* name, std::function<void()> fail, const char* said) {
-        QTest::newRow(name) << std::move(fail) << QString(said);
+    const auto row = [](const char* name, const std::function<void()>& fail, const char* said) {
+        QTest::newRow(name) << fail << QString(said);
     };
     row(
         "kernel", [] { gp_Dir(0.0, 0.0, 0.0); }, "geometry kernel");
@@ -164,7 +164,10 @@ void tst_HostApplication::APostedEventMayFail()
 void tst_HostApplication::ATimerMayFailInsideAnEventLoop()
 {
     QSignalSpy messages(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
-    QTimer::singleShot(0, this, [] { throw std::runtime_error("timer"); });
+    QTimer timer;
+    timer.setSingleShot(true);
+    connect(&timer, &QTimer::timeout, this, [] { throw std::runtime_error("timer"); });
+    timer.start(0);
     QTest::qWait(20);
     QCOMPARE(messages.count(), 1);
 }

@@ -72,7 +72,8 @@ enum ExperimentColumn
 void Trigger(MainWindow& window, const char* name)
 {
     auto* const action = window.findChild<QAction*>(name);
-    QVERIFY2(action != nullptr, name);
+    if (action == nullptr)
+        qFatal("There is no action named \"%s\"", name);
     QVERIFY2(action->isEnabled(), name);
     action->trigger();
 }
