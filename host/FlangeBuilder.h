@@ -43,7 +43,7 @@ public:
     static FlangeDimensions ReadDimensions();
 
     /// Looks for whatever would make the part impossible. @throws BuildError
-    static void Check(const FlangeDimensions& dimensions);
+    static void Check(const FlangeDimensions& flange);
 
     /// Builds one valid closed solid: the axis is z, the plate stands on z = 0, the first hole is
     /// at positive x. Checks first. @throws BuildError, also for failures of the kernel.

@@ -43,7 +43,7 @@ QString JsonSection::Text(QLatin1String key, const QString& byDefault) const
 
 QString JsonSection::NeededText(QLatin1String key) const
 {
-    const QString text = Text(key);
+    QString text = Text(key);
     if (text.isEmpty())
         Fail(QStringLiteral("has no \"%1\"").arg(key));
     return text;

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
-#include <QTimer>
 
 #include <utility>
 
@@ -25,7 +24,7 @@ bool NoticeWatcher::eventFilter(QObject* watched, QEvent* event)
         if (auto* const box = qobject_cast<QMessageBox*>(watched)) {
             m_notices << box->text().simplified();
             // Later: the box is only about to start the loop that closing it is to end.
-            QTimer::singleShot(0, box, &QMessageBox::close);
+            QMetaObject::invokeMethod(box, "close", Qt::QueuedConnection);
         }
     }
     return QObject::eventFilter(watched, event);

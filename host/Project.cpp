@@ -195,12 +195,12 @@ QByteArray ReadFile(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw JsonError(QStringLiteral("cannot be opened: %1").arg(file.errorString()));
-    const QByteArray bytes = file.read(Project::MaximumFileSize + 1);
+    QByteArray bytes = file.read(Project::MaximumFileSize + 1);
     if (file.error() != QFileDevice::NoError)
         throw JsonError(QStringLiteral("cannot be read: %1").arg(file.errorString()));
     if (bytes.size() > Project::MaximumFileSize)
         throw JsonError(QStringLiteral("is larger than %1 MB, which no project is")
-                            .arg(Project::MaximumFileSize / (1024 * 1024)));
+                            .arg(Project::MaximumFileSize >> 20));
     return bytes;
 }
 

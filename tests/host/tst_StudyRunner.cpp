@@ -28,6 +28,7 @@ private Q_SLOTS:
     void ResultsOfAnotherStudyAreNotTouched();
     void AStudyWithoutRunsIsRefused();
     void ANoticeEndsTheStudyInsteadOfBlockingIt();
+    void TooManyRunsAreRefused();
     void AnExpressionThatCannotBeSettledFailsTheRun();
     void AFolderThatCannotBeMadeIsTold();
 
@@ -266,6 +267,17 @@ void tst_StudyRunner::ANoticeEndsTheStudyInsteadOfBlockingIt()
     const Outcome outcome =
         RunStudy(Flange().replace("\"delta\": 4", "\"delta\": 4, \"spacing\": \"Gauss\""));
     QCOMPARE(outcome.error, QString("p.json: Not implement yet"));
+    QVERIFY(!QFile::exists("out"));
+}
+
+void tst_StudyRunner::TooManyRunsAreRefused()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    // 2001 thicknesses and 600 bores.
+    const QByteArray bores = "[" + QByteArray("60, ").repeated(599) + "60]";
+    const Outcome outcome = RunStudy(Flange(bores).replace("\"delta\": 4", "\"delta\": 0.002"));
+    QCOMPARE(outcome.error, QString("p.json: Too many runs"));
     QVERIFY(!QFile::exists("out"));
 }
 
