@@ -160,12 +160,9 @@ QStringList TabOrder(QWidget& window)
     return names;
 }
 
-int RunTest(int argc, char** argv, std::unique_ptr<QObject> (*make)())
+void PrepareTestProgram()
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_LOGGING_RULES", "*.debug=true;qt.*.debug=false");
-    QApplication application(argc, argv);
-    const std::unique_ptr<QObject> test = make();
-    return QTest::qExec(test.get(), argc, argv);
 }
