@@ -2,6 +2,7 @@
 
 #include "GlobalParaMeterMgr.h"
 #include "Notice.h"
+#include "NumberItem.h"
 #include "NumberText.h"
 #include "OneParameterDlg.h"
 #include "sParaArrayData.h"
@@ -9,8 +10,12 @@
 #include <QCheckBox>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTableWidgetItem>
 #include <QVariant>
+
+#include <algorithm>
+#include <stdexcept>
 
 namespace {
 
@@ -29,6 +34,43 @@ const char* const RowProperty = "Line";
 std::map<int, std::vector<double>> g_mapLevelValues;
 std::vector<double> g_vecCurrentRun;
 int g_nRunCounter = 1;
+
+// The product of the lists' lengths; any number above the limit stands for all of them.
+int RunCount(const std::map<int, std::vector<double>>& levels)
+{
+    std::size_t count = 1;
+    for (const auto& level : levels) {
+        const std::size_t length = level.second.size();
+        if (length == 0)
+            return 0;
+        const bool tooMany = length > DOEDlg::MaximumRuns / count;
+        count = tooMany ? DOEDlg::MaximumRuns + 1 : count * length;
+    }
+    return int(count);
+}
+
+// Checked access: data that do not fit together end in these faults.
+double& At(std::vector<double>& values, std::size_t index)
+{
+    if (index >= values.size())
+        throw std::out_of_range("invalid vector<T> subscript");
+    return values[index];
+}
+
+double At(const std::vector<double>& values, std::size_t index)
+{
+    if (index >= values.size())
+        throw std::out_of_range("invalid vector<T> subscript");
+    return values[index];
+}
+
+const QString& At(const std::map<int, QString>& names, int key)
+{
+    const auto entry = names.find(key);
+    if (entry == names.end())
+        throw std::out_of_range("invalid map<K, T> key");
+    return entry->second;
+}
 
 } // namespace
 
@@ -173,8 +215,44 @@ void DOEDlg::CollectAllRecord()
     g_nRunCounter = 1;
     g_vecCurrentRun.resize(std::size_t(m_nCheckedCount));
     m_mapRuns.clear();
-    CollectData(1, g_mapLevelValues[1]);
+    const bool tooMany = RunCount(g_mapLevelValues) > MaximumRuns;
+    if (!tooMany)
+        CollectData(1, g_mapLevelValues[1]);
+    FillFinalTable();
+    if (tooMany)
+        tarn::ShowNotice(tr("Notify"), tr("Too many runs"));
+}
 
+void DOEDlg::CollectData(int level, const std::vector<double>& values)
+{
+    // An odometer with a wheel per level. A recursion would be as deep as there are ticked
+    // parameters, and nothing bounds their number.
+    std::vector<const std::vector<double>*> wheels = {&values};
+    for (int next = level + 1; next <= m_nCheckedCount; ++next)
+        wheels.push_back(&g_mapLevelValues[next]);
+    if (std::any_of(wheels.begin(), wheels.end(), [](const auto* w) { return w->empty(); }))
+        return;
+
+    const std::size_t offset = std::size_t(level) - 1;
+    std::vector<std::size_t> positions(wheels.size(), 0);
+    std::size_t turned = 0;
+    for (;;) {
+        for (std::size_t wheel = turned; wheel < wheels.size(); ++wheel)
+            At(g_vecCurrentRun, offset + wheel) = (*wheels[wheel])[positions[wheel]];
+        m_mapRuns.emplace_hint(m_mapRuns.end(), g_nRunCounter++, g_vecCurrentRun);
+
+        // The last wheel turns on; each one that comes full circle takes along the one before it.
+        std::size_t wheel = wheels.size();
+        while (wheel > 0 && ++positions[wheel - 1] == wheels[wheel - 1]->size())
+            positions[--wheel] = 0;
+        if (wheel == 0)
+            return;
+        turned = wheel - 1;
+    }
+}
+
+void DOEDlg::FillFinalTable()
+{
     QTableWidget& table = *m_ui.tableWidget_Final;
     table.clearContents();
     table.setRowCount(0);
@@ -189,26 +267,16 @@ void DOEDlg::CollectAllRecord()
     for (int column = 0; column < columns; ++column)
         table.setHorizontalHeaderItem(column, new QTableWidgetItem(m_mapColumnNames[column + 1]));
 
+    // The views know the new size by now; a signal for each cell would only cost time.
+    const QSignalBlocker silence(table.model());
     int row = 0;
     for (const auto& run : m_mapRuns) {
-        for (int column = 0; column < columns; ++column) {
-            const double value = run.second.at(std::size_t(column));
-            table.setItem(row, column, new QTableWidgetItem(tarn::NumberText(value)));
-        }
+        for (int column = 0; column < columns; ++column)
+            table.setItem(row, column, new NumberItem(At(run.second, std::size_t(column))));
         ++row;
     }
-}
-
-void DOEDlg::CollectData(int level, const std::vector<double>& values)
-{
-    const bool last = level == m_nCheckedCount;
-    for (const double value : values) {
-        g_vecCurrentRun.at(std::size_t(level - 1)) = value;
-        if (last)
-            m_mapRuns[g_nRunCounter++] = g_vecCurrentRun;
-        else
-            CollectData(level + 1, g_mapLevelValues[level + 1]);
-    }
+    // From here on the items hold the numbers.
+    m_mapRuns.clear();
 }
 
 void DOEDlg::m_Slot_UpdateGeoemtry()
@@ -229,7 +297,7 @@ void DOEDlg::m_Slot_UpdateGeoemtry()
     for (int column = 0; column < columns; ++column) {
         const QTableWidgetItem* const item = table.item(row, column);
         const QString text = item != nullptr ? item->text() : QString();
-        m_mapChosenValues[m_mapColumnNames.at(column + 1)] = text.toDouble();
+        m_mapChosenValues[At(m_mapColumnNames, column + 1)] = text.toDouble();
     }
 
     // A parameter that is no column of the run is set to 0 on purpose.

@@ -57,6 +57,7 @@ private:
     QCheckBox* GetCurrentCheck(int row) const;
     void CollectAllRecord();
     void CollectData(int level, const std::vector<double>& values);
+    void FillFinalTable();
 
     Ui::DOEDlg m_ui;
     int m_nCheckedCount = 0;

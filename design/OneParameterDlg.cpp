@@ -1,10 +1,12 @@
 #include "OneParameterDlg.h"
 
 #include "Notice.h"
+#include "NumberItem.h"
 #include "NumberText.h"
 #include "sParaArrayData.h"
 
 #include <QScopedValueRollback>
+#include <QSignalBlocker>
 #include <QTableWidgetItem>
 
 #include <cmath>
@@ -35,6 +37,25 @@ double SampleValue(int type, double x)
     }
 }
 
+// The samples of a range, or nothing when the range is refused.
+std::vector<double> Samples(double min, double max, double step)
+{
+    if (!std::isfinite(min) || !std::isfinite(max) || !std::isfinite(step))
+        return {};
+    if (step > max - min || min >= max || step <= 0.0)
+        return {};
+
+    // Repeated addition decides whether the end is reached. The limit also stops a step that is
+    // too small to move x.
+    std::vector<double> samples;
+    for (double x = min; x <= max; x += step) {
+        if (samples.size() == MaximumSamples)
+            return {};
+        samples.push_back(x);
+    }
+    return samples;
+}
+
 } // namespace
 
 OneParameterDlg::OneParameterDlg(QWidget* parent, QString name)
@@ -62,12 +83,19 @@ OneParameterDlg::OneParameterDlg(QWidget* parent, QString name)
 
 OneParameterDlg::~OneParameterDlg() = default;
 
+void OneParameterDlg::done(int result)
+{
+    // A field that loses the focus with its window reports a finished edit; leaving is none.
+    const QScopedValueRollback<bool> leaving(m_bKeepTable, true);
+    QDialog::done(result);
+}
+
 void OneParameterDlg::RefreshTableData()
 {
     // A box takes the focus from the field, which then reports a finished edit once more.
-    if (m_bRefreshing)
+    if (m_bKeepTable)
         return;
-    const QScopedValueRollback<bool> refreshing(m_bRefreshing, true);
+    const QScopedValueRollback<bool> refreshing(m_bKeepTable, true);
 
     m_vecValues.clear();
     m_ui.tableWidget->setRowCount(0);
@@ -76,19 +104,18 @@ void OneParameterDlg::RefreshTableData()
     const double step = m_ui.lineEdit_Deta->text().toDouble();
     const double min = m_ui.lineEdit_Min->text().toDouble();
     const double max = m_ui.lineEdit_Max->text().toDouble();
-    const bool finite = std::isfinite(step) && std::isfinite(min) && std::isfinite(max);
-    if (step > max - min || min >= max || !finite || step <= 0.0) {
+    const std::vector<double> samples = Samples(min, max, step);
+    if (samples.empty()) {
         tarn::ShowNotice(tr("Error"), tr("Check input data!"));
         return;
     }
 
-    int type = LinearType;
     if (m_ui.radioButton_Linear->isChecked()) {
-        type = LinearType;
+        m_nSampleType = LinearType;
     } else if (m_ui.radioButton_Log->isChecked()) {
-        type = Log10Type;
+        m_nSampleType = Log10Type;
     } else if (m_ui.radioButton_Ln->isChecked()) {
-        type = LnType;
+        m_nSampleType = LnType;
     } else if (m_ui.radioButton_Gauss->isChecked()) {
         m_nSampleType = GaussType;
         tarn::ShowNotice(tr("Error"), tr("Not implement yet"));
@@ -97,30 +124,13 @@ void OneParameterDlg::RefreshTableData()
         return;
     }
 
-    const std::vector<double> samples = Samples(min, max, step);
-    if (samples.empty()) {
-        tarn::ShowNotice(tr("Error"), tr("Check input data!"));
-        return;
-    }
-    m_nSampleType = type;
-    m_ui.tableWidget->setRowCount(int(samples.size()));
+    QTableWidget& table = *m_ui.tableWidget;
+    table.setRowCount(int(samples.size()));
+    // The views know the new size by now; a signal for each cell would only cost time.
+    const QSignalBlocker silence(table.model());
     int row = 0;
     for (const double x : samples)
-        m_ui.tableWidget->setItem(row++, 0,
-                                  new QTableWidgetItem(tarn::NumberText(SampleValue(type, x))));
-}
-
-std::vector<double> OneParameterDlg::Samples(double min, double max, double step) const
-{
-    // Repeated addition decides whether the end is reached. The bound also ends a range in which
-    // the step is too small to move x.
-    std::vector<double> samples;
-    for (double x = min; x <= max; x += step) {
-        if (samples.size() == MaximumSamples)
-            return {};
-        samples.push_back(x);
-    }
-    return samples;
+        table.setItem(row++, 0, new NumberItem(SampleValue(m_nSampleType, x)));
 }
 
 void OneParameterDlg::m_Slot_OK()

@@ -27,6 +27,8 @@ public:
     OneParameterDlg(QWidget* parent, QString name);
     ~OneParameterDlg() override;
 
+    void done(int result) override;
+
 public Q_SLOTS:
     /// Generates the samples from the range and the checked type.
     void RefreshTableData();
@@ -40,12 +42,9 @@ public Q_SLOTS:
     void m_Slot_Delete();
 
 private:
-    /// The samples of the range, or nothing when they would be too many.
-    std::vector<double> Samples(double min, double max, double step) const;
-
     Ui::OneParameterDlg m_ui;
     QString m_strName;
     std::vector<double> m_vecValues;
     int m_nSampleType = 0;
-    bool m_bRefreshing = false;
+    bool m_bKeepTable = false; // true while no regeneration may start
 };

@@ -7,9 +7,13 @@
 #include "NumberText.h"
 
 #include <QComboBox>
+#include <QHeaderView>
 #include <QPersistentModelIndex>
+#include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <QTableWidgetItem>
 
+#include <algorithm>
 #include <array>
 #include <map>
 
@@ -53,14 +57,49 @@ int ComboOfTypeCode(int code)
     return 0;
 }
 
-QComboBox* NewTypeCombo(int index)
+// The table goes on with a cell's field after its text was taken over. The notice about that text
+// may stand open meanwhile, and a table that is refilled behind it must not destroy the field.
+class CellDelegate : public QStyledItemDelegate
 {
-    auto* const combo = new QComboBox;
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override
+    {
+        m_inUse = editor;
+        QStyledItemDelegate::setModelData(editor, model, index);
+        m_inUse = nullptr;
+        if (m_isDropped)
+            editor->deleteLater();
+        m_isDropped = false;
+    }
+
+    void destroyEditor(QWidget* editor, const QModelIndex& index) const override
+    {
+        if (editor == m_inUse)
+            m_isDropped = true;
+        else
+            QStyledItemDelegate::destroyEditor(editor, index);
+    }
+
+private:
+    mutable QWidget* m_inUse = nullptr;
+    mutable bool m_isDropped = false;
+};
+
+// Born in the table: a combo box that inherits another font later builds its drop-down list at
+// once.
+QComboBox* NewTypeCombo(const QTableWidget& table, int index)
+{
+    auto* const combo = new QComboBox(table.viewport());
     combo->addItem(ParameterEditor::tr("Scalar"));
     combo->addItem(ParameterEditor::tr("Vector"));
     combo->addItem(ParameterEditor::tr("Tensor"));
     combo->addItem(ParameterEditor::tr("Bool"));
     combo->setCurrentIndex(index);
+    // With a size of its own it is not measured when shown; the table's layout sets the real one.
+    combo->resize(table.columnWidth(TypeColumn), table.verticalHeader()->defaultSectionSize());
     return combo;
 }
 
@@ -81,12 +120,26 @@ double ComponentValue(const QString& text)
     return tarn::IsNumberText(text) ? text.toDouble() : StoredNumber(text);
 }
 
+// Whether the record and the parameters it names are still what was checked before a box stood
+// open.
+bool StandsAsChecked(const ParametersDef& record, const ParametersDef& checked)
+{
+    if (record.m_strExpression != checked.m_strExpression ||
+        record.m_strExpressPara != checked.m_strExpressPara)
+        return false;
+    const QStringList names = record.m_strExpressPara.split(Separator, Qt::SkipEmptyParts);
+    return std::all_of(names.begin(), names.end(), [](const QString& name) {
+        return GlobalParaMeterMgr::m_nameMapParameters.count(name) != 0;
+    });
+}
+
 } // namespace
 
 ParameterEditor::ParameterEditor(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    m_ui.tableWidget->setItemDelegate(new CellDelegate(m_ui.tableWidget));
 
     connect(m_ui.pushButton_Apply, SIGNAL(clicked()), this, SLOT(m_Slot_Apply()));
     connect(m_ui.pushButton_Add, SIGNAL(clicked()), this, SLOT(m_Slot_Add()));
@@ -117,12 +170,13 @@ void ParameterEditor::m_Slot_Delete()
 void ParameterEditor::m_Slot_Add()
 {
     QTableWidget& table = *m_ui.tableWidget;
+    const QSignalBlocker quiet(table); // filling is no change that m_Slot_NoNumber should test
     const int row = table.rowCount();
     table.setRowCount(row + 1);
     for (const int column :
          {NameColumn, ValueColumn, ExpressionColumn, ExpressionParaColumn, DescriptionColumn})
         table.setItem(row, column, new QTableWidgetItem(QString()));
-    table.setCellWidget(row, TypeColumn, NewTypeCombo(0));
+    table.setCellWidget(row, TypeColumn, NewTypeCombo(table, 0));
 }
 
 void ParameterEditor::m_Slot_OK()
@@ -142,6 +196,7 @@ void ParameterEditor::m_Slot_ProcessExp() {}
 void ParameterEditor::m_Slot_RefreshGUI()
 {
     QTableWidget& table = *m_ui.tableWidget;
+    const QSignalBlocker quiet(table); // filling is no change that m_Slot_NoNumber should test
     table.clearContents();
     const ParameterMap parameters = GlobalParaMeterMgr::m_nameMapParameters;
     table.setRowCount(int(parameters.size()));
@@ -150,13 +205,15 @@ void ParameterEditor::m_Slot_RefreshGUI()
     for (const auto& [name, record] : parameters) {
         table.setItem(row, NameColumn, new QTableWidgetItem(name));
         table.setItem(row, ValueColumn, new QTableWidgetItem(record.m_strValue));
-        table.setCellWidget(row, TypeColumn, NewTypeCombo(ComboOfTypeCode(record.m_nType)));
+        table.setCellWidget(row, TypeColumn, NewTypeCombo(table, ComboOfTypeCode(record.m_nType)));
         table.setItem(row, ExpressionColumn,
                       new QTableWidgetItem(tarn::FromLocal8Bit(record.m_strExpression)));
         table.setItem(row, ExpressionParaColumn, new QTableWidgetItem(record.m_strExpressPara));
         table.setItem(row, DescriptionColumn, new QTableWidgetItem(record.m_strDescription));
         ++row;
     }
+    // Until they are laid out, the new combo boxes lie upon each other and are slow to paint.
+    table.doItemsLayout();
 }
 
 void ParameterEditor::m_Slot_NoNumber(QTableWidgetItem* item)
@@ -214,14 +271,15 @@ void ParameterEditor::RefreshParameterData()
     const std::vector<QString> names = GlobalParaMeterMgr::GetAllParametersName();
     ParameterMap& store = GlobalParaMeterMgr::m_nameMapParameters;
     for (const QString& name : names) {
-        auto entry = store.find(name);
-        if (entry == store.end() || entry->second.m_strExpression.empty())
+        const auto found = store.find(name);
+        if (found == store.end() || found->second.m_strExpression.empty())
             continue;
-        if (!IsValidExpressPara(entry->second.m_strExpressPara))
+        const ParametersDef checked = found->second;
+        if (!IsValidExpressPara(checked.m_strExpressPara))
             continue;
 
-        entry = store.find(name);
-        if (entry == store.end())
+        const auto entry = store.find(name);
+        if (entry == store.end() || !StandsAsChecked(entry->second, checked))
             continue;
         ParametersDef& record = entry->second;
         const double value = GetCurrParaValueByExprsion(record);

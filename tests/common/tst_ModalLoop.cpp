@@ -517,8 +517,7 @@ int main(int argc, char** argv)
         QApplication::setQuitOnLastWindowClosed(false);
         return Host(application, arguments).Run();
     }
-    return RunTest(argc, argv,
-                   []() -> std::unique_ptr<QObject> { return std::make_unique<tst_ModalLoop>(); });
+    return RunTest<tst_ModalLoop>(argc, argv);
 }
 
 #include "tst_ModalLoop.moc"

@@ -105,7 +105,6 @@ void tst_Forms::TabStopsNameWidgetsOfTheForm()
     for (int i = 0; i < elements.size(); ++i)
         widgets.insert(elements.at(i).toElement().attribute("name"));
     const QDomNodeList stops = root.elementsByTagName("tabstop");
-    QVERIFY(!stops.isEmpty());
     for (int i = 0; i < stops.size(); ++i)
         QVERIFY2(widgets.contains(stops.at(i).toElement().text()),
                  qPrintable(stops.at(i).toElement().text()));

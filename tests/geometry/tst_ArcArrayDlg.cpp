@@ -1,5 +1,6 @@
 #include "ArcArrayDlg.h"
 #include "DialogChecks.h"
+#include "DialogFacts.h"
 #include "KernelText.h"
 #include "TestCase.h"
 

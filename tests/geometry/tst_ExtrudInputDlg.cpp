@@ -1,4 +1,5 @@
 #include "DialogChecks.h"
+#include "DialogFacts.h"
 #include "ExtrudInputDlg.h"
 #include "KernelText.h"
 #include "TestCase.h"

@@ -1,4 +1,5 @@
 #include "DialogChecks.h"
+#include "DialogFacts.h"
 #include "MatrixArrayDlg.h"
 #include "ModalDriver.h"
 #include "TestCase.h"

@@ -1,4 +1,5 @@
 #include "DialogChecks.h"
+#include "DialogFacts.h"
 #include "ModalDriver.h"
 #include "MoveInput.h"
 #include "TestCase.h"

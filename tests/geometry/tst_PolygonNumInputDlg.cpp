@@ -1,4 +1,5 @@
 #include "DialogChecks.h"
+#include "DialogFacts.h"
 #include "PolygonNumInputDlg.h"
 #include "TestCase.h"
 

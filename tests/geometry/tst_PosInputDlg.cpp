@@ -1,4 +1,5 @@
 #include "DialogChecks.h"
+#include "DialogFacts.h"
 #include "PosInputDlg.h"
 #include "TestCase.h"
 

@@ -1,4 +1,5 @@
 #include "DialogChecks.h"
+#include "DialogFacts.h"
 #include "KernelText.h"
 #include "TestCase.h"
 #include "rotateInputDlg.h"

@@ -1,4 +1,5 @@
 #include "DialogChecks.h"
+#include "DialogFacts.h"
 #include "TestCase.h"
 #include "sphereParaInputdlg.h"
 

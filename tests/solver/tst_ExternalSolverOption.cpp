@@ -1,4 +1,5 @@
 #include "DialogChecks.h"
+#include "DialogFacts.h"
 #include "ExternalSolverOption.h"
 #include "ModalDriver.h"
 #include "TestCase.h"

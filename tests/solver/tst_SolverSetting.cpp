@@ -1,4 +1,5 @@
 #include "DialogChecks.h"
+#include "DialogFacts.h"
 #include "ModalDriver.h"
 #include "OutsideRun.h"
 #include "SolverSetting.h"

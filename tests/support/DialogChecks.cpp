@@ -7,7 +7,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMetaMethod>
 #include <QPushButton>
 
 #include <limits>
@@ -25,18 +24,6 @@ QString VisibleText(const QWidget& widget)
     if (const auto* const group = qobject_cast<const QGroupBox*>(&widget))
         return group->title();
     return QString();
-}
-
-QString AccessName(QMetaMethod::Access access)
-{
-    switch (access) {
-    case QMetaMethod::Private:
-        return QStringLiteral("private");
-    case QMetaMethod::Protected:
-        return QStringLiteral("protected");
-    default:
-        return QStringLiteral("public");
-    }
 }
 
 } // namespace
@@ -66,20 +53,6 @@ QStringList DescribeForm(const QWidget& form, bool withGeometry)
         lines << line;
     }
     lines.sort();
-    return lines;
-}
-
-QStringList OwnMethods(const QMetaObject& type)
-{
-    QStringList lines;
-    for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
-        const QMetaMethod method = type.method(i);
-        const bool isSignal = method.methodType() == QMetaMethod::Signal;
-        lines << QStringLiteral("%1 %2 %3")
-                     .arg(AccessName(method.access()),
-                          isSignal ? QStringLiteral("signal") : QStringLiteral("slot"),
-                          QString::fromLatin1(method.methodSignature()));
-    }
     return lines;
 }
 

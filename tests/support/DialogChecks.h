@@ -11,10 +11,6 @@
 /// `QLineEdit lineEdit_Num in ArcArrayDlg at 270,20 81x21: 4`.
 QStringList DescribeForm(const QWidget& form, bool withGeometry);
 
-/// The signals and slots that a class adds to its base, in the meta-object's order, with access:
-/// "private slot m_Slot_OK()".
-QStringList OwnMethods(const QMetaObject& type);
-
 /// The buttons that Enter may press, by object name; the default button first, marked by a star.
 QStringList EnterButtons(const QDialog& dialog);
 

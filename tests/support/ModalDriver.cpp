@@ -75,7 +75,8 @@ void ModalDriver::Poll()
         return;
     }
     auto* const dialog = qobject_cast<QDialog*>(window);
-    if (dialog == nullptr)
+    // A step that waits for something keeps its dialog to itself.
+    if (dialog == nullptr || m_inStep.contains(dialog))
         return;
     if (m_steps.empty()) {
         ++m_unexpected;
@@ -86,7 +87,9 @@ void ModalDriver::Poll()
     }
     const auto step = std::move(m_steps.front());
     m_steps.pop_front();
+    m_inStep.append(dialog);
     step(*dialog);
+    m_inStep.removeLast();
 }
 
 void ModalDriver::AnswerBox(QMessageBox& box)

@@ -71,5 +71,6 @@ private:
     std::deque<std::function<void(QMessageBox&)>> m_whileOpen;
     QVector<ShownBox> m_boxes;
     QVector<QPointer<QWidget>> m_answered;
+    QVector<QDialog*> m_inStep;
     int m_unexpected = 0;
 };

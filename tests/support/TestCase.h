@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QApplication>
 #include <QObject>
 #include <QTemporaryDir>
 #include <QTest>
@@ -60,12 +61,21 @@ void Type(const QWidget& parent, const char* name, const QString& text);
 /// The visible widgets that Tab goes through, by object name, from the first of the window.
 QStringList TabOrder(QWidget& window);
 
-/// Runs a test class as a program: main() of every test.
-int RunTest(int argc, char** argv, std::unique_ptr<QObject> (*make)());
+/// What a test program does before it makes its application object.
+void PrepareTestProgram();
 
-#define TARN_TEST_MAIN(Class)                                                                      \
+/// Runs a test class as a program: main() of every test.
+template<class Test, class Application = QApplication>
+int RunTest(int argc, char** argv)
+{
+    PrepareTestProgram();
+    Application application(argc, argv);
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#define TARN_TEST_MAIN(...)                                                                        \
     int main(int argc, char** argv)                                                                \
     {                                                                                              \
-        return RunTest(argc, argv,                                                                 \
-                       []() -> std::unique_ptr<QObject> { return std::make_unique<Class>(); });    \
+        return RunTest<__VA_ARGS__>(argc, argv);                                                   \
     }

@@ -1,0 +1,127 @@
+#include "DOEDlg.h"
+#include "sParaArrayData.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTableWidget>
+
+#include <benchmark/benchmark.h>
+#include <malloc.h>
+
+#include <array>
+#include <cmath>
+
+// "Refresh Data" with five ticked parameters, against a plain table that is filled with the same
+// texts. Both tables are visible and empty when the time starts. "bytes" is what a full table
+// holds on the heap.
+
+namespace {
+
+constexpr int Columns = 5;
+
+// Five lists of the same length, whose combinations are the runs.
+std::array<std::vector<double>, Columns> SampleLists(int runs)
+{
+    const int length = int(std::lround(std::pow(runs, 1.0 / Columns)));
+    std::array<std::vector<double>, Columns> lists;
+    for (int column = 0; column < Columns; ++column) {
+        for (int i = 0; i < length; ++i)
+            lists[std::size_t(column)].push_back(0.173 + 11.37 * column + i / 7.0);
+    }
+    return lists;
+}
+
+double HeapBytes()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return double(info.uordblks) + double(info.hblkhd);
+}
+
+void RefreshData(benchmark::State& state)
+{
+    const int runs = int(state.range(0));
+    const auto lists = SampleLists(runs);
+    g_mapParaArrays.clear();
+    for (int column = 0; column < Columns; ++column) {
+        sParaArrayData& record = g_mapParaArrays[QStringLiteral("p%1").arg(column)];
+        record.strName = QStringLiteral("p%1").arg(column);
+        record.vecValues = lists[std::size_t(column)];
+    }
+    DOEDlg dialog(nullptr);
+    dialog.show();
+    QCoreApplication::processEvents();
+    auto& table = *dialog.findChild<QTableWidget*>(QStringLiteral("tableWidget_Final"));
+    auto& refresh = *dialog.findChild<QPushButton*>(QStringLiteral("pushButton_RefreshData"));
+    const auto build = [&refresh](bool ticked) {
+        for (auto& entry : g_mapParaArrays)
+            entry.second.bChecked = ticked ? 1 : 0;
+        refresh.click();
+    };
+
+    const double before = HeapBytes();
+    build(true);
+    state.counters["bytes"] = HeapBytes() - before;
+    for (auto _ : state) {
+        state.PauseTiming();
+        build(false);
+        state.ResumeTiming();
+        build(true);
+    }
+    if (table.rowCount() != runs)
+        state.SkipWithError("not the runs that were asked for");
+    g_mapParaArrays.clear();
+}
+
+void FillPlainTable(benchmark::State& state)
+{
+    const int runs = int(state.range(0));
+    const auto lists = SampleLists(runs);
+    QTableWidget table;
+    table.show();
+    QCoreApplication::processEvents();
+    const auto fill = [&] {
+        table.setColumnCount(Columns);
+        table.setRowCount(runs);
+        for (int column = 0; column < Columns; ++column)
+            table.setHorizontalHeaderItem(column,
+                                          new QTableWidgetItem(QStringLiteral("p%1").arg(column)));
+        for (int row = 0; row < runs; ++row) {
+            int position = row;
+            for (int column = Columns - 1; column >= 0; --column) {
+                const std::vector<double>& list = lists[std::size_t(column)];
+                const double value = list[std::size_t(position) % list.size()];
+                position /= int(list.size());
+                table.setItem(row, column, new QTableWidgetItem(QString::number(value, 'g', 6)));
+            }
+        }
+    };
+
+    const double before = HeapBytes();
+    fill();
+    state.counters["bytes"] = HeapBytes() - before;
+    for (auto _ : state) {
+        state.PauseTiming();
+        table.clearContents();
+        table.setRowCount(0);
+        table.setColumnCount(0);
+        state.ResumeTiming();
+        fill();
+    }
+}
+
+BENCHMARK(RefreshData)->Name("RunTable/ours")->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(FillPlainTable)->Name("RunTable/reference")->Arg(100000)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "*.debug=false");
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

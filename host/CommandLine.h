@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <stdexcept>
+
+/// What is wrong with the arguments: one line, in UTF-8.
+class CommandLineError : public std::runtime_error
+{
+public:
+    explicit CommandLineError(const QString& reason);
+};
+
+/// What the program is asked to do.
+struct CommandLine
+{
+    enum Action
+    {
+        OpenWindow,
+        RunStudy,
+        WriteScreenshots,
+        ShowHelp,
+        ShowVersion
+    };
+
+    Action action = OpenWindow;
+    QString projectFile;         ///< The sample project where none was given.
+    QString outputDirectory;     ///< Of a study.
+    QString screenshotDirectory; ///< Of the screenshots.
+    int firstRun = 0;            ///< Of a study, from 1; 0 for all runs.
+    int lastRun = 0;
+
+    /// Reads the @p arguments, program name included. Needs no application object.
+    /// @throws CommandLineError
+    static CommandLine Parse(const QStringList& arguments);
+
+    /// What --help prints. Needs an application object.
+    static QString HelpText();
+};

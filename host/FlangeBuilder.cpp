@@ -1,0 +1,268 @@
+#include "FlangeBuilder.h"
+
+#include "GlobalParaMeterMgr.h"
+
+#include <BRepAdaptor_Curve.hxx>
+#include <BRepAlgoAPI_Cut.hxx>
+#include <BRepAlgoAPI_Fuse.hxx>
+#include <BRepCheck_Analyzer.hxx>
+#include <BRepFilletAPI_MakeFillet.hxx>
+#include <BRepPrimAPI_MakeCylinder.hxx>
+#include <BRep_Tool.hxx>
+#include <GeomAbs_CurveType.hxx>
+#include <Precision.hxx>
+#include <Standard_Failure.hxx>
+#include <TopExp_Explorer.hxx>
+#include <TopTools_ListOfShape.hxx>
+#include <TopoDS.hxx>
+#include <TopoDS_Edge.hxx>
+#include <TopoDS_Shape.hxx>
+#include <gp_Ax2.hxx>
+#include <gp_Circ.hxx>
+#include <gp_Dir.hxx>
+#include <gp_Pnt.hxx>
+
+#include <cmath>
+
+namespace {
+
+constexpr double Pi = 3.14159265358979323846;
+
+// Within these the kernel's precision, 1e-7 mm, is far below every length and far above rounding.
+constexpr double LeastLength = 0.01;
+constexpr double GreatestLength = 100000.0;
+
+// Walls thinner than this are taken for touching.
+constexpr double LeastWall = 0.001;
+
+// How far a cutting tool stands out, so that its ends lie in no face of the part.
+constexpr double ToolExcess = 1.0;
+
+QString Text(double value)
+{
+    return QString::number(value, 'g', 6);
+}
+
+[[noreturn]] void Refuse(const QString& reason)
+{
+    throw BuildError(reason);
+}
+
+double Stored(const char* name)
+{
+    const ParameterMap& store = GlobalParaMeterMgr::m_nameMapParameters;
+    const QString key = QLatin1String(name);
+    if (store.count(key) == 0)
+        Refuse(QStringLiteral("There is no parameter \"%1\".").arg(key));
+    return GlobalParaMeterMgr::GetParameterRawValue(key).toDouble();
+}
+
+void CheckLength(const char* what, double value)
+{
+    const QString name = QLatin1String(what);
+    if (!std::isfinite(value))
+        Refuse(QStringLiteral("The %1 has no finite value.").arg(name));
+    if (value <= 0.0)
+        Refuse(QStringLiteral("The %1 (%2) has to be above 0.").arg(name, Text(value)));
+    if (value < LeastLength || value > GreatestLength)
+        Refuse(QStringLiteral("The %1 (%2 mm) has to be from %3 to %4 mm.")
+                   .arg(name, Text(value), Text(LeastLength), Text(GreatestLength)));
+}
+
+// Refuses when there is no wall left between an inner and an outer radius or place.
+void CheckWall(double inner, double outer, const QString& reason)
+{
+    if (outer - inner < LeastWall)
+        Refuse(reason);
+}
+
+gp_Ax2 AxisAt(double x, double y, double z)
+{
+    return gp_Ax2(gp_Pnt(x, y, z), gp_Dir(0.0, 0.0, 1.0));
+}
+
+TopoDS_Shape Cylinder(const gp_Ax2& axis, double diameter, double height)
+{
+    return BRepPrimAPI_MakeCylinder(axis, diameter / 2.0, height).Shape();
+}
+
+TopoDS_Shape PlateWithHub(const FlangeDimensions& flange)
+{
+    const TopoDS_Shape plate =
+        Cylinder(AxisAt(0.0, 0.0, 0.0), flange.outerDiameter, flange.thickness);
+    const TopoDS_Shape hub =
+        Cylinder(AxisAt(0.0, 0.0, flange.thickness), flange.hubDiameter, flange.hubHeight);
+    BRepAlgoAPI_Fuse fuse(plate, hub);
+    if (!fuse.IsDone() || fuse.HasErrors())
+        Refuse(QStringLiteral("The hub could not be joined to the plate."));
+    return fuse.Shape();
+}
+
+// The circle on which the hub stands on the plate.
+TopoDS_Edge FootOfHub(const TopoDS_Shape& shape, const FlangeDimensions& flange)
+{
+    for (TopExp_Explorer edges(shape, TopAbs_EDGE); edges.More(); edges.Next()) {
+        const TopoDS_Edge& edge = TopoDS::Edge(edges.Current());
+        const BRepAdaptor_Curve curve(edge);
+        if (curve.GetType() != GeomAbs_Circle)
+            continue;
+        const gp_Circ circle = curve.Circle();
+        if (std::abs(circle.Radius() - flange.hubDiameter / 2.0) < Precision::Confusion() &&
+            std::abs(circle.Location().Z() - flange.thickness) < Precision::Confusion())
+            return edge;
+    }
+    Refuse(QStringLiteral("The edge between hub and plate was not found for the fillet."));
+}
+
+TopoDS_Shape WithFillet(const TopoDS_Shape& shape, const FlangeDimensions& flange)
+{
+    BRepFilletAPI_MakeFillet fillet(shape);
+    fillet.Add(flange.filletRadius, FootOfHub(shape, flange));
+    fillet.Build();
+    if (!fillet.IsDone())
+        Refuse(QStringLiteral("The fillet between hub and plate could not be built."));
+    return fillet.Shape();
+}
+
+TopoDS_Shape WithHoles(const TopoDS_Shape& shape, const FlangeDimensions& flange)
+{
+    const double height = flange.thickness + flange.hubHeight + 2.0 * ToolExcess;
+    TopTools_ListOfShape tools;
+    tools.Append(Cylinder(AxisAt(0.0, 0.0, -ToolExcess), flange.boreDiameter, height));
+    const int count = int(flange.boltCount);
+    for (int hole = 0; hole < count; ++hole) {
+        const double angle = 2.0 * Pi * hole / count;
+        const double radius = flange.boltCircle / 2.0;
+        tools.Append(
+            Cylinder(AxisAt(radius * std::cos(angle), radius * std::sin(angle), -ToolExcess),
+                     flange.boltHole, height));
+    }
+    TopTools_ListOfShape arguments;
+    arguments.Append(shape);
+
+    BRepAlgoAPI_Cut cut;
+    cut.SetArguments(arguments);
+    cut.SetTools(tools);
+    cut.Build();
+    if (!cut.IsDone() || cut.HasErrors())
+        Refuse(QStringLiteral("Bore and bolt holes could not be cut."));
+    return cut.Shape();
+}
+
+// The one solid of what the boolean operations left, which is a compound.
+TopoDS_Shape TheSolid(const TopoDS_Shape& shape)
+{
+    TopExp_Explorer solids(shape, TopAbs_SOLID);
+    if (!solids.More())
+        Refuse(QStringLiteral("The finished part is no solid."));
+    const TopoDS_Shape solid = solids.Current();
+    solids.Next();
+    if (solids.More())
+        Refuse(QStringLiteral("The finished part fell into several pieces."));
+    for (TopExp_Explorer shells(solid, TopAbs_SHELL); shells.More(); shells.Next()) {
+        if (!BRep_Tool::IsClosed(shells.Current()))
+            Refuse(QStringLiteral("The finished part is not closed."));
+    }
+    if (!BRepCheck_Analyzer(solid).IsValid())
+        Refuse(QStringLiteral("The finished part is no valid solid."));
+    return solid;
+}
+
+} // namespace
+
+BuildError::BuildError(const QString& reason)
+    : std::runtime_error(reason.toStdString())
+{
+}
+
+FlangeDimensions FlangeBuilder::ReadDimensions()
+{
+    FlangeDimensions flange;
+    flange.outerDiameter = Stored("outer_diameter");
+    flange.boreDiameter = Stored("bore_diameter");
+    flange.thickness = Stored("thickness");
+    flange.boltCircle = Stored("bolt_circle");
+    flange.boltCount = Stored("bolt_count");
+    flange.boltHole = Stored("bolt_hole");
+    flange.hubDiameter = Stored("hub_diameter");
+    flange.hubHeight = Stored("hub_height");
+    if (GlobalParaMeterMgr::m_nameMapParameters.count(QStringLiteral("fillet_radius")) != 0)
+        flange.filletRadius = Stored("fillet_radius");
+    return flange;
+}
+
+void FlangeBuilder::Check(const FlangeDimensions& flange)
+{
+    CheckLength("outer diameter", flange.outerDiameter);
+    CheckLength("bore", flange.boreDiameter);
+    CheckLength("thickness", flange.thickness);
+    CheckLength("bolt circle", flange.boltCircle);
+    CheckLength("bolt hole", flange.boltHole);
+    CheckLength("hub diameter", flange.hubDiameter);
+    CheckLength("hub height", flange.hubHeight);
+    if (flange.filletRadius != 0.0)
+        CheckLength("fillet radius", flange.filletRadius);
+    if (!(flange.boltCount >= 1.0 && flange.boltCount <= MaximumBoltCount &&
+          flange.boltCount == std::floor(flange.boltCount)))
+        Refuse(
+            QStringLiteral("The number of bolt holes (%1) has to be a whole number from 1 to %2.")
+                .arg(Text(flange.boltCount))
+                .arg(MaximumBoltCount));
+
+    const double outer = flange.outerDiameter / 2.0;
+    const double hub = flange.hubDiameter / 2.0;
+    const double circle = flange.boltCircle / 2.0;
+    const double hole = flange.boltHole / 2.0;
+    CheckWall(flange.boreDiameter / 2.0, outer,
+              QStringLiteral("The bore (%1) is not smaller than the flange (%2).")
+                  .arg(Text(flange.boreDiameter), Text(flange.outerDiameter)));
+    CheckWall(flange.boreDiameter / 2.0, hub,
+              QStringLiteral("The bore (%1) is not smaller than the hub (%2).")
+                  .arg(Text(flange.boreDiameter), Text(flange.hubDiameter)));
+    CheckWall(hub, outer,
+              QStringLiteral("The hub (%1) is not smaller than the flange (%2).")
+                  .arg(Text(flange.hubDiameter), Text(flange.outerDiameter)));
+    CheckWall(flange.filletRadius, flange.hubHeight,
+              QStringLiteral("The fillet radius (%1) is not smaller than the hub's height (%2).")
+                  .arg(Text(flange.filletRadius), Text(flange.hubHeight)));
+    CheckWall(hub + flange.filletRadius, outer,
+              QStringLiteral("The fillet around the hub reaches outside the flange."));
+    CheckWall(circle + hole, outer,
+              QStringLiteral("The bolt holes (%1 on a circle of %2) reach outside the flange (%3).")
+                  .arg(Text(flange.boltHole), Text(flange.boltCircle), Text(flange.outerDiameter)));
+    CheckWall(hub + flange.filletRadius, circle - hole,
+              QStringLiteral("The bolt holes (%1 on a circle of %2) reach into the hub (%3) or its "
+                             "fillet.")
+                  .arg(Text(flange.boltHole), Text(flange.boltCircle), Text(flange.hubDiameter)));
+    if (flange.boltCount > 1.0) {
+        const double distance = 2.0 * circle * std::sin(Pi / flange.boltCount);
+        CheckWall(flange.boltHole, distance,
+                  QStringLiteral("The bolt holes overlap: %1 of %2 on a circle of %3.")
+                      .arg(Text(flange.boltCount), Text(flange.boltHole), Text(flange.boltCircle)));
+    }
+}
+
+TopoDS_Shape FlangeBuilder::Build(const FlangeDimensions& dimensions)
+{
+    Check(dimensions);
+    QString step = QStringLiteral("joining hub and plate");
+    try {
+        TopoDS_Shape shape = PlateWithHub(dimensions);
+        if (dimensions.filletRadius > 0.0) {
+            step = QStringLiteral("building the fillet");
+            shape = WithFillet(shape, dimensions);
+        }
+        step = QStringLiteral("cutting bore and bolt holes");
+        shape = WithHoles(shape, dimensions);
+        step = QStringLiteral("checking the finished part");
+        return TheSolid(shape);
+    } catch (const Standard_Failure& failure) {
+        throw BuildError(QStringLiteral("The geometry kernel failed while %1: %2")
+                             .arg(step, QString::fromLocal8Bit(failure.GetMessageString())));
+    }
+}
+
+TopoDS_Shape FlangeBuilder::BuildFromStore()
+{
+    return Build(ReadDimensions());
+}

@@ -1,0 +1,70 @@
+#include "HostApplication.h"
+
+#include "MessageLevel.h"
+
+#include <QFontDatabase>
+#include <QIcon>
+#include <QTextCodec>
+#include <Standard_Failure.hxx>
+#include <Standard_Type.hxx>
+
+#include <clocale>
+#include <exception>
+#include <new>
+
+namespace {
+
+void PostFailure(const QString& reason)
+{
+    PostMessageToChannel(
+        ErrorLevel,
+        HostApplication::tr("%1. What was being done was given up; the application goes on.")
+            .arg(reason));
+}
+
+// The dialogs ask for a font family that comes with another system.
+void ProvideDialogFont()
+{
+    const QString family = QStringLiteral("微软雅黑");
+    if (QFontDatabase().hasFamily(family))
+        return;
+    QFont::insertSubstitutions(family, {QStringLiteral("Noto Sans CJK SC"),
+                                        QStringLiteral("Source Han Sans SC"),
+                                        QStringLiteral("WenQuanYi Micro Hei")});
+}
+
+} // namespace
+
+HostApplication::HostApplication(int& argc, char** argv)
+    : QApplication(argc, argv)
+{
+    // Only now: the base class has just put the process at the user's locale.
+    std::setlocale(LC_NUMERIC, "C");
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    ProvideDialogFont();
+
+    setApplicationName(QStringLiteral("tarnhost"));
+    setApplicationVersion(QStringLiteral(TARN_VERSION));
+    setWindowIcon(QIcon(QStringLiteral(":/images/TopTitle.png")));
+}
+
+HostApplication::~HostApplication() = default;
+
+bool HostApplication::notify(QObject* receiver, QEvent* event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const Standard_Failure& failure) {
+        PostFailure(tr("The geometry kernel failed: %1 (%2)")
+                        .arg(QString::fromLocal8Bit(failure.GetMessageString()),
+                             QString::fromLatin1(failure.DynamicType()->Name())));
+    } catch (const std::bad_alloc&) {
+        PostFailure(tr("There is not enough memory"));
+    } catch (const std::exception& exception) {
+        PostFailure(tr("An unexpected error: %1").arg(QString::fromLocal8Bit(exception.what())));
+    } catch (...) {
+        PostFailure(tr("An unexpected error of an unknown kind"));
+    }
+    // Handled, as far as it can be: the event is not to try its luck elsewhere.
+    return true;
+}

@@ -1,0 +1,113 @@
+#include "JsonSection.h"
+
+#include <algorithm>
+#include <utility>
+
+JsonError::JsonError(const QString& reason)
+    : std::runtime_error(reason.toStdString())
+{
+}
+
+QString Quoted(const QString& text)
+{
+    constexpr int MostCharacters = 60;
+    const QString line = text.simplified();
+    const QString shown =
+        line.size() > MostCharacters ? line.left(MostCharacters) + QStringLiteral("...") : line;
+    return QLatin1Char('"') + shown + QLatin1Char('"');
+}
+
+JsonSection::JsonSection(QString place, const QJsonValue& value,
+                         std::initializer_list<QLatin1String> keys)
+    : m_place(std::move(place))
+    , m_object(value.toObject())
+{
+    if (!value.isObject())
+        Fail(QStringLiteral("is no object"));
+    const QStringList found = m_object.keys();
+    for (const QString& key : found) {
+        if (std::find(keys.begin(), keys.end(), key) == keys.end())
+            Fail(QStringLiteral("has the unknown entry %1").arg(Quoted(key)));
+    }
+}
+
+QString JsonSection::Text(QLatin1String key, const QString& byDefault) const
+{
+    if (!Has(key))
+        return byDefault;
+    const QJsonValue value = m_object.value(key);
+    if (!value.isString())
+        FailAt(key, QStringLiteral("a text"));
+    return value.toString();
+}
+
+QString JsonSection::NeededText(QLatin1String key) const
+{
+    QString text = Text(key);
+    if (text.isEmpty())
+        Fail(QStringLiteral("has no \"%1\"").arg(key));
+    return text;
+}
+
+double JsonSection::Number(QLatin1String key) const
+{
+    if (!Has(key))
+        Fail(QStringLiteral("has no \"%1\"").arg(key));
+    const QJsonValue value = m_object.value(key);
+    if (!value.isDouble())
+        FailAt(key, QStringLiteral("a number"));
+    return value.toDouble();
+}
+
+bool JsonSection::Flag(QLatin1String key, bool byDefault) const
+{
+    if (!Has(key))
+        return byDefault;
+    const QJsonValue value = m_object.value(key);
+    if (!value.isBool())
+        FailAt(key, QStringLiteral("true or false"));
+    return value.toBool();
+}
+
+QJsonArray JsonSection::Array(QLatin1String key) const
+{
+    const QJsonValue value = m_object.value(key);
+    if (Has(key) && !value.isArray())
+        FailAt(key, QStringLiteral("a list"));
+    return value.toArray();
+}
+
+std::vector<double> JsonSection::Numbers(QLatin1String key) const
+{
+    std::vector<double> numbers;
+    const QJsonArray array = Array(key);
+    numbers.reserve(std::size_t(array.size()));
+    for (const QJsonValue& value : array) {
+        if (!value.isDouble())
+            FailAt(key, QStringLiteral("a list of numbers"));
+        numbers.push_back(value.toDouble());
+    }
+    return numbers;
+}
+
+QStringList JsonSection::Texts(QLatin1String key) const
+{
+    QStringList texts;
+    const QJsonArray array = Array(key);
+    for (const QJsonValue& value : array) {
+        if (!value.isString())
+            FailAt(key, QStringLiteral("a list of texts"));
+        texts << value.toString();
+    }
+    return texts;
+}
+
+void JsonSection::Fail(const QString& what) const
+{
+    throw JsonError(m_place + QLatin1Char(' ') + what);
+}
+
+void JsonSection::FailAt(QLatin1String key, const QString& wanted) const
+{
+    Fail(QStringLiteral("has a \"%1\" that is not %2").arg(key, wanted));
+}

@@ -1,0 +1,142 @@
+#include "MessageDock.h"
+
+#include "MessageLevel.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QStyle>
+#include <QTableView>
+#include <QTime>
+
+#include <algorithm>
+
+namespace {
+
+// On the first item of a row: the message as it came, and how often it came.
+enum Role
+{
+    CodeRole = Qt::UserRole,
+    TimesRole
+};
+
+QStyle::StandardPixmap LevelIcon(int level)
+{
+    if (level <= InfoLevel)
+        return QStyle::SP_MessageBoxInformation;
+    return level == WarningLevel ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxCritical;
+}
+
+QString CurrentTime()
+{
+    return QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
+}
+
+} // namespace
+
+MessageDock::MessageDock(QWidget* parent)
+    : QDockWidget(tr("Messages"), parent)
+    , m_view(new QTableView(this))
+{
+    setObjectName(QStringLiteral("messageDock"));
+    setWidget(m_view);
+
+    m_model.setHorizontalHeaderLabels({tr("Time"), tr("Level"), tr("Times"), tr("Text")});
+    m_view->setObjectName(QStringLiteral("messageView"));
+    m_view->setModel(&m_model);
+    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->setShowGrid(false);
+    m_view->setTabKeyNavigation(false);
+    m_view->setWordWrap(false);
+    m_view->verticalHeader()->hide();
+    m_view->verticalHeader()->setDefaultSectionSize(m_view->fontMetrics().height() + 6);
+    m_view->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_view->horizontalHeader()->setHighlightSections(false);
+    m_view->horizontalHeader()->setStretchLastSection(true);
+    const int letter = m_view->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    m_view->setColumnWidth(TimeColumn, 11 * letter);
+    m_view->setColumnWidth(LevelColumn, 12 * letter);
+    m_view->setColumnWidth(CountColumn, 8 * letter);
+
+    auto* const copy = new QAction(tr("Copy"), m_view);
+    copy->setObjectName(QStringLiteral("action_CopyMessages"));
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    auto* const clear = new QAction(tr("Clear"), m_view);
+    clear->setObjectName(QStringLiteral("action_ClearMessages"));
+    m_view->addActions({copy, clear});
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+
+    // Also when the dock is laid out only after the lines have come.
+    QScrollBar* const bar = m_view->verticalScrollBar();
+    connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int end) { bar->setValue(end); });
+    connect(copy, &QAction::triggered, this, &MessageDock::CopySelection);
+    connect(clear, &QAction::triggered, this, &MessageDock::Clear);
+    connect(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage, this,
+            &MessageDock::AddMessage);
+}
+
+MessageDock::~MessageDock() = default;
+
+QString MessageDock::LevelWord(int level)
+{
+    if (level <= InfoLevel)
+        return tr("Info");
+    return level == WarningLevel ? tr("Warning") : tr("Error");
+}
+
+void MessageDock::AddMessage(int level, const QString& text)
+{
+    const Message message(level, text);
+    QList<QStandardItem*> row;
+    if (QStandardItem* const known = m_timeItems.value(message)) {
+        row = m_model.takeRow(known->row());
+    } else {
+        row = {new QStandardItem, new QStandardItem(LevelWord(level)), new QStandardItem,
+               new QStandardItem(text)};
+        row[TimeColumn]->setData(level, CodeRole);
+        row[LevelColumn]->setIcon(style()->standardIcon(LevelIcon(level)));
+        row[CountColumn]->setTextAlignment(Qt::AlignCenter);
+        row[TextColumn]->setToolTip(text.toHtmlEscaped());
+        m_timeItems.insert(message, row[TimeColumn]);
+    }
+
+    const int times = row[TimeColumn]->data(TimesRole).toInt() + 1;
+    row[TimeColumn]->setData(times, TimesRole);
+    row[TimeColumn]->setText(CurrentTime());
+    if (times > 1)
+        row[CountColumn]->setText(QString::number(times));
+    m_model.appendRow(row);
+
+    if (m_model.rowCount() > MaximumLines) {
+        m_timeItems.remove({m_model.item(0, TimeColumn)->data(CodeRole).toInt(),
+                            m_model.item(0, TextColumn)->text()});
+        m_model.removeRow(0);
+    }
+    m_view->scrollToBottom();
+}
+
+void MessageDock::CopySelection() const
+{
+    QModelIndexList selected = m_view->selectionModel()->selectedRows();
+    if (selected.isEmpty())
+        return;
+    std::sort(selected.begin(), selected.end());
+    QStringList lines;
+    for (const QModelIndex& index : qAsConst(selected)) {
+        QStringList cells;
+        for (int column = TimeColumn; column <= TextColumn; ++column)
+            cells << m_model.item(index.row(), column)->text();
+        lines << cells.join(QLatin1Char('\t'));
+    }
+    QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}
+
+void MessageDock::Clear()
+{
+    m_timeItems.clear();
+    m_model.removeRows(0, m_model.rowCount());
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+/// Keeps message boxes from blocking a run that nobody watches: while it lives, every box is closed
+/// as soon as it shows, and its text is kept.
+class NoticeWatcher : public QObject
+{
+    Q_OBJECT
+
+public:
+    NoticeWatcher();
+    ~NoticeWatcher() override;
+
+    /// The texts of the boxes shown since the last call.
+    QStringList TakeNotices();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QStringList m_notices;
+};

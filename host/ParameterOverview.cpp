@@ -1,0 +1,96 @@
+#include "ParameterOverview.h"
+
+#include "GlobalParaMeterMgr.h"
+
+#include <QHeaderView>
+#include <QLocale>
+#include <QTableWidget>
+
+namespace {
+
+enum TypeCode
+{
+    BoolType,
+    ScalarType,
+    VectorType,
+    TensorType
+};
+
+QString TypeWord(int code)
+{
+    switch (code) {
+    case BoolType:
+        return ParameterOverview::tr("Bool");
+    case ScalarType:
+        return ParameterOverview::tr("Scalar");
+    case VectorType:
+        return ParameterOverview::tr("Vector");
+    case TensorType:
+        return ParameterOverview::tr("Tensor");
+    default:
+        return ParameterOverview::tr("unknown (%1)").arg(code);
+    }
+}
+
+// As few digits as tell the number from its neighbours: up to 17, but 0.1 stays 0.1.
+QString ExactText(double value)
+{
+    return QString::number(value, 'g', QLocale::FloatingPointShortest);
+}
+
+QString RawValueText(const QString& name, const ParametersDef& record)
+{
+    if (record.m_nType == VectorType)
+        return QStringLiteral("(%1, %2, %3)")
+            .arg(ExactText(record.m_dX), ExactText(record.m_dY), ExactText(record.m_dZ));
+    const QVariant raw = GlobalParaMeterMgr::GetParameterRawValue(name);
+    return raw.type() == QVariant::Double ? ExactText(raw.toDouble()) : raw.toString();
+}
+
+} // namespace
+
+ParameterOverview::ParameterOverview(QWidget* parent)
+    : QDockWidget(tr("Stored parameters"), parent)
+    , m_table(new QTableWidget(0, DescriptionColumn + 1, this))
+{
+    setObjectName(QStringLiteral("parameterOverview"));
+    setWidget(m_table);
+
+    m_table->setObjectName(QStringLiteral("parameterTable"));
+    m_table->setHorizontalHeaderLabels({tr("Name"), tr("Type"), tr("Value"), tr("Raw value"),
+                                        tr("Expression"), tr("Description")});
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setTabKeyNavigation(false);
+    m_table->setWordWrap(false);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setStretchLastSection(true);
+}
+
+ParameterOverview::~ParameterOverview() = default;
+
+void ParameterOverview::Refresh()
+{
+    const ParameterMap& store = GlobalParaMeterMgr::m_nameMapParameters;
+    m_table->clearContents();
+    m_table->setRowCount(int(store.size()));
+    int row = 0;
+    for (const auto& [name, record] : store) {
+        const auto show = [this, row](int column, const QString& text) {
+            m_table->setItem(row, column, new QTableWidgetItem(text));
+        };
+        show(NameColumn, name);
+        show(TypeColumn, TypeWord(record.m_nType));
+        show(ValueColumn, record.m_strValue);
+        show(RawValueColumn, RawValueText(name, record));
+        show(ExpressionColumn, QString::fromLocal8Bit(record.m_strExpression.c_str()));
+        show(DescriptionColumn, record.m_strDescription);
+        for (const int column : {ValueColumn, RawValueColumn})
+            m_table->item(row, column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        ++row;
+    }
+    m_table->resizeColumnsToContents();
+}

@@ -1,0 +1,321 @@
+#include "Project.h"
+
+#include "GlobalParaMeterMgr.h"
+#include "JsonSection.h"
+#include "OneParameterDlg.h"
+#include "sParaArrayData.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSet>
+
+#include <array>
+#include <utility>
+
+// The macro wants to stand outside every namespace.
+static void InitializeSamples()
+{
+    Q_INIT_RESOURCE(samples);
+}
+
+namespace {
+
+// In the order of the type codes of ParametersDef.
+enum TypeCode
+{
+    BoolType,
+    ScalarType,
+    VectorType,
+    TensorType
+};
+const std::array<QLatin1String, 4> TypeWords = {QLatin1String("Bool"), QLatin1String("Scalar"),
+                                                QLatin1String("Vector"), QLatin1String("Tensor")};
+
+// In the order of sParaArrayData::nSampleType, with the radio button that stands for each.
+struct Spacing
+{
+    QLatin1String word;
+    QLatin1String button;
+};
+const std::array<Spacing, 4> Spacings = {
+    Spacing{QLatin1String("Linear"), QLatin1String("radioButton_Linear")},
+    Spacing{QLatin1String("Log10"), QLatin1String("radioButton_Log")},
+    Spacing{QLatin1String("Ln"), QLatin1String("radioButton_Ln")},
+    Spacing{QLatin1String("Gauss"), QLatin1String("radioButton_Gauss")}};
+
+const QLatin1String VersionKey("version");
+const QLatin1String TitleKey("title");
+const QLatin1String DensityKey("density");
+const QLatin1String ParametersKey("parameters");
+const QLatin1String SamplesKey("samples");
+const QLatin1String NameKey("name");
+const QLatin1String TypeKey("type");
+const QLatin1String ValueKey("value");
+const QLatin1String ExpressionKey("expression");
+const QLatin1String UsesKey("expressionParameters");
+const QLatin1String DescriptionKey("description");
+const QLatin1String ParameterKey("parameter");
+const QLatin1String MinKey("min");
+const QLatin1String MaxKey("max");
+const QLatin1String DeltaKey("delta");
+const QLatin1String SpacingKey("spacing");
+const QLatin1String ValuesKey("values");
+const QLatin1String TickedKey("ticked");
+
+// All digits, so that what an editor reads back is the number that stood in the file.
+QString FullNumberText(double value)
+{
+    return QString::number(value, 'g', QLocale::FloatingPointShortest);
+}
+
+void ReadValue(const JsonSection& section, ParametersDef& record)
+{
+    if (!section.Has(ValueKey)) {
+        if (record.m_strExpression.empty())
+            section.Fail(QStringLiteral("has neither \"value\" nor \"expression\""));
+        return;
+    }
+    switch (record.m_nType) {
+    case BoolType:
+        record.m_dValue = section.Flag(ValueKey, false) ? 1.0 : 0.0;
+        record.m_strValue = FullNumberText(record.m_dValue);
+        break;
+    case ScalarType:
+        record.m_dValue = section.Number(ValueKey);
+        record.m_strValue = FullNumberText(record.m_dValue);
+        break;
+    case VectorType: {
+        const std::vector<double> components = section.Numbers(ValueKey);
+        if (components.size() != 3)
+            section.FailAt(ValueKey, QStringLiteral("a list of three numbers"));
+        record.m_dX = components[0];
+        record.m_dY = components[1];
+        record.m_dZ = components[2];
+        record.m_strValue = QStringLiteral("%1,%2,%3")
+                                .arg(FullNumberText(record.m_dX), FullNumberText(record.m_dY),
+                                     FullNumberText(record.m_dZ));
+        break;
+    }
+    default:
+        record.m_strValue = section.Text(ValueKey);
+        break;
+    }
+}
+
+ParametersDef ReadParameter(const QJsonValue& value, int number)
+{
+    const std::initializer_list<QLatin1String> keys = {NameKey,       TypeKey, ValueKey,
+                                                       ExpressionKey, UsesKey, DescriptionKey};
+    const QString place = QStringLiteral("parameter %1").arg(number);
+    const QString name = JsonSection(place, value, keys).NeededText(NameKey);
+    const JsonSection section(QStringLiteral("%1, %2,").arg(place, Quoted(name)), value, keys);
+
+    // Such a name could not be told in a list of names.
+    if (name.contains(QLatin1Char(',')))
+        section.Fail(QStringLiteral("has a comma in its name"));
+
+    ParametersDef record;
+    record.m_strName = name;
+    const QString type = section.Text(TypeKey, TypeWords[ScalarType]);
+    record.m_nType = -1;
+    for (std::size_t code = 0; code < TypeWords.size(); ++code) {
+        if (type == TypeWords[code])
+            record.m_nType = int(code);
+    }
+    if (record.m_nType < 0)
+        section.Fail(QStringLiteral("has the unknown type %1").arg(Quoted(type)));
+    record.m_strExpression = section.Text(ExpressionKey).toLocal8Bit().toStdString();
+    record.m_strExpressPara = section.Texts(UsesKey).join(QLatin1Char(','));
+    record.m_strDescription = section.Text(DescriptionKey);
+    ReadValue(section, record);
+    return record;
+}
+
+void CheckRange(const JsonSection& section, const Project::Samples& samples)
+{
+    constexpr double MostSamples = 1000000.0;
+    const double length = samples.max - samples.min;
+    if (!(length > 0.0))
+        section.Fail(QStringLiteral("has a \"max\" that is not above \"min\""));
+    if (!(samples.delta > 0.0))
+        section.Fail(QStringLiteral("has a \"delta\" that is not above 0"));
+    if (samples.delta > length)
+        section.Fail(QStringLiteral("has a \"delta\" that is greater than the range"));
+    if (!(length / samples.delta < MostSamples))
+        section.Fail(QStringLiteral("has more than a million samples"));
+}
+
+Project::Samples ReadSamples(const QJsonValue& value, int number)
+{
+    const std::initializer_list<QLatin1String> keys = {ParameterKey, MinKey,    MaxKey,   DeltaKey,
+                                                       SpacingKey,   ValuesKey, TickedKey};
+    const QString place = QStringLiteral("sample list %1").arg(number);
+    const QString name = JsonSection(place, value, keys).NeededText(ParameterKey);
+    const JsonSection section(QStringLiteral("%1, %2,").arg(place, Quoted(name)), value, keys);
+
+    Project::Samples samples;
+    samples.name = name;
+    samples.ticked = section.Flag(TickedKey, true);
+    if (section.Has(ValuesKey)) {
+        for (const QLatin1String key : {MinKey, MaxKey, DeltaKey, SpacingKey}) {
+            if (section.Has(key))
+                section.Fail(QStringLiteral("has both \"values\" and \"%1\"").arg(key));
+        }
+        samples.values = section.Numbers(ValuesKey);
+        if (samples.values.empty())
+            section.Fail(QStringLiteral("has no values"));
+        return samples;
+    }
+    samples.min = section.Number(MinKey);
+    samples.max = section.Number(MaxKey);
+    samples.delta = section.Number(DeltaKey);
+    CheckRange(section, samples);
+
+    const QString word = section.Text(SpacingKey, Spacings[0].word);
+    samples.spacing = -1;
+    for (std::size_t code = 0; code < Spacings.size(); ++code) {
+        if (word == Spacings[code].word)
+            samples.spacing = int(code);
+    }
+    if (samples.spacing < 0)
+        section.Fail(QStringLiteral("has the unknown spacing %1").arg(Quoted(word)));
+    return samples;
+}
+
+QByteArray ReadFile(const QString& path)
+{
+    // A folder can be opened like a file, and only reading it fails, without a reason.
+    if (QFileInfo(path).isDir())
+        throw JsonError(QStringLiteral("is a folder, not a file"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw JsonError(QStringLiteral("cannot be opened: %1").arg(file.errorString()));
+    QByteArray bytes = file.read(Project::MaximumFileSize + 1);
+    if (file.error() != QFileDevice::NoError)
+        throw JsonError(QStringLiteral("cannot be read: %1").arg(file.errorString()));
+    if (bytes.size() > Project::MaximumFileSize)
+        throw JsonError(QStringLiteral("is larger than %1 MB, which no project is")
+                            .arg(Project::MaximumFileSize >> 20));
+    return bytes;
+}
+
+QJsonValue ParseJson(const QByteArray& bytes)
+{
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
+    if (error.error != QJsonParseError::NoError)
+        throw JsonError(QStringLiteral("is no valid JSON: %1 at byte %2")
+                            .arg(error.errorString())
+                            .arg(error.offset));
+    return document.isObject() ? QJsonValue(document.object()) : QJsonValue();
+}
+
+// As a user does it: type the range, choose the spacing, press OK.
+void SampleByDialog(const Project::Samples& samples)
+{
+    OneParameterDlg dialog(nullptr, samples.name);
+    dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit_Min"))
+        ->setText(FullNumberText(samples.min));
+    dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit_Max"))
+        ->setText(FullNumberText(samples.max));
+    auto* const delta = dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit_Deta"));
+    delta->setText(FullNumberText(samples.delta));
+    dialog.findChild<QRadioButton*>(Spacings[std::size_t(samples.spacing)].button)
+        ->setChecked(true);
+    // One finished edit after all fields are filled: a range half typed would be refused.
+    Q_EMIT delta->editingFinished();
+    dialog.findChild<QPushButton*>(QStringLiteral("pushButton_OK"))->click();
+}
+
+} // namespace
+
+ProjectError::ProjectError(const QString& reason)
+    : std::runtime_error(reason.toStdString())
+{
+}
+
+QString Project::SamplePath()
+{
+    InitializeSamples();
+    return QStringLiteral(":/samples/flange.json");
+}
+
+Project Project::Load(const QString& path)
+{
+    Project project;
+    project.m_path = path;
+    try {
+        project.Read(ParseJson(ReadFile(path)));
+    } catch (const JsonError& error) {
+        throw ProjectError(
+            QStringLiteral("%1: %2").arg(path.simplified(), QString::fromUtf8(error.what())));
+    }
+    return project;
+}
+
+void Project::Read(const QJsonValue& json)
+{
+    // The version first: a newer file may have entries that are unknown here.
+    const double version = json.toObject().value(VersionKey).toDouble(Version);
+    if (version > Version)
+        throw JsonError(
+            QStringLiteral("the project is of version %1; this program reads version %2")
+                .arg(version)
+                .arg(Version));
+    const JsonSection root(QStringLiteral("the project"), json,
+                           {VersionKey, TitleKey, DensityKey, ParametersKey, SamplesKey});
+    if (root.Number(VersionKey) != Version)
+        root.FailAt(VersionKey, QString::number(Version));
+
+    m_title = root.Text(TitleKey, QFileInfo(m_path).completeBaseName());
+    if (root.Has(DensityKey))
+        m_density = root.Number(DensityKey);
+    if (!(m_density > 0.0))
+        root.FailAt(DensityKey, QStringLiteral("above 0"));
+
+    QSet<QString> names;
+    const QJsonArray parameters = root.Array(ParametersKey);
+    for (const QJsonValue& value : parameters) {
+        m_parameters.push_back(ReadParameter(value, int(m_parameters.size()) + 1));
+        const QString& name = m_parameters.back().m_strName;
+        if (names.contains(name))
+            root.Fail(QStringLiteral("has two parameters %1").arg(Quoted(name)));
+        names.insert(name);
+    }
+
+    QSet<QString> sampled;
+    const QJsonArray samples = root.Array(SamplesKey);
+    for (const QJsonValue& value : samples) {
+        m_samples.push_back(ReadSamples(value, int(m_samples.size()) + 1));
+        const QString& name = m_samples.back().name;
+        if (!names.contains(name))
+            root.Fail(
+                QStringLiteral("has samples for %1, which is no parameter").arg(Quoted(name)));
+        if (sampled.contains(name))
+            root.Fail(QStringLiteral("has two sample lists for %1").arg(Quoted(name)));
+        sampled.insert(name);
+    }
+}
+
+void Project::FillStores() const
+{
+    GlobalParaMeterMgr::m_nameMapParameters.clear();
+    for (const ParametersDef& record : m_parameters)
+        GlobalParaMeterMgr::AddParameter(record.m_strName, record);
+
+    g_mapParaArrays.clear();
+    for (const Samples& samples : m_samples) {
+        if (samples.values.empty())
+            SampleByDialog(samples);
+        sParaArrayData& record = g_mapParaArrays[samples.name];
+        record.strName = samples.name;
+        record.bChecked = samples.ticked ? 1 : 0;
+        if (!samples.values.empty())
+            record.vecValues = samples.values;
+    }
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "ParametersDef.h"
+
+#include <QString>
+
+#include <stdexcept>
+#include <vector>
+
+class QJsonValue;
+
+/// Why a project file cannot be used: one line, with the file's name, in UTF-8.
+class ProjectError : public std::runtime_error
+{
+public:
+    explicit ProjectError(const QString& reason);
+};
+
+/// A project as it stands in a file: parameters, samples, and what the part is made of.
+///
+/// host/samples/flange.json shows all there is to such a file.
+class Project
+{
+public:
+    /// The samples of one parameter, given as a range or one by one.
+    struct Samples
+    {
+        QString name;
+        double min = 0.0;
+        double max = 1.0;
+        double delta = 1.0;
+        int spacing = 0;            ///< As sParaArrayData::nSampleType.
+        std::vector<double> values; ///< When not empty, these count instead of the range.
+        bool ticked = true;         ///< Whether the parameter takes part in the study.
+    };
+
+    static constexpr int Version = 1;                           ///< Of the files that are read.
+    static constexpr qint64 MaximumFileSize = qint64(16) << 20; ///< In bytes.
+    static constexpr double SteelDensity = 7850.0; ///< For files that give none, in kg/m3.
+
+    /// The path of the sample project, which is built into the program.
+    static QString SamplePath();
+
+    /// Reads the file at @p path. @throws ProjectError
+    static Project Load(const QString& path);
+
+    const QString& Path() const { return m_path; }   ///< As given to Load().
+    const QString& Title() const { return m_title; } ///< What the project is called.
+    double Density() const { return m_density; }     ///< Of the part, in kg/m3.
+    const std::vector<ParametersDef>& Parameters() const { return m_parameters; }
+    const std::vector<Samples>& SampleLists() const { return m_samples; }
+
+    /// Replaces what GlobalParaMeterMgr and g_mapParaArrays hold by this project. Ranges go through
+    /// the sampling dialog, as if a user typed them, so that dialog may show its notices here.
+    void FillStores() const;
+
+private:
+    Project() = default;
+
+    void Read(const QJsonValue& json);
+
+    QString m_path;
+    QString m_title;
+    double m_density = SteelDensity;
+    std::vector<ParametersDef> m_parameters;
+    std::vector<Samples> m_samples;
+};

@@ -1,0 +1,204 @@
+#include "ResultsTable.h"
+
+#include <QFile>
+#include <QSaveFile>
+
+#include <utility>
+
+namespace {
+
+const QString OkStatus = QStringLiteral("ok");
+const QString FailedStatus = QStringLiteral("failed");
+
+const QStringList MeasureNames = {
+    QStringLiteral("volume_mm3"), QStringLiteral("area_mm2"), QStringLiteral("mass_kg"),
+    QStringLiteral("x_min"),      QStringLiteral("y_min"),    QStringLiteral("z_min"),
+    QStringLiteral("x_max"),      QStringLiteral("y_max"),    QStringLiteral("z_max")};
+
+QString NumberCell(double value)
+{
+    return QString::number(value, 'g', 17);
+}
+
+QString Cell(const QString& text)
+{
+    const bool plain = !text.contains(QLatin1Char(',')) && !text.contains(QLatin1Char('"')) &&
+                       !text.contains(QLatin1Char('\n')) && !text.contains(QLatin1Char('\r'));
+    if (plain)
+        return text;
+    QString quoted = text;
+    quoted.replace(QLatin1Char('"'), QLatin1String("\"\""));
+    return QLatin1Char('"') + quoted + QLatin1Char('"');
+}
+
+QString Line(const QStringList& cells)
+{
+    QStringList line;
+    line.reserve(cells.size());
+    for (const QString& cell : cells)
+        line << Cell(cell);
+    return line.join(QLatin1Char(',')) + QLatin1Char('\n');
+}
+
+// Cells may hold line ends, so the text is split as a whole and not line by line.
+std::vector<QStringList> Split(const QString& text)
+{
+    std::vector<QStringList> rows;
+    QStringList row;
+    QString cell;
+    bool quoted = false;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (quoted) {
+            if (c != QLatin1Char('"')) {
+                cell += c;
+            } else if (i + 1 < text.size() && text[i + 1] == QLatin1Char('"')) {
+                cell += c;
+                ++i;
+            } else {
+                quoted = false;
+            }
+        } else if (c == QLatin1Char('"')) {
+            quoted = true;
+        } else if (c == QLatin1Char(',')) {
+            row << std::exchange(cell, QString());
+        } else if (c == QLatin1Char('\n')) {
+            row << std::exchange(cell, QString());
+            rows.push_back(std::exchange(row, QStringList()));
+        } else if (c != QLatin1Char('\r')) {
+            cell += c;
+        }
+    }
+    if (!cell.isEmpty() || !row.isEmpty()) {
+        row << cell;
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+/// Takes the cells of a row one after the other.
+class RowReader
+{
+public:
+    explicit RowReader(const QStringList& cells)
+        : m_cells(cells)
+    {
+    }
+
+    QString Text() { return m_cells[m_next++]; }
+
+    double Number()
+    {
+        bool isNumber = false;
+        const double value = m_cells[m_next++].toDouble(&isNumber);
+        m_isGood = m_isGood && isNumber;
+        return value;
+    }
+
+    void Skip(int cells) { m_next += cells; }
+
+    bool IsGood() const { return m_isGood; }
+
+private:
+    const QStringList& m_cells;
+    int m_next = 0;
+    bool m_isGood = true;
+};
+
+} // namespace
+
+ResultsError::ResultsError(const QString& reason)
+    : std::runtime_error(reason.toStdString())
+{
+}
+
+ResultsTable::ResultsTable(const QStringList& parameters)
+    : m_parameters(parameters)
+{
+}
+
+QStringList ResultsTable::Header() const
+{
+    return QStringList(QStringLiteral("run"))
+           << m_parameters << MeasureNames << QStringLiteral("status") << QStringLiteral("error");
+}
+
+void ResultsTable::Read(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw ResultsError(QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString()));
+    const std::vector<QStringList> rows = Split(QString::fromUtf8(file.readAll()));
+    const QStringList header = Header();
+    if (rows.empty() || rows.front() != header)
+        throw ResultsError(
+            QStringLiteral("%1: holds the results of another study; choose another folder")
+                .arg(path));
+
+    std::map<int, RunResult> runs;
+    for (std::size_t i = 1; i < rows.size(); ++i) {
+        const auto fail = [&] {
+            throw ResultsError(
+                QStringLiteral("%1: row %2 is no run of a study").arg(path).arg(i + 1));
+        };
+        if (rows[i].size() != header.size())
+            fail();
+        RowReader reader(rows[i]);
+        const int run = reader.Text().toInt();
+        RunResult result;
+        for (int parameter = 0; parameter < m_parameters.size(); ++parameter)
+            result.values.push_back(reader.Number());
+        result.ok = rows[i][header.size() - 2] == OkStatus;
+        if (result.ok) {
+            result.measures.volume = reader.Number();
+            result.measures.area = reader.Number();
+            result.mass = reader.Number();
+            for (double& bound : result.measures.boundingBox)
+                bound = reader.Number();
+        } else {
+            reader.Skip(MeasureNames.size());
+        }
+        const QString status = reader.Text();
+        result.error = reader.Text();
+        const bool knownStatus = status == OkStatus || status == FailedStatus;
+        if (run < 1 || !knownStatus || !reader.IsGood() || !runs.emplace(run, result).second)
+            fail();
+    }
+    m_runs = std::move(runs);
+}
+
+void ResultsTable::Write(const QString& path) const
+{
+    QString text = Line(Header());
+    for (const auto& [run, result] : m_runs) {
+        QStringList cells(QString::number(run));
+        for (const double value : result.values)
+            cells << NumberCell(value);
+        if (result.ok) {
+            cells << NumberCell(result.measures.volume) << NumberCell(result.measures.area)
+                  << NumberCell(result.mass);
+            for (const double bound : result.measures.boundingBox)
+                cells << NumberCell(bound);
+        } else {
+            for (int i = 0; i < MeasureNames.size(); ++i)
+                cells << QString();
+        }
+        cells << (result.ok ? OkStatus : FailedStatus) << result.error;
+        text += Line(cells);
+    }
+
+    const QByteArray bytes = text.toUtf8();
+    QSaveFile file(path);
+    // Flushed and measured before it takes the old file's place: commit() alone can leave an empty
+    // file on a full disk and still answer true.
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
+                         file.flush() && file.size() == bytes.size();
+    if (!written || !file.commit())
+        throw ResultsError(
+            QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString()));
+}
+
+void ResultsTable::Set(int run, RunResult result)
+{
+    m_runs[run] = std::move(result);
+}

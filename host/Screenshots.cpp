@@ -1,0 +1,130 @@
+#include "Screenshots.h"
+
+#include "DOEDlg.h"
+#include "DialogTables.h"
+#include "DoeSession.h"
+#include "GlobalParaMeterMgr.h"
+#include "MainWindow.h"
+#include "NoticeWatcher.h"
+#include "OneParameterDlg.h"
+#include "ParameterEditor.h"
+#include "Project.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFont>
+#include <QPixmap>
+#include <QTableWidget>
+
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+namespace {
+
+using Window = std::unique_ptr<QWidget>;
+
+constexpr int PointSize = 9; // Without a desktop the toolkit takes a size that no desktop has.
+constexpr int ChosenRow = 4;
+constexpr QSize RoomySampling(360, 460); // The form's own size shows one sample.
+
+class PictureFont
+{
+public:
+    PictureFont()
+    {
+        QFont font = m_before;
+        font.setPointSize(PointSize);
+        QApplication::setFont(font);
+    }
+    ~PictureFont() { QApplication::setFont(m_before); }
+    Q_DISABLE_COPY(PictureFont)
+
+private:
+    QFont m_before = QApplication::font();
+};
+
+Window NewMainWindow(const Project& project)
+{
+    auto window = std::make_unique<MainWindow>();
+    window->OpenProject(project);
+    return window;
+}
+
+Window NewParameterEditor(const Project&)
+{
+    auto editor = std::make_unique<ParameterEditor>(nullptr);
+    editor->m_Slot_RefreshGUI();
+    FitTables(*editor);
+    return editor;
+}
+
+Window NewOneParameterDlg(const Project& project)
+{
+    const std::vector<QString> names = GlobalParaMeterMgr::GetAllParametersName();
+    QString name = names.empty() ? QStringLiteral("length") : names.front();
+    // A range shows more of the dialog than samples given one by one.
+    for (const Project::Samples& samples : project.SampleLists()) {
+        if (samples.values.empty())
+            name = samples.name;
+    }
+    auto dialog = std::make_unique<OneParameterDlg>(nullptr, name);
+    dialog->resize(RoomySampling);
+    return dialog;
+}
+
+Window NewDOEDlg(const Project&)
+{
+    auto dialog = std::make_unique<DOEDlg>(nullptr);
+    const DoeSession ticksByName(*dialog);
+    FitTables(*dialog);
+    dialog->findChild<QTableWidget*>(QStringLiteral("tableWidget_Final"))->selectRow(ChosenRow);
+    return dialog;
+}
+
+struct Picture
+{
+    const char* name;
+    Window (*make)(const Project&);
+};
+
+// A new dialog gets a line here. The main window comes first: it fills the stores.
+const Picture Pictures[] = {
+    {"MainWindow", NewMainWindow},
+    {"DOEDlg", NewDOEDlg},
+    {"OneParameterDlg", NewOneParameterDlg},
+    {"ParameterEditor", NewParameterEditor},
+};
+
+bool WritePicture(QWidget& window, const QString& path)
+{
+    window.setAttribute(Qt::WA_DontShowOnScreen);
+    window.show();
+    QCoreApplication::processEvents();
+    return window.grab().save(path, "PNG");
+}
+
+int Fail(const QString& reason)
+{
+    std::fprintf(stderr, "tarnhost: %s\n", reason.toLocal8Bit().constData());
+    return 1;
+}
+
+} // namespace
+
+int WriteScreenshots(const Project& project, const QString& directory)
+{
+    if (!QDir().mkpath(directory))
+        return Fail(QStringLiteral("cannot make the directory %1").arg(directory));
+
+    const PictureFont font;
+    const NoticeWatcher notices;
+    for (const Picture& picture : Pictures) {
+        const Window window = picture.make(project);
+        const QString path =
+            QDir(directory).filePath(QLatin1String(picture.name) + QStringLiteral(".png"));
+        if (!WritePicture(*window, path))
+            return Fail(QStringLiteral("cannot write the picture %1").arg(path));
+    }
+    return 0;
+}

@@ -1,0 +1,29 @@
+#include "ShapeMeasures.h"
+
+#include <BRepBndLib.hxx>
+#include <BRepGProp.hxx>
+#include <Bnd_Box.hxx>
+#include <GProp_GProps.hxx>
+#include <TopoDS_Shape.hxx>
+
+ShapeMeasures Measure(const TopoDS_Shape& shape)
+{
+    ShapeMeasures measures;
+    GProp_GProps volume;
+    BRepGProp::VolumeProperties(shape, volume);
+    measures.volume = volume.Mass();
+    GProp_GProps surface;
+    BRepGProp::SurfaceProperties(shape, surface);
+    measures.area = surface.Mass();
+
+    // From the geometry itself: the usual box is widened by tolerances.
+    constexpr bool UseTriangulation = false;
+    constexpr bool UseTolerance = false;
+    Bnd_Box box;
+    BRepBndLib::AddOptimal(shape, box, UseTriangulation, UseTolerance);
+    if (!box.IsVoid()) {
+        auto& [xMin, yMin, zMin, xMax, yMax, zMax] = measures.boundingBox;
+        box.Get(xMin, yMin, zMin, xMax, yMax, zMax);
+    }
+    return measures;
+}

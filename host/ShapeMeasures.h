@@ -1,0 +1,15 @@
+#pragma once
+
+#include <array>
+
+class TopoDS_Shape;
+
+/// What a study records of a part.
+struct ShapeMeasures
+{
+    double volume = 0.0;                 ///< mm3
+    double area = 0.0;                   ///< mm2
+    std::array<double, 6> boundingBox{}; ///< Least x, y, z, greatest x, y, z, in mm; tight.
+};
+
+ShapeMeasures Measure(const TopoDS_Shape& shape);

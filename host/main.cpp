@@ -1,0 +1,129 @@
+#include "CommandLine.h"
+#include "HostApplication.h"
+#include "MainWindow.h"
+#include "Project.h"
+#include "Screenshots.h"
+#include "StudyRunner.h"
+
+#include <QTextCodec>
+#include <Standard_Failure.hxx>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+
+namespace {
+
+enum ExitCode
+{
+    DoneCode = 0,
+    FailedRunsCode = 1,
+    BadInputCode = 2
+};
+
+void Print(FILE* stream, const QString& text)
+{
+    const QByteArray bytes = text.toLocal8Bit();
+    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stream);
+    std::fflush(stream); // A study's progress is to be seen at once, also through a pipe.
+}
+
+int RunStudy(const CommandLine& line)
+{
+    const Project project = Project::Load(line.projectFile);
+    StudyRunner::Options options;
+    options.directory = line.outputDirectory;
+    options.firstRun = line.firstRun;
+    options.lastRun = line.lastRun;
+    StudyRunner runner(project, options, [](const QString& progress) {
+        Print(stdout, progress + QLatin1Char('\n'));
+    });
+    return runner.Run().failed == 0 ? DoneCode : FailedRunsCode;
+}
+
+int OpenWindow(const CommandLine& line)
+{
+    const Project project = Project::Load(line.projectFile);
+    MainWindow window;
+    window.show();
+    window.OpenProject(project);
+    return HostApplication::exec();
+}
+
+// A window needs a display; everything else does without.
+void ChoosePlatform(const CommandLine& line)
+{
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return;
+    if (line.action != CommandLine::OpenWindow)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    else if (qEnvironmentVariableIsEmpty("DISPLAY") &&
+             qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        throw CommandLineError(QStringLiteral(
+            "there is no display; --study and --screenshots work without one, see --help"));
+}
+
+// What the toolkit says about a missing desktop is no news to a run without one.
+void DropDesktopWarnings(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    Q_UNUSED(context)
+    const bool isNoise = text.contains(QLatin1String("XDG_RUNTIME_DIR")) ||
+                         text.contains(QLatin1String("propagateSizeHints"));
+    if (!isNoise)
+        Print(stderr, text + QLatin1Char('\n'));
+    if (type == QtFatalMsg)
+        std::abort();
+}
+
+int Act(const CommandLine& line)
+{
+    switch (line.action) {
+    case CommandLine::ShowHelp:
+        Print(stdout, CommandLine::HelpText());
+        return DoneCode;
+    case CommandLine::ShowVersion:
+        Print(stdout, QCoreApplication::applicationName() + QLatin1Char(' ') +
+                          QCoreApplication::applicationVersion() + QLatin1Char('\n'));
+        return DoneCode;
+    case CommandLine::RunStudy:
+        return RunStudy(line);
+    case CommandLine::WriteScreenshots:
+        return WriteScreenshots(Project::Load(line.projectFile), line.screenshotDirectory);
+    default:
+        return OpenWindow(line);
+    }
+}
+
+void Refuse(const char* reason)
+{
+    Print(stderr, QStringLiteral("tarnhost: %1\n").arg(QString::fromUtf8(reason)));
+}
+
+QStringList Arguments(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    return arguments;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Even before the application object says so: file names in the arguments are UTF-8.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    try {
+        const CommandLine line = CommandLine::Parse(Arguments(argc, argv));
+        ChoosePlatform(line);
+        if (line.action != CommandLine::OpenWindow)
+            qInstallMessageHandler(DropDesktopWarnings);
+        HostApplication application(argc, argv);
+        return Act(line);
+    } catch (const Standard_Failure& failure) {
+        Refuse(failure.GetMessageString());
+    } catch (const std::exception& error) {
+        Refuse(error.what());
+    }
+    return BadInputCode;
+}

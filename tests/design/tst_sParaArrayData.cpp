@@ -1,0 +1,59 @@
+#include "EmptyDesignStores.h"
+#include "TestCase.h"
+#include "sParaArrayData.h"
+
+class tst_sParaArrayData : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ANewRecordHasItsDefaults();
+    void TheMembersStandInTheirOrder();
+    void LookingUpANameEntersADefaultRecord();
+    void TheRegistryIsOrderedByName();
+};
+
+void tst_sParaArrayData::ANewRecordHasItsDefaults()
+{
+    const sParaArrayData record;
+    QCOMPARE(record.bChecked, 0);
+    QCOMPARE(record.strName, QString());
+    QVERIFY(record.vecValues.empty());
+    QCOMPARE(record.dMin, 0.0);
+    QCOMPARE(record.dMax, 1.0);
+    QCOMPARE(record.dDelta, 1.0);
+    QCOMPARE(record.nSampleType, 0);
+}
+
+void tst_sParaArrayData::TheMembersStandInTheirOrder()
+{
+    const sParaArrayData record = {1, "a", {2.5}, -1.0, 4.0, 0.5, 3};
+    QCOMPARE(record.bChecked, 1);
+    QCOMPARE(record.strName, QStringLiteral("a"));
+    QCOMPARE(record.vecValues, std::vector<double>({2.5}));
+    QCOMPARE(record.dMin, -1.0);
+    QCOMPARE(record.dMax, 4.0);
+    QCOMPARE(record.dDelta, 0.5);
+    QCOMPARE(record.nSampleType, 3);
+}
+
+void tst_sParaArrayData::LookingUpANameEntersADefaultRecord()
+{
+    const EmptyDesignStores stores;
+    QCOMPARE(g_mapParaArrays["new"].bChecked, 0);
+    QCOMPARE(g_mapParaArrays.size(), std::size_t(1));
+}
+
+void tst_sParaArrayData::TheRegistryIsOrderedByName()
+{
+    const EmptyDesignStores stores;
+    for (const char* const name : {"b", "a10", "B", "a2", "长", ""})
+        g_mapParaArrays[name];
+    QStringList names;
+    for (const auto& entry : g_mapParaArrays)
+        names << entry.first;
+    QCOMPARE(names, QStringList({"", "B", "a10", "a2", "b", "长"}));
+}
+
+TARN_TEST_MAIN(tst_sParaArrayData)
+#include "tst_sParaArrayData.moc"

@@ -1,0 +1,133 @@
+#include "CommandLine.h"
+#include "Project.h"
+#include "TestCase.h"
+
+class tst_CommandLine : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void WithoutArgumentsTheSampleProjectIsOpened();
+    void AProjectCanBeNamed();
+    void AStudyHasAProjectAFolderAndRuns();
+    void RunsAreARangeOrANumber_data();
+    void RunsAreARangeOrANumber();
+    void ScreenshotsTakeTheSampleProjectOrAnother();
+    void HelpAndVersionWinOverAllElse();
+    void TheHelpNamesEveryOption();
+    void BadArgumentsAreToldInOneLine_data();
+    void BadArgumentsAreToldInOneLine();
+};
+
+static CommandLine Parse(const QStringList& arguments)
+{
+    return CommandLine::Parse(QStringList("tarnhost") + arguments);
+}
+
+void tst_CommandLine::WithoutArgumentsTheSampleProjectIsOpened()
+{
+    const CommandLine line = Parse({});
+    QCOMPARE(line.action, CommandLine::OpenWindow);
+    QCOMPARE(line.projectFile, Project::SamplePath());
+}
+
+void tst_CommandLine::AProjectCanBeNamed()
+{
+    const CommandLine line = Parse({"my part.json"});
+    QCOMPARE(line.action, CommandLine::OpenWindow);
+    QCOMPARE(line.projectFile, QString("my part.json"));
+}
+
+void tst_CommandLine::AStudyHasAProjectAFolderAndRuns()
+{
+    const CommandLine line = Parse({"--study", "a.json", "--out", "o", "--runs", "3-7"});
+    QCOMPARE(line.action, CommandLine::RunStudy);
+    QCOMPARE(line.projectFile, QString("a.json"));
+    QCOMPARE(line.outputDirectory, QString("o"));
+    QCOMPARE(line.firstRun, 3);
+    QCOMPARE(line.lastRun, 7);
+}
+
+void tst_CommandLine::RunsAreARangeOrANumber_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("last");
+    QTest::newRow("a range") << "3-7" << 3 << 7;
+    QTest::newRow("a number") << "5" << 5 << 5;
+    QTest::newRow("a range of one") << "5-5" << 5 << 5;
+}
+
+void tst_CommandLine::RunsAreARangeOrANumber()
+{
+    QFETCH(QString, text);
+    const CommandLine line = Parse({"--study", "a.json", "--out", "o", "--runs", text});
+    QTEST(line.firstRun, "first");
+    QTEST(line.lastRun, "last");
+}
+
+void tst_CommandLine::ScreenshotsTakeTheSampleProjectOrAnother()
+{
+    CommandLine line = Parse({"--screenshots", "s"});
+    QCOMPARE(line.action, CommandLine::WriteScreenshots);
+    QCOMPARE(line.screenshotDirectory, QString("s"));
+    QCOMPARE(line.projectFile, Project::SamplePath());
+    line = Parse({"--screenshots", "s", "a.json"});
+    QCOMPARE(line.projectFile, QString("a.json"));
+}
+
+void tst_CommandLine::HelpAndVersionWinOverAllElse()
+{
+    QCOMPARE(Parse({"--study", "a.json", "--help"}).action, CommandLine::ShowHelp);
+    QCOMPARE(Parse({"-h"}).action, CommandLine::ShowHelp);
+    QCOMPARE(Parse({"--version"}).action, CommandLine::ShowVersion);
+}
+
+void tst_CommandLine::TheHelpNamesEveryOption()
+{
+    const QString help = CommandLine::HelpText();
+    for (const char* option : {"--study <file>", "--out <dir>", "--runs <runs>",
+                               "--screenshots <dir>", "--help", "--version", "[project]"})
+        QVERIFY2(help.contains(option), option);
+}
+
+void tst_CommandLine::BadArgumentsAreToldInOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char* name, const QStringList& arguments, const char* reason) {
+        QTest::newRow(name) << arguments << reason;
+    };
+    row("unknown option", {"--bogus"}, "Unknown option 'bogus'.");
+    row("study without value", {"--study"}, "Missing value after '--study'.");
+    row("study without folder", {"--study", "a"}, "--study FILE and --out DIR need each other");
+    row("folder without study", {"--out", "o"}, "--study FILE and --out DIR need each other");
+    row("runs without study", {"--runs", "3"}, "--runs needs --study FILE");
+    row("study and screenshots", {"--study", "a", "--out", "o", "--screenshots", "s"},
+        "--study and --screenshots do not go together");
+    row("two projects", {"a", "b"}, "there is more than one project: a and b");
+    row("two projects, one in a study", {"--study", "a", "--out", "o", "b"},
+        "there is more than one project: a and b");
+    row("empty project", {""}, "the name of a file or folder is empty");
+    row("empty study", {"--study", "", "--out", "o"}, "the name of a file or folder is empty");
+    row("empty folder", {"--study", "a", "--out", ""}, "the name of a file or folder is empty");
+    for (const char* runs : {"", "0", "7-3", "x", "3-", "-3", "3-7-9", "1.5", "3 - 7", "+3",
+                             "99999999999", "1-99999999999"})
+        row(qPrintable(QString("runs \"%1\"").arg(runs)),
+            {"--study", "a", "--out", "o", QString("--runs=") + runs},
+            qPrintable(QString("--runs %1: runs are given as 3-7 or 5, counted from 1").arg(runs)));
+}
+
+void tst_CommandLine::BadArgumentsAreToldInOneLine()
+{
+    QFETCH(QStringList, arguments);
+    try {
+        Parse(arguments);
+        QFAIL("The arguments were taken.");
+    } catch (const CommandLineError& error) {
+        QTEST(QString::fromUtf8(error.what()), "reason");
+    }
+}
+
+TARN_TEST_MAIN(tst_CommandLine)
+#include "tst_CommandLine.moc"

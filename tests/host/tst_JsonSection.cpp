@@ -1,0 +1,60 @@
+#include "JsonSection.h"
+#include "TestCase.h"
+
+class tst_JsonSection : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void EntriesAreReadByType();
+    void MissingEntriesGiveTheDefault();
+    void MessagesBeginWithThePlace();
+    void QuotedTextsStayShortAndInOneLine();
+};
+
+static const QLatin1String Key("key");
+
+static JsonSection With(const QJsonValue& value)
+{
+    return JsonSection("the place", QJsonObject({{Key, value}}), {Key});
+}
+
+void tst_JsonSection::EntriesAreReadByType()
+{
+    QCOMPARE(With("x").Text(Key), QString("x"));
+    QCOMPARE(With("x").NeededText(Key), QString("x"));
+    QCOMPARE(With(1.5).Number(Key), 1.5);
+    QCOMPARE(With(true).Flag(Key, false), true);
+    QCOMPARE(With(QJsonArray({1, 2})).Numbers(Key), std::vector<double>({1.0, 2.0}));
+    QCOMPARE(With(QJsonArray({"a", "b"})).Texts(Key), QStringList({"a", "b"}));
+}
+
+void tst_JsonSection::MissingEntriesGiveTheDefault()
+{
+    const JsonSection section("the place", QJsonObject(), {Key});
+    QVERIFY(!section.Has(Key));
+    QCOMPARE(section.Text(Key, "default"), QString("default"));
+    QCOMPARE(section.Flag(Key, true), true);
+    QVERIFY(section.Array(Key).isEmpty());
+    QVERIFY(section.Numbers(Key).empty());
+    QVERIFY(section.Texts(Key).isEmpty());
+}
+
+void tst_JsonSection::MessagesBeginWithThePlace()
+{
+    try {
+        With(1.0).Text(Key);
+        QFAIL("A number was taken for a text.");
+    } catch (const JsonError& error) {
+        QCOMPARE(error.what(), "the place has a \"key\" that is not a text");
+    }
+}
+
+void tst_JsonSection::QuotedTextsStayShortAndInOneLine()
+{
+    QCOMPARE(Quoted("a\nb"), QString("\"a b\""));
+    QCOMPARE(Quoted(QString(61, 'x')), '"' + QString(60, 'x') + "...\"");
+}
+
+TARN_TEST_MAIN(tst_JsonSection)
+#include "tst_JsonSection.moc"

@@ -1,0 +1,593 @@
+#include "DrawerOutput.h"
+#include "EmptyDesignStores.h"
+#include "HostApplication.h"
+#include "MainWindow.h"
+#include "MessageLevel.h"
+#include "ModalDriver.h"
+#include "ParameterOverview.h"
+#include "Project.h"
+#include "TestCase.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QDockWidget>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTableWidget>
+
+#include <set>
+
+class tst_MainWindow : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TheMenusOfferTheDialogs();
+    void TheDocksStandRoundTheShape();
+    void ANewWindowHasNoShape();
+    void AnOpenedProjectIsShownAndBuilt();
+    void TheEditorOpensFilledAndBelongsToTheWindow();
+    void ApplySettlesTheExpressionsAndRebuilds();
+    void ApplyRefreshesTheEditorWithTheSettledValues();
+    void CancelChangesNothing();
+    void AnExpressionThatCannotBeSettledIsToldOnce();
+    void APartThatCannotBeBuiltIsToldOnceAndTheLastGoodShapeStays();
+    void GenerateBuildsTheChosenRun();
+    void GenerateGivesParametersOutsideTheRunTheirRecordsBack();
+    void TicksStandAtTheirParametersByName();
+    void RestoreBringsAllParametersBack();
+    void RestoreAfterSeveralRunsBringsTheDesignBack();
+    void RestoreIsOfferedOnlyAfterARun();
+    void AppliedValuesAreTheDesignOfTheNextRun();
+    void DialogsAreGoneAfterTheirRun();
+    void AnotherProjectReplacesTheFirst();
+    void ABadProjectIsToldAndChangesNothing();
+    void ACancelledFileDialogChangesNothing();
+    void QuitClosesTheWindow();
+};
+
+namespace {
+
+// The columns of the editor that users type into, and of the experiments' parameters.
+enum EditorColumn
+{
+    EditorName,
+    EditorValue,
+    EditorExpression = 3
+};
+enum ExperimentColumn
+{
+    ExperimentName,
+    ExperimentStatus
+};
+
+void Trigger(MainWindow& window, const char* name)
+{
+    auto* const action = window.findChild<QAction*>(name);
+    if (action == nullptr)
+        qFatal("There is no action named \"%s\"", name);
+    QVERIFY2(action->isEnabled(), name);
+    action->trigger();
+}
+
+QString Shown(const MainWindow& window, const char* label)
+{
+    return Find<QLabel>(window, label).text();
+}
+
+double Stored(const QString& name)
+{
+    return GlobalParaMeterMgr::GetParameterRawValue(name).toDouble();
+}
+
+int RowOf(const QTableWidget& table, const QString& name)
+{
+    for (int row = 0; row < table.rowCount(); ++row) {
+        if (table.item(row, 0)->text() == name)
+            return row;
+    }
+    return -1;
+}
+
+// Types into a cell as a user does: a click, the text, Enter.
+void TypeIntoCell(QTableWidget& table, int row, int column, const QString& text)
+{
+    table.scrollToItem(table.item(row, column));
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
+                      table.visualItemRect(table.item(row, column)).center());
+    QTest::keyClick(table.viewport(), Qt::Key_F2);
+    QLineEdit* edit = nullptr;
+    // An editor that is done is hidden first and deleted later.
+    const QList<QLineEdit*> edits = table.viewport()->findChildren<QLineEdit*>();
+    for (QLineEdit* const child : edits) {
+        if (child->isVisible())
+            edit = child;
+    }
+    QVERIFY(edit != nullptr);
+    edit->selectAll();
+    QTest::keyClicks(edit, text);
+    QTest::keyClick(edit, Qt::Key_Return);
+    // Enter commits through a posted event.
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(table.item(row, column)->text(), text);
+}
+
+void TypeValue(QDialog& editor, const QString& name, const QString& value)
+{
+    auto& table = Find<QTableWidget>(editor, "tableWidget");
+    TypeIntoCell(table, RowOf(table, name), EditorValue, value);
+}
+
+void Choose(QTableWidget& table, int row)
+{
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
+                      table.visualItemRect(table.item(row, 0)).center());
+    QCOMPARE(table.currentRow(), row);
+}
+
+void Generate(QDialog& dialog, int row)
+{
+    Choose(Find<QTableWidget>(dialog, "tableWidget_Final"), row);
+    Click(dialog, "pushButton_GenGeo");
+}
+
+/// The messages at a level, in their order.
+QStringList Messages(const QSignalSpy& posted, MessageLevel level)
+{
+    QStringList texts;
+    for (const QList<QVariant>& message : posted) {
+        if (message[0].toInt() == level)
+            texts << message[1].toString();
+    }
+    return texts;
+}
+
+/// The sample project in a window of its own.
+struct OpenWindow
+{
+    OpenWindow()
+    {
+        window.show();
+        window.OpenProject(Project::Load(Project::SamplePath()));
+    }
+
+    EmptyDesignStores stores;
+    MainWindow window;
+};
+
+void WriteFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+// Answers the file dialog with @p path, through its own field.
+void ChooseFile(ModalDriver& user, const QString& path)
+{
+    user.Then([path](QDialog& dialog) {
+        Find<QLineEdit>(dialog, "fileNameEdit").setText(path);
+        auto& buttons = Find<QDialogButtonBox>(dialog, "buttonBox");
+        QTest::mouseClick(buttons.button(QDialogButtonBox::Open), Qt::LeftButton);
+    });
+}
+
+QByteArray SampleProject()
+{
+    QFile file(Project::SamplePath());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+void tst_MainWindow::TheMenusOfferTheDialogs()
+{
+    const EmptyDesignStores stores;
+    MainWindow window;
+    QStringList texts;
+    const QList<QAction*> menus = window.menuBar()->actions();
+    for (const QAction* const menu : menus) {
+        const QList<QAction*> actions = menu->menu()->actions();
+        for (const QAction* const action : actions) {
+            if (!action->isSeparator())
+                texts << QString(menu->text() + "/" + action->text()).remove('&');
+        }
+    }
+    QCOMPARE(texts, QStringList({"File/Open project", "File/Quit", "Design/Parameters",
+                                 "Design/Design of Experiments", "Design/Restore parameters",
+                                 "View/Stored parameters", "View/Messages"}));
+}
+
+void tst_MainWindow::TheDocksStandRoundTheShape()
+{
+    const EmptyDesignStores stores;
+    MainWindow window;
+    window.show();
+    QVERIFY(Find<QTableView>(window, "messageView").isVisible());
+    QVERIFY(Find<QTableWidget>(window, "parameterTable").isVisible());
+    QVERIFY(window.centralWidget()->isVisible());
+}
+
+void tst_MainWindow::ANewWindowHasNoShape()
+{
+    const EmptyDesignStores stores;
+    MainWindow window;
+    QCOMPARE(Shown(window, "label_Status"), QStringLiteral("There is no shape yet"));
+    QCOMPARE(Shown(window, "label_Volume"), QStringLiteral("none"));
+}
+
+void tst_MainWindow::AnOpenedProjectIsShownAndBuilt()
+{
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    const OpenWindow open;
+    QVERIFY(open.window.windowTitle().contains("Bolted flange"));
+    QVERIFY(Shown(open.window, "label_Status").startsWith("Built at "));
+    QVERIFY(Shown(open.window, "label_Volume").endsWith(" cm³"));
+    QVERIFY(Shown(open.window, "label_Area").endsWith(" cm²"));
+    QVERIFY(Shown(open.window, "label_Mass").endsWith(" kg"));
+    QCOMPARE(Shown(open.window, "label_BoundingBox"), QStringLiteral("200 × 200 × 50 mm"));
+    QCOMPARE(Shown(open.window, "label_BoundingBoxPosition"),
+             QStringLiteral("(-100, -100, 0), (100, 100, 50) mm"));
+    QCOMPARE(Find<QTableWidget>(open.window, "parameterTable").rowCount(),
+             int(GlobalParaMeterMgr::m_nameMapParameters.size()));
+    QCOMPARE(Stored("hub_diameter"), 112.0);
+    QCOMPARE(Messages(posted, ErrorLevel), QStringList());
+    QVERIFY(Messages(posted, InfoLevel).contains("The part was built"));
+}
+
+void tst_MainWindow::TheEditorOpensFilledAndBelongsToTheWindow()
+{
+    OpenWindow open;
+    ModalDriver user;
+    user.Then([&open](QDialog& editor) {
+        QCOMPARE(editor.parentWidget(), static_cast<QWidget*>(&open.window));
+        const auto& table = Find<QTableWidget>(editor, "tableWidget");
+        QCOMPARE(table.rowCount(), int(GlobalParaMeterMgr::m_nameMapParameters.size()));
+        QCOMPARE(table.item(0, EditorName)->text(), QStringLiteral("outer_diameter"));
+        Click(editor, "pushButton_Cancel");
+    });
+    Trigger(open.window, "action_Parameters");
+    QVERIFY(user.IsDone());
+}
+
+void tst_MainWindow::ApplySettlesTheExpressionsAndRebuilds()
+{
+    OpenWindow open;
+    const QString before = Shown(open.window, "label_Mass");
+    ModalDriver user;
+    user.Then([](QDialog& editor) {
+        TypeValue(editor, "outer_diameter", "240");
+        TypeValue(editor, "bore_diameter", "80");
+        Click(editor, "pushButton_Apply");
+        Click(editor, "pushButton_Cancel");
+    });
+    Trigger(open.window, "action_Parameters");
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes(), QVector<ShownBox>());
+    QCOMPARE(Stored("hub_diameter"), 128.0);
+    QCOMPARE(Stored("bolt_circle"), 184.0);
+    QCOMPARE(Shown(open.window, "label_BoundingBox"), QStringLiteral("240 × 240 × 50 mm"));
+    QVERIFY(Shown(open.window, "label_Mass") != before);
+    const auto& overview = Find<QTableWidget>(open.window, "parameterTable");
+    QCOMPARE(
+        overview.item(RowOf(overview, "bolt_circle"), ParameterOverview::RawValueColumn)->text(),
+        QStringLiteral("184"));
+}
+
+void tst_MainWindow::ApplyRefreshesTheEditorWithTheSettledValues()
+{
+    OpenWindow open;
+    // Stored before the parameter that it needs: one pass over the store does not settle it.
+    ParametersDef late = GlobalParaMeterMgr::m_nameMapParameters.at("outer_diameter");
+    GlobalParaMeterMgr::m_nameMapParameters["outer_diameter"].m_strExpression = "late * 2";
+    GlobalParaMeterMgr::m_nameMapParameters["outer_diameter"].m_strExpressPara = "late";
+    late.m_strName = "late";
+    late.m_strExpression = "50 * 2.2 + 0 * thickness";
+    late.m_strExpressPara = "thickness";
+    GlobalParaMeterMgr::AddParameter("late", late);
+
+    ModalDriver user;
+    user.Then([](QDialog& editor) {
+        Click(editor, "pushButton_Apply");
+        const auto& table = Find<QTableWidget>(editor, "tableWidget");
+        QCOMPARE(table.item(RowOf(table, "outer_diameter"), EditorValue)->text(),
+                 QStringLiteral("220"));
+        Click(editor, "pushButton_OK");
+    });
+    Trigger(open.window, "action_Parameters");
+    QVERIFY(user.IsDone());
+    QCOMPARE(Shown(open.window, "label_BoundingBox"), QStringLiteral("220 × 220 × 50 mm"));
+}
+
+void tst_MainWindow::CancelChangesNothing()
+{
+    OpenWindow open;
+    const QString before = Shown(open.window, "label_BoundingBox");
+    ModalDriver user;
+    user.Then([](QDialog& editor) {
+        TypeValue(editor, "outer_diameter", "240");
+        Click(editor, "pushButton_Cancel");
+    });
+    Trigger(open.window, "action_Parameters");
+    QVERIFY(user.IsDone());
+    QCOMPARE(Stored("outer_diameter"), 200.0);
+    QCOMPARE(Shown(open.window, "label_BoundingBox"), before);
+}
+
+void tst_MainWindow::AnExpressionThatCannotBeSettledIsToldOnce()
+{
+    OpenWindow open;
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    ModalDriver user;
+    user.Then([](QDialog& editor) {
+        auto& table = Find<QTableWidget>(editor, "tableWidget");
+        TypeIntoCell(table, RowOf(table, "hub_diameter"), EditorExpression, "1.6 *");
+        Click(editor, "pushButton_OK");
+    });
+    Trigger(open.window, "action_Parameters");
+    QVERIFY(user.IsDone());
+    const QStringList errors = Messages(posted, ErrorLevel);
+    QVERIFY2(errors.filter("hub_diameter").size() == 1, qPrintable(errors.join('\n')));
+}
+
+void tst_MainWindow::APartThatCannotBeBuiltIsToldOnceAndTheLastGoodShapeStays()
+{
+    OpenWindow open;
+    const QString volume = Shown(open.window, "label_Volume");
+    const QString box = Shown(open.window, "label_BoundingBox");
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    ModalDriver user;
+    user.Then([](QDialog& editor) {
+        TypeValue(editor, "bore_diameter", "400");
+        Click(editor, "pushButton_OK");
+    });
+    Trigger(open.window, "action_Parameters");
+    QVERIFY(user.IsDone());
+    const QStringList errors = Messages(posted, ErrorLevel);
+    QCOMPARE(errors.size(), 1);
+    QVERIFY2(errors[0].startsWith("The part cannot be built: "), qPrintable(errors[0]));
+    QVERIFY2(errors[0].size() > 30, qPrintable(errors[0]));
+
+    QVERIFY(Shown(open.window, "label_Status").startsWith("Not built: "));
+    QVERIFY(Shown(open.window, "label_Status").contains("last good shape"));
+    QCOMPARE(Shown(open.window, "label_Volume"), volume);
+    QCOMPARE(Shown(open.window, "label_BoundingBox"), box);
+    const auto& overview = Find<QTableWidget>(open.window, "parameterTable");
+    QCOMPARE(
+        overview.item(RowOf(overview, "bore_diameter"), ParameterOverview::ValueColumn)->text(),
+        QStringLiteral("400"));
+
+    user.Then([](QDialog& editor) {
+        TypeValue(editor, "bore_diameter", "70");
+        Click(editor, "pushButton_OK");
+    });
+    Trigger(open.window, "action_Parameters");
+    QVERIFY(Shown(open.window, "label_Status").startsWith("Built at "));
+}
+
+void tst_MainWindow::GenerateBuildsTheChosenRun()
+{
+    OpenWindow open;
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    ModalDriver user;
+    user.Then([&open](QDialog& dialog) {
+        QCOMPARE(dialog.parentWidget(), static_cast<QWidget*>(&open.window));
+        const auto& runs = Find<QTableWidget>(dialog, "tableWidget_Final");
+        QCOMPARE(runs.rowCount(), 18);
+        // bolt_count 8, bore_diameter 80, thickness 24
+        Generate(dialog, 17);
+        dialog.reject();
+    });
+    Trigger(open.window, "action_DesignOfExperiments");
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes(), QVector<ShownBox>());
+    QCOMPARE(Stored("thickness"), 24.0);
+    QCOMPARE(Stored("bore_diameter"), 80.0);
+    QCOMPARE(Shown(open.window, "label_BoundingBox"), QStringLiteral("200 × 200 × 54 mm"));
+    QVERIFY(Shown(open.window, "label_Status").startsWith("Built at "));
+    QCOMPARE(Messages(posted, ErrorLevel), QStringList());
+}
+
+void tst_MainWindow::GenerateGivesParametersOutsideTheRunTheirRecordsBack()
+{
+    OpenWindow open;
+    ModalDriver user;
+    user.Then([](QDialog& dialog) {
+        Generate(dialog, 17);
+        dialog.reject();
+    });
+    Trigger(open.window, "action_DesignOfExperiments");
+    QCOMPARE(Stored("outer_diameter"), 200.0);
+    QCOMPARE(Stored("hub_height"), 30.0);
+    // Settled anew from the run's bore.
+    QCOMPARE(Stored("hub_diameter"), 128.0);
+    const auto& overview = Find<QTableWidget>(open.window, "parameterTable");
+    QCOMPARE(
+        overview.item(RowOf(overview, "outer_diameter"), ParameterOverview::ValueColumn)->text(),
+        QStringLiteral("200"));
+    QCOMPARE(overview.item(RowOf(overview, "thickness"), ParameterOverview::ValueColumn)->text(),
+             QStringLiteral("24"));
+}
+
+void tst_MainWindow::TicksStandAtTheirParametersByName()
+{
+    OpenWindow open;
+    ModalDriver user;
+    std::set<QString> ticked;
+    user.Then([&ticked](QDialog& dialog) {
+        const auto& table = Find<QTableWidget>(dialog, "tableWidget_Parameters");
+        for (int row = 0; row < table.rowCount(); ++row) {
+            const auto* const check =
+                qobject_cast<QCheckBox*>(table.cellWidget(row, ExperimentStatus));
+            if (check->isChecked())
+                ticked.insert(table.item(row, ExperimentName)->text());
+        }
+        dialog.reject();
+    });
+    Trigger(open.window, "action_DesignOfExperiments");
+    QCOMPARE(ticked, std::set<QString>({"bolt_count", "bore_diameter", "thickness"}));
+}
+
+void tst_MainWindow::RestoreBringsAllParametersBack()
+{
+    OpenWindow open;
+    const ParameterMap before = GlobalParaMeterMgr::m_nameMapParameters;
+    const QString mass = Shown(open.window, "label_Mass");
+    ModalDriver user;
+    user.Then([](QDialog& dialog) {
+        Generate(dialog, 17);
+        dialog.reject();
+    });
+    Trigger(open.window, "action_DesignOfExperiments");
+    QVERIFY(Shown(open.window, "label_Mass") != mass);
+
+    Trigger(open.window, "action_RestoreParameters");
+    QCOMPARE(Shown(open.window, "label_Mass"), mass);
+    for (const auto& [name, record] : before) {
+        const ParametersDef& restored = GlobalParaMeterMgr::m_nameMapParameters.at(name);
+        QCOMPARE(restored.m_dValue, record.m_dValue);
+        QCOMPARE(restored.m_varRawValue, record.m_varRawValue);
+        QCOMPARE(restored.m_strValue, record.m_strValue);
+        QCOMPARE(restored.m_strExpression, record.m_strExpression);
+    }
+    const auto& overview = Find<QTableWidget>(open.window, "parameterTable");
+    QCOMPARE(overview.item(RowOf(overview, "thickness"), ParameterOverview::ValueColumn)->text(),
+             QStringLiteral("20"));
+}
+
+void tst_MainWindow::RestoreAfterSeveralRunsBringsTheDesignBack()
+{
+    OpenWindow open;
+    ModalDriver user;
+    for (const int run : {17, 5}) {
+        user.Then([run](QDialog& dialog) {
+            Generate(dialog, run);
+            Generate(dialog, run - 1);
+            dialog.reject();
+        });
+        Trigger(open.window, "action_DesignOfExperiments");
+    }
+    QVERIFY(user.IsDone());
+    QCOMPARE(Stored("bolt_count"), 4.0);
+    Trigger(open.window, "action_RestoreParameters");
+    QCOMPARE(Stored("thickness"), 20.0);
+    QCOMPARE(Stored("bore_diameter"), 70.0);
+    QCOMPARE(Stored("bolt_count"), 8.0);
+}
+
+void tst_MainWindow::RestoreIsOfferedOnlyAfterARun()
+{
+    OpenWindow open;
+    const auto* const restore = open.window.findChild<QAction*>("action_RestoreParameters");
+    QVERIFY(!restore->isEnabled());
+    ModalDriver user;
+    user.Then([](QDialog& dialog) { dialog.reject(); });
+    Trigger(open.window, "action_DesignOfExperiments");
+    QVERIFY(!restore->isEnabled());
+    user.Then([](QDialog& dialog) {
+        Generate(dialog, 0);
+        dialog.reject();
+    });
+    Trigger(open.window, "action_DesignOfExperiments");
+    QVERIFY(restore->isEnabled());
+    Trigger(open.window, "action_RestoreParameters");
+    QVERIFY(!restore->isEnabled());
+}
+
+void tst_MainWindow::AppliedValuesAreTheDesignOfTheNextRun()
+{
+    OpenWindow open;
+    ModalDriver user;
+    const auto generate = [&user, &open] {
+        user.Then([](QDialog& dialog) {
+            Generate(dialog, 17);
+            dialog.reject();
+        });
+        Trigger(open.window, "action_DesignOfExperiments");
+    };
+    generate();
+    user.Then([](QDialog& editor) {
+        TypeValue(editor, "thickness", "33");
+        Click(editor, "pushButton_OK");
+    });
+    Trigger(open.window, "action_Parameters");
+    generate();
+    Trigger(open.window, "action_RestoreParameters");
+    QVERIFY(user.IsDone());
+    QCOMPARE(Stored("thickness"), 33.0);
+}
+
+void tst_MainWindow::DialogsAreGoneAfterTheirRun()
+{
+    OpenWindow open;
+    ModalDriver user;
+    for (const char* const action : {"action_Parameters", "action_DesignOfExperiments"}) {
+        user.Then([](QDialog& dialog) { dialog.reject(); });
+        Trigger(open.window, action);
+    }
+    QVERIFY(user.IsDone());
+    QVERIFY(open.window.findChildren<QDialog*>().isEmpty());
+}
+
+void tst_MainWindow::AnotherProjectReplacesTheFirst()
+{
+    OpenWindow open;
+    const QString directory = EnterTemporaryDirectory();
+    QByteArray project = SampleProject();
+    project.replace("Bolted flange", "Another flange");
+    project.replace("\"value\": 200", "\"value\": 260");
+    WriteFile("other.json", project);
+    ModalDriver user;
+    ChooseFile(user, directory + "/other.json");
+    Trigger(open.window, "action_OpenProject");
+    QVERIFY(user.IsDone());
+    QVERIFY(open.window.windowTitle().contains("Another flange"));
+    QCOMPARE(Shown(open.window, "label_BoundingBox"), QStringLiteral("260 × 260 × 50 mm"));
+}
+
+void tst_MainWindow::ABadProjectIsToldAndChangesNothing()
+{
+    OpenWindow open;
+    const QString directory = EnterTemporaryDirectory();
+    WriteFile("bad.json", "{ 100% nonsense");
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    ModalDriver user;
+    ChooseFile(user, directory + "/bad.json");
+    Trigger(open.window, "action_OpenProject");
+    QVERIFY(user.IsDone());
+    const QStringList errors = Messages(posted, ErrorLevel);
+    QCOMPARE(errors.size(), 1);
+    QVERIFY2(errors[0].contains("bad.json"), qPrintable(errors[0]));
+    QVERIFY(open.window.windowTitle().contains("Bolted flange"));
+    QCOMPARE(Stored("outer_diameter"), 200.0);
+}
+
+void tst_MainWindow::ACancelledFileDialogChangesNothing()
+{
+    OpenWindow open;
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    ModalDriver user;
+    user.Then([](QDialog& dialog) { dialog.reject(); });
+    Trigger(open.window, "action_OpenProject");
+    QVERIFY(user.IsDone());
+    QCOMPARE(posted.count(), 0);
+}
+
+void tst_MainWindow::QuitClosesTheWindow()
+{
+    OpenWindow open;
+    QVERIFY(open.window.isVisible());
+    Trigger(open.window, "action_Quit");
+    QVERIFY(!open.window.isVisible());
+}
+
+TARN_TEST_MAIN(tst_MainWindow, HostApplication)
+#include "tst_MainWindow.moc"

@@ -1,0 +1,225 @@
+#include "ResultsTable.h"
+#include "TestCase.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <sys/resource.h>
+
+#include <csignal>
+#include <limits>
+
+class tst_ResultsTable : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TheFileIsATableWithAHeader();
+    void WhatIsWrittenIsReadAgain();
+    void AwkwardNamesAndErrorsAreQuoted();
+    void TheDecimalSignIsTheFullStopEverywhere();
+    void WhatIsNoTableOfTheStudyIsTold_data();
+    void WhatIsNoTableOfTheStudyIsTold();
+    void ABadFileLeavesTheRunsAsTheyWere();
+    void AMissingFileIsTold();
+    void AFolderThatIsNotThereIsTold();
+    void AFullDiskIsToldAndTheOldFileStays();
+};
+
+static const char Header[] = "run,a,b,volume_mm3,area_mm2,mass_kg,x_min,y_min,z_min,x_max,y_max,"
+                             "z_max,status,error\n";
+
+static RunResult Good()
+{
+    RunResult result;
+    result.values = {0.1, 2.0};
+    result.ok = true;
+    result.measures.volume = 1.0 / 3.0;
+    result.measures.area = 5.5;
+    result.measures.boundingBox = {-1.0, -2.0, -3.0, 1.0, 2.0, 3.0};
+    result.mass = 1e-20;
+    return result;
+}
+
+static RunResult Bad(const QString& error)
+{
+    RunResult result;
+    result.values = {std::numeric_limits<double>::quiet_NaN(), 2.0};
+    result.error = error;
+    return result;
+}
+
+static QByteArray Content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+}
+
+static void WriteContent(const QByteArray& content)
+{
+    QFile file("r.csv");
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("The test's file could not be written.");
+}
+
+static QString ReasonNotRead(ResultsTable& table)
+{
+    try {
+        table.Read("r.csv");
+    } catch (const ResultsError& error) {
+        return QString::fromUtf8(error.what());
+    }
+    return "it was read";
+}
+
+void tst_ResultsTable::TheFileIsATableWithAHeader()
+{
+    EnterTemporaryDirectory();
+    ResultsTable table({"a", "b"});
+    table.Set(2, Bad("no"));
+    table.Set(1, Good());
+    table.Write("r.csv");
+    QCOMPARE(Content("r.csv"),
+             QByteArray(Header) +
+                 "1,0.10000000000000001,2,0.33333333333333331,5.5,9.9999999999999995e-21,"
+                 "-1,-2,-3,1,2,3,ok,\n"
+                 "2,nan,2,,,,,,,,,,failed,no\n");
+}
+
+void tst_ResultsTable::WhatIsWrittenIsReadAgain()
+{
+    EnterTemporaryDirectory();
+    ResultsTable written({"a", "b"});
+    written.Set(1, Good());
+    written.Set(7, Bad("no"));
+    written.Write("r.csv");
+
+    ResultsTable read({"a", "b"});
+    read.Read("r.csv");
+    QCOMPARE(read.Runs().size(), std::size_t(2));
+    const RunResult& good = read.Runs().at(1);
+    QCOMPARE(good.values, Good().values);
+    QVERIFY(good.ok);
+    QVERIFY(good.measures.volume == Good().measures.volume);
+    QCOMPARE(good.measures.area, Good().measures.area);
+    QCOMPARE(good.measures.boundingBox, Good().measures.boundingBox);
+    QVERIFY(good.mass == Good().mass);
+    QVERIFY(!read.Runs().at(7).ok);
+    QCOMPARE(read.Runs().at(7).error, QString("no"));
+}
+
+void tst_ResultsTable::AwkwardNamesAndErrorsAreQuoted()
+{
+    EnterTemporaryDirectory();
+    const QString name = "a, \"b\"";
+    const QString error = "two\r\nlines, \"quoted\", 长";
+    ResultsTable written({name, "c"});
+    written.Set(1, Bad(error));
+    written.Write("r.csv");
+    QVERIFY(Content("r.csv").startsWith("run,\"a, \"\"b\"\"\",c,"));
+    QVERIFY(Content("r.csv").endsWith("failed,\"two\r\nlines, \"\"quoted\"\", 长\"\n"));
+
+    ResultsTable read({name, "c"});
+    read.Read("r.csv");
+    QCOMPARE(read.Runs().at(1).error, error);
+}
+
+void tst_ResultsTable::TheDecimalSignIsTheFullStopEverywhere()
+{
+    QVERIFY(UseLocale("de_DE.UTF-8"));
+    EnterTemporaryDirectory();
+    ResultsTable table({"a", "b"});
+    table.Set(1, Good());
+    table.Write("r.csv");
+    QVERIFY(Content("r.csv").contains("1,0.10000000000000001,2,"));
+    table.Read("r.csv");
+    QCOMPARE(table.Runs().at(1).values, Good().values);
+}
+
+void tst_ResultsTable::WhatIsNoTableOfTheStudyIsTold_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char* name, const QByteArray& content, const char* reason) {
+        QTest::newRow(name) << content << QString("r.csv: ") + reason;
+    };
+    const char* const other = "holds the results of another study; choose another folder";
+    const QByteArray good = "1,1,2,3,4,5,6,7,8,9,10,11,ok,\n";
+    row("empty", "", other);
+    row("another header", "run,x\n", other);
+    row("other parameters", QByteArray(Header).replace(",a,", ",c,"), other);
+    row("too few cells", Header + QByteArray("1,1,2\n"), "row 2 is no run of a study");
+    row("no number", Header + QByteArray(good).replace("11", "x"), "row 2 is no run of a study");
+    row("run 0", Header + QByteArray("0") + good.mid(1), "row 2 is no run of a study");
+    row("unknown status", Header + QByteArray(good).replace("ok", "fine"),
+        "row 2 is no run of a study");
+    row("a run twice", Header + good + good, "row 3 is no run of a study");
+    row("cut off", Header + good + good.left(9), "row 3 is no run of a study");
+}
+
+void tst_ResultsTable::WhatIsNoTableOfTheStudyIsTold()
+{
+    QFETCH(QByteArray, content);
+    EnterTemporaryDirectory();
+    WriteContent(content);
+    ResultsTable table({"a", "b"});
+    QTEST(ReasonNotRead(table), "reason");
+}
+
+void tst_ResultsTable::ABadFileLeavesTheRunsAsTheyWere()
+{
+    EnterTemporaryDirectory();
+    WriteContent(Header + QByteArray("5,1,2,,,,,,,,,,failed,no\n6\n"));
+    ResultsTable table({"a", "b"});
+    table.Set(1, Good());
+    QCOMPARE(ReasonNotRead(table), QString("r.csv: row 3 is no run of a study"));
+    QCOMPARE(table.Runs().size(), std::size_t(1));
+}
+
+void tst_ResultsTable::AMissingFileIsTold()
+{
+    EnterTemporaryDirectory();
+    ResultsTable table({"a", "b"});
+    QCOMPARE(ReasonNotRead(table), QString("r.csv: cannot be read: No such file or directory"));
+}
+
+void tst_ResultsTable::AFolderThatIsNotThereIsTold()
+{
+    EnterTemporaryDirectory();
+    QVERIFY_EXCEPTION_THROWN(ResultsTable({"a"}).Write("none/r.csv"), ResultsError);
+}
+
+void tst_ResultsTable::AFullDiskIsToldAndTheOldFileStays()
+{
+    EnterTemporaryDirectory();
+    ResultsTable table({"a", "b"});
+    table.Set(1, Good());
+    table.Write("r.csv");
+    const QByteArray before = Content("r.csv");
+
+    // A limit on the file size stands for the full disk.
+    rlimit limit{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlim_t former = limit.rlim_cur;
+    limit.rlim_cur = 4096;
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    for (int run = 2; run < 1000; ++run)
+        table.Set(run, Good());
+    bool isTold = false;
+    try {
+        table.Write("r.csv");
+    } catch (const ResultsError&) {
+        isTold = true;
+    }
+    limit.rlim_cur = former;
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    std::signal(SIGXFSZ, handler);
+
+    QVERIFY(isTold);
+    QCOMPARE(Content("r.csv"), before);
+    QCOMPARE(QDir().entryList(QDir::Files), QStringList("r.csv"));
+}
+
+TARN_TEST_MAIN(tst_ResultsTable)
+#include "tst_ResultsTable.moc"

@@ -1,0 +1,79 @@
+#include "ShapeMeasures.h"
+#include "StepFile.h"
+#include "TestCase.h"
+
+#include <BRepPrimAPI_MakeBox.hxx>
+#include <QDir>
+#include <QFile>
+#include <STEPControl_Reader.hxx>
+#include <TopoDS_Shape.hxx>
+
+#include <cmath>
+
+class tst_StepFile : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void WhatIsWrittenCanBeRead();
+    void AFileIsReplaced();
+    void AFolderThatIsNotThereIsTold();
+    void NoShapeIsTold();
+};
+
+static TopoDS_Shape Box(double size)
+{
+    return BRepPrimAPI_MakeBox(size, size, size).Shape();
+}
+
+static double VolumeInFile(const char* path)
+{
+    STEPControl_Reader reader;
+    if (reader.ReadFile(path) != IFSelect_RetDone)
+        return 0.0;
+    reader.TransferRoots();
+    return Measure(reader.OneShape()).volume;
+}
+
+static QString Reason(const TopoDS_Shape& shape, const QString& path)
+{
+    try {
+        WriteStepFile(shape, path);
+    } catch (const StepError& error) {
+        return QString::fromUtf8(error.what());
+    }
+    return "it was written";
+}
+
+void tst_StepFile::WhatIsWrittenCanBeRead()
+{
+    EnterTemporaryDirectory();
+    WriteStepFile(Box(10.0), "长 a.step");
+    QVERIFY(std::abs(VolumeInFile("长 a.step") - 1000.0) < 1e-6);
+    QCOMPARE(QDir().entryList(QDir::Files), QStringList("长 a.step"));
+}
+
+void tst_StepFile::AFileIsReplaced()
+{
+    EnterTemporaryDirectory();
+    WriteStepFile(Box(10.0), "a.step");
+    WriteStepFile(Box(20.0), "a.step");
+    QVERIFY(std::abs(VolumeInFile("a.step") - 8000.0) < 1e-6);
+}
+
+void tst_StepFile::AFolderThatIsNotThereIsTold()
+{
+    EnterTemporaryDirectory();
+    QCOMPARE(Reason(Box(10.0), "none/a.step"), QString("a.step: the file could not be written."));
+}
+
+void tst_StepFile::NoShapeIsTold()
+{
+    EnterTemporaryDirectory();
+    QCOMPARE(Reason(TopoDS_Shape(), "a.step"),
+             QString("a.step: the kernel could not translate the part."));
+    QVERIFY(!QFile::exists("a.step"));
+}
+
+TARN_TEST_MAIN(tst_StepFile)
+#include "tst_StepFile.moc"

@@ -1,0 +1,426 @@
+#include "DOEDlg.h"
+#include "EmptyDesignStores.h"
+#include "GlobalParaMeterMgr.h"
+#include "Project.h"
+#include "ResultsTable.h"
+#include "StudyRunner.h"
+#include "TestCase.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+#include <cmath>
+
+class tst_StudyRunner : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void EveryRunIsBuiltAndWritten();
+    void ARunHoldsWhatItsPartHas();
+    void ASecondCallPassesOverWhatIsDone();
+    void ARunWithoutItsStepFileIsDoneAgain();
+    void AFailedRunDoesNotStopTheStudyAndIsTriedAgain();
+    void OnlyTheRunsAskedForAreDone();
+    void RunsThatDoNotExistAreRefused();
+    void ResultsOfAnotherStudyAreNotTouched_data();
+    void ResultsOfAnotherStudyAreNotTouched();
+    void AStudyWithoutRunsIsRefused();
+    void ANoticeEndsTheStudyInsteadOfBlockingIt();
+    void TooManyRunsAreRefused();
+    void AnExpressionThatCannotBeSettledFailsTheRun();
+    void AFolderThatCannotBeMadeIsTold();
+
+    void TheProgramRunsAStudy();
+    void TheProgramTellsFailedRunsByItsExitCode();
+    void TheProgramRefusesBadInputInOneLine_data();
+    void TheProgramRefusesBadInputInOneLine();
+    void TheProgramTellsItsHelpAndVersion();
+    void TheProgramNeedsNoLocale();
+};
+
+// A flange of two thicknesses and two bores. @p bores are its samples of the bore.
+static QByteArray Flange(const QByteArray& bores = "[60, 70]", const QByteArray& density = "7850")
+{
+    return R"({ "version": 1, "density": )" + density + R"(, "parameters": [
+        { "name": "outer_diameter", "value": 200 },
+        { "name": "bore_diameter", "value": 70 },
+        { "name": "thickness", "value": 20 },
+        { "name": "bolt_count", "value": 2 },
+        { "name": "bolt_hole", "value": 18 },
+        { "name": "bolt_circle", "expression": "(outer_diameter + hub_diameter) / 2",
+          "expressionParameters": ["outer_diameter", "hub_diameter"] },
+        { "name": "hub_diameter", "value": 110 },
+        { "name": "hub_height", "expression": "1.5 * thickness",
+          "expressionParameters": ["thickness"] }
+      ], "samples": [
+        { "parameter": "thickness", "min": 16, "max": 20, "delta": 4 },
+        { "parameter": "bore_diameter", "values": )" +
+           bores + " } ] }";
+}
+
+static void Write(const QByteArray& content, const QString& path = "p.json")
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("The test's file could not be written.");
+}
+
+static QByteArray Content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+}
+
+/// A study in the working directory: p.json into the folder "out".
+struct Outcome
+{
+    StudyRunner::Summary summary;
+    QStringList told;
+    QString error;
+};
+
+static Outcome RunStudy(const QByteArray& project, int first = 0, int last = 0)
+{
+    Write(project);
+    Outcome outcome;
+    StudyRunner::Options options;
+    options.directory = "out";
+    options.firstRun = first;
+    options.lastRun = last;
+    try {
+        const Project loaded = Project::Load("p.json");
+        StudyRunner runner(loaded, options, [&](const QString& line) { outcome.told << line; });
+        outcome.summary = runner.Run();
+    } catch (const StudyError& error) {
+        outcome.error = QString::fromUtf8(error.what());
+    }
+    return outcome;
+}
+
+static ResultsTable Results()
+{
+    ResultsTable table({"outer_diameter", "bore_diameter", "thickness", "bolt_count", "bolt_hole",
+                        "bolt_circle", "hub_diameter", "hub_height"});
+    table.Read("out/results.csv");
+    return table;
+}
+
+static double Squared(double x)
+{
+    return x * x;
+}
+
+void tst_StudyRunner::EveryRunIsBuiltAndWritten()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    const Outcome outcome = RunStudy(Flange());
+    QCOMPARE(outcome.error, QString());
+    QCOMPARE(outcome.summary.ok, 4);
+    QCOMPARE(outcome.summary.failed, 0);
+    QCOMPARE(outcome.summary.skipped, 0);
+    QCOMPARE(outcome.told.size(), 5);
+    QVERIFY(outcome.told[0].startsWith("run 1 of 4: ok, volume "));
+    QCOMPARE(outcome.told[4], QString("4 ok, 0 failed, 0 done before; see out/results.csv"));
+    QCOMPARE(QDir("out").entryList(QDir::Files),
+             QStringList({"results.csv", "run_0001.step", "run_0002.step", "run_0003.step",
+                          "run_0004.step"}));
+    QCOMPARE(Results().Runs().size(), std::size_t(4));
+}
+
+void tst_StudyRunner::ARunHoldsWhatItsPartHas()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    RunStudy(Flange(), 3, 3);
+    // The last name turns fastest: bore 60, 60, 70, 70 and thickness 16, 20, 16, 20.
+    const RunResult run = Results().Runs().at(3);
+    QCOMPARE(run.values, std::vector<double>({200, 70, 16, 2, 18, 155, 110, 24}));
+    QVERIFY(run.ok);
+    QCOMPARE(run.error, QString());
+    const double volume =
+        std::acos(-1.0) / 4.0 *
+        ((Squared(200) - Squared(70) - 2 * Squared(18)) * 16 + (Squared(110) - Squared(70)) * 24);
+    QVERIFY(std::abs(run.measures.volume - volume) <= 1e-9 * volume);
+    QCOMPARE(run.mass, run.measures.volume * 7850.0 / 1e9);
+    QVERIFY(std::abs(run.measures.boundingBox[5] - 40.0) < 1e-6);
+}
+
+void tst_StudyRunner::ASecondCallPassesOverWhatIsDone()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    RunStudy(Flange(), 2, 3);
+    const QByteArray step = Content("out/run_0002.step");
+    Write("kept", "out/run_0003.step");
+    const Outcome outcome = RunStudy(Flange());
+    QCOMPARE(outcome.error, QString());
+    QCOMPARE(outcome.summary.ok, 2);
+    QCOMPARE(outcome.summary.skipped, 2);
+    QCOMPARE(outcome.told[1], QString("run 2 of 4: done before"));
+    QCOMPARE(Content("out/run_0002.step"), step);
+    QCOMPARE(Content("out/run_0003.step"), QByteArray("kept"));
+    QCOMPARE(Results().Runs().size(), std::size_t(4));
+
+    const QByteArray table = Content("out/results.csv");
+    QCOMPARE(RunStudy(Flange()).summary.skipped, 4);
+    QCOMPARE(Content("out/results.csv"), table);
+}
+
+void tst_StudyRunner::ARunWithoutItsStepFileIsDoneAgain()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    RunStudy(Flange(), 1, 2);
+    QVERIFY(QFile::remove("out/run_0001.step"));
+    const Outcome outcome = RunStudy(Flange(), 1, 2);
+    QCOMPARE(outcome.summary.ok, 1);
+    QCOMPARE(outcome.summary.skipped, 1);
+    QVERIFY(QFile::exists("out/run_0001.step"));
+}
+
+void tst_StudyRunner::AFailedRunDoesNotStopTheStudyAndIsTriedAgain()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    const QByteArray project = Flange("[60, 150, 70]");
+    Outcome outcome = RunStudy(project, 2, 5);
+    QCOMPARE(outcome.summary.ok, 2);
+    QCOMPARE(outcome.summary.failed, 2);
+    const QString reason = "The bore (150) is not smaller than the hub (110).";
+    QCOMPARE(outcome.told[1], "run 3 of 6: failed: " + reason);
+    QVERIFY(outcome.told[3].startsWith("run 5 of 6: ok"));
+    const RunResult failed = Results().Runs().at(3);
+    QVERIFY(!failed.ok);
+    QCOMPARE(failed.error, reason);
+    QCOMPARE(failed.values[1], 150.0);
+    QVERIFY(!QFile::exists("out/run_0003.step"));
+
+    outcome = RunStudy(project, 2, 5);
+    QCOMPARE(outcome.summary.skipped, 2);
+    QCOMPARE(outcome.summary.failed, 2);
+}
+
+void tst_StudyRunner::OnlyTheRunsAskedForAreDone()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    const Outcome outcome = RunStudy(Flange(), 2, 3);
+    QCOMPARE(outcome.summary.ok, 2);
+    QVERIFY(outcome.told[0].startsWith("run 2 of 4: "));
+    QCOMPARE(QDir("out").entryList({"*.step"}), QStringList({"run_0002.step", "run_0003.step"}));
+}
+
+void tst_StudyRunner::RunsThatDoNotExistAreRefused()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    const Outcome outcome = RunStudy(Flange(), 3, 5);
+    QCOMPARE(outcome.error, QString("p.json: the study has the runs 1 to 4, so 3-5 cannot be run"));
+    QVERIFY(!QFile::exists("out"));
+}
+
+void tst_StudyRunner::ResultsOfAnotherStudyAreNotTouched_data()
+{
+    QTest::addColumn<QByteArray>("project");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("other values") << Flange("[60, 71]")
+                                  << "run 3 there is not of this study; choose another folder";
+    QTest::newRow("fewer runs") << Flange("[60]")
+                                << "run 3 there is not of this study; choose another folder";
+    QTest::newRow("another density")
+        << Flange("[60, 70]", "2700") << "run 3 there is not of this study; choose another folder";
+    QTest::newRow("other parameters")
+        << Flange().replace("\"parameters\": [", "\"parameters\": [{\"name\":\"x\",\"value\":1},")
+        << "holds the results of another study; choose another folder";
+}
+
+void tst_StudyRunner::ResultsOfAnotherStudyAreNotTouched()
+{
+    const EmptyDesignStores stores;
+    QFETCH(QByteArray, project);
+    QFETCH(QString, reason);
+    EnterTemporaryDirectory();
+    RunStudy(Flange(), 3, 3);
+    const QByteArray table = Content("out/results.csv");
+    QCOMPARE(RunStudy(project).error, "out/results.csv: " + reason);
+    QCOMPARE(Content("out/results.csv"), table);
+    QCOMPARE(QDir("out").entryList(QDir::Files).size(), 2);
+}
+
+void tst_StudyRunner::AStudyWithoutRunsIsRefused()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    const Outcome outcome =
+        RunStudy(R"({"version": 1, "parameters": [{"name": "a", "value": 1}]})");
+    QCOMPARE(outcome.error, QString("p.json: the study has no runs; it needs a parameter that is "
+                                    "ticked and has samples"));
+}
+
+void tst_StudyRunner::ANoticeEndsTheStudyInsteadOfBlockingIt()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    const Outcome outcome =
+        RunStudy(Flange().replace("\"delta\": 4", "\"delta\": 4, \"spacing\": \"Gauss\""));
+    QCOMPARE(outcome.error, QString("p.json: Not implement yet"));
+    QVERIFY(!QFile::exists("out"));
+}
+
+void tst_StudyRunner::TooManyRunsAreRefused()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    // 2001 thicknesses and 600 bores.
+    const QByteArray bores = "[" + QByteArray("60, ").repeated(599) + "60]";
+    const Outcome outcome = RunStudy(Flange(bores).replace("\"delta\": 4", "\"delta\": 0.002"));
+    QCOMPARE(outcome.error, QString("p.json: Too many runs"));
+    QVERIFY(!QFile::exists("out"));
+}
+
+void tst_StudyRunner::AnExpressionThatCannotBeSettledFailsTheRun()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    const Outcome outcome = RunStudy(Flange().replace("\"expressionParameters\": [\"thickness\"]",
+                                                      "\"expressionParameters\": [\"height\"]"),
+                                     1, 1);
+    QCOMPARE(outcome.summary.failed, 1);
+    QCOMPARE(outcome.told[0],
+             QString("run 1 of 4: failed: hub_height: its expression uses \"height\", which is no "
+                     "parameter"));
+}
+
+void tst_StudyRunner::AFolderThatCannotBeMadeIsTold()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    Write("a file", "out");
+    QCOMPARE(RunStudy(Flange()).error, QString("out: the folder cannot be made"));
+}
+
+/// What the program did, started as a user starts it: without a display.
+struct Process
+{
+    int code = -1;
+    QString out;
+    QString error;
+};
+
+static Process RunProgram(const QStringList& arguments,
+                          const QMap<QString, QString>& variables = {})
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name :
+         {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR", "QT_LOGGING_RULES"})
+        environment.remove(name);
+    for (auto it = variables.begin(); it != variables.end(); ++it)
+        environment.insert(it.key(), it.value());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(TARN_HOST_PROGRAM, arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return {};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+void tst_StudyRunner::TheProgramRunsAStudy()
+{
+    EnterTemporaryDirectory();
+    Write(Flange());
+    Process process = RunProgram({"--study", "p.json", "--out", "out", "--runs", "1-2"});
+    QCOMPARE(process.error, QString());
+    QCOMPARE(process.code, 0);
+    const QStringList lines = process.out.split('\n');
+    QCOMPARE(lines.size(), 4);
+    QVERIFY(lines[0].startsWith("run 1 of 4: ok, volume "));
+    QVERIFY(lines[1].startsWith("run 2 of 4: ok, volume "));
+    QCOMPARE(lines[2], QString("2 ok, 0 failed, 0 done before; see out/results.csv"));
+
+    process = RunProgram({"--study", "p.json", "--out", "out", "--runs", "2"});
+    QCOMPARE(process.error, QString());
+    QCOMPARE(process.out, QString("run 2 of 4: done before\n"
+                                  "0 ok, 0 failed, 1 done before; see out/results.csv\n"));
+    QCOMPARE(process.code, 0);
+}
+
+void tst_StudyRunner::TheProgramTellsFailedRunsByItsExitCode()
+{
+    EnterTemporaryDirectory();
+    Write(Flange("[150]"));
+    const Process process = RunProgram({"--study", "p.json", "--out", "out", "--runs", "1"});
+    QCOMPARE(process.error, QString());
+    QCOMPARE(process.code, 1);
+    QCOMPARE(process.out,
+             QString("run 1 of 2: failed: The bore (150) is not smaller than the hub (110).\n"
+                     "0 ok, 1 failed, 0 done before; see out/results.csv\n"));
+}
+
+void tst_StudyRunner::TheProgramRefusesBadInputInOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char* name, const QStringList& arguments, const char* reason) {
+        QTest::newRow(name) << arguments << QString("tarnhost: %1\n").arg(reason);
+    };
+    row("unknown option", {"--bogus"}, "Unknown option 'bogus'.");
+    row("bad runs", {"--study", "p.json", "--out", "out", "--runs", "x"},
+        "--runs x: runs are given as 3-7 or 5, counted from 1");
+    row("runs out of range", {"--study", "p.json", "--out", "out", "--runs", "9"},
+        "p.json: the study has the runs 1 to 4, so 9-9 cannot be run");
+    row("no such file", {"--study", "none.json", "--out", "out"},
+        "none.json: cannot be opened: No such file or directory");
+    row("a folder", {"--study", ".", "--out", "out"}, ".: is a folder, not a file");
+    row("broken file", {"--study", "broken.json", "--out", "out"},
+        "broken.json: is no valid JSON: unterminated object at byte 1");
+    row("a notice", {"--study", "gauss.json", "--out", "out"}, "gauss.json: Not implement yet");
+    row("folder is a file", {"--study", "p.json", "--out", "broken.json"},
+        "broken.json: the folder cannot be made");
+    row("no display", {"p.json"},
+        "there is no display; --study and --screenshots work without one, see --help");
+}
+
+void tst_StudyRunner::TheProgramRefusesBadInputInOneLine()
+{
+    QFETCH(QStringList, arguments);
+    EnterTemporaryDirectory();
+    Write(Flange());
+    Write("{", "broken.json");
+    Write(Flange().replace("\"delta\": 4", "\"delta\": 4, \"spacing\": \"Gauss\""), "gauss.json");
+    const Process process = RunProgram(arguments);
+    QTEST(process.error, "reason");
+    QCOMPARE(process.code, 2);
+    QCOMPARE(process.out, QString());
+}
+
+void tst_StudyRunner::TheProgramTellsItsHelpAndVersion()
+{
+    Process process = RunProgram({"--help"});
+    QCOMPARE(process.error, QString());
+    QCOMPARE(process.code, 0);
+    QVERIFY(process.out.contains("--study <file>"));
+    process = RunProgram({"--version"});
+    QCOMPARE(process.code, 0);
+    QVERIFY(process.out.startsWith("tarnhost 0."));
+}
+
+void tst_StudyRunner::TheProgramNeedsNoLocale()
+{
+    EnterTemporaryDirectory();
+    Write(Flange());
+    const Process process = RunProgram({"--study", "p.json", "--out", "out", "--runs", "1"},
+                                       {{"LC_ALL", "de_DE.UTF-8"}, {"LANG", "de_DE.UTF-8"}});
+    QCOMPARE(process.error, QString());
+    QCOMPARE(process.code, 0);
+    QVERIFY(Content("out/results.csv").contains("\n1,200,60,16,2,18,155,110,24,"));
+    const QByteArray step = Content("out/run_0001.step");
+    QVERIFY(step.contains("CARTESIAN_POINT"));
+    QVERIFY(!step.contains(",0000"));
+}
+
+TARN_TEST_MAIN(tst_StudyRunner)
+#include "tst_StudyRunner.moc"
