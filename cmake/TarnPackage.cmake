@@ -11,6 +11,8 @@ install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommonConfig.cmake"
               "${PROJECT_BINARY_DIR}/TarnGUICommonConfigVersion.cmake"
         DESTINATION ${package_dir} COMPONENT development)
 
+# The prefix is told relative to the file, so the package can be moved.
+file(RELATIVE_PATH pc_prefix "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/prefix")
 configure_file(cmake/TarnGUICommon.pc.in "${PROJECT_BINARY_DIR}/TarnGUICommon.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommon.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
         COMPONENT development)

@@ -4,14 +4,11 @@
 
 ParameterMap GlobalParaMeterMgr::m_nameMapParameters;
 
-// Name and record are taken by value because that is the signature hosts link against.
-// NOLINTNEXTLINE(performance-unnecessary-value-param)
 void GlobalParaMeterMgr::AddParameter(QString name, ParametersDef record)
 {
     m_nameMapParameters[name] = std::move(record);
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param)
 QVariant GlobalParaMeterMgr::GetParameterRawValue(QString name)
 {
     const auto found = m_nameMapParameters.find(name);
