@@ -1,8 +1,12 @@
 #include "KVMaterialData.h"
 
+#include "SafeFile.h"
+#include "XmlRecords.h"
+
 #include <list>
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -14,6 +18,38 @@ struct Entry
 
 using Entries = std::list<Entry>;
 
+enum Field
+{
+    FIELD_NAME,
+    FIELD_ELASTIC_MODULUS,
+    FIELD_POISSON,
+    FIELD_DENSITY
+};
+
+const tarn::XmlFormat& Format()
+{
+    static const tarn::XmlFormat format = {QStringLiteral("Materials"),
+                                           QStringLiteral("SI"),
+                                           QStringLiteral("Material"),
+                                           {QStringLiteral("name"),
+                                            QStringLiteral("elasticModulus"),
+                                            QStringLiteral("poisson"), QStringLiteral("density")}};
+    return format;
+}
+
+std::unique_ptr<KVMaterialInfo> MakeRecord(std::vector<QString>& texts, MATERIAL_TYPE type)
+{
+    auto record = std::make_unique<KVMaterialInfo>();
+    const bool isSystem = type == MATERIAL_SYSTEM;
+    record->m_nType = type;
+    record->m_strName.swap(texts[FIELD_NAME]);
+    (isSystem ? record->m_strLibElasticModulus : record->m_strElasticModulus)
+        .swap(texts[FIELD_ELASTIC_MODULUS]);
+    (isSystem ? record->m_strLibPoisson : record->m_strPoisson).swap(texts[FIELD_POISSON]);
+    (isSystem ? record->m_strLibDensity : record->m_strDensity).swap(texts[FIELD_DENSITY]);
+    return record;
+}
+
 } // namespace
 
 struct KVMaterialData::Private
@@ -22,6 +58,7 @@ struct KVMaterialData::Private
     std::unordered_map<QString, Entries::iterator> index;
     /// Every record of the store, with its entry; the end stands for one that has none any more.
     std::unordered_map<KVMaterialInfo*, Entries::iterator> owned;
+    tarn::SafeFile files;
     QString current;
 
     Private() = default;
@@ -46,6 +83,8 @@ struct KVMaterialData::Private
     }
 
     void Add(KVMaterialInfo* record);
+    /// Enters what was read; true when its name is a new one.
+    bool TakeOver(std::unique_ptr<KVMaterialInfo> record);
 };
 
 void KVMaterialData::Private::Add(KVMaterialInfo* record)
@@ -78,6 +117,20 @@ void KVMaterialData::Private::Add(KVMaterialInfo* record)
     owned[record] = place;
 }
 
+// A record held already keeps its object: reading a file again and again takes no more memory.
+bool KVMaterialData::Private::TakeOver(std::unique_ptr<KVMaterialInfo> record)
+{
+    const auto found = index.find(record->m_strName);
+    if (found == index.end()) {
+        Add(record.release());
+        return true;
+    }
+    KVMaterialInfo& held = *found->second->record;
+    if (held.m_nType != MATERIAL_USER || record->m_nType == MATERIAL_USER)
+        held = std::move(*record);
+    return false;
+}
+
 KVMaterialData::KVMaterialData()
     : m_d(std::make_unique<Private>())
 {
@@ -94,6 +147,7 @@ KVMaterialData* KVMaterialData::GetInstance()
 void KVMaterialData::ClearInfo()
 {
     m_d->Clear();
+    m_d->files.Clear();
 }
 
 int KVMaterialData::MapDataRow() const
@@ -139,12 +193,55 @@ QString KVMaterialData::CurrentMaterialName() const
     return m_d->current;
 }
 
-int KVMaterialData::ReadXML(const std::string& /*path*/, MATERIAL_TYPE /*type*/)
+int KVMaterialData::ReadXML(const std::string& path, MATERIAL_TYPE type)
 {
-    return 1;
+    const QString file = QString::fromLocal8Bit(path.c_str());
+    QByteArray content;
+    if (!tarn::SafeFile::Read(file, content))
+        return -1;
+    std::vector<std::unique_ptr<KVMaterialInfo>> records;
+    const tarn::XmlReading reading =
+        tarn::ReadRecords(Format(), content, [&records, type](std::vector<QString>& texts) {
+            records.push_back(MakeRecord(texts, type));
+            return true;
+        });
+    if (reading == tarn::XmlReading::Refused)
+        return -1;
+
+    QVector<QString> names;
+    names.reserve(int(records.size()));
+    m_d->index.reserve(m_d->index.size() + records.size());
+    m_d->owned.reserve(m_d->owned.size() + records.size());
+    bool isEachNew = true;
+    for (auto& record : records) {
+        names << record->m_strName;
+        isEachNew = m_d->TakeOver(std::move(record)) && isEachNew;
+    }
+    // What is not written again is not remembered: a system library, the earlier of two of one
+    // name.
+    if (type == MATERIAL_USER && reading == tarn::XmlReading::Fully &&
+        (isEachNew || tarn::AreDistinct(names)))
+        m_d->files.Remember(file, content);
+    return 0;
 }
 
-int KVMaterialData::WriteXML(const std::string& /*path*/)
+int KVMaterialData::WriteXML(const std::string& path)
 {
-    return 1;
+    auto entry = m_d->entries.cbegin();
+    const auto next = [this, &entry](std::vector<QString>& texts) {
+        while (entry != m_d->entries.cend() && entry->record->m_nType != MATERIAL_USER)
+            ++entry;
+        if (entry == m_d->entries.cend())
+            return false;
+        texts[FIELD_NAME] = entry->name;
+        texts[FIELD_ELASTIC_MODULUS] = entry->record->m_strElasticModulus;
+        texts[FIELD_POISSON] = entry->record->m_strPoisson;
+        texts[FIELD_DENSITY] = entry->record->m_strDensity;
+        ++entry;
+        return true;
+    };
+    QByteArray content;
+    const bool isDone = tarn::WriteRecords(Format(), content, next) &&
+                        m_d->files.Write(QString::fromLocal8Bit(path.c_str()), content);
+    return isDone ? 0 : -1;
 }

@@ -1,13 +1,68 @@
 #include "KVPropertyData.h"
 
+#include "SafeFile.h"
+#include "XmlRecords.h"
+
+#include <QVector>
+
 #include <optional>
 #include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace {
+
+enum Field
+{
+    FIELD_NAME,
+    FIELD_MATERIAL,
+    FIELD_THICKNESS,
+    FIELD_TYPE_NAME,
+    FIELD_TYPE_CODE,
+    FIELD_RESERVED
+};
+
+const tarn::XmlFormat& Format()
+{
+    static const tarn::XmlFormat format = {
+        QStringLiteral("ElementProperties"),
+        QStringLiteral("model"),
+        QStringLiteral("ElementProperty"),
+        {QStringLiteral("name"), QStringLiteral("material"), QStringLiteral("thickness"),
+         QStringLiteral("typeName"), QStringLiteral("typeCode"), QStringLiteral("reserved")}};
+    return format;
+}
+
+/// The record of those texts; null when one that should be a number is none. What is missing has
+/// its default.
+std::unique_ptr<CQLTElemPropDef> MakeRecord(std::vector<QString>& texts)
+{
+    auto record = std::make_unique<CQLTElemPropDef>();
+    record->m_strName.swap(texts[FIELD_NAME]);
+    record->m_strMaterialName.swap(texts[FIELD_MATERIAL]);
+    record->m_strTypeName.swap(texts[FIELD_TYPE_NAME]);
+    bool isThickness = true;
+    bool isCode = true;
+    bool isReserved = true;
+    if (!texts[FIELD_THICKNESS].isNull())
+        isThickness = tarn::ToNumber(texts[FIELD_THICKNESS], record->m_dThickness);
+    if (!texts[FIELD_TYPE_CODE].isNull())
+        record->m_nTypeCode = texts[FIELD_TYPE_CODE].toInt(&isCode);
+    if (!texts[FIELD_RESERVED].isNull())
+        record->m_nReserved = texts[FIELD_RESERVED].toLongLong(&isReserved);
+    if (!isThickness || !isCode || !isReserved)
+        record.reset();
+    return record;
+}
+
+} // namespace
 
 struct KVPropertyData::Private
 {
     std::map<QString, CQLTElemPropDef*> records;
     /// Every record of the store, with its key; none for one that was replaced.
     std::unordered_map<CQLTElemPropDef*, std::optional<QString>> owned;
+    tarn::SafeFile files;
 
     Private() = default;
     Private(const Private&) = delete;
@@ -23,6 +78,8 @@ struct KVPropertyData::Private
     }
 
     void Add(CQLTElemPropDef* record);
+    /// Enters what was read; true when its name is a new one.
+    bool TakeOver(std::unique_ptr<CQLTElemPropDef> record);
 };
 
 void KVPropertyData::Private::Add(CQLTElemPropDef* record)
@@ -36,6 +93,17 @@ void KVPropertyData::Private::Add(CQLTElemPropDef* record)
     if (place != nullptr)
         owned[place].reset();
     place = record;
+}
+
+bool KVPropertyData::Private::TakeOver(std::unique_ptr<CQLTElemPropDef> record)
+{
+    // Files are written in the order of the map, so each one's place is usually the end.
+    const auto count = records.size();
+    const auto place = records.emplace_hint(records.end(), record->m_strName, record.get());
+    if (records.size() == count)
+        return false;
+    owned.emplace(record.release(), place->first);
+    return true;
 }
 
 KVPropertyData::KVPropertyData()
@@ -71,14 +139,57 @@ CQLTElemPropDef* KVPropertyData::GetPropertyInfo(QString& name) const
 void KVPropertyData::Clear()
 {
     m_d->Clear();
+    m_d->files.Clear();
 }
 
-int KVPropertyData::ReadXML(const std::string& /*path*/)
+int KVPropertyData::ReadXML(const std::string& path)
 {
-    return 1;
+    const QString file = QString::fromLocal8Bit(path.c_str());
+    QByteArray content;
+    if (!tarn::SafeFile::Read(file, content))
+        return -1;
+    std::vector<std::unique_ptr<CQLTElemPropDef>> records;
+    const tarn::XmlReading reading =
+        tarn::ReadRecords(Format(), content, [&records](std::vector<QString>& texts) {
+            records.push_back(MakeRecord(texts));
+            return records.back() != nullptr;
+        });
+    if (reading == tarn::XmlReading::Refused)
+        return -1;
+
+    QVector<QString> names;
+    names.reserve(int(records.size()));
+    m_d->owned.reserve(m_d->owned.size() + records.size());
+    bool isEachNew = true;
+    for (auto& record : records) {
+        names << record->m_strName;
+        isEachNew = m_d->TakeOver(std::move(record)) && isEachNew;
+    }
+    // Of two of one name only one is written again.
+    if (reading == tarn::XmlReading::Fully && (isEachNew || tarn::AreDistinct(names)))
+        m_d->files.Remember(file, content);
+    return 0;
 }
 
-int KVPropertyData::WriteXML(const std::string& /*path*/)
+int KVPropertyData::WriteXML(const std::string& path)
 {
-    return 1;
+    auto entry = m_d->records.cbegin();
+    const auto next = [this, &entry](std::vector<QString>& texts) {
+        if (entry == m_d->records.cend())
+            return false;
+        const CQLTElemPropDef& record = *entry->second;
+        // The key and not the record's name, which a refused edit may have emptied.
+        texts[FIELD_NAME] = entry->first;
+        texts[FIELD_MATERIAL] = record.m_strMaterialName;
+        texts[FIELD_THICKNESS] = tarn::ToText(record.m_dThickness);
+        texts[FIELD_TYPE_NAME] = record.m_strTypeName;
+        texts[FIELD_TYPE_CODE] = QString::number(record.m_nTypeCode);
+        texts[FIELD_RESERVED] = QString::number(record.m_nReserved);
+        ++entry;
+        return true;
+    };
+    QByteArray content;
+    const bool isDone = tarn::WriteRecords(Format(), content, next) &&
+                        m_d->files.Write(QString::fromLocal8Bit(path.c_str()), content);
+    return isDone ? 0 : -1;
 }

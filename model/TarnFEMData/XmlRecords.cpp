@@ -1,0 +1,314 @@
+#include "XmlRecords.h"
+
+#include "SafeFile.h"
+
+#include <QIODevice>
+#include <QSet>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+namespace tarn {
+
+namespace {
+
+// The reader gives up beyond these, so that no file can exhaust memory or time; the writer keeps a
+// distance from them. A start tag is kept short because Qt compares each of its attributes with
+// each other one.
+constexpr int FormatVersion = 1;
+constexpr int MaximumRecords = 1000000;
+constexpr int MaximumDepth = 100;
+constexpr int MaximumAttributes = 100;
+constexpr int MaximumTokenSize = 256 * 1024;
+constexpr int MaximumRecordSize = 128 * 1024;
+
+constexpr int EscapeLength = 6;
+constexpr int EscapeDigits = 4;
+constexpr int Hexadecimal = 16;
+
+constexpr QLatin1String VersionAttribute("version");
+constexpr QLatin1String UnitsAttribute("units");
+
+/// True for what may stand in the file as it is, where @p text holds it at @p i.
+bool IsPlain(const QString& text, int i)
+{
+    const QChar c = text[i];
+    if (c.isHighSurrogate())
+        return i + 1 < text.size() && text[i + 1].isLowSurrogate();
+    if (c.isLowSurrogate())
+        return i > 0 && text[i - 1].isHighSurrogate();
+    return c.unicode() >= 0x20 && c != QLatin1Char('\\') && c.unicode() < 0xFFFE;
+}
+
+/// Writes what XML cannot hold or would change, and the backslash itself, as \uXXXX.
+QString Escaped(const QString& text)
+{
+    int i = 0;
+    while (i < text.size() && IsPlain(text, i))
+        ++i;
+    if (i == text.size())
+        return text;
+
+    QString escaped = text.left(i);
+    for (; i < text.size(); ++i) {
+        if (IsPlain(text, i))
+            escaped += text[i];
+        else
+            escaped += QStringLiteral("\\u%1").arg(text[i].unicode(), EscapeDigits, Hexadecimal,
+                                                   QLatin1Char('0'));
+    }
+    return escaped;
+}
+
+/// Undoes Escaped(). A backslash that begins no escape stands for itself.
+QString Unescaped(const QString& text)
+{
+    int i = text.indexOf(QLatin1Char('\\'));
+    if (i < 0)
+        return text;
+
+    QString plain = text.left(i);
+    while (i < text.size()) {
+        bool isEscape = false;
+        if (text.midRef(i, 2) == QLatin1String("\\u") && i + EscapeLength <= text.size()) {
+            const auto isDigit = [](QChar c) {
+                return c < QChar(0x80) && std::isxdigit(c.toLatin1()) != 0;
+            };
+            isEscape = std::all_of(text.begin() + i + 2, text.begin() + i + EscapeLength, isDigit);
+        }
+        if (isEscape) {
+            plain += QChar(text.midRef(i + 2, EscapeDigits).toUShort(nullptr, Hexadecimal));
+            i += EscapeLength;
+        } else {
+            plain += text[i];
+            ++i;
+        }
+    }
+    return plain;
+}
+
+/// Hands a file's content to the parser and stops where a single tag or text takes too much of it.
+class BoundedInput : public QIODevice
+{
+public:
+    explicit BoundedInput(const QByteArray& content)
+        : m_content(content)
+    {
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+
+    /// To be called after every token.
+    void StartToken() { m_tokenStart = m_position; }
+
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char* data, qint64 size) override
+    {
+        if (m_position - m_tokenStart > MaximumTokenSize)
+            return -1;
+        const int count = int(std::min<qint64>(size, m_content.size() - m_position));
+        std::memcpy(data, m_content.constData() + m_position, std::size_t(count));
+        m_position += count;
+        return count;
+    }
+
+    qint64 writeData(const char* /*data*/, qint64 /*size*/) override { return -1; }
+
+private:
+    const QByteArray& m_content;
+    int m_position = 0;
+    int m_tokenStart = 0;
+};
+
+class RecordReader
+{
+public:
+    RecordReader(const XmlFormat& format, const QByteArray& content)
+        : m_format(format)
+        , m_input(content)
+        , m_xml(&m_input)
+        , m_texts(std::size_t(format.fields.size()))
+        , m_last(m_texts)
+    {
+        // Our files declare no entities, so there is nothing to expand.
+        m_xml.setEntityExpansionLimit(0);
+    }
+
+    XmlReading Read(const std::function<bool(std::vector<QString>&)>& take);
+
+private:
+    int FieldOf(const QStringRef& name, int likely) const;
+    bool ReadRoot();
+    bool ReadRecord(const std::function<bool(std::vector<QString>&)>& take);
+
+    const XmlFormat& m_format;
+    BoundedInput m_input;
+    QXmlStreamReader m_xml;
+    std::vector<QString> m_texts;
+    std::vector<QString> m_last; ///< The texts as they stood in the record before.
+    int m_records = 0;
+    bool m_isFull = true;
+};
+
+/// The field called @p name, or -1; it is usually the one at @p likely.
+int RecordReader::FieldOf(const QStringRef& name, int likely) const
+{
+    if (likely < m_format.fields.size() && m_format.fields[likely] == name)
+        return likely;
+    for (int i = 0; i < m_format.fields.size(); ++i) {
+        if (m_format.fields[i] == name)
+            return i;
+    }
+    return -1;
+}
+
+XmlReading RecordReader::Read(const std::function<bool(std::vector<QString>&)>& take)
+{
+    int depth = 0;
+    while (!m_xml.atEnd()) {
+        const QXmlStreamReader::TokenType token = m_xml.readNext();
+        m_input.StartToken();
+        switch (token) {
+        case QXmlStreamReader::StartElement: {
+            ++depth;
+            if (depth > MaximumDepth || m_xml.attributes().size() > MaximumAttributes)
+                return XmlReading::Refused;
+            const bool isRecord =
+                depth == 2 && m_xml.namespaceUri().isEmpty() && m_xml.name() == m_format.record;
+            if (depth == 1 ? !ReadRoot() : isRecord && !ReadRecord(take))
+                return XmlReading::Refused;
+            if (depth > 1 && !isRecord)
+                m_isFull = false;
+            break;
+        }
+        case QXmlStreamReader::EndElement:
+            --depth;
+            break;
+        case QXmlStreamReader::Invalid:
+        case QXmlStreamReader::DTD:
+        case QXmlStreamReader::EntityReference:
+            return XmlReading::Refused;
+        case QXmlStreamReader::Characters:
+            if (!m_xml.isWhitespace())
+                m_isFull = false;
+            break;
+        case QXmlStreamReader::Comment:
+        case QXmlStreamReader::ProcessingInstruction:
+            m_isFull = false;
+            break;
+        case QXmlStreamReader::NoToken:
+        case QXmlStreamReader::StartDocument:
+        case QXmlStreamReader::EndDocument:
+            break;
+        }
+    }
+    if (m_xml.hasError())
+        return XmlReading::Refused;
+    return m_isFull ? XmlReading::Fully : XmlReading::Partly;
+}
+
+bool RecordReader::ReadRoot()
+{
+    if (m_xml.name() != m_format.root || !m_xml.namespaceUri().isEmpty())
+        return false;
+    const QXmlStreamAttributes attributes = m_xml.attributes();
+    bool isNumber = false;
+    const int version = attributes.value(VersionAttribute).toInt(&isNumber);
+    if (attributes.size() > 2)
+        m_isFull = false;
+    return isNumber && version >= 1 && version <= FormatVersion &&
+           attributes.value(UnitsAttribute) == m_format.units;
+}
+
+bool RecordReader::ReadRecord(const std::function<bool(std::vector<QString>&)>& take)
+{
+    for (QString& text : m_texts)
+        text.clear();
+    bool isNamed = false;
+    const QXmlStreamAttributes attributes = m_xml.attributes();
+    for (int i = 0; i < attributes.size(); ++i) {
+        const int field = FieldOf(attributes[i].qualifiedName(), i);
+        if (field < 0) {
+            m_isFull = false;
+            continue;
+        }
+        // One record often has a text of the one before: they then share it.
+        const QStringRef value = attributes[i].value();
+        QString& last = m_last[std::size_t(field)];
+        if (last.isNull() || value != last)
+            last = value.toString();
+        m_texts[std::size_t(field)] = Unescaped(last);
+        isNamed = isNamed || field == 0;
+    }
+    ++m_records;
+    return isNamed && m_records <= MaximumRecords && take(m_texts);
+}
+
+} // namespace
+
+XmlReading ReadRecords(const XmlFormat& format, const QByteArray& content,
+                       const std::function<bool(std::vector<QString>& texts)>& take)
+{
+    return RecordReader(format, content).Read(take);
+}
+
+bool WriteRecords(const XmlFormat& format, QByteArray& content,
+                  const std::function<bool(std::vector<QString>& texts)>& next)
+{
+    QXmlStreamWriter xml(&content);
+    xml.setAutoFormatting(true);
+    xml.setAutoFormattingIndent(2);
+    xml.writeStartDocument();
+    xml.writeStartElement(format.root);
+    xml.writeAttribute(VersionAttribute, QString::number(FormatVersion));
+    xml.writeAttribute(UnitsAttribute, format.units);
+
+    std::vector<QString> texts(std::size_t(format.fields.size()));
+    for (int records = 0; next(texts); ++records) {
+        const int before = content.size();
+        xml.writeEmptyElement(format.record);
+        for (int i = 0; i < format.fields.size(); ++i)
+            xml.writeAttribute(format.fields[i], Escaped(texts[std::size_t(i)]));
+        if (records == MaximumRecords || content.size() - before > MaximumRecordSize ||
+            content.size() > SafeFile::MaximumSize)
+            return false;
+    }
+    xml.writeEndDocument();
+    return !xml.hasError();
+}
+
+bool AreDistinct(const QVector<QString>& names)
+{
+    QSet<QString> distinct;
+    distinct.reserve(names.size());
+    for (const QString& name : names)
+        distinct.insert(name);
+    return distinct.size() == names.size();
+}
+
+QString ToText(double number)
+{
+    if (std::isnan(number))
+        return QStringLiteral("NaN");
+    if (std::isinf(number))
+        return number > 0.0 ? QStringLiteral("INF") : QStringLiteral("-INF");
+    if (number == 0.0 && std::signbit(number))
+        return QStringLiteral("-0"); // Qt drops the sign.
+    return QString::number(number, 'g', std::numeric_limits<double>::max_digits10);
+}
+
+bool ToNumber(const QString& text, double& number)
+{
+    // Qt reads these in whatever case.
+    bool isNumber = false;
+    number = text.toDouble(&isNumber);
+    return isNumber;
+}
+
+} // namespace tarn
