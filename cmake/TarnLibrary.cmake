@@ -10,7 +10,9 @@ function(tarn_finish_library target)
   string(TOLOWER ${target} lower)
   generate_export_header(${target} EXPORT_FILE_NAME "${PROJECT_BINARY_DIR}/exports/${lower}_export.h")
   set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
-  target_link_options(${target} PRIVATE $<$<NOT:$<BOOL:${TARN_SANITIZE}>>:-Wl,--no-undefined>)
+  if(NOT TARN_SANITIZE)
+    target_link_options(${target} PRIVATE -Wl,--no-undefined)
+  endif()
   target_include_directories(
     ${target} PUBLIC "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/exports>"
                      "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon>")

@@ -31,8 +31,8 @@ constexpr int EscapeLength = 6;
 constexpr int EscapeDigits = 4;
 constexpr int Hexadecimal = 16;
 
-constexpr QLatin1String VersionAttribute("version");
-constexpr QLatin1String UnitsAttribute("units");
+constexpr char VersionAttribute[] = "version";
+constexpr char UnitsAttribute[] = "units";
 
 /// True for what may stand in the file as it is, where @p text holds it at @p i.
 bool IsPlain(const QString& text, int i)
@@ -219,11 +219,11 @@ bool RecordReader::ReadRoot()
         return false;
     const QXmlStreamAttributes attributes = m_xml.attributes();
     bool isNumber = false;
-    const int version = attributes.value(VersionAttribute).toInt(&isNumber);
+    const int version = attributes.value(QLatin1String(VersionAttribute)).toInt(&isNumber);
     if (attributes.size() > 2)
         m_isFull = false;
     return isNumber && version >= 1 && version <= FormatVersion &&
-           attributes.value(UnitsAttribute) == m_format.units;
+           attributes.value(QLatin1String(UnitsAttribute)) == m_format.units;
 }
 
 bool RecordReader::ReadRecord(const std::function<bool(std::vector<QString>&)>& take)
@@ -266,8 +266,8 @@ bool WriteRecords(const XmlFormat& format, QByteArray& content,
     xml.setAutoFormattingIndent(2);
     xml.writeStartDocument();
     xml.writeStartElement(format.root);
-    xml.writeAttribute(VersionAttribute, QString::number(FormatVersion));
-    xml.writeAttribute(UnitsAttribute, format.units);
+    xml.writeAttribute(QLatin1String(VersionAttribute), QString::number(FormatVersion));
+    xml.writeAttribute(QLatin1String(UnitsAttribute), format.units);
 
     std::vector<QString> texts(std::size_t(format.fields.size()));
     for (int records = 0; next(texts); ++records) {

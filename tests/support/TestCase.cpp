@@ -124,7 +124,9 @@ QWidget* FindWidget(const QWidget& parent, const QString& name, const QMetaObjec
 void Click(const QWidget& parent, const char* name)
 {
     auto& button = Find<QAbstractButton>(parent, name);
-    if (button.isEnabled() && button.isVisible() && button.window()->isVisible())
+    // The middle of a wide check box or radio button may lie beside its text and press nothing.
+    const bool hasIndicator = button.inherits("QCheckBox") || button.inherits("QRadioButton");
+    if (!hasIndicator && button.isEnabled() && button.isVisible() && button.window()->isVisible())
         QTest::mouseClick(&button, Qt::LeftButton);
     else
         QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(3, button.height() / 2));

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "ui_CAnalysisTypeGUI.h"
+
+#include "tarnguicommon_export.h"
+
+#include <QDialog>
+
+/// Asks for the kind of analysis, which a host knows as a pair of numbers: family and kind.
+///
+///     CAnalysisTypeGUI dialog(window);
+///     dialog.InitData(family, kind);
+///     dialog.exec();                       // always Rejected: OK only hides the dialog
+///     dialog.getSolverType(family, kind);
+///
+/// OK gives (1, 1) for Static, (1, 2) for Vibration, (1, 3) for Buckling, (1, 4) for Transient,
+/// (1, 6) for Frequency Response and (7, 7) for Complex EigenValue; Cancel keeps the pair.
+class TARNGUICOMMON_EXPORT CAnalysisTypeGUI : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit CAnalysisTypeGUI(QWidget* parent);
+    ~CAnalysisTypeGUI() override;
+
+    /// Stores the pair and checks its button, also one that the user cannot choose. Family 1 only,
+    /// where kind 7 is Complex EigenValue; a pair without a button leaves the checked one.
+    void InitData(int family, int kind);
+
+    /// The pair of the last InitData() or OK; (0, 0) before both.
+    void getSolverType(int& family, int& kind) const;
+
+public Q_SLOTS:
+    /// Takes the pair of the checked button, if it has one, and hides the dialog.
+    void OnOKButtonPush();
+    /// Closes the dialog; the pair is kept.
+    void OnCloseButtonPush();
+
+private:
+    Ui::CAnalysisTypeGUI m_ui;
+    int m_nFamily = 0;
+    int m_nKind = 0;
+};

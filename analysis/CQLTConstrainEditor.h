@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ui_QLTConstrainEditor.h"
+
+#include "sConstrainData.h"
+#include "tarnguicommon_export.h"
+
+#include <QDialog>
+
+/// Asks for one fixed support: its name and the degrees of freedom that it holds.
+///
+///     CQLTConstrainEditor editor(window);
+///     if (editor.exec() == QDialog::Accepted)
+///         Add(editor.GetConstrainData());
+///
+/// A name that AttributeCommonMgr knows already is refused. The host registers what it accepted.
+class TARNGUICOMMON_EXPORT CQLTConstrainEditor : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit CQLTConstrainEditor(QWidget* parent);
+    ~CQLTConstrainEditor() override;
+
+    /// Stores the record for GetConstrainData(); the widgets deliberately do not show it.
+    void InitData(sConstrainData data);
+
+    /// The record of the last OK; before one, the record of InitData() or a default one.
+    sConstrainData GetConstrainData() const;
+
+public Q_SLOTS:
+    /// Refuses a name that is taken; otherwise stores the name and the boxes, and accepts.
+    void m_OK_ButtonPushed();
+
+private:
+    Ui::QLTConstrainEditor m_ui;
+    sConstrainData m_data;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ui_MeshSizeInput.h"
+
+#include "tarnguicommon_export.h"
+
+#include <QDialog>
+
+/// Asks for one mesh size.
+///
+///     MeshSizeInput dialog(0.25, window);
+///     if (dialog.exec() == QDialog::Accepted)
+///         Mesh(dialog.GetMeshSize());
+///
+/// Nothing is checked: the size may be 0 or negative.
+class TARNGUICOMMON_EXPORT MeshSizeInput : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Opens with the size 1.
+    explicit MeshSizeInput(QWidget* parent);
+    /// Opens with @p meshSize, shown with 6 significant digits.
+    MeshSizeInput(double meshSize, QWidget* parent);
+    ~MeshSizeInput() override;
+
+    /// The number that stands in the field, however the dialog ended; 0 for a text that is none.
+    double GetMeshSize();
+
+private:
+    Ui::MeshSizeInput m_ui;
+    double m_dMeshSize = 0.0;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+#include <string_view>
+
+/// Why an expression has no value.
+struct ExpressionError
+{
+    int position = 1; ///< In characters of the expression, from 1.
+    QString reason;
+
+    /// Position and reason in one line.
+    QString Text() const;
+
+    /// A part of an expression, in UTF-8, as messages quote it: shortened, and without control
+    /// characters.
+    static QString Shown(std::string_view part);
+};

@@ -1,0 +1,93 @@
+#include "ExpressionFunction.h"
+
+#include <muParserBase.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numeric>
+
+namespace {
+
+double Sign(double value)
+{
+    return double(value > 0.0) - double(value < 0.0);
+}
+
+double Sum(const double* values, int count)
+{
+    return std::accumulate(values, values + count, 0.0);
+}
+
+double Average(const double* values, int count)
+{
+    return Sum(values, count) / count;
+}
+
+double Smallest(const double* values, int count)
+{
+    return *std::min_element(values, values + count);
+}
+
+double Largest(const double* values, int count)
+{
+    return *std::max_element(values, values + count);
+}
+
+using Unary = double (*)(double);
+using Binary = double (*)(double, double);
+using Multiple = double (*)(const double*, int);
+
+// The parser must not calculate anything while it compiles: what goes wrong then would be missed.
+constexpr bool FoldConstants = false;
+
+template<Unary Function>
+constexpr ExpressionFunction One(const char* name)
+{
+    return {name, 1, [](mu::ParserBase& parser, const char* callName) {
+                parser.DefineFun(callName, mu::fun_type1(Function), FoldConstants);
+            }};
+}
+
+template<Binary Function>
+constexpr ExpressionFunction Two(const char* name)
+{
+    return {name, 2, [](mu::ParserBase& parser, const char* callName) {
+                parser.DefineFun(callName, mu::fun_type2(Function), FoldConstants);
+            }};
+}
+
+template<Multiple Function>
+constexpr ExpressionFunction Many(const char* name)
+{
+    return {name, ExpressionFunction::AnyNumber, [](mu::ParserBase& parser, const char* callName) {
+                parser.DefineFun(callName, mu::multfun_type(Function), FoldConstants);
+            }};
+}
+
+// In alphabetical order, for the search.
+constexpr std::array Functions = {
+    One<std::fabs>("abs"),    One<std::acos>("acos"),   One<std::acosh>("acosh"),
+    One<std::asin>("asin"),   One<std::asinh>("asinh"), One<std::atan>("atan"),
+    Two<std::atan2>("atan2"), One<std::atanh>("atanh"), Many<Average>("avg"),
+    One<std::cbrt>("cbrt"),   One<std::ceil>("ceil"),   One<std::cos>("cos"),
+    One<std::cosh>("cosh"),   One<std::exp>("exp"),     One<std::floor>("floor"),
+    Two<std::hypot>("hypot"), One<std::log>("ln"),      One<std::log>("log"),
+    One<std::log10>("log10"), One<std::log2>("log2"),   Many<Largest>("max"),
+    Many<Smallest>("min"),    Two<std::fmod>("mod"),    Two<std::pow>("pow"),
+    One<std::rint>("rint"),   One<std::round>("round"), One<Sign>("sign"),
+    One<std::sin>("sin"),     One<std::sinh>("sinh"),   One<std::sqrt>("sqrt"),
+    Many<Sum>("sum"),         One<std::tan>("tan"),     One<std::tanh>("tanh"),
+};
+
+} // namespace
+
+const ExpressionFunction* ExpressionFunction::Find(std::string_view name)
+{
+    const auto* const found =
+        std::lower_bound(Functions.begin(), Functions.end(), name,
+                         [](const ExpressionFunction& function, std::string_view wanted) {
+                             return wanted.compare(function.name) > 0;
+                         });
+    return found != Functions.end() && name == found->name ? found : nullptr;
+}
