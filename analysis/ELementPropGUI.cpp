@@ -63,11 +63,15 @@ void ELementPropGUI::LoadBuildinProperty()
 
 void ELementPropGUI::ShowProperty()
 {
+    const auto properties = KVPropertyData::GetInstance()->GetProptyDataMap();
     m_nRow = 0;
     m_ui.tabwidget_Prop->setRowCount(0);
-    for (const auto& entry : KVPropertyData::GetInstance()->GetProptyDataMap())
-        AppendRow(*entry.second);
-    tarn::SelectRow(*m_ui.tabwidget_Prop, m_nRow - 1);
+    // All at once: a table that grows row by row is laid out again for each.
+    m_ui.tabwidget_Prop->setRowCount(int(properties.size()));
+    for (const auto& entry : properties)
+        FillRow(m_nRow++, *entry.second);
+    if (m_nRow > 0)
+        tarn::SelectRow(*m_ui.tabwidget_Prop, m_nRow - 1);
 }
 
 void ELementPropGUI::InsertProperty()
@@ -80,7 +84,8 @@ void ELementPropGUI::InsertProperty()
     }
     CQLTElemPropDef* const property = editor.GetPropData();
     m_mapAddedProps[property->m_strName] = property;
-    AppendRow(*property);
+    m_ui.tabwidget_Prop->insertRow(m_nRow);
+    FillRow(m_nRow++, *property);
     tarn::SelectRow(*m_ui.tabwidget_Prop, m_nRow - 1);
     m_vecAddedNames.push_back(property->m_strName);
     KVPropertyData::GetInstance()->AddPropInfo(property);
@@ -131,7 +136,11 @@ void ELementPropGUI::DeleteProperty()
         return;
     const int row = cell.row();
     table.removeRow(row);
-    tarn::SelectRow(table, row - 1);
+    // By itself the table would move on to the next row.
+    if (row > 0)
+        tarn::SelectRow(table, row - 1);
+    else
+        table.selectionModel()->clear();
 }
 
 void ELementPropGUI::on_OK_Button()
@@ -145,16 +154,13 @@ void ELementPropGUI::on_Cancel_Button()
     hide();
 }
 
-// The next row stands where the counter says. After a delete that is past the end, where the table
-// refuses it.
-void ELementPropGUI::AppendRow(const CQLTElemPropDef& property)
+void ELementPropGUI::FillRow(int row, const CQLTElemPropDef& property)
 {
     QTableWidget& table = *m_ui.tabwidget_Prop;
-    const int row = m_nRow++;
-    table.insertRow(row);
+    // After a delete the next row would stand past the end, where the table refused it.
     if (row >= table.rowCount())
         return;
-    table.setItem(row, NameColumn, new QTableWidgetItem(property.m_strName));
-    table.setItem(row, TypeColumn, new QTableWidgetItem(property.m_strTypeName));
-    table.setItem(row, MaterialColumn, new QTableWidgetItem(property.m_strMaterialName));
+    table.setItem(row, NameColumn, tarn::NewTextItem(property.m_strName));
+    table.setItem(row, TypeColumn, tarn::NewTextItem(property.m_strTypeName));
+    table.setItem(row, MaterialColumn, tarn::NewTextItem(property.m_strMaterialName));
 }

@@ -53,7 +53,7 @@ public Q_SLOTS:
     void on_Cancel_Button();
 
 private:
-    void AppendRow(const CQLTElemPropDef& property);
+    void FillRow(int row, const CQLTElemPropDef& property);
 
     Ui::ELementPropGUI m_ui;
     std::vector<QString> m_vecAddedNames;

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -50,7 +51,7 @@ void FillRow(QTableWidget& table, int row, const RowTexts& texts)
     if (row < 0 || row >= table.rowCount())
         return;
     for (int column = 0; column < ColumnCount; ++column)
-        table.setItem(row, column, new QTableWidgetItem(texts[std::size_t(column)]));
+        table.setItem(row, column, tarn::NewTextItem(texts[std::size_t(column)]));
 }
 
 // The name with its last characters replaced by the count: Steel, Steel0, Steel1, ..., Steel10.
@@ -75,6 +76,8 @@ KVMaterialLibrary::KVMaterialLibrary(QWidget* parent)
     m_ui.setupUi(this);
 
     SetLayerTablePropertyConductors();
+    if (KVMaterialData::GetInstance()->ReadXML(SystemFile, MATERIAL_SYSTEM) == 0)
+        ShowMaterial();
     m_ui.frame->setFrameStyle(int(QFrame::WinPanel) | int(QFrame::Sunken));
     m_ui.frame->setLineWidth(2);
 
@@ -91,9 +94,6 @@ KVMaterialLibrary::KVMaterialLibrary(QWidget* parent)
     connect(m_ui.tableWidget, SIGNAL(itemDoubleClicked(QTableWidgetItem*)), this,
             SLOT(RecTableItemData()));
     connect(m_ui.tableWidget, SIGNAL(itemSelectionChanged()), this, SLOT(setCurrentMaterialName()));
-
-    if (KVMaterialData::GetInstance()->ReadXML(SystemFile, MATERIAL_SYSTEM) == 0)
-        ShowMaterial();
 }
 
 KVMaterialLibrary::~KVMaterialLibrary() = default;
@@ -192,6 +192,8 @@ void KVMaterialLibrary::RemoveMaterial()
     const int row = cell.row();
     table.removeRow(row);
     tarn::SelectRow(table, row);
+    // While the row went, its material was still the current one.
+    setCurrentMaterialName();
 }
 
 void KVMaterialLibrary::RecTableItemData()
@@ -224,19 +226,22 @@ void KVMaterialLibrary::ShowMaterial()
     table.clearContents();
     table.setRowCount(0);
 
+    std::vector<RowTexts> shown;
     const QStringList names = store.GetMaterialNameList();
     for (const QString& name : names) {
         const KVMaterialInfo* const material = store.GetMaterialInfo(name);
         if (material == nullptr)
-            return;
-        const bool user = material->m_nType == MATERIAL_USER;
-        const bool system = material->m_nType == MATERIAL_SYSTEM;
-        if (!(user && project) && !(system && libraries))
-            continue;
-        const int row = table.rowCount();
-        table.insertRow(row);
-        FillRow(table, row, user ? UserTexts(*material) : SystemTexts(*material));
+            break;
+        if (material->m_nType == MATERIAL_USER && project)
+            shown.push_back(UserTexts(*material));
+        else if (material->m_nType == MATERIAL_SYSTEM && libraries)
+            shown.push_back(SystemTexts(*material));
     }
+
+    // All at once: a table that grows row by row is laid out again for each.
+    table.setRowCount(int(shown.size()));
+    for (int row = 0; row < table.rowCount(); ++row)
+        FillRow(table, row, shown[std::size_t(row)]);
 }
 
 void KVMaterialLibrary::accept()
