@@ -896,7 +896,7 @@ void tst_ELementPropGUI::AddedPropertiesAreWrittenAndReadBack()
     {
         ELementPropGUI manager(nullptr);
         user.Then([](QDialog& editor) {
-            Type(editor, "lineEdit_PropName", "板 <1>");
+            Find<QLineEdit>(editor, "lineEdit_PropName").setText("板 <1>");
             Type(editor, "lineEdit_mat", "Bronze");
             Type(editor, "lineEdit_thickness", "0.1");
             Click(editor, "pushbu_OK");
