@@ -14,6 +14,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTabWidget>
 #include <QTextEdit>
 #include <QTimer>
@@ -147,7 +148,8 @@ void tst_KVMaterialLibrary::TheFormHoldsNothingElse()
     EnterTemporaryDirectory();
     const EmptyAnalysisStores stores;
     const KVMaterialLibrary library;
-    QCOMPARE(FormWidgets(library).size(), 19);
+    // Two are the tab bar's own.
+    QCOMPARE(FormWidgets(library).filter(QRegularExpression("^(?!Scroll)")).size(), 19);
     QCOMPARE(Find<QLabel>(library, "label_2").buddy()->objectName(), "textEdit");
 }
 
@@ -482,9 +484,10 @@ void tst_KVMaterialLibrary::TheBoxesFilter()
     QCOMPARE(Names(Table(library)), names);
     if (project && libraries)
         return;
-    // A refill selects nothing.
+    // A refill selects nothing; the store keeps what was pointed at last.
     QCOMPARE(Table(library).currentRow(), -1);
-    QCOMPARE(Store().CurrentMaterialName(), QString());
+    QCOMPARE(SelectedRows(Table(library)), QVector<int>());
+    QCOMPARE(Store().CurrentMaterialName(), "steam");
     // A box that the host turns does not filter; only a click does.
     Find<QCheckBox>(library, "checkBox_2").setChecked(!project);
     QCOMPARE(Names(Table(library)), names);
