@@ -1,9 +1,9 @@
 #include "ParameterOverview.h"
 
+#include "ExactText.h"
 #include "GlobalParaMeterMgr.h"
 
 #include <QHeaderView>
-#include <QLocale>
 #include <QTableWidget>
 
 namespace {
@@ -30,12 +30,6 @@ QString TypeWord(int code)
     default:
         return ParameterOverview::tr("unknown (%1)").arg(code);
     }
-}
-
-// As few digits as tell the number from its neighbours: up to 17, but 0.1 stays 0.1.
-QString ExactText(double value)
-{
-    return QString::number(value, 'g', QLocale::FloatingPointShortest);
 }
 
 QString RawValueText(const QString& name, const ParametersDef& record)

@@ -1,5 +1,6 @@
 #include "Screenshots.h"
 
+#include "AnalysisPictures.h"
 #include "DOEDlg.h"
 #include "DialogTables.h"
 #include "DoeSession.h"
@@ -48,6 +49,7 @@ Window NewMainWindow(const Project& project)
 {
     auto window = std::make_unique<MainWindow>();
     window->OpenProject(project);
+    FillSampleAnalysis(window->Analysis());
     return window;
 }
 
@@ -88,12 +90,28 @@ struct Picture
     Window (*make)(const Project&);
 };
 
+template<Window (*Make)()>
+Window NewAnalysisDialog(const Project&)
+{
+    return Make();
+}
+
 // A new dialog gets a line here. The main window comes first: it fills the stores.
 const Picture Pictures[] = {
     {"MainWindow", NewMainWindow},
     {"DOEDlg", NewDOEDlg},
     {"OneParameterDlg", NewOneParameterDlg},
     {"ParameterEditor", NewParameterEditor},
+    {"CAnalysisTypeGUI", NewAnalysisDialog<PictureOfAnalysisType>},
+    {"CQLTConstrainEditor", NewAnalysisDialog<PictureOfConstrainEditor>},
+    {"CQLTElePropertyEditor", NewAnalysisDialog<PictureOfPropertyEditor>},
+    {"CQLTLoadForceEditor", NewAnalysisDialog<PictureOfLoadEditor>},
+    {"ELementPropGUI", NewAnalysisDialog<PictureOfPropertyManager>},
+    {"KVMaterialLibrary", NewAnalysisDialog<PictureOfMaterialLibrary>},
+    {"MaterialEditer", NewAnalysisDialog<PictureOfMaterialEditor>},
+    {"MeshSizeInput", NewAnalysisDialog<PictureOfMeshSize>},
+    {"SubShapeMeshParameterDlg", NewAnalysisDialog<PictureOfSubShapeMesh>},
+    {"frequencySetting", NewAnalysisDialog<PictureOfFrequencies>},
 };
 
 bool WritePicture(QWidget& window, const QString& path)
@@ -116,13 +134,15 @@ int WriteScreenshots(const Project& project, const QString& directory)
 {
     if (!QDir().mkpath(directory))
         return Fail(QStringLiteral("cannot make the directory %1").arg(directory));
+    const QDir pictures(QDir(directory).absolutePath());
 
     const PictureFont font;
     const NoticeWatcher notices;
+    const SampleAnalysisFiles files;
     for (const Picture& picture : Pictures) {
         const Window window = picture.make(project);
         const QString path =
-            QDir(directory).filePath(QLatin1String(picture.name) + QStringLiteral(".png"));
+            pictures.filePath(QLatin1String(picture.name) + QStringLiteral(".png"));
         if (!WritePicture(*window, path))
             return Fail(QStringLiteral("cannot write the picture %1").arg(path));
     }

@@ -1,3 +1,4 @@
+#include "AnalysisFiles.h"
 #include "CommandLine.h"
 #include "HostApplication.h"
 #include "MainWindow.h"
@@ -44,6 +45,7 @@ int RunStudy(const CommandLine& line)
 int OpenWindow(const CommandLine& line)
 {
     const Project project = Project::Load(line.projectFile);
+    ReadAnalysisFiles();
     MainWindow window;
     window.show();
     window.OpenProject(project);
