@@ -8,6 +8,12 @@
 #include <QFile>
 #include <QFileInfo>
 
+// Outside every namespace, as the macro needs it: the file comes with a static library.
+static void LoadBuiltInFile()
+{
+    Q_INIT_RESOURCE(materials);
+}
+
 namespace {
 
 const char* const SystemFile = "./SysMaterial.xml";
@@ -20,7 +26,10 @@ QString InstalledSystemMaterials()
 {
     const QString installed = QCoreApplication::applicationDirPath() + QLatin1Char('/') +
                               QStringLiteral(TARN_DATA_FROM_PROGRAM "/SysMaterial.xml");
-    return QFileInfo(installed).isFile() ? installed : QStringLiteral(":/SysMaterial.xml");
+    if (QFileInfo(installed).isFile())
+        return installed;
+    LoadBuiltInFile();
+    return QStringLiteral(":/SysMaterial.xml");
 }
 
 bool ProvideSystemMaterials(const QString& library)

@@ -90,6 +90,7 @@ std::unique_ptr<QWidget> PictureOfMaterialEditor()
         if (editor == nullptr)
             return;
         picture->setPixmap(editor->grab());
+        picture->setFixedSize(editor->size());
         editor->close();
     });
     library->findChild<QPushButton*>(QStringLiteral("pushButton"))->click();
