@@ -14,6 +14,7 @@ foreach(folder common design analysis geometry solver)
   list(APPEND TARN_DIALOG_INCLUDES "${PROJECT_SOURCE_DIR}/${folder}")
 endforeach()
 target_include_directories(TarnGUICommonObjects PUBLIC ${TARN_DIALOG_INCLUDES})
+target_include_directories(TarnGUICommonObjects SYSTEM PUBLIC "${OpenCASCADE_INCLUDE_DIR}")
 add_dependencies(TarnGUICommonObjects TarnForms)
 
 add_library(TarnGUICommon SHARED $<TARGET_OBJECTS:TarnGUICommonObjects>)
@@ -21,6 +22,8 @@ target_link_libraries(TarnGUICommon PUBLIC Qt5::Core Qt5::Gui Qt5::Widgets TarnD
                                            TarnCoreGeometry TKernel TKMath TKG3d TKGeomBase
                                     PRIVATE $<BUILD_INTERFACE:TarnStrict>)
 target_include_directories(TarnGUICommon PUBLIC "$<BUILD_INTERFACE:${TARN_DIALOG_INCLUDES}>")
+# The kernel's targets do not carry its include folder; the package adds it where it finds the kernel.
+target_include_directories(TarnGUICommon SYSTEM PUBLIC "$<BUILD_INTERFACE:${OpenCASCADE_INCLUDE_DIR}>")
 add_dependencies(TarnGUICommon TarnForms)
 tarn_finish_library(TarnGUICommon HEADERS ${TARN_DIALOG_HEADERS} ${TARN_FORM_HEADERS})
 install(FILES "${PROJECT_SOURCE_DIR}/common/images/TopTitle.png"

@@ -6,7 +6,7 @@ AttributeCommonMgr* AttributeCommonMgr::GetInstance()
     return instance;
 }
 
-bool AttributeCommonMgr::FindName(std::string& name) const
+bool AttributeCommonMgr::FindName(std::string name) const
 {
     return m_names.count(name) != 0;
 }

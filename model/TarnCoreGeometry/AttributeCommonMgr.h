@@ -16,8 +16,8 @@ public:
     /// The registry of the process; created on first use and never freed.
     static AttributeCommonMgr* GetInstance();
 
-    /// True when an attribute of exactly this name is registered. @p name is not changed.
-    bool FindName(std::string& name) const;
+    /// True when an attribute of exactly this name is registered.
+    bool FindName(std::string name) const;
 
     /// Registers @p name; a name that is registered already stays so.
     void AddName(const std::string& name);

@@ -130,7 +130,7 @@ std::map<QString, CQLTElemPropDef*> KVPropertyData::GetProptyDataMap() const
     return m_d->records;
 }
 
-CQLTElemPropDef* KVPropertyData::GetPropertyInfo(QString& name) const
+CQLTElemPropDef* KVPropertyData::GetPropertyInfo(QString name) const
 {
     const auto found = m_d->records.find(name);
     return found == m_d->records.end() ? nullptr : found->second;

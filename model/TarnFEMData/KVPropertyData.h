@@ -47,9 +47,8 @@ public:
     /// A copy of the map from name to record. The store keeps owning the records.
     std::map<QString, CQLTElemPropDef*> GetProptyDataMap() const;
 
-    /// The property of that name, or null. @p name is not changed; the store keeps owning the
-    /// record.
-    CQLTElemPropDef* GetPropertyInfo(QString& name) const;
+    /// The property of that name, or null. The store keeps owning the record.
+    CQLTElemPropDef* GetPropertyInfo(QString name) const;
 
     /// Forgets all properties and frees their records, also those replaced before.
     void Clear();

@@ -1,0 +1,110 @@
+#include "ModalLoop.h"
+
+#include <QDialog>
+#include <QEvent>
+#include <QEventLoop>
+#include <QPointer>
+
+namespace {
+
+// What a dialog must remember from one run to the next; its child, made by the first run.
+class ModalRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ModalRun(QDialog& dialog);
+
+    int Exec();
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void RestoreModality();
+
+    QDialog& m_dialog;
+    QEventLoop* m_loop = nullptr;
+    bool m_wasModal = false;
+    bool m_isUnwound = false;
+};
+
+ModalRun::ModalRun(QDialog& dialog)
+    : QObject(&dialog)
+    , m_dialog(dialog)
+{
+    dialog.installEventFilter(this);
+}
+
+int ModalRun::Exec()
+{
+    if (m_loop != nullptr) {
+        qWarning("QDialog::exec: Recursive call detected");
+        return -1;
+    }
+
+    // A slot may destroy the dialog, and this object with it.
+    const QPointer<QDialog> dialog = &m_dialog;
+    const bool deleteOnClose = dialog->testAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAttribute(Qt::WA_DeleteOnClose, false);
+    if (!m_isUnwound)
+        m_wasModal = dialog->testAttribute(Qt::WA_ShowModal);
+    m_isUnwound = false;
+    dialog->setAttribute(Qt::WA_ShowModal, true);
+    dialog->setResult(QDialog::Rejected);
+    dialog->show();
+
+    QEventLoop loop;
+    m_loop = &loop;
+    try {
+        loop.exec(QEventLoop::DialogExec);
+    } catch (...) {
+        if (dialog) {
+            m_loop = nullptr;
+            dialog->setAttribute(Qt::WA_DeleteOnClose, deleteOnClose);
+            // A window that stops being modal while it is visible blocks the others for good.
+            m_isUnwound = dialog->isVisible();
+            if (!m_isUnwound)
+                RestoreModality();
+        }
+        throw;
+    }
+    if (!dialog)
+        return QDialog::Rejected;
+
+    m_loop = nullptr;
+    RestoreModality();
+    const int result = dialog->result();
+    if (deleteOnClose)
+        delete dialog.data();
+    return result;
+}
+
+bool ModalRun::eventFilter(QObject* watched, QEvent* event)
+{
+    // Sent by every hide() and close(), but not when the window system hides the window.
+    if (watched == &m_dialog && event->type() == QEvent::HideToParent) {
+        if (m_loop != nullptr) {
+            m_loop->exit();
+        } else if (m_isUnwound) {
+            m_isUnwound = false;
+            RestoreModality();
+        }
+    }
+    return false;
+}
+
+void ModalRun::RestoreModality()
+{
+    m_dialog.setAttribute(Qt::WA_ShowModal, m_wasModal);
+}
+
+} // namespace
+
+int tarn::RunModalLoop(QDialog& dialog)
+{
+    auto* run = dialog.findChild<ModalRun*>(QString(), Qt::FindDirectChildrenOnly);
+    if (run == nullptr)
+        run = new ModalRun(dialog);
+    return run->Exec();
+}
+
+#include "ModalLoop.moc"

@@ -1,0 +1,39 @@
+#include "ExtrudInputDlg.h"
+
+#include "CoordinateInput.h"
+#include "ModalLoop.h"
+
+ExtrudInputDlg::ExtrudInputDlg(QWidget* parent)
+    : QDialog(parent)
+    , m_direction(1.0, 0.0, 0.0)
+{
+    m_ui.setupUi(this);
+
+    connect(m_ui.pushButton_OK, SIGNAL(clicked()), this, SLOT(m_Slot_OK_Pushed()));
+}
+
+ExtrudInputDlg::~ExtrudInputDlg() = default;
+
+double ExtrudInputDlg::GetHeightValue() const
+{
+    return m_dHeight;
+}
+
+gp_Dir ExtrudInputDlg::GetExtrudeDirection() const
+{
+    return m_direction;
+}
+
+int ExtrudInputDlg::exec()
+{
+    return tarn::RunModalLoop(*this);
+}
+
+void ExtrudInputDlg::m_Slot_OK_Pushed()
+{
+    m_dHeight = m_ui.lineEdit_Height->text().toDouble();
+    // The kernel refuses a zero vector here: nothing after this line runs then.
+    m_direction =
+        gp_Dir(tarn::Coordinates(*m_ui.lineEdit_XDir, *m_ui.lineEdit_YDir, *m_ui.lineEdit_ZDir));
+    accept();
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "ui_ExtrudInputDlg.h"
+
+#include "tarnguicommon_export.h"
+
+#include <QDialog>
+#include <gp_Dir.hxx>
+
+/// Asks for a linear extrusion: a direction and a length.
+///
+///     ExtrudInputDlg dialog(window);
+///     if (dialog.exec() == QDialog::Accepted)
+///         Extrude(dialog.GetExtrudeDirection(), dialog.GetHeightValue());
+///
+/// Text that is no number counts as 0. OK with a zero direction lets the kernel's
+/// Standard_ConstructionError pass, out of exec() to the host, and the dialog stays open: the
+/// length is then the one entered, the direction as before.
+class TARNGUICOMMON_EXPORT ExtrudInputDlg : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit ExtrudInputDlg(QWidget* parent);
+    ~ExtrudInputDlg() override;
+
+    /// The length, in the model's unit; valid after OK.
+    double GetHeightValue() const;
+    /// The direction entered; (1, 0, 0) before OK.
+    gp_Dir GetExtrudeDirection() const;
+
+    /// As QDialog::exec(), and an exception from OK may leave it.
+    int exec() override;
+
+private Q_SLOTS:
+    void m_Slot_OK_Pushed();
+
+private:
+    Ui::ExtrudInputDlg m_ui;
+    double m_dHeight = 0.0;
+    gp_Dir m_direction;
+};

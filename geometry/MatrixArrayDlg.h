@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ui_MatrixArrayDlg.h"
+
+#include "sMatrixArraydata.h"
+#include "tarnguicommon_export.h"
+
+#include <QDialog>
+
+/// Asks for a rectangular array along X and Y: numbers and distances.
+///
+///     MatrixArrayDlg dialog(parentDialog);
+///     if (dialog.exec() == QDialog::Accepted)
+///         CopyAlong(dialog.GetArrayParameter());
+///
+/// The number fields take up to four digits; an empty one counts as 0, as does a distance that is
+/// no number.
+class TARNGUICOMMON_EXPORT MatrixArrayDlg : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit MatrixArrayDlg(QDialog* parent);
+    ~MatrixArrayDlg() override;
+
+    /// The record of the last OK; without meaning before.
+    sMatrixArraydata GetArrayParameter() const;
+
+private Q_SLOTS:
+    void m_slot_OkPushed();
+    /// Does nothing: Cancel closes the dialog.
+    void m_slot_CancelPushed();
+
+private:
+    Ui::MatrixArrayDlg m_ui;
+    sMatrixArraydata m_data;
+};

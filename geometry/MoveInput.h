@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ui_MoveInput.h"
+
+#include "tarnguicommon_export.h"
+
+#include <QDialog>
+
+/// Asks for a translation vector.
+///
+///     MoveInput dialog(window);
+///     double dx, dy, dz;
+///     if (dialog.exec() == QDialog::Accepted)
+///         dialog.GetMoveData(dx, dy, dz);
+///
+/// Nothing is checked; text that is no number counts as 0.
+class TARNGUICOMMON_EXPORT MoveInput : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit MoveInput(QWidget* parent);
+    ~MoveInput() override;
+
+    /// The components as the fields stand at this moment, also after Cancel.
+    void GetMoveData(double& dx, double& dy, double& dz) const;
+
+private Q_SLOTS:
+    void m_Slot_OK();
+    /// Does nothing: the form closes the dialog.
+    void m_Slot_Cancel();
+
+private:
+    Ui::MoveInput m_ui;
+};

@@ -1,0 +1,18 @@
+#include "PosInputDlg.h"
+
+PosInputDlg* PosInputDlg::m_Instance = nullptr;
+
+PosInputDlg* PosInputDlg::GetInstance()
+{
+    if (m_Instance == nullptr)
+        m_Instance = new PosInputDlg(nullptr);
+    return m_Instance;
+}
+
+PosInputDlg::PosInputDlg(QWidget* parent)
+    : QWidget(parent)
+{
+    ui.setupUi(this);
+}
+
+PosInputDlg::~PosInputDlg() = default;

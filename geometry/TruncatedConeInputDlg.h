@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ui_TruncatedConeInputDlg.h"
+
+#include "tarnguicommon_export.h"
+
+#include <QDialog>
+
+/// Asks for height, top radius and angle of a truncated cone.
+///
+///     TruncatedConeInputDlg dialog(window);
+///     dialog.DisableAngleInput(); // for a full cone
+///     if (dialog.exec() == QDialog::Accepted)
+///         MakeCone(dialog.GetTopRadius(), dialog.GetHeightValue(), dialog.GetAngle());
+///
+/// No range is checked; text that is no number counts as 0.
+class TARNGUICOMMON_EXPORT TruncatedConeInputDlg : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit TruncatedConeInputDlg(QWidget* parent);
+    ~TruncatedConeInputDlg() override;
+
+    /// In the model's length unit; valid after OK or CollectData().
+    double GetHeightValue() const;
+    /// In the model's length unit; valid after OK or CollectData().
+    double GetTopRadius() const;
+    /// Sweep about the axis in degrees, as typed; valid after OK or CollectData().
+    double GetAngle() const;
+
+    /// Disables the angle field; OK reads it all the same.
+    void DisableAngleInput();
+    /// Takes the fields over, as OK does, without closing the dialog.
+    void CollectData();
+
+private Q_SLOTS:
+    void m_Slot_OK();
+
+private:
+    Ui::TruncatedConeInputDlg m_ui;
+    double m_dHeight = 0.0;
+    double m_dTopRadius = 0.0;
+    double m_dAngle = 0.0;
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ui_WedgeInputDlg.h"
+
+#include "tarnguicommon_export.h"
+
+#include <QDialog>
+
+/// Asks for a wedge: its height and the limits of its top face.
+///
+///     WedgeInputDlg dialog(window);
+///     double height, xMin, xMax, zMin, zMax;
+///     if (dialog.exec() == QDialog::Accepted)
+///         dialog.GetWedgeParameter(height, xMin, xMax, zMin, zMax);
+///
+/// No range is checked; text that is no number counts as 0.
+class TARNGUICOMMON_EXPORT WedgeInputDlg : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit WedgeInputDlg(QWidget* parent);
+    ~WedgeInputDlg() override;
+
+    /// In the model's length unit; valid after OK.
+    void GetWedgeParameter(double& height, double& xMin, double& xMax, double& zMin,
+                           double& zMax) const;
+
+private Q_SLOTS:
+    void m_Slot_OK();
+
+private:
+    Ui::WedgeInputDlg m_ui;
+    double m_dHeight = 0.0;
+    double m_dXMin = 0.0;
+    double m_dXMax = 0.0;
+    double m_dZMin = 0.0;
+    double m_dZMax = 0.0;
+};

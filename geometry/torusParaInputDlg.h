@@ -1,0 +1,47 @@
+#pragma once
+
+#include "ui_torusParaInputDlg.h"
+
+#include "tarnguicommon_export.h"
+
+#include <QDialog>
+
+/// Asks for the sweep radius and the angular limits of a torus.
+///
+///     torusParaInputDlg dialog(window);
+///     dialog.DisableAngleUI(); // for a full torus
+///     if (dialog.exec() == QDialog::Accepted)
+///         MakeTorus(dialog.GetSweepRadius(), dialog.GetAngle1(), ...);
+///
+/// The ranges beside the fields are labels: the host checks them. Text that is no number counts
+/// as 0.
+class TARNGUICOMMON_EXPORT torusParaInputDlg : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit torusParaInputDlg(QWidget* parent);
+    ~torusParaInputDlg() override;
+
+    /// In the model's length unit; valid after OK.
+    double GetSweepRadius() const;
+    /// Start of the tube's section in degrees, as typed; valid after OK.
+    double GetAngle1() const;
+    /// End of the tube's section in degrees, as typed; valid after OK.
+    double GetAngle2() const;
+    /// Sweep about the axis in degrees, as typed; valid after OK.
+    double GetAngle3() const;
+
+    /// Disables the three angle fields; OK reads them all the same.
+    void DisableAngleUI();
+
+private Q_SLOTS:
+    void m_OK_Pushed();
+
+private:
+    Ui::torusParaInputDlg m_ui;
+    double m_dSweepRadius = 0.0;
+    double m_dAngle1 = 0.0;
+    double m_dAngle2 = 0.0;
+    double m_dAngle3 = 0.0;
+};

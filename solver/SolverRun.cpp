@@ -1,0 +1,26 @@
+#include "SolverRun.h"
+
+#include <QFileDialog>
+#include <QVector>
+
+QString tarn::PickExecutable(QDialog& owner, const QString& caption)
+{
+    // Never shown: the picker itself is the static one, with no caption.
+    new QFileDialog(&owner, caption, QString(), QString());
+    return QFileDialog::getOpenFileName(nullptr, QString(), QString(), QString());
+}
+
+QProcess::ExitStatus tarn::RunToEnd(const QString& command)
+{
+    // Processes are never deleted; they stay reachable here.
+    static auto& processes = *new QVector<QProcess*>;
+    auto* const process = new QProcess;
+    processes.append(process);
+
+    QStringList arguments = QProcess::splitCommand(command);
+    const QString program = arguments.takeFirst();
+    process->setReadChannel(QProcess::StandardError);
+    process->start(program, arguments, QIODevice::ReadWrite);
+    process->waitForFinished(-1);
+    return process->exitStatus();
+}

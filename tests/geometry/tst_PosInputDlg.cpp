@@ -1,0 +1,131 @@
+#include "DialogChecks.h"
+#include "DialogFacts.h"
+#include "PosInputDlg.h"
+#include "TestCase.h"
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+class tst_PosInputDlg : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TheFormIsAsGiven();
+    void TheLayoutIsOneRow();
+    void TabFollowsTheReadingOrder();
+    void ItHasNoSlotsAndNoSignals();
+    void EveryCallOfGetInstanceGivesTheOneObject();
+    void TheInstanceIsAHiddenWindow();
+    void AWidgetOfItsOwnIsAnother();
+    void WithAParentItIsAnOrdinaryChild();
+    void TheFieldsTakeAnyText();
+    void TheHostReachesTheFields();
+};
+
+void tst_PosInputDlg::TheFormIsAsGiven()
+{
+    const PosInputDlg input(nullptr);
+    QCOMPARE(input.objectName(), QString("PosInputDlg"));
+    QCOMPARE(input.windowTitle(), QString("PosInputDlg"));
+    QCOMPARE(input.size(), QSize(400, 46));
+    QCOMPARE(input.font(), QApplication::font());
+    QCOMPARE(DescribeForm(input, false), QStringList({
+                                             "QLabel label in PosInputDlg: x",
+                                             "QLabel label_2 in PosInputDlg: y",
+                                             "QLabel label_3 in PosInputDlg: z",
+                                             "QLineEdit lineEdit in PosInputDlg: ",
+                                             "QLineEdit lineEdit_2 in PosInputDlg: ",
+                                             "QLineEdit lineEdit_3 in PosInputDlg: ",
+                                         }));
+}
+
+void tst_PosInputDlg::TheLayoutIsOneRow()
+{
+    const PosInputDlg input(nullptr);
+    const auto* const layout = qobject_cast<QGridLayout*>(input.layout());
+    QVERIFY(layout != nullptr);
+    QCOMPARE(layout->objectName(), QString("gridLayout"));
+    QCOMPARE(layout->spacing(), 6);
+    QCOMPARE(layout->contentsMargins(), QMargins(11, 11, 11, 11));
+    QCOMPARE(layout->rowCount(), 1);
+    QStringList cells;
+    for (int column = 0; column < layout->columnCount(); ++column)
+        cells << layout->itemAtPosition(0, column)->widget()->objectName();
+    QCOMPARE(cells,
+             QStringList({"label", "lineEdit", "label_2", "lineEdit_2", "label_3", "lineEdit_3"}));
+}
+
+void tst_PosInputDlg::TabFollowsTheReadingOrder()
+{
+    PosInputDlg input(nullptr);
+    QCOMPARE(TabOrder(input), QStringList({"lineEdit", "lineEdit_2", "lineEdit_3"}));
+}
+
+void tst_PosInputDlg::ItHasNoSlotsAndNoSignals()
+{
+    QCOMPARE(OwnMethods(PosInputDlg::staticMetaObject), QStringList());
+    QCOMPARE(PosInputDlg::staticMetaObject.superClass(), &QWidget::staticMetaObject);
+}
+
+void tst_PosInputDlg::EveryCallOfGetInstanceGivesTheOneObject()
+{
+    PosInputDlg* const first = PosInputDlg::GetInstance();
+    QVERIFY(first != nullptr);
+    QCOMPARE(PosInputDlg::GetInstance(), first);
+}
+
+void tst_PosInputDlg::TheInstanceIsAHiddenWindow()
+{
+    const PosInputDlg* const input = PosInputDlg::GetInstance();
+    QVERIFY(input->parentWidget() == nullptr);
+    QVERIFY(input->isWindow());
+    QVERIFY(!input->isVisible());
+}
+
+void tst_PosInputDlg::AWidgetOfItsOwnIsAnother()
+{
+    PosInputDlg* const shared = PosInputDlg::GetInstance();
+    {
+        PosInputDlg own(nullptr);
+        QVERIFY(&own != shared);
+        QCOMPARE(PosInputDlg::GetInstance(), shared);
+    }
+    QCOMPARE(PosInputDlg::GetInstance(), shared);
+}
+
+void tst_PosInputDlg::WithAParentItIsAnOrdinaryChild()
+{
+    QWidget parent;
+    const auto* const input = new PosInputDlg(&parent);
+    QCOMPARE(input->parentWidget(), &parent);
+    QVERIFY(!input->isWindow());
+    QCOMPARE(input->windowType(), Qt::Widget);
+}
+
+void tst_PosInputDlg::TheFieldsTakeAnyText()
+{
+    PosInputDlg input(nullptr);
+    input.show();
+    for (const char* const name : {"lineEdit", "lineEdit_2", "lineEdit_3"}) {
+        QVERIFY(Find<QLineEdit>(input, name).validator() == nullptr);
+        Type(input, name, "1,5 mm");
+        QCOMPARE(Find<QLineEdit>(input, name).text(), QString("1,5 mm"));
+    }
+}
+
+void tst_PosInputDlg::TheHostReachesTheFields()
+{
+    PosInputDlg input(nullptr);
+    input.ui.lineEdit->setText("1");
+    input.ui.lineEdit_2->setText("2");
+    input.ui.lineEdit_3->setText("3");
+    QCOMPARE(Find<QLineEdit>(input, "lineEdit").text(), QString("1"));
+    QCOMPARE(Find<QLineEdit>(input, "lineEdit_3").text(), QString("3"));
+    QCOMPARE(input.ui.label_3->buddy(), input.ui.lineEdit_3);
+}
+
+TARN_TEST_MAIN(tst_PosInputDlg)
+#include "tst_PosInputDlg.moc"
