@@ -9,8 +9,8 @@
 
 /// What the tests of the dialogs with tables of materials and properties share.
 
-/// Writes a file of materials, each as name, elastic modulus, Poisson's ratio and density, by way of
-/// the store, which is empty afterwards.
+/// Writes a file of materials, each as name, elastic modulus, Poisson's ratio and density, by way
+/// of the store, which is empty afterwards.
 inline void WriteMaterials(const std::string& path, const QVector<QStringList>& materials)
 {
     KVMaterialData& store = *KVMaterialData::GetInstance();

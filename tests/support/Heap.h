@@ -10,8 +10,8 @@ inline std::size_t HeapInUse()
     return mallinfo2().uordblks;
 }
 
-/// How much the heap grows while @p run is called 1,000 times, after it has been called often enough
-/// for whatever the toolkit makes once.
+/// How much the heap grows while @p run is called 1,000 times, after it has been called often
+/// enough for whatever the toolkit makes once.
 template<class Run>
 std::ptrdiff_t HeapGrowth(const Run& run)
 {

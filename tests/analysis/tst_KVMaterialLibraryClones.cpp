@@ -1,0 +1,236 @@
+#include "DialogFacts.h"
+#include "EmptyAnalysisStores.h"
+#include "KVMaterialLibrary.h"
+#include "MaterialTable.h"
+#include "ModalDriver.h"
+#include "TestCase.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+
+// Cloning counts as long as the process lives, so one test function walks through all the counts.
+
+namespace {
+
+const char* const UserFile = "./UserMaterial.xml";
+
+struct Proposal
+{
+    int count;
+    QString name;
+    QString proposed;
+};
+
+const QVector<Proposal>& Proposals()
+{
+    static const QVector<Proposal> proposals = {// The first one is appended.
+                                                {0, "Steel", "Steel0"},
+                                                {0, "A", "A0"},
+                                                {0, "", "0"},
+                                                // One digit takes the place of the last character.
+                                                {1, "Steel0", "Steel1"},
+                                                {1, "Steel", "Stee1"},
+                                                {1, "A", "1"},
+                                                {1, "", ""},
+                                                {3, "Steel", "Stee3"},
+                                                {9, "Steel0", "Steel9"},
+                                                {9, "Steel", "Stee9"},
+                                                // Two digits do so as well, once.
+                                                {10, "Steel9", "Steel10"},
+                                                {10, "Steel", "Stee10"},
+                                                {10, "A", "10"},
+                                                {10, "", ""},
+                                                // From here on they take the place of the last two.
+                                                {11, "Steel10", "Steel11"},
+                                                {11, "Steel", "Ste11"},
+                                                {11, "AB", "11"},
+                                                {11, "A", "A"},
+                                                {11, "", ""},
+                                                {99, "Steel10", "Steel99"},
+                                                {99, "A", "A"},
+                                                // So do three.
+                                                {100, "Steel99", "Steel100"},
+                                                {100, "Steel", "Ste100"},
+                                                {100, "AB", "100"},
+                                                {100, "A", "A"}};
+    return proposals;
+}
+
+const QStringList BaseNames = {"Steel", "Steel0", "Steel9", "Steel10", "Steel99", "AB", "A", ""};
+
+ShownBox TooMany()
+{
+    return ShownBox::Notice("Warning", "Too many add");
+}
+
+KVMaterialData& Store()
+{
+    return *KVMaterialData::GetInstance();
+}
+
+QTableWidget& Table(const QWidget& library)
+{
+    return Find<QTableWidget>(library, "tableWidget");
+}
+
+void WriteBaseMaterials()
+{
+    QVector<QStringList> materials;
+    for (const QString& name : BaseNames)
+        materials << QStringList({name, "1e11", "0.34", "8800"});
+    WriteMaterials(UserFile, materials);
+}
+
+/// What cloning the material of that name proposes; the clone is cancelled.
+QString ProposedName(ModalDriver& user, QDialog& library, const QString& name)
+{
+    QString proposed = "nothing was proposed";
+    user.Then([&](QDialog& editor) {
+        proposed = Find<QLineEdit>(editor, "lineEditName").text();
+        Click(editor, "pushButton_2");
+    });
+    ClickRow(Table(library), BaseNames.indexOf(name));
+    Click(library, "pushButton_3");
+    return proposed;
+}
+
+} // namespace
+
+class tst_KVMaterialLibraryClones : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ClonesAreProposedAndCounted();
+
+private:
+    void CountUpTo(int count);
+    void TheFirstCloneIsEnteredAsAnAdditionIs();
+    void AProposalThatIsHeldIsRefused();
+    void NoMoreThan101ClonesAreMade();
+};
+
+void tst_KVMaterialLibraryClones::ClonesAreProposedAndCounted()
+{
+    EnterTemporaryDirectory();
+    const EmptyAnalysisStores stores;
+    WriteBaseMaterials();
+    // Each part goes on with the count of the one before.
+    TheFirstCloneIsEnteredAsAnAdditionIs();
+    if (!QTest::currentTestFailed())
+        CountUpTo(11);
+    if (!QTest::currentTestFailed())
+        AProposalThatIsHeldIsRefused();
+    if (!QTest::currentTestFailed())
+        CountUpTo(101);
+    if (!QTest::currentTestFailed())
+        NoMoreThan101ClonesAreMade();
+}
+
+void tst_KVMaterialLibraryClones::TheFirstCloneIsEnteredAsAnAdditionIs()
+{
+    ModalDriver user;
+    KVMaterialLibrary library;
+    library.Reset();
+    user.Then([&](QDialog& shown) {
+        for (const Proposal& row : Proposals()) {
+            // None of these is confirmed, so the count stays at 0.
+            if (row.count == 0)
+                QCOMPARE(ProposedName(user, shown, row.name), row.proposed);
+        }
+        user.Then([&](QDialog& editor) {
+            QCOMPARE(editor.parentWidget(), &shown);
+            QCOMPARE(RowTexts(Table(editor), 0).at(1), "1e11");
+            QCOMPARE(RowTexts(Table(editor), 1).at(1), "0.34");
+            QCOMPARE(RowTexts(Table(editor), 2).at(1), "8800");
+            Table(editor).item(1, 1)->setText("0.35");
+            Click(editor, "pushButton");
+        });
+        ClickRow(Table(shown), BaseNames.indexOf("AB"));
+        Click(shown, "pushButton_3");
+        const int row = BaseNames.size();
+        QCOMPARE(RowTexts(Table(shown), row), QStringList({"AB0", "1e11", "0.35", "8800"}));
+        QCOMPARE(SelectedRows(Table(shown)), QVector<int>({row}));
+        QCOMPARE(Store().GetMaterialInfo("AB0")->m_nType, int(MATERIAL_USER));
+        QCOMPARE(Store().GetMaterialInfo("AB0")->m_strPoisson, "0.35");
+        Click(shown, "pushButton_8");
+    });
+    library.exec();
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes(), QVector<ShownBox>());
+}
+
+/// Clones until the count is reached, and compares what is proposed on the way. The count goes on
+/// in another dialog.
+void tst_KVMaterialLibraryClones::CountUpTo(int count)
+{
+    ModalDriver user;
+    KVMaterialLibrary library;
+    library.Reset();
+    user.Then([&](QDialog& shown) {
+        for (int i = count == 11 ? 1 : 11; i < count && !QTest::currentTestFailed(); ++i) {
+            for (const Proposal& row : Proposals()) {
+                if (row.count == i)
+                    QCOMPARE(ProposedName(user, shown, row.name), row.proposed);
+            }
+            user.Then([i](QDialog& editor) {
+                Find<QLineEdit>(editor, "lineEditName").setText(QStringLiteral("clone %1").arg(i));
+                Click(editor, "pushButton");
+            });
+            ClickRow(Table(shown), 0);
+            Click(shown, "pushButton_3");
+            QVERIFY(Store().GetMaterialInfo(QStringLiteral("clone %1").arg(i)) != nullptr);
+        }
+        Click(shown, "pushButton_8");
+    });
+    library.exec();
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes(), QVector<ShownBox>());
+}
+
+void tst_KVMaterialLibraryClones::AProposalThatIsHeldIsRefused()
+{
+    ModalDriver user;
+    KVMaterialLibrary library;
+    library.Reset();
+    user.Then([&](QDialog& shown) {
+        user.Then([](QDialog& editor) {
+            QCOMPARE(Find<QLineEdit>(editor, "lineEditName").text(), "A");
+            Click(editor, "pushButton");
+            QVERIFY(editor.isVisible());
+            Click(editor, "pushButton_2");
+        });
+        ClickRow(Table(shown), BaseNames.indexOf("A"));
+        Click(shown, "pushButton_3");
+        // The count has stayed at 11.
+        QCOMPARE(ProposedName(user, shown, "Steel"), "Ste11");
+        Click(shown, "pushButton_8");
+    });
+    library.exec();
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({ShownBox::Notice("Warning", "Material rename!")}));
+}
+
+void tst_KVMaterialLibraryClones::NoMoreThan101ClonesAreMade()
+{
+    const TextRecorder recorder;
+    ModalDriver user;
+    KVMaterialLibrary library;
+    library.Reset();
+    const int materials = Store().MapDataRow();
+    user.Then([&](QDialog& shown) {
+        ClickRow(Table(shown), 0);
+        Click(shown, "pushButton_3");
+        Click(shown, "pushButton_3");
+        QVERIFY(shown.isVisible());
+        Click(shown, "pushButton_8");
+    });
+    library.exec();
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({TooMany(), TooMany()}));
+    QCOMPARE(Store().MapDataRow(), materials);
+    QVERIFY(recorder.TextsOf("KVMaterialLibrary").contains("Too many add"));
+}
+
+TARN_TEST_MAIN(tst_KVMaterialLibraryClones)
+#include "tst_KVMaterialLibraryClones.moc"
