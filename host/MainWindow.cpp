@@ -128,12 +128,11 @@ void MainWindow::EditParameters()
 
 void MainWindow::DesignExperiments()
 {
-    const ParameterMap before = GlobalParaMeterMgr::m_nameMapParameters;
     DOEDlg dialog(this);
     const DoeSession session(dialog);
     FitTables(dialog);
-    connect(&session, &DoeSession::RunReady, this, [this, &before] {
-        KeepDesign(before);
+    connect(&session, &DoeSession::RunReady, this, [this, &session] {
+        KeepDesign(session.Remembered());
         Rebuild();
     });
     dialog.exec();
@@ -155,6 +154,8 @@ void MainWindow::RestoreParameters()
     m_storeIsRun = false;
     m_restore->setEnabled(false);
     PostMessageToChannel(InfoLevel, tr("The parameters are as before the design of experiments"));
+    // For the expressions of parameters that came later.
+    SettleExpressions();
     Rebuild();
 }
 
