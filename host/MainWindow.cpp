@@ -93,7 +93,7 @@ void MainWindow::AskForProject()
     try {
         OpenProject(Project::Load(path));
     } catch (const ProjectError& error) {
-        PostMessageToChannel(ErrorLevel, QString::fromUtf8(error.what()));
+        PostMessageToChannel(ErrorLevel, error.Reason());
     }
 }
 
@@ -174,7 +174,7 @@ void MainWindow::Rebuild()
                              m_project.has_value() ? m_project->Density() : Project::SteelDensity);
         PostMessageToChannel(InfoLevel, tr("The part was built"));
     } catch (const BuildError& error) {
-        const QString reason = QString::fromUtf8(error.what());
+        const QString reason = error.Reason();
         m_summary->ShowFailure(reason);
         PostMessageToChannel(ErrorLevel, tr("The part cannot be built: %1").arg(reason));
     }

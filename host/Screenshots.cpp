@@ -16,7 +16,6 @@
 #include <QPixmap>
 #include <QTableWidget>
 
-#include <cstdio>
 #include <memory>
 #include <vector>
 
@@ -104,18 +103,12 @@ bool WritePicture(QWidget& window, const QString& path)
     return window.grab().save(path, "PNG");
 }
 
-int Fail(const QString& reason)
-{
-    std::fprintf(stderr, "tarnhost: %s\n", reason.toLocal8Bit().constData());
-    return 1;
-}
-
 } // namespace
 
-int WriteScreenshots(const Project& project, const QString& directory)
+void WriteScreenshots(const Project& project, const QString& directory)
 {
     if (!QDir().mkpath(directory))
-        return Fail(QStringLiteral("cannot make the directory %1").arg(directory));
+        throw ScreenshotError(QStringLiteral("%1: the folder cannot be made").arg(directory));
 
     const PictureFont font;
     const NoticeWatcher notices;
@@ -124,7 +117,6 @@ int WriteScreenshots(const Project& project, const QString& directory)
         const QString path =
             QDir(directory).filePath(QLatin1String(picture.name) + QStringLiteral(".png"));
         if (!WritePicture(*window, path))
-            return Fail(QStringLiteral("cannot write the picture %1").arg(path));
+            throw ScreenshotError(QStringLiteral("%1: cannot be written").arg(path));
     }
-    return 0;
 }
