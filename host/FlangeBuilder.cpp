@@ -122,16 +122,17 @@ TopoDS_Shape WithFillet(const TopoDS_Shape& shape, const FlangeDimensions& flang
 
 TopoDS_Shape WithHoles(const TopoDS_Shape& shape, const FlangeDimensions& flange)
 {
-    const double height = flange.thickness + flange.hubHeight + 2.0 * ToolExcess;
+    const auto tool = [](double x, double y, double diameter, double height) {
+        return Cylinder(AxisAt(x, y, -ToolExcess), diameter, height + 2.0 * ToolExcess);
+    };
     TopTools_ListOfShape tools;
-    tools.Append(Cylinder(AxisAt(0.0, 0.0, -ToolExcess), flange.boreDiameter, height));
+    tools.Append(tool(0.0, 0.0, flange.boreDiameter, flange.thickness + flange.hubHeight));
     const int count = int(flange.boltCount);
     for (int hole = 0; hole < count; ++hole) {
         const double angle = 2.0 * Pi * hole / count;
         const double radius = flange.boltCircle / 2.0;
-        tools.Append(
-            Cylinder(AxisAt(radius * std::cos(angle), radius * std::sin(angle), -ToolExcess),
-                     flange.boltHole, height));
+        tools.Append(tool(radius * std::cos(angle), radius * std::sin(angle), flange.boltHole,
+                          flange.thickness));
     }
     TopTools_ListOfShape arguments;
     arguments.Append(shape);
@@ -242,12 +243,13 @@ TopoDS_Shape FlangeBuilder::Build(const FlangeDimensions& dimensions)
     QString step = QStringLiteral("joining hub and plate");
     try {
         TopoDS_Shape shape = PlateWithHub(dimensions);
+        step = QStringLiteral("cutting bore and bolt holes");
+        shape = WithHoles(shape, dimensions);
+        // Last: cutting is much slower where a fillet is near.
         if (dimensions.filletRadius > 0.0) {
             step = QStringLiteral("building the fillet");
             shape = WithFillet(shape, dimensions);
         }
-        step = QStringLiteral("cutting bore and bolt holes");
-        shape = WithHoles(shape, dimensions);
         step = QStringLiteral("checking the finished part");
         return TheSolid(shape);
     } catch (const Standard_Failure& failure) {
