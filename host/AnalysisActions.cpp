@@ -14,6 +14,7 @@
 #include "MeshSizeInput.h"
 #include "MessageLevel.h"
 #include "ModelTree.h"
+#include "NumberTexts.h"
 #include "SetupCheck.h"
 #include "SubShapeMeshParameterDlg.h"
 #include "frequencySetting.h"
@@ -145,7 +146,7 @@ void AnalysisActions::SetSubShapeMesh()
 {
     SubShapeMeshParameterDlg dialog(m_window);
     if (m_model.SubShape().has_value()) {
-        dialog.ui.lineEdit_MeshSize->setText(QString::number(m_model.SubShape()->size));
+        dialog.ui.lineEdit_MeshSize->setText(ExactText(m_model.SubShape()->size));
         dialog.ui.lineEdit_MeshNumber->setText(QString::number(m_model.SubShape()->number));
     }
     // The form's buttons do nothing by themselves.

@@ -103,7 +103,7 @@ void MainWindow::AskForProject()
     try {
         OpenProject(Project::Load(path));
     } catch (const ProjectError& error) {
-        PostMessageToChannel(ErrorLevel, QString::fromUtf8(error.what()));
+        PostMessageToChannel(ErrorLevel, error.Reason());
     }
 }
 
@@ -139,12 +139,11 @@ void MainWindow::EditParameters()
 
 void MainWindow::DesignExperiments()
 {
-    const ParameterMap before = GlobalParaMeterMgr::m_nameMapParameters;
     DOEDlg dialog(this);
     const DoeSession session(dialog);
     FitTables(dialog);
-    connect(&session, &DoeSession::RunReady, this, [this, &before] {
-        KeepDesign(before);
+    connect(&session, &DoeSession::RunReady, this, [this, &session] {
+        KeepDesign(session.Remembered());
         Rebuild();
     });
     dialog.exec();
@@ -166,6 +165,8 @@ void MainWindow::RestoreParameters()
     m_storeIsRun = false;
     m_restore->setEnabled(false);
     PostMessageToChannel(InfoLevel, tr("The parameters are as before the design of experiments"));
+    // For the expressions of parameters that came later.
+    SettleExpressions();
     Rebuild();
 }
 
@@ -184,7 +185,7 @@ void MainWindow::Rebuild()
                              m_project.has_value() ? m_project->Density() : Project::SteelDensity);
         PostMessageToChannel(InfoLevel, tr("The part was built"));
     } catch (const BuildError& error) {
-        const QString reason = QString::fromUtf8(error.what());
+        const QString reason = error.Reason();
         m_summary->ShowFailure(reason);
         PostMessageToChannel(ErrorLevel, tr("The part cannot be built: %1").arg(reason));
     }

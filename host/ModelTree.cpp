@@ -2,9 +2,9 @@
 
 #include "AnalysisModel.h"
 #include "CQLTElemPropDef.h"
-#include "ExactText.h"
 #include "FrequencyPref.h"
 #include "KVPropertyData.h"
+#include "NumberTexts.h"
 
 #include <QAction>
 #include <QHeaderView>

@@ -1,20 +1,13 @@
 #include "ParameterOverview.h"
 
-#include "ExactText.h"
 #include "GlobalParaMeterMgr.h"
+#include "NumberTexts.h"
+#include "ParameterType.h"
 
 #include <QHeaderView>
 #include <QTableWidget>
 
 namespace {
-
-enum TypeCode
-{
-    BoolType,
-    ScalarType,
-    VectorType,
-    TensorType
-};
 
 QString TypeWord(int code)
 {

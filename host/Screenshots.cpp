@@ -17,7 +17,6 @@
 #include <QPixmap>
 #include <QTableWidget>
 
-#include <cstdio>
 #include <memory>
 #include <vector>
 
@@ -122,18 +121,13 @@ bool WritePicture(QWidget& window, const QString& path)
     return window.grab().save(path, "PNG");
 }
 
-int Fail(const QString& reason)
-{
-    std::fprintf(stderr, "tarnhost: %s\n", reason.toLocal8Bit().constData());
-    return 1;
-}
-
 } // namespace
 
-int WriteScreenshots(const Project& project, const QString& directory)
+void WriteScreenshots(const Project& project, const QString& directory)
 {
     if (!QDir().mkpath(directory))
-        return Fail(QStringLiteral("cannot make the directory %1").arg(directory));
+        throw ScreenshotError(QStringLiteral("%1: the folder cannot be made").arg(directory));
+    // The working directory changes while the pictures are made.
     const QDir pictures(QDir(directory).absolutePath());
 
     const PictureFont font;
@@ -141,10 +135,9 @@ int WriteScreenshots(const Project& project, const QString& directory)
     const SampleAnalysisFiles files;
     for (const Picture& picture : Pictures) {
         const Window window = picture.make(project);
-        const QString path =
-            pictures.filePath(QLatin1String(picture.name) + QStringLiteral(".png"));
-        if (!WritePicture(*window, path))
-            return Fail(QStringLiteral("cannot write the picture %1").arg(path));
+        const QString name = QLatin1String(picture.name) + QStringLiteral(".png");
+        if (!WritePicture(*window, pictures.filePath(name)))
+            throw ScreenshotError(
+                QStringLiteral("%1: cannot be written").arg(QDir(directory).filePath(name)));
     }
-    return 0;
 }

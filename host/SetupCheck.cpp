@@ -1,10 +1,10 @@
 #include "SetupCheck.h"
 
 #include "AnalysisModel.h"
-#include "ExactText.h"
 #include "FrequencyPref.h"
 #include "KVMaterialData.h"
 #include "KVPropertyData.h"
+#include "NumberTexts.h"
 
 #include <QCoreApplication>
 

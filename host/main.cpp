@@ -90,7 +90,8 @@ int Act(const CommandLine& line)
     case CommandLine::RunStudy:
         return RunStudy(line);
     case CommandLine::WriteScreenshots:
-        return WriteScreenshots(Project::Load(line.projectFile), line.screenshotDirectory);
+        WriteScreenshots(Project::Load(line.projectFile), line.screenshotDirectory);
+        return DoneCode;
     default:
         return OpenWindow(line);
     }

@@ -480,14 +480,14 @@ void tst_AnalysisActions::TheSubShapeMeshIsTakenAndShownAgain()
     Host host(*this);
     host.Run("action_SubShapeMesh", [](QDialog& dialog) {
         QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_MeshSize").text(), QString());
-        Type(dialog, "lineEdit_MeshSize", "0.05");
+        Type(dialog, "lineEdit_MeshSize", "0.05123456789");
         Type(dialog, "lineEdit_MeshNumber", "12");
         Click(dialog, "pushButton_OK");
     });
-    QCOMPARE(host.Shown("Sub-shape mesh"), QStringList("size 0.05, number 12"));
+    QCOMPARE(host.Shown("Sub-shape mesh"), QStringList("size 0.05123456789, number 12"));
     QCOMPARE(host.posted.size(), 0);
     host.Run("action_SubShapeMesh", [](QDialog& dialog) {
-        QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_MeshSize").text(), QString("0.05"));
+        QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_MeshSize").text(), QString("0.05123456789"));
         QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_MeshNumber").text(), QString("12"));
         dialog.reject();
     });

@@ -47,6 +47,8 @@ private Q_SLOTS:
     void GenerateGivesParametersOutsideTheRunTheirRecordsBack();
     void TicksStandAtTheirParametersByName();
     void RestoreBringsAllParametersBack();
+    void RestoreBringsARemovedParameterBack();
+    void RestoreSettlesWhatCameLater();
     void RestoreAfterSeveralRunsBringsTheDesignBack();
     void RestoreIsOfferedOnlyAfterARun();
     void AppliedValuesAreTheDesignOfTheNextRun();
@@ -473,6 +475,39 @@ void tst_MainWindow::RestoreBringsAllParametersBack()
     const auto& overview = Find<QTableWidget>(open.window, "parameterTable");
     QCOMPARE(overview.item(RowOf(overview, "thickness"), ParameterOverview::ValueColumn)->text(),
              QStringLiteral("20"));
+}
+
+void tst_MainWindow::RestoreBringsARemovedParameterBack()
+{
+    OpenWindow open;
+    ModalDriver user;
+    user.Then([](QDialog& dialog) {
+        Generate(dialog, 17);
+        dialog.reject();
+    });
+    Trigger(open.window, "action_DesignOfExperiments");
+    GlobalParaMeterMgr::m_nameMapParameters.erase("fillet_radius");
+    Trigger(open.window, "action_RestoreParameters");
+    QCOMPARE(Stored("fillet_radius"), 5.0);
+}
+
+void tst_MainWindow::RestoreSettlesWhatCameLater()
+{
+    OpenWindow open;
+    ModalDriver user;
+    user.Then([](QDialog& dialog) {
+        Generate(dialog, 17);
+        dialog.reject();
+    });
+    Trigger(open.window, "action_DesignOfExperiments");
+    ParametersDef later;
+    later.m_strName = "later";
+    later.m_nType = 1;
+    later.m_strExpression = "thickness * 2";
+    later.m_strExpressPara = "thickness";
+    GlobalParaMeterMgr::AddParameter("later", later);
+    Trigger(open.window, "action_RestoreParameters");
+    QCOMPARE(Stored("later"), 40.0);
 }
 
 void tst_MainWindow::RestoreAfterSeveralRunsBringsTheDesignBack()
