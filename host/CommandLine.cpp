@@ -58,11 +58,6 @@ void ReadRuns(const QString& text, CommandLine& line)
 
 } // namespace
 
-CommandLineError::CommandLineError(const QString& reason)
-    : std::runtime_error(reason.toStdString())
-{
-}
-
 CommandLine CommandLine::Parse(const QStringList& arguments)
 {
     const Options options;

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "HostError.h"
+
 #include <QString>
 #include <QStringList>
 
-#include <stdexcept>
-
-/// What is wrong with the arguments: one line, in UTF-8.
-class CommandLineError : public std::runtime_error
+/// What is wrong with the arguments: one line.
+class CommandLineError : public HostError
 {
 public:
-    explicit CommandLineError(const QString& reason);
+    using HostError::HostError;
 };
 
 /// What the program is asked to do.

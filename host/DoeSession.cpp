@@ -86,9 +86,3 @@ void DoeSession::CompleteRun()
         PostMessageToChannel(ErrorLevel, problem);
     Q_EMIT RunReady();
 }
-
-void DoeSession::RestoreParameters()
-{
-    for (const auto& [name, record] : m_remembered)
-        GlobalParaMeterMgr::m_nameMapParameters[name] = record;
-}

@@ -33,8 +33,8 @@ public:
     /// What could not be settled after the last run; see SettleParameters().
     const std::vector<QString>& Problems() const { return m_problems; }
 
-    /// Brings all remembered records back, removed ones included. Parameters that came later stay.
-    void RestoreParameters();
+    /// All records as they were when the session was constructed.
+    const ParameterMap& Remembered() const { return m_remembered; }
 
 Q_SIGNALS:
     /// A run stands in the parameter store, complete and settled: the part is to be rebuilt.

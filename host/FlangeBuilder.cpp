@@ -1,6 +1,7 @@
 #include "FlangeBuilder.h"
 
 #include "GlobalParaMeterMgr.h"
+#include "NumberTexts.h"
 
 #include <BRepAdaptor_Curve.hxx>
 #include <BRepAlgoAPI_Cut.hxx>
@@ -38,11 +39,6 @@ constexpr double LeastWall = 0.001;
 // How far a cutting tool stands out, so that its ends lie in no face of the part.
 constexpr double ToolExcess = 1.0;
 
-QString Text(double value)
-{
-    return QString::number(value, 'g', 6);
-}
-
 [[noreturn]] void Refuse(const QString& reason)
 {
     throw BuildError(reason);
@@ -63,10 +59,10 @@ void CheckLength(const char* what, double value)
     if (!std::isfinite(value))
         Refuse(QStringLiteral("The %1 has no finite value.").arg(name));
     if (value <= 0.0)
-        Refuse(QStringLiteral("The %1 (%2) has to be above 0.").arg(name, Text(value)));
+        Refuse(QStringLiteral("The %1 (%2) has to be above 0.").arg(name, ShortText(value)));
     if (value < LeastLength || value > GreatestLength)
         Refuse(QStringLiteral("The %1 (%2 mm) has to be from %3 to %4 mm.")
-                   .arg(name, Text(value), Text(LeastLength), Text(GreatestLength)));
+                   .arg(name, ShortText(value), ShortText(LeastLength), ShortText(GreatestLength)));
 }
 
 // Refuses when there is no wall left between an inner and an outer radius or place.
@@ -126,16 +122,17 @@ TopoDS_Shape WithFillet(const TopoDS_Shape& shape, const FlangeDimensions& flang
 
 TopoDS_Shape WithHoles(const TopoDS_Shape& shape, const FlangeDimensions& flange)
 {
-    const double height = flange.thickness + flange.hubHeight + 2.0 * ToolExcess;
+    const auto tool = [](double x, double y, double diameter, double height) {
+        return Cylinder(AxisAt(x, y, -ToolExcess), diameter, height + 2.0 * ToolExcess);
+    };
     TopTools_ListOfShape tools;
-    tools.Append(Cylinder(AxisAt(0.0, 0.0, -ToolExcess), flange.boreDiameter, height));
+    tools.Append(tool(0.0, 0.0, flange.boreDiameter, flange.thickness + flange.hubHeight));
     const int count = int(flange.boltCount);
     for (int hole = 0; hole < count; ++hole) {
         const double angle = 2.0 * Pi * hole / count;
         const double radius = flange.boltCircle / 2.0;
-        tools.Append(
-            Cylinder(AxisAt(radius * std::cos(angle), radius * std::sin(angle), -ToolExcess),
-                     flange.boltHole, height));
+        tools.Append(tool(radius * std::cos(angle), radius * std::sin(angle), flange.boltHole,
+                          flange.thickness));
     }
     TopTools_ListOfShape arguments;
     arguments.Append(shape);
@@ -170,11 +167,6 @@ TopoDS_Shape TheSolid(const TopoDS_Shape& shape)
 
 } // namespace
 
-BuildError::BuildError(const QString& reason)
-    : std::runtime_error(reason.toStdString())
-{
-}
-
 FlangeDimensions FlangeBuilder::ReadDimensions()
 {
     FlangeDimensions flange;
@@ -206,7 +198,7 @@ void FlangeBuilder::Check(const FlangeDimensions& flange)
           flange.boltCount == std::floor(flange.boltCount)))
         Refuse(
             QStringLiteral("The number of bolt holes (%1) has to be a whole number from 1 to %2.")
-                .arg(Text(flange.boltCount))
+                .arg(ShortText(flange.boltCount))
                 .arg(MaximumBoltCount));
 
     const double outer = flange.outerDiameter / 2.0;
@@ -215,30 +207,33 @@ void FlangeBuilder::Check(const FlangeDimensions& flange)
     const double hole = flange.boltHole / 2.0;
     CheckWall(flange.boreDiameter / 2.0, outer,
               QStringLiteral("The bore (%1) is not smaller than the flange (%2).")
-                  .arg(Text(flange.boreDiameter), Text(flange.outerDiameter)));
+                  .arg(ShortText(flange.boreDiameter), ShortText(flange.outerDiameter)));
     CheckWall(flange.boreDiameter / 2.0, hub,
               QStringLiteral("The bore (%1) is not smaller than the hub (%2).")
-                  .arg(Text(flange.boreDiameter), Text(flange.hubDiameter)));
+                  .arg(ShortText(flange.boreDiameter), ShortText(flange.hubDiameter)));
     CheckWall(hub, outer,
               QStringLiteral("The hub (%1) is not smaller than the flange (%2).")
-                  .arg(Text(flange.hubDiameter), Text(flange.outerDiameter)));
+                  .arg(ShortText(flange.hubDiameter), ShortText(flange.outerDiameter)));
     CheckWall(flange.filletRadius, flange.hubHeight,
               QStringLiteral("The fillet radius (%1) is not smaller than the hub's height (%2).")
-                  .arg(Text(flange.filletRadius), Text(flange.hubHeight)));
+                  .arg(ShortText(flange.filletRadius), ShortText(flange.hubHeight)));
     CheckWall(hub + flange.filletRadius, outer,
               QStringLiteral("The fillet around the hub reaches outside the flange."));
     CheckWall(circle + hole, outer,
               QStringLiteral("The bolt holes (%1 on a circle of %2) reach outside the flange (%3).")
-                  .arg(Text(flange.boltHole), Text(flange.boltCircle), Text(flange.outerDiameter)));
+                  .arg(ShortText(flange.boltHole), ShortText(flange.boltCircle),
+                       ShortText(flange.outerDiameter)));
     CheckWall(hub + flange.filletRadius, circle - hole,
               QStringLiteral("The bolt holes (%1 on a circle of %2) reach into the hub (%3) or its "
                              "fillet.")
-                  .arg(Text(flange.boltHole), Text(flange.boltCircle), Text(flange.hubDiameter)));
+                  .arg(ShortText(flange.boltHole), ShortText(flange.boltCircle),
+                       ShortText(flange.hubDiameter)));
     if (flange.boltCount > 1.0) {
         const double distance = 2.0 * circle * std::sin(Pi / flange.boltCount);
         CheckWall(flange.boltHole, distance,
                   QStringLiteral("The bolt holes overlap: %1 of %2 on a circle of %3.")
-                      .arg(Text(flange.boltCount), Text(flange.boltHole), Text(flange.boltCircle)));
+                      .arg(ShortText(flange.boltCount), ShortText(flange.boltHole),
+                           ShortText(flange.boltCircle)));
     }
 }
 
@@ -248,12 +243,13 @@ TopoDS_Shape FlangeBuilder::Build(const FlangeDimensions& dimensions)
     QString step = QStringLiteral("joining hub and plate");
     try {
         TopoDS_Shape shape = PlateWithHub(dimensions);
+        step = QStringLiteral("cutting bore and bolt holes");
+        shape = WithHoles(shape, dimensions);
+        // Last: cutting is much slower where a fillet is near.
         if (dimensions.filletRadius > 0.0) {
             step = QStringLiteral("building the fillet");
             shape = WithFillet(shape, dimensions);
         }
-        step = QStringLiteral("cutting bore and bolt holes");
-        shape = WithHoles(shape, dimensions);
         step = QStringLiteral("checking the finished part");
         return TheSolid(shape);
     } catch (const Standard_Failure& failure) {

@@ -1,16 +1,16 @@
 #pragma once
 
-#include <QString>
+#include "HostError.h"
 
-#include <stdexcept>
+#include <QString>
 
 class TopoDS_Shape;
 
-/// Why a part cannot be built: one line in plain words, in UTF-8.
-class BuildError : public std::runtime_error
+/// Why a part cannot be built: one line in plain words.
+class BuildError : public HostError
 {
 public:
-    explicit BuildError(const QString& reason);
+    using HostError::HostError;
 };
 
 /// The measures of a bolted flange: a round plate with a hub on top, a bore through both, and a

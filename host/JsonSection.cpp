@@ -3,11 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-JsonError::JsonError(const QString& reason)
-    : std::runtime_error(reason.toStdString())
-{
-}
-
 QString Quoted(const QString& text)
 {
     constexpr int MostCharacters = 60;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "HostError.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -7,14 +9,13 @@
 #include <QStringList>
 
 #include <initializer_list>
-#include <stdexcept>
 #include <vector>
 
-/// What is wrong with a JSON file: one line, in UTF-8.
-class JsonError : public std::runtime_error
+/// What is wrong with a JSON file: one line.
+class JsonError : public HostError
 {
 public:
-    explicit JsonError(const QString& reason);
+    using HostError::HostError;
 };
 
 /// A text from a file as it stands in a message: quoted, in one line, not too long.

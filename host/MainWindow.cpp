@@ -1,5 +1,7 @@
 #include "MainWindow.h"
 
+#include "AnalysisActions.h"
+#include "AnalysisModel.h"
 #include "DOEDlg.h"
 #include "DialogTables.h"
 #include "DoeSession.h"
@@ -7,6 +9,7 @@
 #include "GlobalParaMeterMgr.h"
 #include "MessageDock.h"
 #include "MessageLevel.h"
+#include "ModelTree.h"
 #include "ParameterEditor.h"
 #include "ParameterOverview.h"
 #include "ParameterSettler.h"
@@ -30,6 +33,7 @@ QAction* AddAction(QMenu& menu, const QString& text, const char* name)
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
+    , m_analysis(new AnalysisModel(this))
     , m_summary(new ShapeSummary(this))
 {
     setObjectName(QStringLiteral("MainWindow"));
@@ -48,6 +52,8 @@ void MainWindow::CreateDocks()
     m_overview = new ParameterOverview(this);
     addDockWidget(Qt::BottomDockWidgetArea, m_messages);
     addDockWidget(Qt::LeftDockWidgetArea, m_overview);
+    m_tree = new ModelTree(*m_analysis, this);
+    addDockWidget(Qt::LeftDockWidgetArea, m_tree);
     resizeDocks({m_overview}, {820}, Qt::Horizontal);
     resizeDocks({m_messages}, {170}, Qt::Vertical);
     m_overview->Refresh();
@@ -70,8 +76,12 @@ void MainWindow::CreateMenus()
     m_restore = AddAction(design, tr("&Restore parameters"), "action_RestoreParameters");
     m_restore->setEnabled(false);
 
+    auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, this);
+    analysis->FillMenu(*menuBar()->addMenu(tr("&Analysis")));
+
     QMenu& view = *menuBar()->addMenu(tr("&View"));
     view.addAction(m_overview->toggleViewAction());
+    view.addAction(m_tree->toggleViewAction());
     view.addAction(m_messages->toggleViewAction());
 
     connect(open, &QAction::triggered, this, &MainWindow::AskForProject);
@@ -93,7 +103,7 @@ void MainWindow::AskForProject()
     try {
         OpenProject(Project::Load(path));
     } catch (const ProjectError& error) {
-        PostMessageToChannel(ErrorLevel, QString::fromUtf8(error.what()));
+        PostMessageToChannel(ErrorLevel, error.Reason());
     }
 }
 
@@ -101,6 +111,7 @@ void MainWindow::OpenProject(const Project& project)
 {
     m_project = project;
     m_project->FillStores();
+    m_analysis->Clear();
     m_design.clear();
     m_storeIsRun = false;
     m_restore->setEnabled(false);
@@ -128,12 +139,11 @@ void MainWindow::EditParameters()
 
 void MainWindow::DesignExperiments()
 {
-    const ParameterMap before = GlobalParaMeterMgr::m_nameMapParameters;
     DOEDlg dialog(this);
     const DoeSession session(dialog);
     FitTables(dialog);
-    connect(&session, &DoeSession::RunReady, this, [this, &before] {
-        KeepDesign(before);
+    connect(&session, &DoeSession::RunReady, this, [this, &session] {
+        KeepDesign(session.Remembered());
         Rebuild();
     });
     dialog.exec();
@@ -155,6 +165,8 @@ void MainWindow::RestoreParameters()
     m_storeIsRun = false;
     m_restore->setEnabled(false);
     PostMessageToChannel(InfoLevel, tr("The parameters are as before the design of experiments"));
+    // For the expressions of parameters that came later.
+    SettleExpressions();
     Rebuild();
 }
 
@@ -173,7 +185,7 @@ void MainWindow::Rebuild()
                              m_project.has_value() ? m_project->Density() : Project::SteelDensity);
         PostMessageToChannel(InfoLevel, tr("The part was built"));
     } catch (const BuildError& error) {
-        const QString reason = QString::fromUtf8(error.what());
+        const QString reason = error.Reason();
         m_summary->ShowFailure(reason);
         PostMessageToChannel(ErrorLevel, tr("The part cannot be built: %1").arg(reason));
     }

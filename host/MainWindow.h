@@ -8,7 +8,9 @@
 #include <optional>
 #include <vector>
 
+class AnalysisModel;
 class MessageDock;
+class ModelTree;
 class ParameterOverview;
 class QAction;
 class ShapeSummary;
@@ -25,6 +27,9 @@ public:
 
     /// Puts @p project into the stores, in place of what they hold, and builds its part.
     void OpenProject(const Project& project);
+
+    /// The analysis set-up, which menu and tree work on; the window owns it.
+    AnalysisModel& Analysis() { return *m_analysis; }
 
 private:
     void CreateDocks();
@@ -46,8 +51,10 @@ private:
     ParameterMap m_design;     // The records that "Restore parameters" brings back.
     bool m_storeIsRun = false; // The store holds a run in place of the design.
 
+    AnalysisModel* m_analysis;
     MessageDock* m_messages = nullptr;
     ParameterOverview* m_overview = nullptr;
+    ModelTree* m_tree = nullptr;
     ShapeSummary* m_summary = nullptr;
     QAction* m_restore = nullptr;
 };

@@ -1,20 +1,13 @@
 #include "ParameterOverview.h"
 
 #include "GlobalParaMeterMgr.h"
+#include "NumberTexts.h"
+#include "ParameterType.h"
 
 #include <QHeaderView>
-#include <QLocale>
 #include <QTableWidget>
 
 namespace {
-
-enum TypeCode
-{
-    BoolType,
-    ScalarType,
-    VectorType,
-    TensorType
-};
 
 QString TypeWord(int code)
 {
@@ -30,12 +23,6 @@ QString TypeWord(int code)
     default:
         return ParameterOverview::tr("unknown (%1)").arg(code);
     }
-}
-
-// As few digits as tell the number from its neighbours: up to 17, but 0.1 stays 0.1.
-QString ExactText(double value)
-{
-    return QString::number(value, 'g', QLocale::FloatingPointShortest);
 }
 
 QString RawValueText(const QString& name, const ParametersDef& record)

@@ -2,6 +2,7 @@
 
 #include "ExpressionEngine.h"
 #include "GlobalParaMeterMgr.h"
+#include "NumberTexts.h"
 
 #include <QHash>
 #include <QStringList>
@@ -171,7 +172,7 @@ private:
         const double value = ExpressionEngine::CalculateExpress(record.m_strExpression, variables);
         record.m_dValue = value;
         record.m_varRawValue = value;
-        record.m_strValue = QString::number(value, 'g', 6);
+        record.m_strValue = ShortText(value);
         if (!std::isnan(value))
             return;
 

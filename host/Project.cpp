@@ -2,14 +2,15 @@
 
 #include "GlobalParaMeterMgr.h"
 #include "JsonSection.h"
+#include "NumberTexts.h"
 #include "OneParameterDlg.h"
+#include "ParameterType.h"
 #include "sParaArrayData.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSet>
@@ -25,14 +26,7 @@ static void InitializeSamples()
 
 namespace {
 
-// In the order of the type codes of ParametersDef.
-enum TypeCode
-{
-    BoolType,
-    ScalarType,
-    VectorType,
-    TensorType
-};
+// In the order of ParameterType.
 const std::array<QLatin1String, 4> TypeWords = {QLatin1String("Bool"), QLatin1String("Scalar"),
                                                 QLatin1String("Vector"), QLatin1String("Tensor")};
 
@@ -67,12 +61,7 @@ const QLatin1String SpacingKey("spacing");
 const QLatin1String ValuesKey("values");
 const QLatin1String TickedKey("ticked");
 
-// All digits, so that what an editor reads back is the number that stood in the file.
-QString FullNumberText(double value)
-{
-    return QString::number(value, 'g', QLocale::FloatingPointShortest);
-}
-
+// Value texts are exact, so that what an editor reads back is the number that stood in the file.
 void ReadValue(const JsonSection& section, ParametersDef& record)
 {
     if (!section.Has(ValueKey)) {
@@ -83,11 +72,11 @@ void ReadValue(const JsonSection& section, ParametersDef& record)
     switch (record.m_nType) {
     case BoolType:
         record.m_dValue = section.Flag(ValueKey, false) ? 1.0 : 0.0;
-        record.m_strValue = FullNumberText(record.m_dValue);
+        record.m_strValue = ExactText(record.m_dValue);
         break;
     case ScalarType:
         record.m_dValue = section.Number(ValueKey);
-        record.m_strValue = FullNumberText(record.m_dValue);
+        record.m_strValue = ExactText(record.m_dValue);
         break;
     case VectorType: {
         const std::vector<double> components = section.Numbers(ValueKey);
@@ -96,9 +85,9 @@ void ReadValue(const JsonSection& section, ParametersDef& record)
         record.m_dX = components[0];
         record.m_dY = components[1];
         record.m_dZ = components[2];
-        record.m_strValue = QStringLiteral("%1,%2,%3")
-                                .arg(FullNumberText(record.m_dX), FullNumberText(record.m_dY),
-                                     FullNumberText(record.m_dZ));
+        record.m_strValue =
+            QStringLiteral("%1,%2,%3")
+                .arg(ExactText(record.m_dX), ExactText(record.m_dY), ExactText(record.m_dZ));
         break;
     }
     default:
@@ -219,12 +208,10 @@ QJsonValue ParseJson(const QByteArray& bytes)
 void SampleByDialog(const Project::Samples& samples)
 {
     OneParameterDlg dialog(nullptr, samples.name);
-    dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit_Min"))
-        ->setText(FullNumberText(samples.min));
-    dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit_Max"))
-        ->setText(FullNumberText(samples.max));
+    dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit_Min"))->setText(ExactText(samples.min));
+    dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit_Max"))->setText(ExactText(samples.max));
     auto* const delta = dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit_Deta"));
-    delta->setText(FullNumberText(samples.delta));
+    delta->setText(ExactText(samples.delta));
     dialog.findChild<QRadioButton*>(Spacings[std::size_t(samples.spacing)].button)
         ->setChecked(true);
     // One finished edit after all fields are filled: a range half typed would be refused.
@@ -233,11 +220,6 @@ void SampleByDialog(const Project::Samples& samples)
 }
 
 } // namespace
-
-ProjectError::ProjectError(const QString& reason)
-    : std::runtime_error(reason.toStdString())
-{
-}
 
 QString Project::SamplePath()
 {
@@ -252,8 +234,7 @@ Project Project::Load(const QString& path)
     try {
         project.Read(ParseJson(ReadFile(path)));
     } catch (const JsonError& error) {
-        throw ProjectError(
-            QStringLiteral("%1: %2").arg(path.simplified(), QString::fromUtf8(error.what())));
+        throw ProjectError(QStringLiteral("%1: %2").arg(path.simplified(), error.Reason()));
     }
     return project;
 }

@@ -1,19 +1,19 @@
 #pragma once
 
+#include "HostError.h"
 #include "ParametersDef.h"
 
 #include <QString>
 
-#include <stdexcept>
 #include <vector>
 
 class QJsonValue;
 
-/// Why a project file cannot be used: one line, with the file's name, in UTF-8.
-class ProjectError : public std::runtime_error
+/// Why a project file cannot be used: one line, with the file's name.
+class ProjectError : public HostError
 {
 public:
-    explicit ProjectError(const QString& reason);
+    using HostError::HostError;
 };
 
 /// A project as it stands in a file: parameters, samples, and what the part is made of.

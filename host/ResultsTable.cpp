@@ -107,11 +107,6 @@ private:
 
 } // namespace
 
-ResultsError::ResultsError(const QString& reason)
-    : std::runtime_error(reason.toStdString())
-{
-}
-
 ResultsTable::ResultsTable(const QStringList& parameters)
     : m_parameters(parameters)
 {

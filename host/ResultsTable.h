@@ -1,19 +1,19 @@
 #pragma once
 
+#include "HostError.h"
 #include "ShapeMeasures.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <map>
-#include <stdexcept>
 #include <vector>
 
-/// Why a results file cannot be read or written: one line, in UTF-8.
-class ResultsError : public std::runtime_error
+/// Why a results file cannot be read or written: one line.
+class ResultsError : public HostError
 {
 public:
-    explicit ResultsError(const QString& reason);
+    using HostError::HostError;
 };
 
 /// One run of a study.

@@ -1,5 +1,6 @@
 #include "Screenshots.h"
 
+#include "AnalysisPictures.h"
 #include "DOEDlg.h"
 #include "DialogTables.h"
 #include "DoeSession.h"
@@ -16,7 +17,6 @@
 #include <QPixmap>
 #include <QTableWidget>
 
-#include <cstdio>
 #include <memory>
 #include <vector>
 
@@ -48,6 +48,7 @@ Window NewMainWindow(const Project& project)
 {
     auto window = std::make_unique<MainWindow>();
     window->OpenProject(project);
+    FillSampleAnalysis(window->Analysis());
     return window;
 }
 
@@ -88,12 +89,28 @@ struct Picture
     Window (*make)(const Project&);
 };
 
+template<Window (*Make)()>
+Window NewAnalysisDialog(const Project&)
+{
+    return Make();
+}
+
 // A new dialog gets a line here. The main window comes first: it fills the stores.
 const Picture Pictures[] = {
     {"MainWindow", NewMainWindow},
     {"DOEDlg", NewDOEDlg},
     {"OneParameterDlg", NewOneParameterDlg},
     {"ParameterEditor", NewParameterEditor},
+    {"CAnalysisTypeGUI", NewAnalysisDialog<PictureOfAnalysisType>},
+    {"CQLTConstrainEditor", NewAnalysisDialog<PictureOfConstrainEditor>},
+    {"CQLTElePropertyEditor", NewAnalysisDialog<PictureOfPropertyEditor>},
+    {"CQLTLoadForceEditor", NewAnalysisDialog<PictureOfLoadEditor>},
+    {"ELementPropGUI", NewAnalysisDialog<PictureOfPropertyManager>},
+    {"KVMaterialLibrary", NewAnalysisDialog<PictureOfMaterialLibrary>},
+    {"MaterialEditer", NewAnalysisDialog<PictureOfMaterialEditor>},
+    {"MeshSizeInput", NewAnalysisDialog<PictureOfMeshSize>},
+    {"SubShapeMeshParameterDlg", NewAnalysisDialog<PictureOfSubShapeMesh>},
+    {"frequencySetting", NewAnalysisDialog<PictureOfFrequencies>},
 };
 
 bool WritePicture(QWidget& window, const QString& path)
@@ -104,27 +121,23 @@ bool WritePicture(QWidget& window, const QString& path)
     return window.grab().save(path, "PNG");
 }
 
-int Fail(const QString& reason)
-{
-    std::fprintf(stderr, "tarnhost: %s\n", reason.toLocal8Bit().constData());
-    return 1;
-}
-
 } // namespace
 
-int WriteScreenshots(const Project& project, const QString& directory)
+void WriteScreenshots(const Project& project, const QString& directory)
 {
     if (!QDir().mkpath(directory))
-        return Fail(QStringLiteral("cannot make the directory %1").arg(directory));
+        throw ScreenshotError(QStringLiteral("%1: the folder cannot be made").arg(directory));
+    // The working directory changes while the pictures are made.
+    const QDir pictures(QDir(directory).absolutePath());
 
     const PictureFont font;
     const NoticeWatcher notices;
+    const SampleAnalysisFiles files;
     for (const Picture& picture : Pictures) {
         const Window window = picture.make(project);
-        const QString path =
-            QDir(directory).filePath(QLatin1String(picture.name) + QStringLiteral(".png"));
-        if (!WritePicture(*window, path))
-            return Fail(QStringLiteral("cannot write the picture %1").arg(path));
+        const QString name = QLatin1String(picture.name) + QStringLiteral(".png");
+        if (!WritePicture(*window, pictures.filePath(name)))
+            throw ScreenshotError(
+                QStringLiteral("%1: cannot be written").arg(QDir(directory).filePath(name)));
     }
-    return 0;
 }

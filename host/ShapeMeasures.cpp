@@ -27,3 +27,9 @@ ShapeMeasures Measure(const TopoDS_Shape& shape)
     }
     return measures;
 }
+
+double Mass(const ShapeMeasures& measures, double density)
+{
+    constexpr double CubicMillimetresPerCubicMetre = 1e9;
+    return measures.volume * density / CubicMillimetresPerCubicMetre;
+}

@@ -13,3 +13,6 @@ struct ShapeMeasures
 };
 
 ShapeMeasures Measure(const TopoDS_Shape& shape);
+
+/// The mass in kg; @p density is in kg/m3.
+double Mass(const ShapeMeasures& measures, double density);

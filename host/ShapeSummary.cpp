@@ -1,5 +1,6 @@
 #include "ShapeSummary.h"
 
+#include "NumberTexts.h"
 #include "ShapeMeasures.h"
 #include "ShapePicture.h"
 
@@ -12,19 +13,13 @@
 namespace {
 
 constexpr double CubicMillimetresPerCubicCentimetre = 1e3;
-constexpr double CubicMillimetresPerCubicMetre = 1e9;
 constexpr double SquareMillimetresPerSquareCentimetre = 1e2;
-
-QString NumberText(double value)
-{
-    return QString::number(value, 'g', 6);
-}
 
 // A bounding box has tiny rests where a shape ends at 0.
 QString LengthText(double millimetres)
 {
     const double rounded = qRound64(millimetres * 1e3) / 1e3;
-    return NumberText(rounded);
+    return ShortText(rounded);
 }
 
 QLabel* AddRow(QFormLayout& form, const QString& caption, const char* name)
@@ -67,11 +62,10 @@ void ShapeSummary::ShowShape(const TopoDS_Shape& shape, double density)
     const ShapeMeasures measures = Measure(shape);
     const std::array<double, 6>& box = measures.boundingBox;
     m_volume->setText(
-        tr("%1 cm³").arg(NumberText(measures.volume / CubicMillimetresPerCubicCentimetre)));
+        tr("%1 cm³").arg(ShortText(measures.volume / CubicMillimetresPerCubicCentimetre)));
     m_area->setText(
-        tr("%1 cm²").arg(NumberText(measures.area / SquareMillimetresPerSquareCentimetre)));
-    m_mass->setText(
-        tr("%1 kg").arg(NumberText(measures.volume / CubicMillimetresPerCubicMetre * density)));
+        tr("%1 cm²").arg(ShortText(measures.area / SquareMillimetresPerSquareCentimetre)));
+    m_mass->setText(tr("%1 kg").arg(ShortText(Mass(measures, density))));
     m_size->setText(tr("%1 × %2 × %3 mm")
                         .arg(LengthText(box[3] - box[0]), LengthText(box[4] - box[1]),
                              LengthText(box[5] - box[2])));

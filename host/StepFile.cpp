@@ -50,11 +50,6 @@ bool IsComplete(const QString& path)
 
 } // namespace
 
-StepError::StepError(const QString& reason)
-    : std::runtime_error(reason.toStdString())
-{
-}
-
 void WriteStepFile(const TopoDS_Shape& shape, const QString& path)
 {
     const QString part = path + QStringLiteral(".part");

@@ -1,16 +1,16 @@
 #pragma once
 
-#include <QString>
+#include "HostError.h"
 
-#include <stdexcept>
+#include <QString>
 
 class TopoDS_Shape;
 
-/// Why a STEP file could not be written: one line, in UTF-8.
-class StepError : public std::runtime_error
+/// Why a STEP file could not be written: one line.
+class StepError : public HostError
 {
 public:
-    explicit StepError(const QString& reason);
+    using HostError::HostError;
 };
 
 /// Writes @p shape, in millimetres, to the file at @p path. A file of that name is replaced only

@@ -5,6 +5,7 @@
 #include "FlangeBuilder.h"
 #include "GlobalParaMeterMgr.h"
 #include "NoticeWatcher.h"
+#include "NumberTexts.h"
 #include "Project.h"
 #include "ResultsTable.h"
 #include "StepFile.h"
@@ -23,8 +24,6 @@
 #include <utility>
 
 namespace {
-
-constexpr double CubicMillimetresPerCubicMetre = 1e9;
 
 // A stopped study loses the runs of at most this time. Not after each run: in a large study the
 // table would be written far longer than the parts take to build.
@@ -52,11 +51,6 @@ bool HaveSameDigits(const std::vector<double>& a, const std::vector<double>& b)
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](double x, double y) {
         return QString::number(x, 'g', 17) == QString::number(y, 'g', 17);
     });
-}
-
-double Mass(const ShapeMeasures& measures, double density)
-{
-    return measures.volume * density / CubicMillimetresPerCubicMetre;
 }
 
 /// The study's dialogs, driven as a user does.
@@ -164,11 +158,6 @@ void CheckEarlierRuns(Study& study, const ResultsTable& table, double density, c
 
 } // namespace
 
-StudyError::StudyError(const QString& reason)
-    : std::runtime_error(reason.toStdString())
-{
-}
-
 StudyRunner::StudyRunner(const Project& project, Options options,
                          std::function<void(const QString&)> tell)
     : m_project(project)
@@ -178,15 +167,6 @@ StudyRunner::StudyRunner(const Project& project, Options options,
 }
 
 StudyRunner::Summary StudyRunner::Run()
-{
-    try {
-        return RunStudy();
-    } catch (const ResultsError& error) {
-        throw StudyError(QString::fromUtf8(error.what()));
-    }
-}
-
-StudyRunner::Summary StudyRunner::RunStudy()
 {
     Study study(m_project);
     const int runs = study.RunCount();
@@ -232,8 +212,7 @@ StudyRunner::Summary StudyRunner::RunStudy()
         if (result.ok) {
             ++summary.ok;
             m_tell(QStringLiteral("%1: ok, volume %2 mm3, mass %3 kg")
-                       .arg(place, QString::number(result.measures.volume, 'g', 6),
-                            QString::number(result.mass, 'g', 6)));
+                       .arg(place, ShortText(result.measures.volume), ShortText(result.mass)));
         } else {
             ++summary.failed;
             m_tell(QStringLiteral("%1: failed: %2").arg(place, result.error));

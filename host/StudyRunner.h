@@ -1,17 +1,18 @@
 #pragma once
 
+#include "HostError.h"
+
 #include <QString>
 
 #include <functional>
-#include <stdexcept>
 
 class Project;
 
-/// Why a study cannot be run: one line, in UTF-8.
-class StudyError : public std::runtime_error
+/// Why a study cannot be run: one line.
+class StudyError : public HostError
 {
 public:
-    explicit StudyError(const QString& reason);
+    using HostError::HostError;
 };
 
 /// Runs a study without a user: drives the DOE dialog as a user would, builds the part of each run,
@@ -41,13 +42,11 @@ public:
     StudyRunner(const Project& project, Options options, std::function<void(const QString&)> tell);
 
     /// Replaces the parameter store and the sample registry by the project and does the runs. A run
-    /// that fails does not stop the others. @throws StudyError for what concerns the study as a
-    /// whole: runs that do not exist, a directory or a results.csv that cannot be used.
+    /// that fails does not stop the others. @throws StudyError or ResultsError for what concerns
+    /// the study as a whole: runs that do not exist, a folder or a results.csv that cannot be used.
     Summary Run();
 
 private:
-    Summary RunStudy();
-
     const Project& m_project;
     Options m_options;
     std::function<void(const QString&)> m_tell;

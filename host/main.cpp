@@ -1,3 +1,4 @@
+#include "AnalysisFiles.h"
 #include "CommandLine.h"
 #include "HostApplication.h"
 #include "MainWindow.h"
@@ -44,6 +45,7 @@ int RunStudy(const CommandLine& line)
 int OpenWindow(const CommandLine& line)
 {
     const Project project = Project::Load(line.projectFile);
+    ReadAnalysisFiles();
     MainWindow window;
     window.show();
     window.OpenProject(project);
@@ -88,7 +90,8 @@ int Act(const CommandLine& line)
     case CommandLine::RunStudy:
         return RunStudy(line);
     case CommandLine::WriteScreenshots:
-        return WriteScreenshots(Project::Load(line.projectFile), line.screenshotDirectory);
+        WriteScreenshots(Project::Load(line.projectFile), line.screenshotDirectory);
+        return DoneCode;
     default:
         return OpenWindow(line);
     }

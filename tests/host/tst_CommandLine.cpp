@@ -125,7 +125,7 @@ void tst_CommandLine::BadArgumentsAreToldInOneLine()
         Parse(arguments);
         QFAIL("The arguments were taken.");
     } catch (const CommandLineError& error) {
-        QTEST(QString::fromUtf8(error.what()), "reason");
+        QTEST(error.Reason(), "reason");
     }
 }
 

@@ -26,8 +26,9 @@ private Q_SLOTS:
     void TheRunIsCompleteBeforeTheHostHears();
     void TheChannelTellsARunOnce();
     void ProblemsAreToldAndKept();
-    void RestoreBringsAllRecordsBack();
-    void AParameterRemovedMeanwhileComesBack();
+    void TheRecordsFromBeforeAreKept();
+    void AParameterRemovedMeanwhileStaysRemoved();
+    void ASecondSessionStartsFromWhatTheFirstLeft();
 };
 
 static void Add(const QString& name, double value, const char* expression = "",
@@ -231,31 +232,53 @@ void tst_DoeSession::ProblemsAreToldAndKept()
     QCOMPARE(ready.size(), 1);
 }
 
-void tst_DoeSession::RestoreBringsAllRecordsBack()
+void tst_DoeSession::TheRecordsFromBeforeAreKept()
 {
     const BoxInStores stores;
     Tick("width", {11.0});
     DOEDlg dialog(nullptr);
     DoeSession session(dialog);
     Run(dialog, [](QDialog& shown) { Generate(shown, 0); });
-    Add("new", 1.0);
-    session.RestoreParameters();
-    QCOMPARE(Value("width"), 10.0);
-    QCOMPARE(Value("area"), 200.0);
-    QCOMPARE(GlobalParaMeterMgr::m_nameMapParameters.at("width").m_strValue, QString("10"));
-    QCOMPARE(Value("new"), 1.0);
-    QCOMPARE(GlobalParaMeterMgr::GetAllParametersName(),
-             std::vector<QString>({"width", "depth", "area", "height", "new"}));
+    GlobalParaMeterMgr::m_nameMapParameters.erase("depth");
+    QStringList kept;
+    for (const auto& [name, record] : session.Remembered())
+        kept << name + "=" + record.m_strValue;
+    QCOMPARE(kept, QStringList({"width=10", "depth=20", "area=200", "height=5"}));
 }
 
-void tst_DoeSession::AParameterRemovedMeanwhileComesBack()
+void tst_DoeSession::AParameterRemovedMeanwhileStaysRemoved()
 {
     const BoxInStores stores;
+    Tick("width", {11.0});
     DOEDlg dialog(nullptr);
     DoeSession session(dialog);
-    GlobalParaMeterMgr::m_nameMapParameters.erase("depth");
-    session.RestoreParameters();
-    QCOMPARE(Value("depth"), 20.0);
+    Run(dialog, [](QDialog& shown) {
+        GlobalParaMeterMgr::m_nameMapParameters.erase("height");
+        Generate(shown, 0);
+    });
+    QCOMPARE(GlobalParaMeterMgr::GetAllParametersName(),
+             std::vector<QString>({"width", "depth", "area"}));
+    QCOMPARE(Value("area"), 220.0);
+}
+
+void tst_DoeSession::ASecondSessionStartsFromWhatTheFirstLeft()
+{
+    const BoxInStores stores;
+    Tick("width", {11.0, 12.0});
+    {
+        DOEDlg dialog(nullptr);
+        DoeSession session(dialog);
+        Run(dialog, [](QDialog& shown) { Generate(shown, 1); });
+    }
+    g_mapParaArrays["width"].bChecked = 0;
+    Tick("depth", {30.0});
+    DOEDlg dialog(nullptr);
+    DoeSession session(dialog);
+    Run(dialog, [](QDialog& shown) { Generate(shown, 0); });
+    QCOMPARE(Value("width"), 12.0);
+    QCOMPARE(Value("depth"), 30.0);
+    QCOMPARE(Value("area"), 360.0);
+    QCOMPARE(Value("height"), 5.0);
 }
 
 TARN_TEST_MAIN(tst_DoeSession)

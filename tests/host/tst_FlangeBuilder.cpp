@@ -66,7 +66,7 @@ static QString Reason(const FlangeDimensions& flange)
     try {
         FlangeBuilder::Check(flange);
     } catch (const BuildError& error) {
-        return QString::fromUtf8(error.what());
+        return error.Reason();
     }
     return "nothing is wrong";
 }

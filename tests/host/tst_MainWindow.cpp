@@ -1,4 +1,6 @@
+#include "AnalysisModel.h"
 #include "DrawerOutput.h"
+#include "EmptyAttributeNames.h"
 #include "EmptyDesignStores.h"
 #include "HostApplication.h"
 #include "MainWindow.h"
@@ -22,6 +24,7 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTableWidget>
+#include <QTreeWidget>
 
 #include <set>
 
@@ -44,11 +47,14 @@ private Q_SLOTS:
     void GenerateGivesParametersOutsideTheRunTheirRecordsBack();
     void TicksStandAtTheirParametersByName();
     void RestoreBringsAllParametersBack();
+    void RestoreBringsARemovedParameterBack();
+    void RestoreSettlesWhatCameLater();
     void RestoreAfterSeveralRunsBringsTheDesignBack();
     void RestoreIsOfferedOnlyAfterARun();
     void AppliedValuesAreTheDesignOfTheNextRun();
     void DialogsAreGoneAfterTheirRun();
     void AnotherProjectReplacesTheFirst();
+    void AnotherProjectHasAnAnalysisOfItsOwn();
     void ABadProjectIsToldAndChangesNothing();
     void ACancelledFileDialogChangesNothing();
     void QuitClosesTheWindow();
@@ -201,9 +207,16 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                 texts << QString(menu->text() + "/" + action->text()).remove('&');
         }
     }
-    QCOMPARE(texts, QStringList({"File/Open project", "File/Quit", "Design/Parameters",
-                                 "Design/Design of Experiments", "Design/Restore parameters",
-                                 "View/Stored parameters", "View/Messages"}));
+    QCOMPARE(
+        texts,
+        QStringList({"File/Open project", "File/Quit", "Design/Parameters",
+                     "Design/Design of Experiments", "Design/Restore parameters",
+                     "Analysis/Analysis type", "Analysis/Boundary condition", "Analysis/Load force",
+                     "Analysis/Delete boundary condition or load", "Analysis/New element property",
+                     "Analysis/Element properties", "Analysis/Material library",
+                     "Analysis/Frequency range", "Analysis/Mesh size", "Analysis/Sub-shape mesh",
+                     "Analysis/Is the set-up complete?", "View/Stored parameters",
+                     "View/Analysis model", "View/Messages"}));
 }
 
 void tst_MainWindow::TheDocksStandRoundTheShape()
@@ -213,6 +226,7 @@ void tst_MainWindow::TheDocksStandRoundTheShape()
     window.show();
     QVERIFY(Find<QTableView>(window, "messageView").isVisible());
     QVERIFY(Find<QTableWidget>(window, "parameterTable").isVisible());
+    QVERIFY(Find<QTreeWidget>(window, "modelTree").isVisible());
     QVERIFY(window.centralWidget()->isVisible());
 }
 
@@ -463,6 +477,39 @@ void tst_MainWindow::RestoreBringsAllParametersBack()
              QStringLiteral("20"));
 }
 
+void tst_MainWindow::RestoreBringsARemovedParameterBack()
+{
+    OpenWindow open;
+    ModalDriver user;
+    user.Then([](QDialog& dialog) {
+        Generate(dialog, 17);
+        dialog.reject();
+    });
+    Trigger(open.window, "action_DesignOfExperiments");
+    GlobalParaMeterMgr::m_nameMapParameters.erase("fillet_radius");
+    Trigger(open.window, "action_RestoreParameters");
+    QCOMPARE(Stored("fillet_radius"), 5.0);
+}
+
+void tst_MainWindow::RestoreSettlesWhatCameLater()
+{
+    OpenWindow open;
+    ModalDriver user;
+    user.Then([](QDialog& dialog) {
+        Generate(dialog, 17);
+        dialog.reject();
+    });
+    Trigger(open.window, "action_DesignOfExperiments");
+    ParametersDef later;
+    later.m_strName = "later";
+    later.m_nType = 1;
+    later.m_strExpression = "thickness * 2";
+    later.m_strExpressPara = "thickness";
+    GlobalParaMeterMgr::AddParameter("later", later);
+    Trigger(open.window, "action_RestoreParameters");
+    QCOMPARE(Stored("later"), 40.0);
+}
+
 void tst_MainWindow::RestoreAfterSeveralRunsBringsTheDesignBack()
 {
     OpenWindow open;
@@ -551,6 +598,26 @@ void tst_MainWindow::AnotherProjectReplacesTheFirst()
     QVERIFY(user.IsDone());
     QVERIFY(open.window.windowTitle().contains("Another flange"));
     QCOMPARE(Shown(open.window, "label_BoundingBox"), QStringLiteral("260 × 260 × 50 mm"));
+}
+
+void tst_MainWindow::AnotherProjectHasAnAnalysisOfItsOwn()
+{
+    const EmptyAttributeNames names;
+    OpenWindow open;
+    ModalDriver user;
+    const auto accept = [](QDialog& dialog) {
+        Click(dialog, "okButton");
+    };
+    user.Then(accept);
+    Trigger(open.window, "action_LoadForce");
+    QCOMPARE(open.window.Analysis().Loads().size(), std::size_t(1));
+    open.window.OpenProject(Project::Load(Project::SamplePath()));
+    QVERIFY(open.window.Analysis().Loads().empty());
+    user.Then(accept);
+    Trigger(open.window, "action_LoadForce");
+    QCOMPARE(open.window.Analysis().Loads().size(), std::size_t(1));
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes(), QVector<ShownBox>());
 }
 
 void tst_MainWindow::ABadProjectIsToldAndChangesNothing()

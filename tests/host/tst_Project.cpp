@@ -59,7 +59,7 @@ static QString Reason(const QString& path)
     try {
         Project::Load(path);
     } catch (const ProjectError& error) {
-        return QString::fromUtf8(error.what());
+        return error.Reason();
     }
     return "The file was taken.";
 }

@@ -67,7 +67,7 @@ static QString ReasonNotRead(ResultsTable& table)
     try {
         table.Read("r.csv");
     } catch (const ResultsError& error) {
-        return QString::fromUtf8(error.what());
+        return error.Reason();
     }
     return "it was read";
 }

@@ -15,6 +15,7 @@ class tst_ShapeMeasures : public TestCase
 private Q_SLOTS:
     void ABoxHasItsMeasures();
     void NoShapeHasNoMeasures();
+    void TheMassIsInKilograms();
 };
 
 void tst_ShapeMeasures::ABoxHasItsMeasures()
@@ -34,6 +35,13 @@ void tst_ShapeMeasures::NoShapeHasNoMeasures()
     QCOMPARE(measures.volume, 0.0);
     QCOMPARE(measures.area, 0.0);
     QCOMPARE(measures.boundingBox, (std::array<double, 6>{}));
+}
+
+void tst_ShapeMeasures::TheMassIsInKilograms()
+{
+    ShapeMeasures measures;
+    measures.volume = 2e6;
+    QCOMPARE(Mass(measures, 7850.0), 15.7);
 }
 
 TARN_TEST_MAIN(tst_ShapeMeasures)

@@ -40,7 +40,7 @@ static QString Reason(const TopoDS_Shape& shape, const QString& path)
     try {
         WriteStepFile(shape, path);
     } catch (const StepError& error) {
-        return QString::fromUtf8(error.what());
+        return error.Reason();
     }
     return "it was written";
 }

@@ -93,8 +93,8 @@ static Outcome RunStudy(const QByteArray& project, int first = 0, int last = 0)
         const Project loaded = Project::Load("p.json");
         StudyRunner runner(loaded, options, [&](const QString& line) { outcome.told << line; });
         outcome.summary = runner.Run();
-    } catch (const StudyError& error) {
-        outcome.error = QString::fromUtf8(error.what());
+    } catch (const HostError& error) {
+        outcome.error = error.Reason();
     }
     return outcome;
 }
@@ -379,6 +379,8 @@ void tst_StudyRunner::TheProgramRefusesBadInputInOneLine_data()
         "broken.json: is no valid JSON: unterminated object at byte 1");
     row("a notice", {"--study", "gauss.json", "--out", "out"}, "gauss.json: Not implement yet");
     row("folder is a file", {"--study", "p.json", "--out", "broken.json"},
+        "broken.json: the folder cannot be made");
+    row("pictures into a file", {"--screenshots", "broken.json"},
         "broken.json: the folder cannot be made");
     row("no display", {"p.json"},
         "there is no display; --study and --screenshots work without one, see --help");

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QObject>
+
+class AnalysisModel;
+class ModelTree;
+class QMenu;
+class QWidget;
+
+/// Runs the dialogs of the analysis set-up and takes over what they give.
+class AnalysisActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Dialogs belong to @p window, which also owns this object; model and tree must outlive it.
+    AnalysisActions(AnalysisModel& model, ModelTree& tree, QWidget* window);
+    ~AnalysisActions() override;
+
+    /// Adds an action for each dialog, for deleting in the tree and for the check.
+    void FillMenu(QMenu& menu);
+
+private:
+    void ChooseType();
+    void AddBoundaryCondition();
+    void AddLoad();
+    void AddProperty();
+    void ManageProperties();
+    void BrowseMaterials();
+    void SetFrequencies();
+    void SetMeshSize();
+    void SetSubShapeMesh();
+    void CheckSetupNow();
+
+    AnalysisModel& m_model;
+    ModelTree& m_tree;
+    QWidget* m_window;
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QLocale>
+#include <QString>
+
+/// Six significant digits, as the dialogs show numbers.
+inline QString ShortText(double value)
+{
+    return QString::number(value, 'g', 6);
+}
+
+/// As few digits as tell the number from its neighbours: up to 17, but 0.1 stays 0.1.
+inline QString ExactText(double value)
+{
+    return QString::number(value, 'g', QLocale::FloatingPointShortest);
+}
