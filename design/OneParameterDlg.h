@@ -42,6 +42,8 @@ public Q_SLOTS:
     void m_Slot_Delete();
 
 private:
+    void Refuse(const QString& text);
+
     Ui::OneParameterDlg m_ui;
     QString m_strName;
     std::vector<double> m_vecValues;

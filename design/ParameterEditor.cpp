@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QPersistentModelIndex>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <QTableWidgetItem>
@@ -156,8 +157,13 @@ ParameterEditor::~ParameterEditor() = default;
 
 void ParameterEditor::m_Slot_Apply()
 {
+    // The host may destroy the editor behind a box.
+    const QPointer<ParameterEditor> self = this;
     UpdateAllParameterDef();
-    RefreshParameterData();
+    if (self != nullptr)
+        RefreshParameterData();
+    if (self == nullptr)
+        return;
     m_Slot_RefreshGUI();
     Q_EMIT m_Signal_Apply();
 }
@@ -181,8 +187,10 @@ void ParameterEditor::m_Slot_Add()
 
 void ParameterEditor::m_Slot_OK()
 {
+    const QPointer<ParameterEditor> self = this;
     m_Slot_Apply();
-    accept();
+    if (self != nullptr)
+        accept();
 }
 
 void ParameterEditor::m_Slot_Cancel()
@@ -219,7 +227,7 @@ void ParameterEditor::m_Slot_RefreshGUI()
 void ParameterEditor::m_Slot_NoNumber(QTableWidgetItem* item)
 {
     const QTableWidget& table = *m_ui.tableWidget;
-    if (table.currentColumn() != ValueColumn || tarn::IsNumberText(item->text()))
+    if (item == nullptr || table.currentColumn() != ValueColumn || tarn::IsNumberText(item->text()))
         return;
 
     // The host may rebuild the table behind the box: the cell is looked up again after it.

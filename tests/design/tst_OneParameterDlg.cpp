@@ -160,6 +160,8 @@ private Q_SLOTS:
     void CancelLeavesTheRegistryAlone_data();
     void CancelLeavesTheRegistryAlone();
     void TheHostMayChangeTheRegistryBehindABox();
+    void TheHostMayDestroyTheDialogBehindABox_data();
+    void TheHostMayDestroyTheDialogBehindABox();
 };
 
 void tst_OneParameterDlg::TheFormHoldsItsWidgets_data()
@@ -1063,6 +1065,32 @@ void tst_OneParameterDlg::TheHostMayChangeTheRegistryBehindABox()
     Click(dialog, "pushButton_OK");
     QCOMPARE(g_mapParaArrays.at("a").dMin, 2.0);
     QCOMPARE(g_mapParaArrays.at("a").bChecked, 1);
+}
+
+void tst_OneParameterDlg::TheHostMayDestroyTheDialogBehindABox_data()
+{
+    QTest::addColumn<QString>("max");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("RefreshTableData, bad range") << "-1" << BadInput.text;
+    QTest::newRow("RefreshTableData, Gauss") << "1" << NoGauss.text;
+    QTest::newRow("m_Slot_Delete") << "1" << NoRow.text;
+}
+
+void tst_OneParameterDlg::TheHostMayDestroyTheDialogBehindABox()
+{
+    const EmptyDesignStores stores;
+    QFETCH(QString, max);
+    QFETCH(QString, text);
+    auto* const dialog = new OneParameterDlg(nullptr, "a");
+    SetFields(*dialog, "0", max, "1");
+    Find<QRadioButton>(*dialog, "radioButton_Gauss").setChecked(true);
+    ModalDriver user;
+    user.WhileBoxOpen([dialog](QMessageBox&) { delete dialog; });
+    const QByteArray slot = QByteArray(QTest::currentDataTag()).split(',').first();
+    QVERIFY(QMetaObject::invokeMethod(dialog, slot.constData()));
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes().size(), 1);
+    QCOMPARE(user.Boxes().first().text, text);
 }
 
 TARN_TEST_MAIN(tst_OneParameterDlg)
