@@ -27,7 +27,8 @@ class TARNGUICOMMON_EXPORT DOEDlg : public QDialog
     Q_OBJECT
 
 public:
-    /// The most runs that are built; a larger product of samples is refused with a notice.
+    /// The most runs that are built; a larger product of samples is refused with a notice, and so
+    /// are more than 20 million cells.
     static constexpr int MaximumRuns = 1000000;
 
     explicit DOEDlg(QWidget* parent);
