@@ -301,7 +301,8 @@ bool ParameterEditor::IsValidExpressPara(QString names)
 {
     // These texts stand as they are in every language.
     const QString error = QStringLiteral("Error");
-    for (const QString& name : names.split(Separator)) {
+    const QStringList parts = names.split(Separator);
+    for (const QString& name : parts) {
         if (name.isEmpty()) {
             tarn::ShowNotice(error, QStringLiteral("Please input parameters name for expression"));
         } else if (GlobalParaMeterMgr::m_nameMapParameters.count(name) == 0) {
@@ -318,7 +319,8 @@ bool ParameterEditor::IsValidExpressPara(QString names)
 double ParameterEditor::GetCurrParaValueByExprsion(ParametersDef def)
 {
     std::map<std::string, double> variables;
-    for (const QString& name : def.m_strExpressPara.split(Separator))
+    const QStringList names = def.m_strExpressPara.split(Separator);
+    for (const QString& name : names)
         variables[tarn::ToLocal8Bit(name)] = StoredNumber(name);
     return ExpressionEngine::CalculateExpress(def.m_strExpression, variables);
 }

@@ -73,11 +73,10 @@ ExpressionProgram* Compile(const std::string& expression, ExpressionError& error
         return nullptr;
     }
     auto compiled = std::make_unique<KeptProgram>(std::move(*formula), codec);
-    ExpressionProgram* const program = &compiled->program;
     // The key is copied: the caller's bytes do not last.
     const QByteArray ownKey(expression.data(), int(expression.size()));
     KeptPrograms().insert(ownKey, compiled.release(), BaseCost + ownKey.size());
-    return program;
+    return &KeptPrograms().object(ownKey)->program;
 }
 
 } // namespace
