@@ -36,7 +36,7 @@ std::map<int, std::vector<double>> g_mapLevelValues;
 std::vector<double> g_vecCurrentRun;
 int g_nRunCounter = 1;
 
-// Keeps the run table below some 1.5 GB. Only parameters with a single sample can bring so many
+// Keeps the run table at some 2 GB at most. Only parameters with a single sample can bring so many
 // columns that this limit is reached before that of the runs.
 constexpr std::size_t MaximumCells = 20 * std::size_t(DOEDlg::MaximumRuns);
 
