@@ -4,7 +4,7 @@ get_property(TARN_DIALOG_SOURCES GLOBAL PROPERTY TARN_DIALOG_SOURCES)
 get_property(TARN_DIALOG_HEADERS GLOBAL PROPERTY TARN_DIALOG_HEADERS)
 get_property(TARN_FORM_HEADERS GLOBAL PROPERTY TARN_FORM_HEADERS)
 add_library(TarnGUICommonObjects OBJECT ${TARN_DIALOG_SOURCES} "${PROJECT_SOURCE_DIR}/common/images.qrc")
-set_target_properties(TarnGUICommonObjects PROPERTIES DEFINE_SYMBOL "")
+set_target_properties(TarnGUICommonObjects PROPERTIES DEFINE_SYMBOL "" AUTOMOC ON AUTORCC ON)
 target_compile_definitions(TarnGUICommonObjects PRIVATE TarnGUICommon_EXPORTS)
 target_link_libraries(TarnGUICommonObjects PUBLIC Qt5::Core Qt5::Gui Qt5::Widgets TarnDesign TarnFEMData
                                                   TarnCoreGeometry TKernel TKMath TKG3d TKGeomBase

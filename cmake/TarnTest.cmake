@@ -16,7 +16,10 @@ add_custom_target(TarnTestLocales ALL DEPENDS "${TARN_TEST_LOCALES}/de_DE.UTF-8/
 function(tarn_test name)
   cmake_parse_arguments(arg "INTERNAL;WINDOW_SYSTEM" "TIMEOUT" "LIBRARIES;DEFINITIONS" ${ARGN})
   set(target tst_${name})
-  add_executable(${target} tst_${name}.cpp)
+  add_executable(${target} tst_${name}.cpp ${target}.moc)
+  # Not AUTOMOC: its scan and its extra object cost each program more than the test's one class.
+  qt5_generate_moc(tst_${name}.cpp ${target}.moc TARGET ${target})
+  target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
   target_link_libraries(
     ${target} PRIVATE TarnTestSupport TarnOptions $<IF:$<BOOL:${arg_INTERNAL}>,TarnGUICommonObjects,TarnGUICommon>
                       ${arg_LIBRARIES})

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced by ./run and ./test: installs missing Debian packages and makes `build <preset>` available.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."

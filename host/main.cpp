@@ -65,7 +65,7 @@ void ChoosePlatform(const CommandLine& line)
             "there is no display; --study and --screenshots work without one, see --help"));
 }
 
-// What the toolkit says about a missing desktop is no news to a run without one.
+// What the toolkit says about a missing desktop is no news to the user.
 void DropDesktopWarnings(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     Q_UNUSED(context)
@@ -119,8 +119,7 @@ int main(int argc, char** argv)
     try {
         const CommandLine line = CommandLine::Parse(Arguments(argc, argv));
         ChoosePlatform(line);
-        if (line.action != CommandLine::OpenWindow)
-            qInstallMessageHandler(DropDesktopWarnings);
+        qInstallMessageHandler(DropDesktopWarnings);
         HostApplication application(argc, argv);
         return Act(line);
     } catch (const Standard_Failure& failure) {

@@ -8,7 +8,10 @@
 #include <STEPControl_Reader.hxx>
 #include <TopoDS_Shape.hxx>
 
+#include <sys/resource.h>
+
 #include <cmath>
+#include <csignal>
 
 class tst_StepFile : public TestCase
 {
@@ -19,6 +22,7 @@ private Q_SLOTS:
     void AFileIsReplaced();
     void AFolderThatIsNotThereIsTold();
     void NoShapeIsTold();
+    void AFullDiskIsToldAndTheOldFileStays();
 };
 
 static TopoDS_Shape Box(double size)
@@ -73,6 +77,28 @@ void tst_StepFile::NoShapeIsTold()
     QCOMPARE(Reason(TopoDS_Shape(), "a.step"),
              QString("a.step: the kernel could not translate the part."));
     QVERIFY(!QFile::exists("a.step"));
+}
+
+void tst_StepFile::AFullDiskIsToldAndTheOldFileStays()
+{
+    EnterTemporaryDirectory();
+    WriteStepFile(Box(10.0), "a.step");
+
+    // A limit on the file size stands for the full disk.
+    rlimit limit{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlim_t former = limit.rlim_cur;
+    limit.rlim_cur = 4096;
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    const QString reason = Reason(Box(20.0), "a.step");
+    limit.rlim_cur = former;
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    std::signal(SIGXFSZ, handler);
+
+    QCOMPARE(reason, QString("a.step: the file could not be written."));
+    QVERIFY(std::abs(VolumeInFile("a.step") - 1000.0) < 1e-6);
+    QCOMPARE(QDir().entryList(QDir::Files), QStringList("a.step"));
 }
 
 TARN_TEST_MAIN(tst_StepFile)
