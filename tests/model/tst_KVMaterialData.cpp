@@ -703,6 +703,11 @@ void tst_KVMaterialData::TheSystemLibraryIsComplete()
              0);
     QVERIFY(Store().MapDataRow() >= 40);
     const QStringList names = Store().GetMaterialNameList();
+    for (const char* const kind :
+         {"Steel ", "Stainless steel ", "Cast iron ", "Aluminium ", "Titanium ", "Nickel ",
+          "Copper ", "Brass ", "PA 66", "PE-HD", "CFRP", "GFRP", "Glass", "Concrete ", "Wood"})
+        QVERIFY2(!QStringList(names).filter(QRegularExpression(QString("^") + kind)).isEmpty(),
+                 kind);
     for (const QString& name : names) {
         const KVMaterialInfo& record = *Store().GetMaterialInfo(name);
         const double modulus = record.m_strLibElasticModulus.toDouble();
