@@ -3,6 +3,9 @@
 #include "SafeFile.h"
 #include "XmlRecords.h"
 
+#include <QSet>
+#include <QVector>
+
 #include <list>
 #include <unordered_map>
 #include <utility>
@@ -48,6 +51,15 @@ std::unique_ptr<KVMaterialInfo> MakeRecord(std::vector<QString>& texts, MATERIAL
     (isSystem ? record->m_strLibPoisson : record->m_strPoisson).swap(texts[FIELD_POISSON]);
     (isSystem ? record->m_strLibDensity : record->m_strDensity).swap(texts[FIELD_DENSITY]);
     return record;
+}
+
+bool AreDistinct(const QVector<QString>& names)
+{
+    QSet<QString> distinct;
+    distinct.reserve(names.size());
+    for (const QString& name : names)
+        distinct.insert(name);
+    return distinct.size() == names.size();
 }
 
 } // namespace
@@ -220,7 +232,7 @@ int KVMaterialData::ReadXML(const std::string& path, MATERIAL_TYPE type)
     // What is not written again is not remembered: a system library, the earlier of two of one
     // name.
     if (type == MATERIAL_USER && reading == tarn::XmlReading::Fully &&
-        (isEachNew || tarn::AreDistinct(names)))
+        (isEachNew || AreDistinct(names)))
         m_d->files.Remember(file, content);
     return 0;
 }

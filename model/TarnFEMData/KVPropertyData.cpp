@@ -3,9 +3,8 @@
 #include "SafeFile.h"
 #include "XmlRecords.h"
 
-#include <QVector>
-
 #include <optional>
+#include <tuple>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -55,6 +54,15 @@ std::unique_ptr<CQLTElemPropDef> MakeRecord(std::vector<QString>& texts)
     return record;
 }
 
+bool IsSame(const CQLTElemPropDef& one, const CQLTElemPropDef& other)
+{
+    const auto fields = [](const CQLTElemPropDef& record) {
+        return std::tie(record.m_strName, record.m_nReserved, record.m_strMaterialName,
+                        record.m_dThickness, record.m_strTypeName, record.m_nTypeCode);
+    };
+    return fields(one) == fields(other);
+}
+
 } // namespace
 
 struct KVPropertyData::Private
@@ -78,7 +86,7 @@ struct KVPropertyData::Private
     }
 
     void Add(CQLTElemPropDef* record);
-    /// Enters what was read; true when its name is a new one.
+    /// Enters what was read, unless its name is held; true when the store then holds just that.
     bool TakeOver(std::unique_ptr<CQLTElemPropDef> record);
 };
 
@@ -101,7 +109,7 @@ bool KVPropertyData::Private::TakeOver(std::unique_ptr<CQLTElemPropDef> record)
     const auto count = records.size();
     const auto place = records.emplace_hint(records.end(), record->m_strName, record.get());
     if (records.size() == count)
-        return false;
+        return IsSame(*place->second, *record);
     owned.emplace(record.release(), place->first);
     return true;
 }
@@ -157,16 +165,13 @@ int KVPropertyData::ReadXML(const std::string& path)
     if (reading == tarn::XmlReading::Refused)
         return -1;
 
-    QVector<QString> names;
-    names.reserve(int(records.size()));
     m_d->owned.reserve(m_d->owned.size() + records.size());
-    bool isEachNew = true;
-    for (auto& record : records) {
-        names << record->m_strName;
-        isEachNew = m_d->TakeOver(std::move(record)) && isEachNew;
-    }
-    // Of two of one name only one is written again.
-    if (reading == tarn::XmlReading::Fully && (isEachNew || tarn::AreDistinct(names)))
+    bool isEachHeld = true;
+    for (auto& record : records)
+        isEachHeld = m_d->TakeOver(std::move(record)) && isEachHeld;
+    // What the store holds otherwise is not written again. A file that it has just edited away from
+    // was remembered when it was read before.
+    if (reading == tarn::XmlReading::Fully && isEachHeld)
         m_d->files.Remember(file, content);
     return 0;
 }

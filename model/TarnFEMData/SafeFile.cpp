@@ -22,17 +22,24 @@ namespace {
 constexpr int MaximumLinks = 40;
 constexpr int CopyBlock = 1024 * 1024;
 
-/// The absolute path that @p path leads to, whether there is a file or not; empty for links that
-/// turn in a circle.
+/// The absolute path that @p path leads to, whether there is a file or not; empty for a folder that
+/// is missing and for links that turn in a circle.
 QString Target(const QString& path)
 {
     QFileInfo info(path);
-    for (int i = 0; info.isSymLink(); ++i) {
-        if (i == MaximumLinks)
-            return {};
-        info.setFile(info.symLinkTarget());
+    QString real = info.exists() ? info.canonicalFilePath() : QString();
+    for (int i = 0; real.isEmpty() && i < MaximumLinks; ++i) {
+        // Only in the real folder does ".." mean what it means to the system.
+        const QString folder = info.dir().canonicalPath();
+        if (folder.isEmpty() || info.fileName().isEmpty())
+            break;
+        info.setFile(folder + QLatin1Char('/') + info.fileName());
+        if (info.isSymLink())
+            info.setFile(info.symLinkTarget());
+        else
+            real = info.filePath();
     }
-    return QDir::cleanPath(info.absoluteFilePath());
+    return real;
 }
 
 /// Puts on the disk what was written to @p file so far. QSaveFile::commit() and QFile::close() do
@@ -50,13 +57,16 @@ bool Flush(QFileDevice& file)
 
 bool CopyContent(QFile& from, QFile& to)
 {
+    // Permissions first: what others may not read they may not read in the copy either.
+    if (!to.setPermissions(from.permissions()))
+        return false;
     QByteArray block;
     do {
         block = from.read(CopyBlock);
         if (from.error() != QFileDevice::NoError || to.write(block) != block.size())
             return false;
     } while (!block.isEmpty());
-    return Flush(to) && to.setPermissions(from.permissions());
+    return Flush(to);
 }
 
 /// Copies @p target beside itself under a name that no file has yet.

@@ -3,7 +3,6 @@
 #include "SafeFile.h"
 
 #include <QIODevice>
-#include <QSet>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -17,15 +16,22 @@ namespace tarn {
 
 namespace {
 
-// The reader gives up beyond these, so that no file can exhaust memory or time; the writer keeps a
-// distance from them. A start tag is kept short because Qt compares each of its attributes with
-// each other one.
 constexpr int FormatVersion = 1;
+
+// The reader gives up beyond these, so that no file can exhaust memory or time; the writer keeps a
+// distance from them. A record has room for four line edits filled to the brim. What stands outside
+// the root is kept short, and a tag's equals signs few, because Qt compares each attribute that is
+// declared or given with each other one before it hands out any; namespaces are few because it
+// looks each prefix up in all that are open.
 constexpr int MaximumRecords = 1000000;
 constexpr int MaximumDepth = 100;
 constexpr int MaximumAttributes = 100;
-constexpr int MaximumTokenSize = 256 * 1024;
-constexpr int MaximumRecordSize = 128 * 1024;
+constexpr int MaximumNamespaces = 100;
+constexpr int MaximumOuterTokenSize = 64 * 1024;
+constexpr int MaximumTokenSize = 2 * 1024 * 1024;
+constexpr int MaximumRecordSize = 1024 * 1024;
+constexpr int MaximumTokenEquals = 4000;
+constexpr int MaximumTextEquals = 400;
 
 constexpr int EscapeLength = 6;
 constexpr int EscapeDigits = 4;
@@ -33,6 +39,11 @@ constexpr int Hexadecimal = 16;
 
 constexpr char VersionAttribute[] = "version";
 constexpr char UnitsAttribute[] = "units";
+
+bool HasManyEquals(const QString& text)
+{
+    return text.size() > MaximumTextEquals && text.count(QLatin1Char('=')) > MaximumTextEquals;
+}
 
 /// True for what may stand in the file as it is, where @p text holds it at @p i.
 bool IsPlain(const QString& text, int i)
@@ -45,18 +56,23 @@ bool IsPlain(const QString& text, int i)
     return c.unicode() >= 0x20 && c != QLatin1Char('\\') && c.unicode() < 0xFFFE;
 }
 
-/// Writes what XML cannot hold or would change, and the backslash itself, as \uXXXX.
+/// Writes what XML cannot hold or would change, the backslash itself, and a great many equals signs
+/// as \uXXXX.
 QString Escaped(const QString& text)
 {
+    const bool isEqualsPlain = !HasManyEquals(text);
+    const auto isPlain = [&text, isEqualsPlain](int i) {
+        return IsPlain(text, i) && (isEqualsPlain || text[i] != QLatin1Char('='));
+    };
     int i = 0;
-    while (i < text.size() && IsPlain(text, i))
+    while (i < text.size() && isPlain(i))
         ++i;
     if (i == text.size())
         return text;
 
     QString escaped = text.left(i);
     for (; i < text.size(); ++i) {
-        if (IsPlain(text, i))
+        if (isPlain(i))
             escaped += text[i];
         else
             escaped += QStringLiteral("\\u%1").arg(text[i].unicode(), EscapeDigits, Hexadecimal,
@@ -93,6 +109,8 @@ QString Unescaped(const QString& text)
 }
 
 /// Hands a file's content to the parser and stops where a single tag or text takes too much of it.
+/// Bytes are counted, whatever the encoding: in UTF-16 also some that are half of another
+/// character.
 class BoundedInput : public QIODevice
 {
 public:
@@ -103,17 +121,23 @@ public:
     }
 
     /// To be called after every token.
-    void StartToken() { m_tokenStart = m_position; }
+    void StartToken(bool isInRoot)
+    {
+        m_tokenLimit = isInRoot ? MaximumTokenSize : MaximumOuterTokenSize;
+        m_tokenStart = m_position;
+        m_tokenEquals = 0;
+    }
 
     bool isSequential() const override { return true; }
 
 protected:
     qint64 readData(char* data, qint64 size) override
     {
-        if (m_position - m_tokenStart > MaximumTokenSize)
+        if (m_position - m_tokenStart > m_tokenLimit || m_tokenEquals > MaximumTokenEquals)
             return -1;
         const int count = int(std::min<qint64>(size, m_content.size() - m_position));
         std::memcpy(data, m_content.constData() + m_position, std::size_t(count));
+        m_tokenEquals += int(std::count(data, data + count, '='));
         m_position += count;
         return count;
     }
@@ -123,7 +147,9 @@ protected:
 private:
     const QByteArray& m_content;
     int m_position = 0;
+    int m_tokenLimit = MaximumOuterTokenSize;
     int m_tokenStart = 0;
+    int m_tokenEquals = 0;
 };
 
 class RecordReader
@@ -144,6 +170,7 @@ public:
 
 private:
     int FieldOf(const QStringRef& name, int likely) const;
+    bool IsBounded();
     bool ReadRoot();
     bool ReadRecord(const std::function<bool(std::vector<QString>&)>& take);
 
@@ -153,6 +180,7 @@ private:
     std::vector<QString> m_texts;
     std::vector<QString> m_last; ///< The texts as they stood in the record before.
     int m_records = 0;
+    int m_namespaces = 0;
     bool m_isFull = true;
 };
 
@@ -172,12 +200,10 @@ XmlReading RecordReader::Read(const std::function<bool(std::vector<QString>&)>& 
 {
     int depth = 0;
     while (!m_xml.atEnd()) {
-        const QXmlStreamReader::TokenType token = m_xml.readNext();
-        m_input.StartToken();
-        switch (token) {
+        switch (m_xml.readNext()) {
         case QXmlStreamReader::StartElement: {
             ++depth;
-            if (depth > MaximumDepth || m_xml.attributes().size() > MaximumAttributes)
+            if (depth > MaximumDepth || !IsBounded())
                 return XmlReading::Refused;
             const bool isRecord =
                 depth == 2 && m_xml.namespaceUri().isEmpty() && m_xml.name() == m_format.record;
@@ -207,10 +233,18 @@ XmlReading RecordReader::Read(const std::function<bool(std::vector<QString>&)>& 
         case QXmlStreamReader::EndDocument:
             break;
         }
+        m_input.StartToken(depth > 0);
     }
     if (m_xml.hasError())
         return XmlReading::Refused;
     return m_isFull ? XmlReading::Fully : XmlReading::Partly;
+}
+
+/// False when the start tag holds more than any of ours.
+bool RecordReader::IsBounded()
+{
+    m_namespaces += m_xml.namespaceDeclarations().size();
+    return m_namespaces <= MaximumNamespaces && m_xml.attributes().size() <= MaximumAttributes;
 }
 
 bool RecordReader::ReadRoot()
@@ -281,15 +315,6 @@ bool WriteRecords(const XmlFormat& format, QByteArray& content,
     }
     xml.writeEndDocument();
     return !xml.hasError();
-}
-
-bool AreDistinct(const QVector<QString>& names)
-{
-    QSet<QString> distinct;
-    distinct.reserve(names.size());
-    for (const QString& name : names)
-        distinct.insert(name);
-    return distinct.size() == names.size();
 }
 
 QString ToText(double number)

@@ -36,9 +36,6 @@ XmlReading ReadRecords(const XmlFormat& format, const QByteArray& content,
 bool WriteRecords(const XmlFormat& format, QByteArray& content,
                   const std::function<bool(std::vector<QString>& texts)>& next);
 
-/// True when no two of @p names are the same.
-bool AreDistinct(const QVector<QString>& names);
-
 /// A number with all its digits and the full stop; ToNumber() gives exactly it back.
 QString ToText(double number);
 

@@ -1,5 +1,6 @@
 #include "CAnalysisTypeGUI.h"
 #include "DialogFacts.h"
+#include "Heap.h"
 #include "ModalDriver.h"
 #include "TestCase.h"
 
@@ -70,6 +71,7 @@ private Q_SLOTS:
     void TabFollowsReadingOrder();
     void EnterConfirmsFromEverywhere_data();
     void EnterConfirmsFromEverywhere();
+    void OpeningAThousandTimesTakesNoMemory();
 };
 
 void tst_CAnalysisTypeGUI::TheFormIsAsGiven_data()
@@ -447,6 +449,16 @@ void tst_CAnalysisTypeGUI::EnterConfirmsFromEverywhere()
     dialog.exec();
     QVERIFY(user.IsDone());
     QCOMPARE(SolverType(dialog), Pair(1, 2));
+}
+
+void tst_CAnalysisTypeGUI::OpeningAThousandTimesTakesNoMemory()
+{
+    const std::ptrdiff_t growth = HeapGrowth([] {
+        CAnalysisTypeGUI dialog(nullptr);
+        dialog.show();
+        dialog.close();
+    });
+    QVERIFY2(growth < 16 * 1000, qPrintable(QString::number(growth)));
 }
 
 TARN_TEST_MAIN(tst_CAnalysisTypeGUI)

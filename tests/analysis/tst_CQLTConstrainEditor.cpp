@@ -2,6 +2,7 @@
 #include "CQLTConstrainEditor.h"
 #include "DialogFacts.h"
 #include "EmptyAttributeNames.h"
+#include "Heap.h"
 #include "ModalDriver.h"
 #include "TestCase.h"
 
@@ -71,6 +72,7 @@ private Q_SLOTS:
     void EnterConfirmsFromEverywhere_data();
     void EnterConfirmsFromEverywhere();
     void SpaceTurnsABoxAndPressesCancel();
+    void OpeningAThousandTimesTakesNoMemory();
 };
 
 void tst_CQLTConstrainEditor::TheFormIsAsGiven_data()
@@ -486,6 +488,16 @@ void tst_CQLTConstrainEditor::SpaceTurnsABoxAndPressesCancel()
     });
     QCOMPARE(editor.exec(), int(QDialog::Rejected));
     QVERIFY(user.IsDone());
+}
+
+void tst_CQLTConstrainEditor::OpeningAThousandTimesTakesNoMemory()
+{
+    const std::ptrdiff_t growth = HeapGrowth([] {
+        CQLTConstrainEditor editor(nullptr);
+        editor.show();
+        editor.close();
+    });
+    QVERIFY2(growth < 16 * 1000, qPrintable(QString::number(growth)));
 }
 
 TARN_TEST_MAIN(tst_CQLTConstrainEditor)

@@ -2,6 +2,7 @@
 #include "CQLTLoadForceEditor.h"
 #include "DialogFacts.h"
 #include "EmptyAttributeNames.h"
+#include "Heap.h"
 #include "ModalDriver.h"
 #include "TestCase.h"
 
@@ -107,6 +108,7 @@ private Q_SLOTS:
     void TabFollowsReadingOrder();
     void EnterConfirmsFromEverywhere_data();
     void EnterConfirmsFromEverywhere();
+    void OpeningAThousandTimesTakesNoMemory();
 };
 
 void tst_CQLTLoadForceEditor::TheFormIsAsGiven_data()
@@ -728,6 +730,16 @@ void tst_CQLTLoadForceEditor::EnterConfirmsFromEverywhere()
     QCOMPARE(editor.exec(), int(QDialog::Accepted));
     QVERIFY(user.IsDone());
     CompareRecord(editor.GetLoadForceData(), {"Default", 1, 1000.0, 0.0, 0.0});
+}
+
+void tst_CQLTLoadForceEditor::OpeningAThousandTimesTakesNoMemory()
+{
+    const std::ptrdiff_t growth = HeapGrowth([] {
+        CQLTLoadForceEditor editor(nullptr);
+        editor.show();
+        editor.close();
+    });
+    QVERIFY2(growth < 16 * 1000, qPrintable(QString::number(growth)));
 }
 
 TARN_TEST_MAIN(tst_CQLTLoadForceEditor)

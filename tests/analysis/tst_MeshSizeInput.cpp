@@ -1,4 +1,5 @@
 #include "DialogFacts.h"
+#include "Heap.h"
 #include "MeshSizeInput.h"
 #include "ModalDriver.h"
 #include "TestCase.h"
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void TabFollowsReadingOrder();
     void EnterConfirmsFromEverywhere_data();
     void EnterConfirmsFromEverywhere();
+    void OpeningAThousandTimesTakesNoMemory();
 };
 
 void tst_MeshSizeInput::TheFormIsAsGiven_data()
@@ -269,6 +271,16 @@ void tst_MeshSizeInput::EnterConfirmsFromEverywhere()
     });
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     QVERIFY(user.IsDone());
+}
+
+void tst_MeshSizeInput::OpeningAThousandTimesTakesNoMemory()
+{
+    const std::ptrdiff_t growth = HeapGrowth([] {
+        MeshSizeInput dialog(0.25, nullptr);
+        dialog.show();
+        dialog.close();
+    });
+    QVERIFY2(growth < 16 * 1000, qPrintable(QString::number(growth)));
 }
 
 TARN_TEST_MAIN(tst_MeshSizeInput)

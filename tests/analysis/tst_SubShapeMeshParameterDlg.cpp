@@ -1,4 +1,5 @@
 #include "DialogFacts.h"
+#include "Heap.h"
 #include "ModalDriver.h"
 #include "SubShapeMeshParameterDlg.h"
 #include "TestCase.h"
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void TheDialogIsLeft();
     void TheHostWorksWithTheForm();
     void TabFollowsReadingOrder();
+    void OpeningAThousandTimesTakesNoMemory();
 };
 
 void tst_SubShapeMeshParameterDlg::TheFormIsAsGiven_data()
@@ -199,6 +201,16 @@ void tst_SubShapeMeshParameterDlg::TabFollowsReadingOrder()
     SubShapeMeshParameterDlg dialog(nullptr);
     QCOMPARE(TabOrder(dialog), QStringList({"lineEdit_MeshSize", "lineEdit_MeshNumber",
                                             "pushButton_OK", "pushButton_Cancel"}));
+}
+
+void tst_SubShapeMeshParameterDlg::OpeningAThousandTimesTakesNoMemory()
+{
+    const std::ptrdiff_t growth = HeapGrowth([] {
+        SubShapeMeshParameterDlg dialog(nullptr);
+        dialog.show();
+        dialog.close();
+    });
+    QVERIFY2(growth < 16 * 1000, qPrintable(QString::number(growth)));
 }
 
 TARN_TEST_MAIN(tst_SubShapeMeshParameterDlg)

@@ -1,5 +1,6 @@
 #include "DialogFacts.h"
 #include "FrequencyPref.h"
+#include "Heap.h"
 #include "ModalDriver.h"
 #include "TestCase.h"
 #include "frequencySetting.h"
@@ -102,6 +103,7 @@ private Q_SLOTS:
     void TabFollowsReadingOrder();
     void EnterConfirmsFromEverywhere_data();
     void EnterConfirmsFromEverywhere();
+    void OpeningAThousandTimesTakesNoMemory();
 };
 
 void tst_frequencySetting::TheFormIsAsGiven_data()
@@ -544,6 +546,16 @@ void tst_frequencySetting::EnterConfirmsFromEverywhere()
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     QVERIFY(user.IsDone());
     CompareSweep(Stored(), {2.0, 3.0, 4});
+}
+
+void tst_frequencySetting::OpeningAThousandTimesTakesNoMemory()
+{
+    const std::ptrdiff_t growth = HeapGrowth([] {
+        frequencySetting dialog(nullptr);
+        dialog.show();
+        dialog.close();
+    });
+    QVERIFY2(growth < 16 * 1000, qPrintable(QString::number(growth)));
 }
 
 TARN_TEST_MAIN(tst_frequencySetting)

@@ -8,6 +8,10 @@
 #include <QString>
 #include <QTest>
 
+#include <sys/resource.h>
+
+#include <csignal>
+
 /// What the tests of the XML files share.
 
 inline void Put(const QString& path, const QByteArray& content)
@@ -42,6 +46,30 @@ inline QString Complaints(const QString& file, const QString& schema)
     return xmllint.exitCode() == 0 ? QString() : QString::fromUtf8(xmllint.readAll());
 }
 
+/// Rows of contents that the schema refuses, made of the root @p root and the record @p record.
+inline void AddUnfitRows(const QByteArray& root, const QByteArray& units, const QByteArray& record)
+{
+    QTest::addColumn<QByteArray>("content");
+    const QByteArray start = "<" + root + " version=\"1\" units=\"" + units + "\">";
+    const QByteArray end = "</" + root + ">";
+    const QByteArray one = "<" + record + " name=\"a\"/>";
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("truncated") << start + one;
+    QTest::newRow("another root") << "<x version=\"1\" units=\"" + units + "\">" + one + "</x>";
+    QTest::newRow("newer version")
+        << "<" + root + " version=\"2\" units=\"" + units + "\">" + one + end;
+    QTest::newRow("no version") << "<" + root + " units=\"" + units + "\">" + one + end;
+    QTest::newRow("other units") << "<" + root + " version=\"1\" units=\"inch\">" + one + end;
+    QTest::newRow("no units") << "<" + root + " version=\"1\">" + one + end;
+    QTest::newRow("record without a name") << start + "<" + record + "/>" + end;
+    QTest::newRow("a name twice") << start + one + one + end;
+    QTest::newRow("unknown element") << start + "<x/>" + end;
+    QTest::newRow("element in a record")
+        << start + "<" + record + " name=\"a\"><x/></" + record + ">" + end;
+    QTest::newRow("unknown attribute") << start + "<" + record + " name=\"a\" x=\"\"/>" + end;
+    QTest::newRow("text") << start + "text" + end;
+}
+
 /// Rows of texts that are hard to keep in XML.
 inline void AddTextRows()
 {
@@ -71,8 +99,41 @@ inline void AddTextRows()
         << QString(QChar(0xD83D)) + QStringLiteral("\U0001F529") + QChar(0xDD29);
     QTest::newRow("backslashes") << "C:\\u0041\\\\n\\";
     QTest::newRow("what an escape looks like") << "\\u000a";
+    QTest::newRow("equals signs") << "a=b c='d'";
+    QTest::newRow("very many equals signs") << QString(100000, '=');
     QTest::newRow("100,000 characters") << QString(100000, 'x');
 }
+
+/// The text as UTF-16 of this machine, without a byte order mark.
+inline QByteArray ToUtf16(const QByteArray& text)
+{
+    const QString wide = QString::fromUtf8(text);
+    return {reinterpret_cast<const char*>(wide.utf16()), wide.size() * int(sizeof(QChar))};
+}
+
+/// Lets no file grow beyond a size, while it lives: a full disk, as a writer sees it.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t size)
+        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{size, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    void (*m_handler)(int);
+    rlimit m_before{};
+};
 
 /// Rows of contents that both readers refuse, made of the root @p root and the record @p record.
 inline void AddRefusedRows(const QByteArray& root, const QByteArray& units,
@@ -92,8 +153,14 @@ inline void AddRefusedRows(const QByteArray& root, const QByteArray& units,
         parameterBomb += "<!ENTITY % " + name + " \"" + ("%" + before + ";").repeated(10) + "\">";
     }
     QByteArray manyAttributes = "<" + record + " name=\"new\"";
-    for (int i = 0; i < 100000; ++i)
-        manyAttributes += " a" + QByteArray::number(i) + "=\"\"";
+    QByteArray manyNamespaces;
+    QByteArray manyDeclarations = "<!DOCTYPE x [<!ATTLIST x";
+    for (int i = 0; i < 100000; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        manyAttributes += " a" + number + "=\"\"";
+        manyNamespaces += "<x xmlns:p" + number + "=\"u\">";
+        manyDeclarations += " a" + number + " CDATA \"\"";
+    }
 
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("only blanks") << QByteArray("  \n");
@@ -135,6 +202,36 @@ inline void AddRefusedRows(const QByteArray& root, const QByteArray& units,
     QTest::newRow("huge comment") << start + "<!--" + QByteArray(20000000, 'x') + "-->" + end;
     QTest::newRow("huge element name") << start + "<" + QByteArray(20000000, 'x');
     QTest::newRow("very many attributes") << start + manyAttributes + "/>" + end;
+    QTest::newRow("very many attributes in 16 bits")
+        << "\xff\xfe" + ToUtf16(start + manyAttributes + "/>" + end);
+    QTest::newRow("more attributes than any record")
+        << start + manyAttributes.left(manyAttributes.indexOf(" a2000=")) + "/>" + end;
+    QTest::newRow("more namespaces than any file")
+        << start + "<x" + QByteArray(manyNamespaces).replace("<x", "").replace('>', "") + "/>" +
+               end;
+    QTest::newRow("many open namespaces")
+        << start + manyNamespaces.left(manyNamespaces.indexOf("<x xmlns:p99=")) +
+               "<x xmlns:q=\"u\" xmlns:r=\"u\"/>" + QByteArray("</x>").repeated(99) + end;
+    QTest::newRow("many namespaces one after the other")
+        << start + QByteArray("<x xmlns:p=\"u\"/>").repeated(101) + end;
+    QTest::newRow("very many declared attributes") << manyDeclarations + ">]>" + start + one + end;
+    QTest::newRow("zero in a name") << start + "<" + record + " name=\"a" + '\0' + "\"/>" + end;
+    QTest::newRow("zero in a tag") << start + "<" + record + '\0' + " name=\"a\"/>" + end;
+    QTest::newRow("zero as text") << start + '\0' + end;
+    QTest::newRow("zeros after the end") << start + one + end + QByteArray(4096, '\0');
+    QTest::newRow("zeros for the end") << start + one + QByteArray(4096, '\0');
+    QTest::newRow("zero as a reference") << start + "<" + record + " name=\"&#0;\"/>" + end;
+    QTest::newRow("half a pair in 8 bits")
+        << start + "<" + record + " name=\"\xed\xa0\xbd\"/>" + end;
+    QTest::newRow("half a pair as a reference")
+        << start + "<" + record + " name=\"&#xD83D;\"/>" + end;
+    QTest::newRow("half a code unit in 16 bits") << "\xff\xfe" + ToUtf16(start + one).chopped(1);
+    QTest::newRow("unknown encoding")
+        << "<?xml version=\"1.0\" encoding=\"x-none\"?>" + start + one + end;
+    QTest::newRow("wrong encoding")
+        << "<?xml version=\"1.0\" encoding=\"UTF-16\"?>" + start + one + end;
+    QTest::newRow("external entity")
+        << "<!DOCTYPE x [<!ENTITY e SYSTEM \"file:///etc/passwd\">]>" + start + "&e;" + end;
     QTest::newRow("very many records")
         << start + ("<" + record + " name=\"\"/>").repeated(1000001) + end;
 }

@@ -85,6 +85,8 @@ private Q_SLOTS:
     void AnyTextReadsBackExactly();
     void AnyTextReadsBackExactly_data();
     void AWrittenFileFitsItsSchema();
+    void TheSchemaRefusesWhatIsUnfit();
+    void TheSchemaRefusesWhatIsUnfit_data();
     void ARefusedFileChangesNothing();
     void ARefusedFileChangesNothing_data();
     void WhatIsNotAFileIsRefused();
@@ -96,6 +98,8 @@ private Q_SLOTS:
     void AFileReadInFullIsReplaced();
     void AFileReadTwiceIsReplaced();
     void ClearingForgetsWhatWasRead();
+    void AFullDiskIsToldAndLeavesTheOldFile();
+    void AsMuchAsLineEditsHoldIsWritten();
     void AFileChangedSinceItWasReadIsKept();
     void ManyMaterialsReadBack();
     void TheCorpusIsReadOrRefused();
@@ -450,9 +454,19 @@ void tst_KVMaterialData::AWrittenFileFitsItsSchema()
     QCOMPARE(Store().WriteXML(UserFile), 0);
     QCOMPARE(Complaints("UserMaterial.xml", "Materials.xsd"), QString());
     QVERIFY(ContentOf("UserMaterial.xml").startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
+}
 
-    Put("wrong.xml", File("<Material/>"));
-    QVERIFY(!Complaints("wrong.xml", "Materials.xsd").isEmpty());
+void tst_KVMaterialData::TheSchemaRefusesWhatIsUnfit_data()
+{
+    AddUnfitRows("Materials", "SI", "Material");
+}
+
+void tst_KVMaterialData::TheSchemaRefusesWhatIsUnfit()
+{
+    Start();
+    QFETCH(QByteArray, content);
+    Put("unfit.xml", content);
+    QVERIFY(!Complaints("unfit.xml", "Materials.xsd").isEmpty());
 }
 
 void tst_KVMaterialData::ARefusedFileChangesNothing_data()
@@ -505,7 +519,7 @@ void tst_KVMaterialData::ATextTooLongToBeReadIsNotWritten()
     Start();
     QCOMPARE(Store().WriteXML(UserFile), 0);
     const QByteArray before = ContentOf("UserMaterial.xml");
-    Store().AddMaterialInfo(Record(QString(200000, 'x')));
+    Store().AddMaterialInfo(Record(QString(2000000, 'x')));
     QVERIFY(Store().WriteXML(UserFile) != 0);
     QCOMPARE(ContentOf("UserMaterial.xml"), before);
 }
@@ -609,6 +623,42 @@ void tst_KVMaterialData::AFileChangedSinceItWasReadIsKept()
     QCOMPARE(ContentOf(copies.first()), changed);
 }
 
+void tst_KVMaterialData::AFullDiskIsToldAndLeavesTheOldFile()
+{
+    Start();
+    Store().AddMaterialInfo(Record("a"));
+    QCOMPARE(Store().WriteXML(UserFile), 0);
+    const QByteArray before = ContentOf("UserMaterial.xml");
+    Store().AddMaterialInfo(Record("b"));
+    {
+        // Less than the buffer of a file: only its flush fails.
+        const FullDisk full(rlim_t(before.size()));
+        QVERIFY(Store().WriteXML(UserFile) != 0);
+    }
+    QCOMPARE(ContentOf("UserMaterial.xml"), before);
+    QCOMPARE(Store().WriteXML(UserFile), 0);
+    QVERIFY(ContentOf("UserMaterial.xml") != before);
+    QCOMPARE(CopiesOf("UserMaterial.xml"), QStringList());
+}
+
+void tst_KVMaterialData::AsMuchAsLineEditsHoldIsWritten()
+{
+    Start();
+    // What a line edit takes, each character the longest in the file.
+    const QString full(32767, '\\');
+    KVMaterialInfo* const written = Record(full);
+    written->m_strElasticModulus = full;
+    written->m_strPoisson = full;
+    written->m_strDensity = full;
+    Store().AddMaterialInfo(written);
+    QCOMPARE(Store().WriteXML(UserFile), 0);
+    Store().ClearInfo();
+    QCOMPARE(Store().ReadXML(UserFile, MATERIAL_USER), 0);
+    const KVMaterialInfo& read = *Store().GetMaterialInfo(full);
+    QCOMPARE(read.m_strElasticModulus, full);
+    QCOMPARE(read.m_strDensity, full);
+}
+
 void tst_KVMaterialData::ManyMaterialsReadBack()
 {
     Start();
@@ -653,6 +703,11 @@ void tst_KVMaterialData::TheSystemLibraryIsComplete()
              0);
     QVERIFY(Store().MapDataRow() >= 40);
     const QStringList names = Store().GetMaterialNameList();
+    for (const char* const kind :
+         {"Steel ", "Stainless steel ", "Cast iron ", "Aluminium ", "Titanium ", "Nickel ",
+          "Copper ", "Brass ", "PA 66", "PE-HD", "CFRP", "GFRP", "Glass", "Concrete ", "Wood"})
+        QVERIFY2(!QStringList(names).filter(QRegularExpression(QString("^") + kind)).isEmpty(),
+                 kind);
     for (const QString& name : names) {
         const KVMaterialInfo& record = *Store().GetMaterialInfo(name);
         const double modulus = record.m_strLibElasticModulus.toDouble();

@@ -85,6 +85,8 @@ private Q_SLOTS:
     void ReadingAgainDoesNotUndoWhatMemoryHolds();
     void WhatIsMissingHasItsDefault();
     void AWrittenFileFitsItsSchema();
+    void TheSchemaRefusesWhatIsUnfit();
+    void TheSchemaRefusesWhatIsUnfit_data();
     void ARefusedFileChangesNothing();
     void ARefusedFileChangesNothing_data();
     void ANumberThatIsNoneIsRefused();
@@ -94,7 +96,11 @@ private Q_SLOTS:
     void AFileNotReadIsKeptAsACopy();
     void AFileNotReadIsKeptAsACopy_data();
     void AFileReadIsReplaced();
+    void WhatMemoryHoldsOtherwiseIsKeptAsACopy();
+    void AFileReplacedSinceItWasReadIsKept();
     void ClearingForgetsWhatWasRead();
+    void AFullDiskIsToldAndLeavesTheOldFile();
+    void AsMuchAsLineEditsHoldIsWritten();
     void ManyPropertiesReadBack();
     void TheCorpusIsReadOrRefused();
     void TheCorpusIsReadOrRefused_data();
@@ -364,9 +370,25 @@ void tst_KVPropertyData::AWrittenFileFitsItsSchema()
     Store().AddPropInfo(Record(""));
     QCOMPARE(Store().WriteXML(PropertyFile), 0);
     QCOMPARE(Complaints("ElementProperty.xml", "ElementProperties.xsd"), QString());
+}
 
-    Put("wrong.xml", File("<ElementProperty/>"));
-    QVERIFY(!Complaints("wrong.xml", "ElementProperties.xsd").isEmpty());
+void tst_KVPropertyData::TheSchemaRefusesWhatIsUnfit_data()
+{
+    AddUnfitRows("ElementProperties", "model", "ElementProperty");
+    QTest::newRow("thickness of letters")
+        << File("<ElementProperty name=\"a\" thickness=\"thick\"/>");
+    QTest::newRow("type code with a point")
+        << File("<ElementProperty name=\"a\" typeCode=\"2.5\"/>");
+    QTest::newRow("reserved too large")
+        << File("<ElementProperty name=\"a\" reserved=\"9223372036854775808\"/>");
+}
+
+void tst_KVPropertyData::TheSchemaRefusesWhatIsUnfit()
+{
+    Start();
+    QFETCH(QByteArray, content);
+    Put("unfit.xml", content);
+    QVERIFY(!Complaints("unfit.xml", "ElementProperties.xsd").isEmpty());
 }
 
 void tst_KVPropertyData::ARefusedFileChangesNothing_data()
@@ -469,6 +491,43 @@ void tst_KVPropertyData::AFileReadIsReplaced()
     QCOMPARE(CopiesOf("ElementProperty.xml"), QStringList());
 }
 
+void tst_KVPropertyData::WhatMemoryHoldsOtherwiseIsKeptAsACopy()
+{
+    Start();
+    Put("ElementProperty.xml", File(Line("a", "1")));
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    Find("a")->m_dThickness = 2.0;
+    // The user's own edit of what was read loses nothing of others.
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    QCOMPARE(CopiesOf("ElementProperty.xml"), QStringList());
+
+    // Somebody else's value, which memory does not take over, does not get lost either.
+    const QByteArray foreign = File(Line("a", "3"));
+    Put("ElementProperty.xml", foreign);
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    QCOMPARE(Contents(), QStringList("a:a:2"));
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    const QStringList copies = CopiesOf("ElementProperty.xml");
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(ContentOf(copies.first()), foreign);
+}
+
+void tst_KVPropertyData::AFileReplacedSinceItWasReadIsKept()
+{
+    Start();
+    Put("ElementProperty.xml", File(Line("a", "1")));
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    const QByteArray foreign = File(Line("b", "2"));
+    Put("other.xml", foreign);
+    QVERIFY(QFile::remove("ElementProperty.xml"));
+    QVERIFY(QFile::rename("other.xml", "ElementProperty.xml"));
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    const QStringList copies = CopiesOf("ElementProperty.xml");
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(ContentOf(copies.first()), foreign);
+}
+
 void tst_KVPropertyData::ClearingForgetsWhatWasRead()
 {
     Start();
@@ -477,6 +536,40 @@ void tst_KVPropertyData::ClearingForgetsWhatWasRead()
     Store().Clear();
     QCOMPARE(Store().WriteXML(PropertyFile), 0);
     QCOMPARE(CopiesOf("ElementProperty.xml").size(), 1);
+}
+
+void tst_KVPropertyData::AFullDiskIsToldAndLeavesTheOldFile()
+{
+    Start();
+    Store().AddPropInfo(Record("a"));
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    const QByteArray before = ContentOf("ElementProperty.xml");
+    Store().AddPropInfo(Record("b"));
+    {
+        // Less than the buffer of a file: only its flush fails.
+        const FullDisk full(rlim_t(before.size()));
+        QVERIFY(Store().WriteXML(PropertyFile) != 0);
+    }
+    QCOMPARE(ContentOf("ElementProperty.xml"), before);
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    QVERIFY(ContentOf("ElementProperty.xml") != before);
+    QCOMPARE(CopiesOf("ElementProperty.xml"), QStringList());
+}
+
+void tst_KVPropertyData::AsMuchAsLineEditsHoldIsWritten()
+{
+    Start();
+    // What a line edit takes, each character the longest in the file.
+    const QString full(32767, '\\');
+    CQLTElemPropDef* const written = Record(full);
+    written->m_strMaterialName = full;
+    written->m_strTypeName = full;
+    Store().AddPropInfo(written);
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    Store().Clear();
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    QCOMPARE(Find(full)->m_strMaterialName, full);
+    QCOMPARE(Find(full)->m_strTypeName, full);
 }
 
 void tst_KVPropertyData::ManyPropertiesReadBack()
