@@ -12,6 +12,9 @@ target_link_libraries(TarnGUICommonObjects PUBLIC Qt5::Core Qt5::Gui Qt5::Widget
 set(TARN_DIALOG_INCLUDES "${PROJECT_BINARY_DIR}/forms" "${PROJECT_BINARY_DIR}/exports")
 foreach(folder common design analysis geometry solver)
   list(APPEND TARN_DIALOG_INCLUDES "${PROJECT_SOURCE_DIR}/${folder}")
+  # A class that is added there must be seen by moc, which looks at this folder's list files only.
+  set_property(TARGET TarnGUICommonObjects APPEND PROPERTY AUTOGEN_TARGET_DEPENDS
+                                                           "${PROJECT_SOURCE_DIR}/${folder}/CMakeLists.txt")
 endforeach()
 target_include_directories(TarnGUICommonObjects PUBLIC ${TARN_DIALOG_INCLUDES})
 target_include_directories(TarnGUICommonObjects SYSTEM PUBLIC "${OpenCASCADE_INCLUDE_DIR}")

@@ -5,7 +5,7 @@ include(GenerateExportHeader)
 # What the four shared libraries have in common: export header, version, hidden symbols, no undefined
 # symbols, and their part of the package. Public headers are installed flat, one per class.
 function(tarn_finish_library target)
-  cmake_parse_arguments(arg "" "EXPORT_BASE" "HEADERS" ${ARGN})
+  cmake_parse_arguments(arg "" "" "HEADERS" ${ARGN})
   add_library(TarnGUICommon::${target} ALIAS ${target})
   string(TOLOWER ${target} lower)
   generate_export_header(${target} EXPORT_FILE_NAME "${PROJECT_BINARY_DIR}/exports/${lower}_export.h")

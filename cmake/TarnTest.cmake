@@ -7,7 +7,8 @@ add_custom_command(
   VERBATIM)
 add_custom_target(TarnTestLocales ALL DEPENDS "${TARN_TEST_LOCALES}/de_DE.UTF-8/LC_NUMERIC")
 
-# tarn_test(<class> [INTERNAL] [WINDOW_SYSTEM] [TIMEOUT <seconds>] [LIBRARIES <target>...])
+# tarn_test(<class> [INTERNAL] [WINDOW_SYSTEM] [TIMEOUT <seconds>] [LIBRARIES <target>...]
+#           [DEFINITIONS <definition>...])
 #
 # One test program for one class: tst_<class>.cpp beside the caller. It runs offscreen, with
 # WINDOW_SYSTEM under Xvfb. INTERNAL tests what the dialog library does not export, by linking its

@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTableWidgetItem>
@@ -35,18 +36,22 @@ std::map<int, std::vector<double>> g_mapLevelValues;
 std::vector<double> g_vecCurrentRun;
 int g_nRunCounter = 1;
 
-// The product of the lists' lengths; any number above the limit stands for all of them.
-int RunCount(const std::map<int, std::vector<double>>& levels)
+// Keeps the run table at some 2 GB at most. Only parameters with a single sample can bring so many
+// columns that this limit is reached before that of the runs.
+constexpr std::size_t MaximumCells = 20 * std::size_t(DOEDlg::MaximumRuns);
+
+// Whether the product of the lists' lengths is more than can be built; it may fit no number.
+bool IsTooMany(const std::map<int, std::vector<double>>& levels)
 {
-    std::size_t count = 1;
+    if (std::any_of(levels.begin(), levels.end(), [](const auto& l) { return l.second.empty(); }))
+        return false;
+    std::size_t runs = 1;
     for (const auto& level : levels) {
-        const std::size_t length = level.second.size();
-        if (length == 0)
-            return 0;
-        const bool tooMany = length > DOEDlg::MaximumRuns / count;
-        count = tooMany ? DOEDlg::MaximumRuns + 1 : count * length;
+        if (level.second.size() > DOEDlg::MaximumRuns / runs)
+            return true;
+        runs *= level.second.size();
     }
-    return int(count);
+    return runs * levels.size() > MaximumCells;
 }
 
 // Checked access: data that do not fit together end in these faults.
@@ -215,7 +220,7 @@ void DOEDlg::CollectAllRecord()
     g_nRunCounter = 1;
     g_vecCurrentRun.resize(std::size_t(m_nCheckedCount));
     m_mapRuns.clear();
-    const bool tooMany = RunCount(g_mapLevelValues) > MaximumRuns;
+    const bool tooMany = IsTooMany(g_mapLevelValues);
     if (!tooMany)
         CollectData(1, g_mapLevelValues[1]);
     FillFinalTable();
@@ -284,7 +289,12 @@ void DOEDlg::m_Slot_UpdateGeoemtry()
     const QTableWidget& table = *m_ui.tableWidget_Final;
     const int row = table.currentRow();
     if (row < 0) {
-        QMessageBox::information(this, tr("Warning"), tr("Select one row first"), QMessageBox::Ok);
+        // Not on the stack: the host may destroy the dialog, and with it the box, behind the box.
+        const QPointer<QMessageBox> box =
+            new QMessageBox(QMessageBox::Information, tr("Warning"), tr("Select one row first"),
+                            QMessageBox::Ok, this);
+        box->exec();
+        delete box;
         return;
     }
 

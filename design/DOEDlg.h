@@ -27,13 +27,16 @@ class TARNGUICOMMON_EXPORT DOEDlg : public QDialog
     Q_OBJECT
 
 public:
-    /// The most runs that are built; a larger product of samples is refused with a notice.
+    /// The most runs that are built; a larger product of samples is refused with a notice, and so
+    /// are more than 20 million cells.
     static constexpr int MaximumRuns = 1000000;
 
+    /// Shows the parameters of the store and the runs of the registry's ticks and samples.
     explicit DOEDlg(QWidget* parent);
     ~DOEDlg() override;
 
-    /// Enters a row for every parameter of the store, in the store's order.
+    /// Enters a row for every parameter of the store, in the store's order. To be called once: the
+    /// constructor does.
     void InitGUI();
 
     /// Shows the registry's ticks: the i-th record in name order on the i-th row.

@@ -30,15 +30,18 @@ Block* g_blocks = nullptr;
 Place* g_freePlaces = nullptr;
 std::size_t g_usedPlaces = 0;
 
-void AddBlock()
+// The first place of a new block, which leads to all others.
+Place* NewPlaces()
 {
     auto* const block = new Block;
     block->next = g_blocks;
     g_blocks = block;
+    Place* first = nullptr;
     for (Place& place : block->places) {
-        place.next = g_freePlaces;
-        g_freePlaces = &place;
+        place.next = first;
+        first = &place;
     }
+    return first;
 }
 
 void ReleaseBlocks()
@@ -53,7 +56,7 @@ void ReleaseBlocks()
 void* NumberItem::operator new(std::size_t)
 {
     if (g_freePlaces == nullptr)
-        AddBlock();
+        g_freePlaces = NewPlaces();
     ++g_usedPlaces;
     return std::exchange(g_freePlaces, g_freePlaces->next);
 }

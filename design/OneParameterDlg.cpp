@@ -5,6 +5,7 @@
 #include "NumberText.h"
 #include "sParaArrayData.h"
 
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTableWidgetItem>
@@ -92,10 +93,8 @@ void OneParameterDlg::done(int result)
 
 void OneParameterDlg::RefreshTableData()
 {
-    // A box takes the focus from the field, which then reports a finished edit once more.
     if (m_bKeepTable)
         return;
-    const QScopedValueRollback<bool> refreshing(m_bKeepTable, true);
 
     m_vecValues.clear();
     m_ui.tableWidget->setRowCount(0);
@@ -106,7 +105,7 @@ void OneParameterDlg::RefreshTableData()
     const double max = m_ui.lineEdit_Max->text().toDouble();
     const std::vector<double> samples = Samples(min, max, step);
     if (samples.empty()) {
-        tarn::ShowNotice(tr("Error"), tr("Check input data!"));
+        Refuse(tr("Check input data!"));
         return;
     }
 
@@ -118,7 +117,7 @@ void OneParameterDlg::RefreshTableData()
         m_nSampleType = LnType;
     } else if (m_ui.radioButton_Gauss->isChecked()) {
         m_nSampleType = GaussType;
-        tarn::ShowNotice(tr("Error"), tr("Not implement yet"));
+        Refuse(tr("Not implement yet"));
         return;
     } else {
         return;
@@ -131,6 +130,17 @@ void OneParameterDlg::RefreshTableData()
     int row = 0;
     for (const double x : samples)
         table.setItem(row++, 0, new NumberItem(SampleValue(m_nSampleType, x)));
+}
+
+void OneParameterDlg::Refuse(const QString& text)
+{
+    // The box takes the focus from the field, which then reports a finished edit once more. The
+    // host may destroy the dialog behind it.
+    const QPointer<OneParameterDlg> self = this;
+    m_bKeepTable = true;
+    tarn::ShowNotice(tr("Error"), text);
+    if (self != nullptr)
+        m_bKeepTable = false;
 }
 
 void OneParameterDlg::m_Slot_OK()

@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QPersistentModelIndex>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <QTableWidgetItem>
@@ -156,8 +157,13 @@ ParameterEditor::~ParameterEditor() = default;
 
 void ParameterEditor::m_Slot_Apply()
 {
+    // The host may destroy the editor behind a box.
+    const QPointer<ParameterEditor> self = this;
     UpdateAllParameterDef();
-    RefreshParameterData();
+    if (self != nullptr)
+        RefreshParameterData();
+    if (self == nullptr)
+        return;
     m_Slot_RefreshGUI();
     Q_EMIT m_Signal_Apply();
 }
@@ -181,8 +187,10 @@ void ParameterEditor::m_Slot_Add()
 
 void ParameterEditor::m_Slot_OK()
 {
+    const QPointer<ParameterEditor> self = this;
     m_Slot_Apply();
-    accept();
+    if (self != nullptr)
+        accept();
 }
 
 void ParameterEditor::m_Slot_Cancel()
@@ -219,7 +227,7 @@ void ParameterEditor::m_Slot_RefreshGUI()
 void ParameterEditor::m_Slot_NoNumber(QTableWidgetItem* item)
 {
     const QTableWidget& table = *m_ui.tableWidget;
-    if (table.currentColumn() != ValueColumn || tarn::IsNumberText(item->text()))
+    if (item == nullptr || table.currentColumn() != ValueColumn || tarn::IsNumberText(item->text()))
         return;
 
     // The host may rebuild the table behind the box: the cell is looked up again after it.
@@ -293,7 +301,8 @@ bool ParameterEditor::IsValidExpressPara(QString names)
 {
     // These texts stand as they are in every language.
     const QString error = QStringLiteral("Error");
-    for (const QString& name : names.split(Separator)) {
+    const QStringList parts = names.split(Separator);
+    for (const QString& name : parts) {
         if (name.isEmpty()) {
             tarn::ShowNotice(error, QStringLiteral("Please input parameters name for expression"));
         } else if (GlobalParaMeterMgr::m_nameMapParameters.count(name) == 0) {
@@ -310,7 +319,8 @@ bool ParameterEditor::IsValidExpressPara(QString names)
 double ParameterEditor::GetCurrParaValueByExprsion(ParametersDef def)
 {
     std::map<std::string, double> variables;
-    for (const QString& name : def.m_strExpressPara.split(Separator))
+    const QStringList names = def.m_strExpressPara.split(Separator);
+    for (const QString& name : names)
         variables[tarn::ToLocal8Bit(name)] = StoredNumber(name);
     return ExpressionEngine::CalculateExpress(def.m_strExpression, variables);
 }

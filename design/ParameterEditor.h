@@ -23,6 +23,7 @@ class TARNGUICOMMON_EXPORT ParameterEditor : public QDialog
     Q_OBJECT
 
 public:
+    /// The table is empty until m_Slot_RefreshGUI() runs.
     explicit ParameterEditor(QWidget* parent);
     ~ParameterEditor() override;
 
@@ -39,13 +40,15 @@ public Q_SLOTS:
     void m_Slot_Add();
     /// As m_Slot_Apply(), then accepts, also when a row was refused.
     void m_Slot_OK();
-    /// Rejects and closes; the store is left as it is.
+    /// Emits rejected() and closes, which emits it once more while the dialog is visible; the
+    /// store is left as it is.
     void m_Slot_Cancel();
     /// Called when a cell is pressed; does nothing.
     void m_Slot_ProcessExp();
     /// Rebuilds the table from the store, in the store's order.
     void m_Slot_RefreshGUI();
-    /// Refuses and clears a changed cell that is no plain number while "Value" is current.
+    /// While "Value" is the current column, refuses and clears a changed cell whose text holds more
+    /// than digits and full stops.
     void m_Slot_NoNumber(QTableWidgetItem* item);
 
 private:

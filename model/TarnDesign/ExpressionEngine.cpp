@@ -23,6 +23,7 @@ constexpr std::size_t MaxBytes = 4 * std::size_t(ExpressionTranslator::MaxCharac
 // a few long expressions take too much memory: it holds some 10,000 expressions of usual length.
 constexpr int BaseCost = 64;
 constexpr int MaxCost = 1 << 20;
+static_assert(BaseCost + MaxBytes < MaxCost, "every expression that is compiled can be kept");
 
 /// A compiled expression and the code page in which its text was read.
 struct KeptProgram
@@ -72,15 +73,10 @@ ExpressionProgram* Compile(const std::string& expression, ExpressionError& error
         return nullptr;
     }
     auto compiled = std::make_unique<KeptProgram>(std::move(*formula), codec);
-    ExpressionProgram* const program = &compiled->program;
     // The key is copied: the caller's bytes do not last.
     const QByteArray ownKey(expression.data(), int(expression.size()));
-    if (!KeptPrograms().insert(ownKey, compiled.release(), BaseCost + ownKey.size())) {
-        // Does not happen while MaxBytes fits into MaxCost.
-        error = ExpressionTranslator::TooLong();
-        return nullptr;
-    }
-    return program;
+    KeptPrograms().insert(ownKey, compiled.release(), BaseCost + ownKey.size());
+    return &KeptPrograms().object(ownKey)->program;
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cfenv>
 #include <cmath>
 #include <numeric>
 
@@ -12,6 +13,14 @@ namespace {
 double Sign(double value)
 {
     return double(value > 0.0) - double(value < 0.0);
+}
+
+// The angle between two values that are both too large is not known.
+double Angle(double y, double x)
+{
+    if (std::isinf(y) && std::isinf(x))
+        std::feraiseexcept(FE_INVALID);
+    return std::atan2(y, x);
 }
 
 double Sum(const double* values, int count)
@@ -69,7 +78,7 @@ constexpr ExpressionFunction Many(const char* name)
 constexpr std::array Functions = {
     One<std::fabs>("abs"),    One<std::acos>("acos"),   One<std::acosh>("acosh"),
     One<std::asin>("asin"),   One<std::asinh>("asinh"), One<std::atan>("atan"),
-    Two<std::atan2>("atan2"), One<std::atanh>("atanh"), Many<Average>("avg"),
+    Two<Angle>("atan2"),      One<std::atanh>("atanh"), Many<Average>("avg"),
     One<std::cbrt>("cbrt"),   One<std::ceil>("ceil"),   One<std::cos>("cos"),
     One<std::cosh>("cosh"),   One<std::exp>("exp"),     One<std::floor>("floor"),
     Two<std::hypot>("hypot"), One<std::log>("ln"),      One<std::log>("log"),

@@ -29,7 +29,7 @@ double Negative(double value)
 }
 
 // Lets nothing that happens in a calculation reach the host, and remembers what went wrong on the
-// way: an infinite or undefined intermediate value can vanish again, as in 1/(1/0).
+// way: an undefined intermediate value can vanish again, as in 1/(1/0).
 class FloatingPointWatch
 {
 public:
@@ -39,13 +39,15 @@ public:
     FloatingPointWatch& operator=(const FloatingPointWatch&) = delete;
 
     /// What is wrong with @p result or the way to it; empty when nothing is.
-    static QString Problem(double result)
+    static QString Problem(double result, bool compares)
     {
         if (std::fetestexcept(FE_INVALID) != 0)
             return QStringLiteral("an operation has no real result, such as 0/0 or sqrt(-1)");
         if (std::fetestexcept(FE_DIVBYZERO) != 0)
             return QStringLiteral("an operation has no finite result, such as 1/0 or ln(0)");
-        if (std::fetestexcept(FE_OVERFLOW) != 0 || !std::isfinite(result))
+        // A step that is too large for a double counts as infinite, which leads to the right end,
+        // as in 1/(1 + exp(1000)). Only two of them cannot be told apart in a comparison.
+        if (!std::isfinite(result) || (compares && std::fetestexcept(FE_OVERFLOW) != 0))
             return QStringLiteral("a number becomes too large");
         return QString();
     }
@@ -85,6 +87,7 @@ private:
 
 ExpressionProgram::ExpressionProgram(ExpressionFormula formula)
     : m_formula(std::move(formula))
+    , m_compares(m_formula.text.find_first_of("<>=") != std::string::npos)
     , m_parser(std::make_unique<Parser>(m_formula))
 {
 }
@@ -98,7 +101,7 @@ std::optional<double> ExpressionProgram::Evaluate(const std::map<std::string, do
         return std::nullopt;
     const FloatingPointWatch watch;
     const double result = m_parser->Eval();
-    const QString problem = watch.Problem(result);
+    const QString problem = watch.Problem(result, m_compares);
     if (problem.isEmpty())
         return result;
     error = {1, problem};

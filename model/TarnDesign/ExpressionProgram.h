@@ -27,5 +27,6 @@ private:
     bool Bind(const std::map<std::string, double>& variables, ExpressionError& error);
 
     ExpressionFormula m_formula;
+    bool m_compares;
     std::unique_ptr<Parser> m_parser; // Refers to the variables of the formula.
 };

@@ -1,4 +1,5 @@
 #include "DOEDlg.h"
+#include "DialogFacts.h"
 #include "EmptyDesignStores.h"
 #include "ModalDriver.h"
 #include "TestCase.h"
@@ -8,7 +9,6 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QMetaMethod>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -113,6 +113,7 @@ private Q_SLOTS:
     void TheSpacersStandInTheirGrids_data();
     void TheSpacersStandInTheirGrids();
     void TheWindowHasItsTitleAndSize();
+    void EveryTextIsTranslatable();
     void TheFontIsSetOnTheTabs();
     void TheTabsStandInTheirOrder();
     void TheTablesHaveTheirHeaders();
@@ -247,12 +248,31 @@ void tst_DOEDlg::TheWindowHasItsTitleAndSize()
 {
     const EmptyDesignStores stores;
     const DOEDlg dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QStringLiteral("DOEDlg"));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("DOE Dialog"));
-    QCOMPARE(dialog.size(), QSize(883, 595));
+    CompareWindow(dialog, "DOEDlg", "DOE Dialog", QSize(883, 595));
     QVERIFY(dialog.windowIcon().isNull());
-    QVERIFY(!dialog.isModal());
-    QVERIFY(!dialog.testAttribute(Qt::WA_DeleteOnClose));
+}
+
+void tst_DOEDlg::EveryTextIsTranslatable()
+{
+    const EmptyDesignStores stores;
+    AddParameters({"a"});
+    const TextRecorder recorder;
+    ModalDriver user;
+    const DOEDlg dialog(nullptr);
+    Click(dialog, "pushButton_Delete");
+    Click(dialog, "pushButton_GenGeo");
+    Runs(dialog).setRowCount(1);
+    Runs(dialog).setColumnCount(1);
+    Runs(dialog).setCurrentCell(0, 0);
+    Click(dialog, "pushButton_GenGeo");
+    AddRecord("a", 1, std::vector<double>(DOEDlg::MaximumRuns + 1));
+    Click(dialog, "pushButton_RefreshData");
+    QCOMPARE(user.Boxes().size(), 4);
+    QCOMPARE(recorder.TextsOf("DOEDlg"),
+             QStringList({"Add", "Combine", "Combine Name", "DOE Dialog", "Delete", "Generate",
+                          "Name", "Notify", "Number not equal", "Parameters", "Refresh Data",
+                          "Result", "Select one row first", "Select one row first!", "Set",
+                          "Set Array", "Status", "Too many runs", "Warning"}));
 }
 
 void tst_DOEDlg::TheFontIsSetOnTheTabs()
@@ -330,17 +350,12 @@ void tst_DOEDlg::SignalAndSlotsStandInTheirOrder()
 {
     const QMetaObject& meta = DOEDlg::staticMetaObject;
     QCOMPARE(meta.superClass(), &QDialog::staticMetaObject);
-    QStringList methods;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        const QMetaMethod method = meta.method(i);
-        const bool isSignal = method.methodType() == QMetaMethod::Signal;
-        QCOMPARE(method.access(), isSignal ? QMetaMethod::Public : QMetaMethod::Private);
-        QCOMPARE(isSignal, i == meta.methodOffset());
-        methods << QString::fromLatin1(method.methodSignature());
-    }
-    QCOMPARE(methods, QStringList({"m_Signal_RegenerateGeo()", "m_slot_ProcessCheck()",
-                                   "m_slot_ProcessButton()", "m_Slot_Add()", "m_Slot_Delete()",
-                                   "m_Refresh_Final_Table()", "m_Slot_UpdateGeoemtry()"}));
+    QCOMPARE(
+        OwnMethods(meta),
+        QStringList({"public signal m_Signal_RegenerateGeo()", "private slot m_slot_ProcessCheck()",
+                     "private slot m_slot_ProcessButton()", "private slot m_Slot_Add()",
+                     "private slot m_Slot_Delete()", "private slot m_Refresh_Final_Table()",
+                     "private slot m_Slot_UpdateGeoemtry()"}));
 }
 
 void tst_DOEDlg::AParentIsTaken()

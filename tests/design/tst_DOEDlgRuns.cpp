@@ -4,8 +4,10 @@
 #include "TestCase.h"
 
 #include <QCheckBox>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTableWidget>
+#include <QTimer>
 
 #include <limits>
 
@@ -135,6 +137,7 @@ private Q_SLOTS:
     void GenerateReadsTheRowsAsSorted();
     void GenerateTakesTheCurrentRow();
     void GenerateWithoutARowIsRefused();
+    void TheHostMayDestroyTheDialogBehindTheRefusal();
     void NothingTickedIsRefusedForTheRow();
     void FewerColumnsThanBeforeAreRefusedUntilReopened();
     void FewerColumnsWithoutARowAskForTheRowFirst();
@@ -351,6 +354,7 @@ void tst_DOEDlgRuns::TooManyRunsAreRefused_data()
     QTest::newRow("0 in 64 bits") << QVector<int>({65536, 65536, 65536, 65536});
     QTest::newRow("beyond all bits") << QVector<int>(200, 2);
     QTest::newRow("one run at the end") << QVector<int>({1001, 1000, 1, 1});
+    QTest::newRow("too many cells") << QVector<int>({1000, 1000}) + QVector<int>(19, 1);
 }
 
 void tst_DOEDlgRuns::TooManyRunsAreRefused()
@@ -603,6 +607,22 @@ void tst_DOEDlgRuns::GenerateWithoutARowIsRefused()
     QCOMPARE(user.Boxes(), Boxes({NoRow(&dialog)}));
     QCOMPARE(spy.count(), 0);
     QCOMPARE(Stored("a").m_dValue, 5.0);
+}
+
+void tst_DOEDlgRuns::TheHostMayDestroyTheDialogBehindTheRefusal()
+{
+    const EmptyDesignStores stores;
+    auto* const dialog = new DOEDlg(nullptr);
+    const QPointer<QWidget> watched = dialog;
+    QPointer<QMessageBox> box;
+    QTimer::singleShot(0, this, [&] {
+        box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box != nullptr);
+        delete dialog;
+    });
+    Click(*dialog, "pushButton_GenGeo");
+    QVERIFY(watched == nullptr);
+    QVERIFY(box == nullptr);
 }
 
 void tst_DOEDlgRuns::NothingTickedIsRefusedForTheRow()

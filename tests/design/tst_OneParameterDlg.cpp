@@ -1,98 +1,19 @@
-#include "EmptyDesignStores.h"
-#include "ModalDriver.h"
-#include "OneParameterDlg.h"
-#include "TestCase.h"
+#include "DialogFacts.h"
+#include "OneParameterDlgTable.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QMetaMethod>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
-#include <limits>
+// The window and what OK stores. The samples stand in tst_OneParameterDlgSamples.
 
 namespace {
 
-const ShownBox BadInput = ShownBox::Notice("Error", "Check input data!");
-const ShownBox NoGauss = ShownBox::Notice("Error", "Not implement yet");
 const ShownBox NoRow = ShownBox::Notice("Notify", "Select one row first!");
 
-using Boxes = QVector<ShownBox>;
 using Values = std::vector<double>;
-
-enum SampleType
-{
-    Linear,
-    Log10,
-    Ln,
-    Gauss
-};
-
-const char* const TypeButtons[] = {"radioButton_Linear", "radioButton_Log", "radioButton_Ln",
-                                   "radioButton_Gauss"};
-
-QTableWidget& Table(const QWidget& dialog)
-{
-    return Find<QTableWidget>(dialog, "tableWidget");
-}
-
-QStringList Rows(const QWidget& dialog)
-{
-    QStringList texts;
-    for (int row = 0; row < Table(dialog).rowCount(); ++row) {
-        const QTableWidgetItem* const item = Table(dialog).item(row, 0);
-        texts << (item != nullptr ? item->text() : QStringLiteral("(no item)"));
-    }
-    return texts;
-}
-
-QStringList Fields(const QWidget& dialog)
-{
-    QStringList texts;
-    for (const char* const name : {"lineEdit_Min", "lineEdit_Max", "lineEdit_Deta"})
-        texts << Find<QLineEdit>(dialog, name).text();
-    return texts;
-}
-
-QStringList CheckedTypes(const QWidget& dialog)
-{
-    QStringList texts;
-    for (const char* const name : TypeButtons) {
-        if (Find<QRadioButton>(dialog, name).isChecked())
-            texts << Find<QRadioButton>(dialog, name).text();
-    }
-    return texts;
-}
-
-void SetFields(const QWidget& dialog, const QString& min, const QString& max, const QString& step)
-{
-    Find<QLineEdit>(dialog, "lineEdit_Min").setText(min);
-    Find<QLineEdit>(dialog, "lineEdit_Max").setText(max);
-    Find<QLineEdit>(dialog, "lineEdit_Deta").setText(step);
-}
-
-// Leaves a field, as it stands, with Tab.
-void FinishEdit(const QWidget& dialog, const char* name)
-{
-    auto& edit = Find<QLineEdit>(dialog, name);
-    edit.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(edit.window()));
-    edit.setFocus();
-    QTest::keyClick(&edit, Qt::Key_Tab);
-}
-
-void StoreRange(const QString& name, double min, double max, double step, int type = Linear)
-{
-    sParaArrayData& record = g_mapParaArrays[name];
-    record.dMin = min;
-    record.dMax = max;
-    record.dDelta = step;
-    record.nSampleType = type;
-}
 
 } // namespace
 
@@ -112,6 +33,7 @@ private Q_SLOTS:
     void TabFollowsTheReadingOrder();
     void NoButtonIsPressedByEnter();
     void TheSlotsStandInTheirOrder();
+    void EveryTextIsTranslatable();
 
     void AnEmptyNameIsRefused();
     void TheDialogOfAnEmptyNameIsInert();
@@ -122,29 +44,6 @@ private Q_SLOTS:
     void TheStoredTypeIsChecked_data();
     void TheStoredTypeIsChecked();
     void StoredValuesAreNotShownAgain();
-
-    void TheRangeGeneratesTheSamples_data();
-    void TheRangeGeneratesTheSamples();
-    void ABadRangeIsRefused_data();
-    void ABadRangeIsRefused();
-    void AStoredBadRangeIsRefusedAtTheOpening_data();
-    void AStoredBadRangeIsRefusedAtTheOpening();
-    void AMillionRowsAreTheLimit();
-    void EachFieldRegeneratesWhenItIsLeft_data();
-    void EachFieldRegeneratesWhenItIsLeft();
-    void LinearAndLogRegenerateAtOnce();
-    void LnAndGaussWaitForTheNextEdit();
-    void GaussIsRememberedWithoutRows();
-    void WithoutATypeNothingIsGenerated();
-    void ARefusedRangeLeavesTheTypeAsItWas();
-
-    void ABadEditShowsOneBox_data();
-    void ABadEditShowsOneBox();
-    void TheNextBadEditIsReportedAgain();
-    void LeavingWithABadEditShowsNoFurtherBox_data();
-    void LeavingWithABadEditShowsNoFurtherBox();
-    void EnterInAFieldFinishesTheEditOnly();
-    void EnterInACellFinishesTheEditOnly();
 
     void AddAppendsAnEmptyRow();
     void DeleteRemovesTheCurrentRow();
@@ -160,6 +59,8 @@ private Q_SLOTS:
     void CancelLeavesTheRegistryAlone_data();
     void CancelLeavesTheRegistryAlone();
     void TheHostMayChangeTheRegistryBehindABox();
+    void TheHostMayDestroyTheDialogBehindABox_data();
+    void TheHostMayDestroyTheDialogBehindABox();
 };
 
 void tst_OneParameterDlg::TheFormHoldsItsWidgets_data()
@@ -342,14 +243,48 @@ void tst_OneParameterDlg::NoButtonIsPressedByEnter()
 
 void tst_OneParameterDlg::TheSlotsStandInTheirOrder()
 {
-    const QMetaObject& meta = OneParameterDlg::staticMetaObject;
-    QStringList methods;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Slot);
-        methods << QString::fromLatin1(meta.method(i).methodSignature());
-    }
-    QCOMPARE(methods, QStringList({"RefreshTableData()", "m_Slot_OK()", "m_Slot_Cancel()",
-                                   "InitGUIData()", "m_Slot_Add()", "m_Slot_Delete()"}));
+    QCOMPARE(OwnMethods(OneParameterDlg::staticMetaObject),
+             QStringList({"public slot RefreshTableData()", "public slot m_Slot_OK()",
+                          "public slot m_Slot_Cancel()", "public slot InitGUIData()",
+                          "public slot m_Slot_Add()", "public slot m_Slot_Delete()"}));
+}
+
+void tst_OneParameterDlg::EveryTextIsTranslatable()
+{
+    const EmptyDesignStores stores;
+    const TextRecorder recorder;
+    ModalDriver user;
+    const OneParameterDlg inert(nullptr, "");
+    StoreRange("a", 1, 0, 1);
+    StoreRange("b", 0, 1, 1, Gauss);
+    const OneParameterDlg refused(nullptr, "a");
+    const OneParameterDlg dialog(nullptr, "b");
+    Click(dialog, "pushButton_Delete");
+    QCOMPARE(user.Boxes().size(), 4);
+    QCOMPARE(recorder.TextsOf("OneParameterDlg"), QStringList({"0",
+                                                               "1",
+                                                               "Add",
+                                                               "Cancel",
+                                                               "Check input data!",
+                                                               "Delete",
+                                                               "Delta",
+                                                               "Error",
+                                                               "Gauss",
+                                                               "Linear",
+                                                               "Ln",
+                                                               "Log10",
+                                                               "Max",
+                                                               "Min",
+                                                               "No parameter input",
+                                                               "Not implement yet",
+                                                               "Notify",
+                                                               "OK",
+                                                               "OneParameterDlg",
+                                                               "Range",
+                                                               "Select one row first!",
+                                                               "Table",
+                                                               "Type",
+                                                               "Value"}));
 }
 
 void tst_OneParameterDlg::AnEmptyNameIsRefused()
@@ -461,424 +396,6 @@ void tst_OneParameterDlg::StoredValuesAreNotShownAgain()
     const OneParameterDlg dialog(nullptr, "a");
     QCOMPARE(Rows(dialog), QStringList({"0", "1", "2"}));
     QCOMPARE(g_mapParaArrays["a"].vecValues, Values({7, 8}));
-}
-
-void tst_OneParameterDlg::TheRangeGeneratesTheSamples_data()
-{
-    QTest::addColumn<QString>("min");
-    QTest::addColumn<QString>("max");
-    QTest::addColumn<QString>("step");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QStringList>("rows");
-    QTest::newRow("the end is reached")
-        << "0"
-        << "1"
-        << "0.25" << int(Linear) << QStringList({"0", "0.25", "0.5", "0.75", "1"});
-    QTest::newRow("the end is not reached")
-        << "0"
-        << "1"
-        << "0.3" << int(Linear) << QStringList({"0", "0.3", "0.6", "0.9"});
-    // Ten steps of 0.1 add up to a little less than 1, three steps to a little more than 0.3.
-    QTest::newRow("added up below the end")
-        << "0"
-        << "1"
-        << "0.1" << int(Linear)
-        << QStringList({"0", "0.1", "0.2", "0.3", "0.4", "0.5", "0.6", "0.7", "0.8", "0.9", "1"});
-    QTest::newRow("added up beyond the end")
-        << "0"
-        << "0.3"
-        << "0.1" << int(Linear) << QStringList({"0", "0.1", "0.2"});
-    QTest::newRow("step as wide as the range") << "5"
-                                               << "6"
-                                               << "1" << int(Linear) << QStringList({"5", "6"});
-    QTest::newRow("negative") << "-2"
-                              << "0"
-                              << "1" << int(Linear) << QStringList({"-2", "-1", "0"});
-    QTest::newRow("six digits") << "0.1234567"
-                                << "2"
-                                << "1.5" << int(Linear) << QStringList({"0.123457", "1.62346"});
-    QTest::newRow("exponents") << "1e6"
-                               << "3e6"
-                               << "1234567" << int(Linear) << QStringList({"1e+06", "2.23457e+06"});
-    QTest::newRow("text is 0") << "min"
-                               << "1"
-                               << "1" << int(Linear) << QStringList({"0", "1"});
-    QTest::newRow("huge range") << "-1.7e308"
-                                << "1.7e308"
-                                << "1.7e308" << int(Linear)
-                                << QStringList({"-1.7e+308", "0", "1.7e+308"});
-    QTest::newRow("Log10") << "1"
-                           << "100"
-                           << "99" << int(Log10) << QStringList({"0", "2"});
-    QTest::newRow("Log10 is spaced linearly")
-        << "10"
-        << "30"
-        << "10" << int(Log10) << QStringList({"1", "1.30103", "1.47712"});
-    QTest::newRow("Log10 of 0") << "0"
-                                << "1"
-                                << "1" << int(Log10) << QStringList({"-inf", "0"});
-    QTest::newRow("Ln") << "1"
-                        << "2"
-                        << "1" << int(Ln) << QStringList({"0", "0.693147"});
-    QTest::newRow("Ln of 0") << "0"
-                             << "1"
-                             << "1" << int(Ln) << QStringList({"-inf", "0"});
-}
-
-void tst_OneParameterDlg::TheRangeGeneratesTheSamples()
-{
-    const EmptyDesignStores stores;
-    QFETCH(QString, min);
-    QFETCH(QString, max);
-    QFETCH(QString, step);
-    QFETCH(int, type);
-    QFETCH(QStringList, rows);
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    user.Then([&](QDialog& shown) {
-        SetFields(shown, min, max, step);
-        Find<QRadioButton>(shown, TypeButtons[type]).setChecked(true);
-        FinishEdit(shown, "lineEdit_Deta");
-        QCOMPARE(Rows(shown), rows);
-        Click(shown, "pushButton_OK");
-    });
-    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), Boxes());
-    QCOMPARE(g_mapParaArrays["a"].nSampleType, type);
-}
-
-namespace {
-
-void AddBadRanges()
-{
-    QTest::addColumn<double>("min");
-    QTest::addColumn<double>("max");
-    QTest::addColumn<double>("step");
-    const double inf = std::numeric_limits<double>::infinity();
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    QTest::newRow("max below min") << 2.0 << 1.0 << 0.5;
-    QTest::newRow("max below min, step wide") << 2.0 << 1.0 << 1.0;
-    QTest::newRow("empty range") << 1.0 << 1.0 << 0.0;
-    QTest::newRow("step too wide") << 0.0 << 1.0 << 2.0;
-    QTest::newRow("step 0") << 0.0 << 1.0 << 0.0;
-    QTest::newRow("step negative") << 0.0 << 1.0 << -1.0;
-    QTest::newRow("step cannot move the start") << 1e17 << 2e17 << 1.0;
-    QTest::newRow("step cannot reach the end") << 9007.0 << 1e17 << 1e11 / 7.0;
-    QTest::newRow("step cannot move a large negative start") << -1e17 << 1.0 << 1.0;
-    QTest::newRow("step tiny") << 0.0 << 1.0 << 1e-300;
-    QTest::newRow("too many rows") << 0.0 << 1e6 << 1.0;
-    QTest::newRow("min not finite") << -inf << 1.0 << 1.0;
-    QTest::newRow("max not finite") << 0.0 << inf << 1.0;
-    QTest::newRow("step not finite") << 0.0 << 1.0 << inf;
-    QTest::newRow("all infinite") << -inf << inf << inf;
-    QTest::newRow("min not a number") << nan << 1.0 << 1.0;
-    QTest::newRow("max not a number") << 0.0 << nan << 1.0;
-    QTest::newRow("step not a number") << 0.0 << 1.0 << nan;
-}
-
-} // namespace
-
-void tst_OneParameterDlg::ABadRangeIsRefused_data()
-{
-    AddBadRanges();
-}
-
-void tst_OneParameterDlg::ABadRangeIsRefused()
-{
-    const EmptyDesignStores stores;
-    QFETCH(double, min);
-    QFETCH(double, max);
-    QFETCH(double, step);
-    for (const int type : {Linear, Log10, Ln, Gauss}) {
-        ModalDriver user;
-        OneParameterDlg dialog(nullptr, "a");
-        SetFields(dialog, QString::number(min), QString::number(max), QString::number(step));
-        Find<QRadioButton>(dialog, TypeButtons[type]).setChecked(true);
-        dialog.RefreshTableData();
-        QCOMPARE(user.Boxes(), Boxes({BadInput}));
-        QCOMPARE(Rows(dialog), QStringList());
-    }
-}
-
-void tst_OneParameterDlg::AStoredBadRangeIsRefusedAtTheOpening_data()
-{
-    AddBadRanges();
-}
-
-void tst_OneParameterDlg::AStoredBadRangeIsRefusedAtTheOpening()
-{
-    const EmptyDesignStores stores;
-    QFETCH(double, min);
-    QFETCH(double, max);
-    QFETCH(double, step);
-    StoreRange("a", min, max, step);
-    ModalDriver user;
-    const OneParameterDlg dialog(nullptr, "a");
-    QCOMPARE(user.Boxes(), Boxes({BadInput}));
-    QCOMPARE(Fields(dialog),
-             QStringList({QString::number(min), QString::number(max), QString::number(step)}));
-    QCOMPARE(Rows(dialog), QStringList());
-}
-
-void tst_OneParameterDlg::AMillionRowsAreTheLimit()
-{
-    const EmptyDesignStores stores;
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    SetFields(dialog, "1", "1000000", "1");
-    dialog.RefreshTableData();
-    QCOMPARE(user.Boxes(), Boxes());
-    QCOMPARE(Table(dialog).rowCount(), 1000000);
-    QCOMPARE(Table(dialog).item(999998, 0)->text(), QStringLiteral("999999"));
-    SetFields(dialog, "0", "1000000", "1");
-    dialog.RefreshTableData();
-    QCOMPARE(user.Boxes(), Boxes({BadInput}));
-    QCOMPARE(Table(dialog).rowCount(), 0);
-}
-
-void tst_OneParameterDlg::EachFieldRegeneratesWhenItIsLeft_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("rows");
-    QTest::newRow("lineEdit_Min") << "-1" << QStringList({"-1", "0", "1"});
-    QTest::newRow("lineEdit_Max") << "2" << QStringList({"0", "1", "2"});
-    QTest::newRow("lineEdit_Deta") << "0.5" << QStringList({"0", "0.5", "1"});
-}
-
-void tst_OneParameterDlg::EachFieldRegeneratesWhenItIsLeft()
-{
-    const EmptyDesignStores stores;
-    QFETCH(QString, text);
-    QFETCH(QStringList, rows);
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    user.Then([&](QDialog& shown) {
-        Type(shown, QTest::currentDataTag(), text);
-        QCOMPARE(Rows(shown), rows);
-        shown.reject();
-    });
-    dialog.exec();
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), Boxes());
-}
-
-void tst_OneParameterDlg::LinearAndLogRegenerateAtOnce()
-{
-    const EmptyDesignStores stores;
-    StoreRange("a", 1, 100, 99);
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    user.Then([](QDialog& shown) {
-        Click(shown, "radioButton_Log");
-        QCOMPARE(Rows(shown), QStringList({"0", "2"}));
-        Click(shown, "radioButton_Linear");
-        QCOMPARE(Rows(shown), QStringList({"1", "100"}));
-        shown.reject();
-    });
-    dialog.exec();
-    QVERIFY(user.IsDone());
-}
-
-void tst_OneParameterDlg::LnAndGaussWaitForTheNextEdit()
-{
-    const EmptyDesignStores stores;
-    StoreRange("a", 1, 2, 1);
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    user.Then([&](QDialog& shown) {
-        Click(shown, "radioButton_Ln");
-        QCOMPARE(CheckedTypes(shown), QStringList({"Ln"}));
-        QCOMPARE(Rows(shown), QStringList({"1", "2"}));
-        FinishEdit(shown, "lineEdit_Min");
-        QCOMPARE(Rows(shown), QStringList({"0", "0.693147"}));
-        Click(shown, "radioButton_Gauss");
-        QCOMPARE(Rows(shown), QStringList({"0", "0.693147"}));
-        QCOMPARE(user.Boxes(), Boxes());
-        // The type of the last generation counts, and not the button that is checked by now.
-        Click(shown, "pushButton_OK");
-    });
-    dialog.exec();
-    QVERIFY(user.IsDone());
-    QCOMPARE(g_mapParaArrays["a"].nSampleType, int(Ln));
-}
-
-void tst_OneParameterDlg::GaussIsRememberedWithoutRows()
-{
-    const EmptyDesignStores stores;
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    user.Then([&](QDialog& shown) {
-        Click(shown, "radioButton_Gauss");
-        FinishEdit(shown, "lineEdit_Max");
-        QCOMPARE(user.Boxes(), Boxes({NoGauss}));
-        QCOMPARE(Rows(shown), QStringList());
-        Click(shown, "pushButton_OK");
-    });
-    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    QCOMPARE(g_mapParaArrays["a"].nSampleType, int(Gauss));
-    QVERIFY(g_mapParaArrays["a"].vecValues.empty());
-    QCOMPARE(g_mapParaArrays["a"].bChecked, 1);
-}
-
-void tst_OneParameterDlg::WithoutATypeNothingIsGenerated()
-{
-    const EmptyDesignStores stores;
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    auto& linear = Find<QRadioButton>(dialog, "radioButton_Linear");
-    linear.setAutoExclusive(false);
-    linear.setChecked(false);
-    dialog.RefreshTableData();
-    QCOMPARE(Rows(dialog), QStringList());
-    QCOMPARE(user.Boxes(), Boxes());
-}
-
-void tst_OneParameterDlg::ARefusedRangeLeavesTheTypeAsItWas()
-{
-    const EmptyDesignStores stores;
-    StoreRange("a", 1, 2, 1, Ln);
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    SetFields(dialog, "3", "2", "1");
-    Find<QRadioButton>(dialog, "radioButton_Log").setChecked(true);
-    dialog.RefreshTableData();
-    dialog.m_Slot_OK();
-    QCOMPARE(user.Boxes(), Boxes({BadInput}));
-    QCOMPARE(g_mapParaArrays["a"].nSampleType, int(Ln));
-}
-
-void tst_OneParameterDlg::ABadEditShowsOneBox_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::newRow("Tab") << int(Qt::Key_Tab);
-    QTest::newRow("Return") << int(Qt::Key_Return);
-    QTest::newRow("Enter") << int(Qt::Key_Enter);
-}
-
-void tst_OneParameterDlg::ABadEditShowsOneBox()
-{
-    const EmptyDesignStores stores;
-    QFETCH(int, key);
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    user.Then([&](QDialog& shown) {
-        QVERIFY(QTest::qWaitForWindowActive(&shown));
-        auto& edit = Find<QLineEdit>(shown, "lineEdit_Max");
-        edit.setFocus();
-        QVERIFY(edit.hasFocus());
-        edit.selectAll();
-        QTest::keyClicks(&edit, "-5");
-        user.WhileBoxOpen([&](QMessageBox& box) {
-            QVERIFY(QTest::qWaitForWindowActive(&box));
-            QVERIFY(!edit.hasFocus());
-        });
-        QTest::keyClick(&edit, Qt::Key(key));
-        QCOMPARE(user.Boxes(), Boxes({BadInput}));
-        QCOMPARE(Fields(shown), QStringList({"0", "-5", "1"}));
-        QCOMPARE(Rows(shown), QStringList());
-        edit.setText("2");
-        shown.reject();
-    });
-    dialog.exec();
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), Boxes({BadInput}));
-}
-
-void tst_OneParameterDlg::TheNextBadEditIsReportedAgain()
-{
-    const EmptyDesignStores stores;
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    user.Then([&](QDialog& shown) {
-        Type(shown, "lineEdit_Max", "-5");
-        QCOMPARE(user.Boxes(), Boxes({BadInput}));
-        Type(shown, "lineEdit_Deta", "7");
-        QCOMPARE(user.Boxes(), Boxes({BadInput, BadInput}));
-        shown.reject();
-    });
-    dialog.exec();
-    QVERIFY(user.IsDone());
-}
-
-void tst_OneParameterDlg::LeavingWithABadEditShowsNoFurtherBox_data()
-{
-    QTest::addColumn<bool>("escape");
-    QTest::newRow("Escape") << true;
-    QTest::newRow("window closed") << false;
-}
-
-void tst_OneParameterDlg::LeavingWithABadEditShowsNoFurtherBox()
-{
-    const EmptyDesignStores stores;
-    QFETCH(bool, escape);
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    user.Then([&](QDialog& shown) {
-        QVERIFY(QTest::qWaitForWindowActive(&shown));
-        auto& edit = Find<QLineEdit>(shown, "lineEdit_Max");
-        edit.setFocus();
-        edit.selectAll();
-        QTest::keyClicks(&edit, "-5");
-        if (escape)
-            QTest::keyClick(&edit, Qt::Key_Escape);
-        else
-            shown.close();
-    });
-    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    QTest::qWait(50);
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), Boxes());
-}
-
-void tst_OneParameterDlg::EnterInAFieldFinishesTheEditOnly()
-{
-    const EmptyDesignStores stores;
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    user.Then([](QDialog& shown) {
-        QVERIFY(QTest::qWaitForWindowActive(&shown));
-        auto& edit = Find<QLineEdit>(shown, "lineEdit_Deta");
-        edit.setFocus();
-        edit.selectAll();
-        QTest::keyClicks(&edit, "0.5");
-        QCOMPARE(Rows(shown), QStringList({"0", "1"}));
-        QTest::keyClick(&edit, Qt::Key_Return);
-        QCOMPARE(Rows(shown), QStringList({"0", "0.5", "1"}));
-        QTest::keyClick(&edit, Qt::Key_Enter);
-        QCOMPARE(Rows(shown), QStringList({"0", "0.5", "1"}));
-        QVERIFY(shown.isVisible());
-        shown.reject();
-    });
-    dialog.exec();
-    QVERIFY(user.IsDone());
-}
-
-void tst_OneParameterDlg::EnterInACellFinishesTheEditOnly()
-{
-    const EmptyDesignStores stores;
-    ModalDriver user;
-    OneParameterDlg dialog(nullptr, "a");
-    user.Then([](QDialog& shown) {
-        QVERIFY(QTest::qWaitForWindowActive(&shown));
-        QTableWidget& table = Table(shown);
-        table.setFocus();
-        table.setCurrentCell(1, 0);
-        QTest::keyClick(&table, Qt::Key_F2);
-        QWidget* const editor = QApplication::focusWidget();
-        QVERIFY(editor != &table);
-        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(editor, "7.50");
-        QTest::keyClick(editor, Qt::Key_Return);
-        QTRY_COMPARE(Rows(shown), QStringList({"0", "7.50"}));
-        QTest::keyClick(&table, Qt::Key_Return);
-        QVERIFY(shown.isVisible());
-        QCOMPARE(Rows(shown), QStringList({"0", "7.50"}));
-        shown.reject();
-    });
-    dialog.exec();
-    QVERIFY(user.IsDone());
 }
 
 void tst_OneParameterDlg::AddAppendsAnEmptyRow()
@@ -1063,6 +580,32 @@ void tst_OneParameterDlg::TheHostMayChangeTheRegistryBehindABox()
     Click(dialog, "pushButton_OK");
     QCOMPARE(g_mapParaArrays.at("a").dMin, 2.0);
     QCOMPARE(g_mapParaArrays.at("a").bChecked, 1);
+}
+
+void tst_OneParameterDlg::TheHostMayDestroyTheDialogBehindABox_data()
+{
+    QTest::addColumn<QString>("max");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("RefreshTableData, bad range") << "-1" << BadInput.text;
+    QTest::newRow("RefreshTableData, Gauss") << "1" << NoGauss.text;
+    QTest::newRow("m_Slot_Delete") << "1" << NoRow.text;
+}
+
+void tst_OneParameterDlg::TheHostMayDestroyTheDialogBehindABox()
+{
+    const EmptyDesignStores stores;
+    QFETCH(QString, max);
+    QFETCH(QString, text);
+    auto* const dialog = new OneParameterDlg(nullptr, "a");
+    SetFields(*dialog, "0", max, "1");
+    Find<QRadioButton>(*dialog, "radioButton_Gauss").setChecked(true);
+    ModalDriver user;
+    user.WhileBoxOpen([dialog](QMessageBox&) { delete dialog; });
+    const QByteArray slot = QByteArray(QTest::currentDataTag()).split(',').first();
+    QVERIFY(QMetaObject::invokeMethod(dialog, slot.constData()));
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes().size(), 1);
+    QCOMPARE(user.Boxes().first().text, text);
 }
 
 TARN_TEST_MAIN(tst_OneParameterDlg)

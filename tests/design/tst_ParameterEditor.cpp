@@ -1,10 +1,10 @@
+#include "DialogFacts.h"
 #include "EmptyDesignStores.h"
 #include "ModalDriver.h"
 #include "ParameterEditor.h"
 #include "ParameterEditorTable.h"
 
 #include <QGridLayout>
-#include <QMetaMethod>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -126,20 +126,12 @@ void tst_ParameterEditor::TabFollowsReadingOrder()
 
 void tst_ParameterEditor::SlotsAndSignalStandInTheirOrder()
 {
-    const EmptyDesignStores stores;
-    const QMetaObject& meta = ParameterEditor::staticMetaObject;
-    QStringList methods;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        const QMetaMethod method = meta.method(i);
-        QCOMPARE(method.access(), QMetaMethod::Public);
-        methods << (method.methodType() == QMetaMethod::Signal ? "signal " : "slot ") +
-                       QString(method.methodSignature());
-    }
-    QCOMPARE(methods,
-             QStringList({"signal m_Signal_Apply()", "slot m_Slot_Apply()", "slot m_Slot_Delete()",
-                          "slot m_Slot_Add()", "slot m_Slot_OK()", "slot m_Slot_Cancel()",
-                          "slot m_Slot_ProcessExp()", "slot m_Slot_RefreshGUI()",
-                          "slot m_Slot_NoNumber(QTableWidgetItem*)"}));
+    QCOMPARE(OwnMethods(ParameterEditor::staticMetaObject),
+             QStringList({"public signal m_Signal_Apply()", "public slot m_Slot_Apply()",
+                          "public slot m_Slot_Delete()", "public slot m_Slot_Add()",
+                          "public slot m_Slot_OK()", "public slot m_Slot_Cancel()",
+                          "public slot m_Slot_ProcessExp()", "public slot m_Slot_RefreshGUI()",
+                          "public slot m_Slot_NoNumber(QTableWidgetItem*)"}));
 }
 
 void tst_ParameterEditor::TheTableOpensEmpty()

@@ -42,6 +42,8 @@ private Q_SLOTS:
     void TheHostMayChangeTheStoreBehindTheBox_data();
     void TheHostMayChangeTheStoreBehindTheBox();
     void TheHostMayChangeTheTableBehindTheRefusalOfAVector();
+    void TheHostMayDestroyTheEditorBehindABox_data();
+    void TheHostMayDestroyTheEditorBehindABox();
 };
 
 namespace {
@@ -603,6 +605,35 @@ void tst_ParameterEditorExpressions::TheHostMayChangeTheTableBehindTheRefusalOfA
     QCOMPARE(user.Boxes(), Boxes({VectorBox}));
     QVERIFY(StoredNames().isEmpty());
     QCOMPARE(Table(editor).rowCount(), 0);
+}
+
+// clang-format off
+void tst_ParameterEditorExpressions::TheHostMayDestroyTheEditorBehindABox_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("names");
+    QTest::addColumn<QString>("button");
+    QTest::newRow("Vector, Apply")     << "Vector" << ""  << "pushButton_Apply";
+    QTest::newRow("Vector, OK")        << "Vector" << ""  << "pushButton_OK";
+    QTest::newRow("expression, Apply") << "Scalar" << "x" << "pushButton_Apply";
+    QTest::newRow("expression, OK")    << "Scalar" << "x" << "pushButton_OK";
+}
+// clang-format on
+
+void tst_ParameterEditorExpressions::TheHostMayDestroyTheEditorBehindABox()
+{
+    const EmptyDesignStores stores;
+    QFETCH(QString, type);
+    QFETCH(QString, names);
+    QFETCH(QString, button);
+    ModalDriver user;
+    auto* const editor = new ParameterEditor(nullptr);
+    AddExpression(*editor, "r", "1", names, "1");
+    Combo(*editor, 0).setCurrentText(type);
+    user.WhileBoxOpen([editor](QMessageBox&) { delete editor; });
+    Click(*editor, button.toLatin1().constData());
+    QCOMPARE(user.Boxes(), Boxes({names.isEmpty() ? VectorBox : UnknownBox(names)}));
+    QVERIFY(user.IsDone());
 }
 
 TARN_TEST_MAIN(tst_ParameterEditorExpressions)

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void OnlyPlainNumbersAreAcceptedInTheValueColumn();
     void TheCurrentColumnDecidesAndNotTheChangedOne();
     void FillingTheTableIsNotTested();
+    void NoItemIsPassedOver();
     void TheHostMayChangeTheTableBehindTheBox_data();
     void TheHostMayChangeTheTableBehindTheBox();
 };
@@ -94,6 +95,17 @@ void tst_ParameterEditorNumbers::FillingTheTableIsNotTested()
     QVERIFY(user.Boxes().isEmpty());
     QCOMPARE(changed.count(), 0);
     QCOMPARE(RowTexts(editor, 0).first(), "a");
+}
+
+void tst_ParameterEditorNumbers::NoItemIsPassedOver()
+{
+    const EmptyDesignStores stores;
+    ParameterEditor editor(nullptr);
+    editor.m_Slot_Add();
+    Table(editor).setCurrentCell(0, ValueColumn);
+    ModalDriver user;
+    editor.m_Slot_NoNumber(nullptr);
+    QVERIFY(user.Boxes().isEmpty());
 }
 
 void tst_ParameterEditorNumbers::TheHostMayChangeTheTableBehindTheBox_data()

@@ -282,6 +282,10 @@ void tst_ExpressionEngine::AnExpressionHasAValue_data()
     QTest::newRow("avg of one")                 << "avg(3)"                << 3.0;
     QTest::newRow("functions in functions")     << "max(min(1, 2), abs(-3), sum(1, 1))" << 3.0;
 
+    QTest::newRow("too large in between")       << "1/(1+exp(1000))"       << 0.0;
+    QTest::newRow("arc tangent of too large")   << "atan(10^400)"          << std::atan(HUGE_VAL);
+    QTest::newRow("smaller than too large")     << "min(5, 10^400)"        << 5.0;
+
     QTest::newRow("variables")                  << "2*width+a_1"           << 27.0;
     QTest::newRow("capitals are others")        << "Width"                 << 100.0;
     QTest::newRow("underscore first")           << "_x"                    << 8.0;
@@ -393,7 +397,9 @@ void tst_ExpressionEngine::WhatIsNoExpressionGivesNaNAndAReason_data()
     QTest::newRow("negative base")           << "(-8)^(1/3)"   << 1 << "an operation has no real result";
     QTest::newRow("remainder by zero")       << "mod(1,0)"     << 1 << "an operation has no real result";
     QTest::newRow("too large a result")      << "10^400"       << 1 << "a number becomes too large";
-    QTest::newRow("too large in between")    << "atan(exp(1000))" << 1 << "a number becomes too large";
+    QTest::newRow("too large throughout")    << "10^400/10^399" << 1 << "an operation has no real result";
+    QTest::newRow("too large, compared")     << "10^400==10^500" << 1 << "a number becomes too large";
+    QTest::newRow("too large, of two")       << "atan2(10^400,10^500)" << 1 << "an operation has no real result";
 }
 // clang-format on
 

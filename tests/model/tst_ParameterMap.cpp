@@ -35,6 +35,7 @@ private Q_SLOTS:
     void AtThrowsForAnUnknownName();
     void LookingUpInsertsNothing();
     void AnIndexInsertsADefaultRecord();
+    void AConstantMapIsReadInTheSameWay();
     void EraseSaysHowManyWereRemoved();
     void ACopyIsIndependent();
     void AMoveLeavesNothingBehind();
@@ -112,6 +113,21 @@ void tst_ParameterMap::AnIndexInsertsADefaultRecord()
     QVERIFY(!map["a"].m_varRawValue.isValid());
 }
 
+void tst_ParameterMap::AConstantMapIsReadInTheSameWay()
+{
+    static_assert(std::is_same_v<decltype(*std::declval<const ParameterMap&>().begin()),
+                                 const std::pair<const QString, ParametersDef>&>);
+    ParameterMap map;
+    map["b"] = Record(1);
+    map["a"] = Record(2);
+    const ParameterMap& constant = map;
+    QCOMPARE(Names(constant), QStringList({"b", "a"}));
+    QCOMPARE(constant.find("a")->second.m_dValue, 2.0);
+    QCOMPARE(constant.at("b").m_dValue, 1.0);
+    QCOMPARE(constant.count("b"), std::size_t(1));
+    QCOMPARE(constant.size(), std::size_t(2));
+}
+
 void tst_ParameterMap::EraseSaysHowManyWereRemoved()
 {
     ParameterMap map;
@@ -144,6 +160,8 @@ void tst_ParameterMap::AMoveLeavesNothingBehind()
     map["b"];
     map["a"] = Record(1);
     ParameterMap moved = std::move(map);
+    QVERIFY(map.empty()); // NOLINT(bugprone-use-after-move)
+    QCOMPARE(map.count("a"), std::size_t(0));
     QCOMPARE(Names(moved), QStringList({"b", "a"}));
     moved.at("a").m_dValue = 4.0;
     QCOMPARE(moved.find("a")->second.m_dValue, 4.0);
