@@ -24,8 +24,8 @@ const char* const PropertyFile = "./ElementProperty.xml";
 
 QString InstalledSystemMaterials()
 {
-    const QString installed = QCoreApplication::applicationDirPath() + QLatin1Char('/') +
-                              QStringLiteral(TARN_DATA_FROM_PROGRAM "/SysMaterial.xml");
+    QString installed = QCoreApplication::applicationDirPath() + QLatin1Char('/') +
+                        QStringLiteral(TARN_DATA_FROM_PROGRAM "/SysMaterial.xml");
     if (QFileInfo(installed).isFile())
         return installed;
     LoadBuiltInFile();

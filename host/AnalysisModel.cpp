@@ -56,7 +56,7 @@ void AnalysisModel::AddLoad(const sLoadForceData& load)
 void AnalysisModel::Remove(const std::string& name)
 {
     // A copy: the caller's name may be that of the record.
-    const std::string removed = name;
+    const std::string removed(name.data(), name.size());
     RemoveByName(m_constraints, removed);
     RemoveByName(m_loads, removed);
     AttributeCommonMgr::GetInstance()->RemoveName(removed);
