@@ -1,14 +1,28 @@
 #include "Screenshots.h"
 
+#include "ArcArrayDlg.h"
 #include "DOEDlg.h"
 #include "DialogTables.h"
 #include "DoeSession.h"
+#include "ExternalSolver.h"
+#include "ExternalSolverOption.h"
+#include "ExtrudInputDlg.h"
 #include "GlobalParaMeterMgr.h"
 #include "MainWindow.h"
+#include "MatrixArrayDlg.h"
+#include "MirrorDialog.h"
+#include "MoveInput.h"
 #include "NoticeWatcher.h"
 #include "OneParameterDlg.h"
 #include "ParameterEditor.h"
+#include "PolygonNumInputDlg.h"
+#include "PosInputDlg.h"
 #include "Project.h"
+#include "TruncatedConeInputDlg.h"
+#include "WedgeInputDlg.h"
+#include "rotateInputDlg.h"
+#include "sphereParaInputdlg.h"
+#include "torusParaInputDlg.h"
 
 #include <QApplication>
 #include <QDir>
@@ -82,6 +96,18 @@ Window NewDOEDlg(const Project&)
     return dialog;
 }
 
+template<class Dialog>
+Window NewDialog(const Project&)
+{
+    return std::make_unique<Dialog>(nullptr);
+}
+
+template<QDialog* (*create)(QWidget*)>
+Window NewDialog(const Project&)
+{
+    return Window(create(nullptr));
+}
+
 struct Picture
 {
     const char* name;
@@ -91,9 +117,24 @@ struct Picture
 // A new dialog gets a line here. The main window comes first: it fills the stores.
 const Picture Pictures[] = {
     {"MainWindow", NewMainWindow},
+    {"ArcArrayDlg", NewDialog<ArcArrayDlg>},
     {"DOEDlg", NewDOEDlg},
+    {"ExternalSolverOption", NewDialog<ExternalSolverOption>},
+    {"ExtrudInputDlg", NewDialog<ExtrudInputDlg>},
+    {"MatrixArrayDlg", NewDialog<MatrixArrayDlg>},
+    {"MirrorDialog", NewDialog<MirrorDialog>},
+    {"MoveInput", NewDialog<MoveInput>},
     {"OneParameterDlg", NewOneParameterDlg},
     {"ParameterEditor", NewParameterEditor},
+    {"PolygonNumInputDlg", NewDialog<PolygonNumInputDlg>},
+    {"PosInputDlg", NewDialog<PosInputDlg>},
+    {"ResultSetting", NewDialog<CreateResultSetting>},
+    {"SolverSetting", NewDialog<CreateSolverSetting>},
+    {"TruncatedConeInputDlg", NewDialog<TruncatedConeInputDlg>},
+    {"WedgeInputDlg", NewDialog<WedgeInputDlg>},
+    {"rotateInputDlg", NewDialog<rotateInputDlg>},
+    {"sphereParaInputdlg", NewDialog<sphereParaInputdlg>},
+    {"torusParaInputDlg", NewDialog<torusParaInputDlg>},
 };
 
 bool WritePicture(QWidget& window, const QString& path)
