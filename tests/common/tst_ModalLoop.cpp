@@ -384,6 +384,10 @@ void tst_ModalLoop::AHostSurvivesTheKernelsError()
 {
     QFETCH(QStringList, arguments);
     QProcess host;
+    // An error that passes the window system's events leaves the one at hand behind.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("ASAN_OPTIONS", "detect_leaks=0");
+    host.setProcessEnvironment(environment);
     host.start(QCoreApplication::applicationFilePath(), QStringList("--host") + arguments);
     QVERIFY(host.waitForFinished(30000));
     QCOMPARE(QString::fromLocal8Bit(host.readAllStandardOutput()), QString());

@@ -43,6 +43,7 @@ const ShownBox Done = ShownBox::Notice("Title", "Solver is Done");
 
 void tst_SolverSetting::TheFormHasAPathAndThreeButtons()
 {
+    CompareForm<SolverSetting>("SolverSetting");
     const SolverSetting dialog(nullptr);
     QCOMPARE(dialog.windowTitle(), QString("Nastran Solver"));
     QCOMPARE(DescribeForm(dialog, false),
