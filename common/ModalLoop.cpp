@@ -19,6 +19,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void TakeModality();
     void RestoreModality();
 
     QDialog& m_dialog;
@@ -48,13 +49,13 @@ int ModalRun::Exec()
     if (!m_isUnwound)
         m_wasModal = dialog->testAttribute(Qt::WA_ShowModal);
     m_isUnwound = false;
-    dialog->setAttribute(Qt::WA_ShowModal, true);
+    TakeModality();
     dialog->setResult(QDialog::Rejected);
-    dialog->show();
 
     QEventLoop loop;
     m_loop = &loop;
     try {
+        dialog->show();
         loop.exec(QEventLoop::DialogExec);
     } catch (...) {
         if (dialog) {
@@ -92,9 +93,22 @@ bool ModalRun::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
+void ModalRun::TakeModality()
+{
+    m_dialog.setAttribute(Qt::WA_ShowModal, true);
+    // An open() before blocks the parent only. done() undoes it, unless the attribute is set.
+    if (m_dialog.windowModality() == Qt::WindowModal &&
+        !m_dialog.testAttribute(Qt::WA_SetWindowModality)) {
+        m_dialog.setWindowModality(Qt::ApplicationModal);
+        m_dialog.setAttribute(Qt::WA_SetWindowModality, false);
+    }
+}
+
 void ModalRun::RestoreModality()
 {
-    m_dialog.setAttribute(Qt::WA_ShowModal, m_wasModal);
+    // The attribute, which this sets, keeps done() from undoing an open() of the meantime.
+    if (!m_wasModal)
+        m_dialog.setWindowModality(Qt::NonModal);
 }
 
 } // namespace

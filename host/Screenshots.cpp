@@ -1,15 +1,29 @@
 #include "Screenshots.h"
 
 #include "AnalysisPictures.h"
+#include "ArcArrayDlg.h"
 #include "DOEDlg.h"
 #include "DialogTables.h"
 #include "DoeSession.h"
+#include "ExternalSolver.h"
+#include "ExternalSolverOption.h"
+#include "ExtrudInputDlg.h"
 #include "GlobalParaMeterMgr.h"
 #include "MainWindow.h"
+#include "MatrixArrayDlg.h"
+#include "MirrorDialog.h"
+#include "MoveInput.h"
 #include "NoticeWatcher.h"
 #include "OneParameterDlg.h"
 #include "ParameterEditor.h"
+#include "PolygonNumInputDlg.h"
+#include "PosInputDlg.h"
 #include "Project.h"
+#include "TruncatedConeInputDlg.h"
+#include "WedgeInputDlg.h"
+#include "rotateInputDlg.h"
+#include "sphereParaInputdlg.h"
+#include "torusParaInputDlg.h"
 
 #include <QApplication>
 #include <QDir>
@@ -83,6 +97,18 @@ Window NewDOEDlg(const Project&)
     return dialog;
 }
 
+template<class Dialog>
+Window NewDialog(const Project&)
+{
+    return std::make_unique<Dialog>(nullptr);
+}
+
+template<QDialog* (*create)(QWidget*)>
+Window NewDialog(const Project&)
+{
+    return Window(create(nullptr));
+}
+
 struct Picture
 {
     const char* name;
@@ -98,19 +124,34 @@ Window NewAnalysisDialog(const Project&)
 // A new dialog gets a line here. The main window comes first: it fills the stores.
 const Picture Pictures[] = {
     {"MainWindow", NewMainWindow},
-    {"DOEDlg", NewDOEDlg},
-    {"OneParameterDlg", NewOneParameterDlg},
-    {"ParameterEditor", NewParameterEditor},
+    {"ArcArrayDlg", NewDialog<ArcArrayDlg>},
     {"CAnalysisTypeGUI", NewAnalysisDialog<PictureOfAnalysisType>},
     {"CQLTConstrainEditor", NewAnalysisDialog<PictureOfConstrainEditor>},
     {"CQLTElePropertyEditor", NewAnalysisDialog<PictureOfPropertyEditor>},
     {"CQLTLoadForceEditor", NewAnalysisDialog<PictureOfLoadEditor>},
+    {"DOEDlg", NewDOEDlg},
     {"ELementPropGUI", NewAnalysisDialog<PictureOfPropertyManager>},
+    {"ExternalSolverOption", NewDialog<ExternalSolverOption>},
+    {"ExtrudInputDlg", NewDialog<ExtrudInputDlg>},
     {"KVMaterialLibrary", NewAnalysisDialog<PictureOfMaterialLibrary>},
     {"MaterialEditer", NewAnalysisDialog<PictureOfMaterialEditor>},
+    {"MatrixArrayDlg", NewDialog<MatrixArrayDlg>},
     {"MeshSizeInput", NewAnalysisDialog<PictureOfMeshSize>},
+    {"MirrorDialog", NewDialog<MirrorDialog>},
+    {"MoveInput", NewDialog<MoveInput>},
+    {"OneParameterDlg", NewOneParameterDlg},
+    {"ParameterEditor", NewParameterEditor},
+    {"PolygonNumInputDlg", NewDialog<PolygonNumInputDlg>},
+    {"PosInputDlg", NewDialog<PosInputDlg>},
+    {"ResultSetting", NewDialog<CreateResultSetting>},
+    {"SolverSetting", NewDialog<CreateSolverSetting>},
     {"SubShapeMeshParameterDlg", NewAnalysisDialog<PictureOfSubShapeMesh>},
+    {"TruncatedConeInputDlg", NewDialog<TruncatedConeInputDlg>},
+    {"WedgeInputDlg", NewDialog<WedgeInputDlg>},
     {"frequencySetting", NewAnalysisDialog<PictureOfFrequencies>},
+    {"rotateInputDlg", NewDialog<rotateInputDlg>},
+    {"sphereParaInputdlg", NewDialog<sphereParaInputdlg>},
+    {"torusParaInputDlg", NewDialog<torusParaInputDlg>},
 };
 
 bool WritePicture(QWidget& window, const QString& path)

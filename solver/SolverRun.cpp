@@ -21,6 +21,6 @@ QProcess::ExitStatus tarn::RunToEnd(const QString& command)
     const QString program = arguments.takeFirst();
     process->setReadChannel(QProcess::StandardError);
     process->start(program, arguments, QIODevice::ReadWrite);
-    process->waitForFinished(-1);
+    process->waitForFinished(-1); // By default it gives up after half a minute.
     return process->exitStatus();
 }

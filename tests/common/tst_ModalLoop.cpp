@@ -323,14 +323,22 @@ private Q_SLOTS:
     void TheDialogIsModalWhileItRunsOnly_data() { AddSubjects(); }
     void TheDialogIsModalWhileItRunsOnly();
     void AModalDialogStaysModal();
+    void AnOpenDialogRunsAsUsual_data();
+    void AnOpenDialogRunsAsUsual();
+    void OpeningTheDialogAfterTheErrorLeavesItNotModal();
+    void TheErrorPassesThroughTheRunOfAnotherDialog();
+    void AfterTheErrorADialogToBeDeletedOnCloseIsDeletedWhenItIsClosed();
     void AnEarlierResultIsForgotten();
     void TheSignalsAreTheUsualOnes();
     void ASecondRunInsideTheFirstIsRefused();
+    void DestroyingTheRunningDialogRejects_data();
     void DestroyingTheRunningDialogRejects();
     void ADialogToBeDeletedOnCloseIsDeletedAfterTheRun();
     void TheDialogRunsAsOftenAsTheHostLikes();
 
 private:
+    // Presses OK with a zero direction.
+    void ExecAndCatch(QDialog& dialog);
     static void AddSubjects();
     static std::unique_ptr<QDialog> MakeSubject();
 };
@@ -376,6 +384,10 @@ void tst_ModalLoop::AHostSurvivesTheKernelsError()
 {
     QFETCH(QStringList, arguments);
     QProcess host;
+    // An error that passes the window system's events leaves the one at hand behind.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("ASAN_OPTIONS", "detect_leaks=0");
+    host.setProcessEnvironment(environment);
     host.start(QCoreApplication::applicationFilePath(), QStringList("--host") + arguments);
     QVERIFY(host.waitForFinished(30000));
     QCOMPARE(QString::fromLocal8Bit(host.readAllStandardOutput()), QString());
@@ -428,6 +440,91 @@ void tst_ModalLoop::AModalDialogStaysModal()
     QVERIFY(dialog.isModal());
 }
 
+void tst_ModalLoop::AnOpenDialogRunsAsUsual_data()
+{
+    QTest::addColumn<bool>("modal");
+    QTest::newRow("modal before open()") << true;
+    QTest::newRow("not modal before open()") << false;
+}
+
+void tst_ModalLoop::AnOpenDialogRunsAsUsual()
+{
+    QFETCH(bool, modal);
+    QDialog usual;
+    ExtrudInputDlg ours(nullptr);
+    for (QDialog* const dialog : {&usual, static_cast<QDialog*>(&ours)}) {
+        dialog->setModal(modal);
+        dialog->open();
+        QCOMPARE(dialog->windowModality(), Qt::WindowModal);
+        ModalDriver user;
+        user.Then([](QDialog& shown) {
+            QCOMPARE(shown.windowModality(), Qt::ApplicationModal);
+            shown.accept();
+        });
+        QCOMPARE(dialog->exec(), int(QDialog::Accepted));
+        QVERIFY(user.IsDone());
+        QCOMPARE(dialog->isModal(), modal);
+        dialog->open();
+        QCOMPARE(dialog->windowModality(), Qt::WindowModal);
+        dialog->accept();
+        QCOMPARE(dialog->isModal(), modal);
+    }
+}
+
+void tst_ModalLoop::ExecAndCatch(QDialog& dialog)
+{
+    ExpectWarning("Qt has caught an exception thrown from an event handler");
+    ModalDriver user;
+    user.Then([](QDialog& shown) {
+        Find<QLineEdit>(shown, "lineEdit_ZDir").setText("0");
+        Click(shown, "pushButton_OK");
+    });
+    QVERIFY_EXCEPTION_THROWN(dialog.exec(), Standard_ConstructionError);
+    QVERIFY(user.IsDone());
+    QVERIFY(dialog.isVisible());
+}
+
+void tst_ModalLoop::OpeningTheDialogAfterTheErrorLeavesItNotModal()
+{
+    ExtrudInputDlg dialog(nullptr);
+    ExecAndCatch(dialog);
+    dialog.open();
+    dialog.accept();
+    QVERIFY(!dialog.isModal());
+}
+
+void tst_ModalLoop::TheErrorPassesThroughTheRunOfAnotherDialog()
+{
+    ExtrudInputDlg outer(nullptr);
+    ExtrudInputDlg inner(nullptr);
+    ModalDriver user;
+    user.Then([&inner](QDialog&) { inner.exec(); });
+    user.Then([](QDialog& shown) {
+        Find<QLineEdit>(shown, "lineEdit_ZDir").setText("0");
+        Click(shown, "pushButton_OK");
+    });
+    ExpectWarning("Qt has caught an exception thrown from an event handler");
+    ExpectWarning("Qt has caught an exception thrown from an event handler");
+    QVERIFY_EXCEPTION_THROWN(outer.exec(), Standard_ConstructionError);
+    QVERIFY(user.IsDone());
+    QVERIFY(outer.isVisible() && inner.isVisible());
+    QCOMPARE(QApplication::activeModalWidget(), &inner);
+    inner.reject();
+    QCOMPARE(QApplication::activeModalWidget(), &outer);
+    outer.reject();
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+    QVERIFY(!outer.isModal() && !inner.isModal());
+}
+
+void tst_ModalLoop::AfterTheErrorADialogToBeDeletedOnCloseIsDeletedWhenItIsClosed()
+{
+    const QPointer<QDialog> dialog = new ExtrudInputDlg(nullptr);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    ExecAndCatch(*dialog);
+    QTest::keyClick(dialog.data(), Qt::Key_Escape);
+    QTRY_VERIFY(!dialog);
+}
+
 void tst_ModalLoop::AnEarlierResultIsForgotten()
 {
     ExtrudInputDlg dialog(nullptr);
@@ -472,12 +569,25 @@ void tst_ModalLoop::ASecondRunInsideTheFirstIsRefused()
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
 }
 
+void tst_ModalLoop::DestroyingTheRunningDialogRejects_data()
+{
+    QTest::addColumn<bool>("later");
+    QTest::newRow("at once") << false;
+    QTest::newRow("by deleteLater()") << true;
+}
+
 void tst_ModalLoop::DestroyingTheRunningDialogRejects()
 {
+    QFETCH(bool, later);
     auto* const dialog = new ExtrudInputDlg(nullptr);
     const QPointer<QDialog> guard = dialog;
     ModalDriver user;
-    user.Then([](QDialog& shown) { delete &shown; });
+    user.Then([later](QDialog& shown) {
+        if (later)
+            shown.deleteLater();
+        else
+            delete &shown;
+    });
     QCOMPARE(dialog->exec(), int(QDialog::Rejected));
     QVERIFY(!guard);
 }

@@ -41,8 +41,8 @@ QString tst_ArcArrayDlg::Text(const sMatrixArcdata& record)
 
 void tst_ArcArrayDlg::TheFormIsAsGiven()
 {
+    CompareForm<ArcArrayDlg>("ArcArrayDlg");
     const ArcArrayDlg dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("ArcArrayDlg"));
     QCOMPARE(dialog.windowTitle(), QString("Arc Array Input"));
     QCOMPARE(dialog.size(), QSize(398, 179));
     QCOMPARE(DescribeForm(dialog, true),

@@ -41,8 +41,8 @@ QString tst_ExtrudInputDlg::Values(const ExtrudInputDlg& dialog)
 
 void tst_ExtrudInputDlg::TheFormIsAsGiven()
 {
+    CompareForm<ExtrudInputDlg>("ExtrudInputDlg");
     const ExtrudInputDlg dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("ExtrudInputDlg"));
     QCOMPARE(dialog.windowTitle(), QString("拉伸参数输入"));
     QCOMPARE(DescribeForm(dialog, false),
              QStringList({

@@ -43,8 +43,8 @@ QString tst_MatrixArrayDlg::Text(const sMatrixArraydata& record)
 
 void tst_MatrixArrayDlg::TheFormIsAsGiven()
 {
+    CompareForm<MatrixArrayDlg>("MatrixArrayDlg");
     const MatrixArrayDlg dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("MatrixArrayDlg"));
     QCOMPARE(dialog.windowTitle(), QString("矩形阵列参数输入"));
     QCOMPARE(dialog.size(), QSize(393, 147));
     QCOMPARE(DescribeForm(dialog, true),

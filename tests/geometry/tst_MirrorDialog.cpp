@@ -71,8 +71,8 @@ int tst_MirrorDialog::PickFillAndOK(MirrorDialog& dialog, const char* mode,
 
 void tst_MirrorDialog::TheFormIsAsGiven()
 {
+    CompareForm<MirrorDialog>("MirrorDialog");
     const MirrorDialog dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("MirrorDialog"));
     QCOMPARE(dialog.windowTitle(), QString("Input"));
     QCOMPARE(dialog.size(), QSize(437, 226));
     QCOMPARE(DescribeForm(dialog, false),

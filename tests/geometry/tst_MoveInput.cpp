@@ -38,8 +38,8 @@ QString tst_MoveInput::MoveData(const MoveInput& dialog)
 
 void tst_MoveInput::TheFormIsAsGiven()
 {
+    CompareForm<MoveInput>("MoveInput");
     const MoveInput dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("MoveInput"));
     QCOMPARE(dialog.windowTitle(), QString("Input Move Parameter"));
     QCOMPARE(dialog.size(), QSize(216, 157));
     QCOMPARE(DescribeForm(dialog, false), QStringList({

@@ -32,8 +32,8 @@ QString tst_PolygonNumInputDlg::Values(const PolygonNumInputDlg& dialog)
 
 void tst_PolygonNumInputDlg::TheFormIsAsGiven()
 {
+    CompareForm<PolygonNumInputDlg>("PolygonNumInputDlg");
     const PolygonNumInputDlg dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("PolygonNumInputDlg"));
     QCOMPARE(dialog.windowTitle(), QString("Input"));
     QCOMPARE(DescribeForm(dialog, false),
              QStringList({

@@ -27,8 +27,8 @@ private Q_SLOTS:
 
 void tst_PosInputDlg::TheFormIsAsGiven()
 {
+    CompareForm<PosInputDlg, QWidget>("PosInputDlg");
     const PosInputDlg input(nullptr);
-    QCOMPARE(input.objectName(), QString("PosInputDlg"));
     QCOMPARE(input.windowTitle(), QString("PosInputDlg"));
     QCOMPARE(input.size(), QSize(400, 46));
     QCOMPARE(input.font(), QApplication::font());

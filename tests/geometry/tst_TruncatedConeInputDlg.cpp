@@ -37,8 +37,8 @@ QString tst_TruncatedConeInputDlg::Values(const TruncatedConeInputDlg& dialog)
 
 void tst_TruncatedConeInputDlg::TheFormIsAsGiven()
 {
+    CompareForm<TruncatedConeInputDlg>("TruncatedConeInputDlg");
     const TruncatedConeInputDlg dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("TruncatedConeInputDlg"));
     QCOMPARE(dialog.windowTitle(), QString("Input"));
     QCOMPARE(DescribeForm(dialog, false),
              QStringList({

@@ -37,8 +37,8 @@ QString tst_WedgeInputDlg::Values(const WedgeInputDlg& dialog)
 
 void tst_WedgeInputDlg::TheFormIsAsGiven()
 {
+    CompareForm<WedgeInputDlg>("WedgeInputDlg");
     const WedgeInputDlg dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("WedgeInputDlg"));
     QCOMPARE(dialog.windowTitle(), QString("WedgeInputDlg"));
     QCOMPARE(DescribeForm(dialog, false),
              QStringList({

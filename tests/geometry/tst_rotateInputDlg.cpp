@@ -33,8 +33,8 @@ private Q_SLOTS:
 
 void tst_rotateInputDlg::TheFormIsAsGiven()
 {
+    CompareForm<rotateInputDlg>("rotateInputDlg");
     const rotateInputDlg dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("rotateInputDlg"));
     QCOMPARE(dialog.windowTitle(), QString("Input"));
     QCOMPARE(dialog.size(), QSize(446, 182));
     QCOMPARE(DescribeForm(dialog, false),

@@ -40,8 +40,8 @@ QString tst_sphereParaInputdlg::Values(const sphereParaInputdlg& dialog)
 
 void tst_sphereParaInputdlg::TheFormIsAsGiven()
 {
+    CompareForm<sphereParaInputdlg>("sphereParaInputdlg");
     const sphereParaInputdlg dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("sphereParaInputdlg"));
     QCOMPARE(dialog.windowTitle(), QString("Input"));
     QCOMPARE(DescribeForm(dialog, false),
              QStringList({

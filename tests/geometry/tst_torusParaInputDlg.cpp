@@ -36,8 +36,8 @@ QString tst_torusParaInputDlg::Values(const torusParaInputDlg& dialog)
 
 void tst_torusParaInputDlg::TheFormIsAsGiven()
 {
+    CompareForm<torusParaInputDlg>("torusParaInputDlg");
     const torusParaInputDlg dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("torusParaInputDlg"));
     QCOMPARE(dialog.windowTitle(), QString("Input"));
     QCOMPARE(DescribeForm(dialog, false),
              QStringList({

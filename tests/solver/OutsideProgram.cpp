@@ -27,9 +27,7 @@ int main(int argc, char** argv)
     if (action == "crash")
         std::raise(SIGKILL);
     if (action == "wait")
-        std::this_thread::sleep_for(std::chrono::milliseconds(500));
-    if (action == "wait long")
-        std::this_thread::sleep_for(std::chrono::seconds(31));
+        std::this_thread::sleep_for(std::chrono::seconds(2));
     if (action == "write") {
         const std::string block(1 << 20, 'x');
         for (int i = 0; i < 20; ++i) {

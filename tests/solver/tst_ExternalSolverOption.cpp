@@ -24,8 +24,8 @@ private Q_SLOTS:
 
 void tst_ExternalSolverOption::TheFormIsAsGiven()
 {
+    CompareForm<ExternalSolverOption>("ExternalSolverOption");
     const ExternalSolverOption dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("ExternalSolverOption"));
     QCOMPARE(dialog.windowTitle(), QString("ExternalSolverOption"));
     QCOMPARE(dialog.size(), QSize(486, 351));
     QCOMPARE(DescribeForm(dialog, true),

@@ -32,6 +32,7 @@ private Q_SLOTS:
 
 void tst_ResultSetting::TheFormHasAPathAndThreeButtons()
 {
+    CompareForm<ResultSetting>("ResultSetting");
     const ResultSetting dialog(nullptr);
     QCOMPARE(dialog.windowTitle(), QString("HyperView Result Viewer"));
     QCOMPARE(DescribeForm(dialog, false),

@@ -31,7 +31,6 @@ private Q_SLOTS:
     void ACrashIsNotReported();
     void AProgramThatCannotStartIsReported_data();
     void AProgramThatCannotStartIsReported();
-    void TheRunLastsUntilTheProgramEnds_data();
     void TheRunLastsUntilTheProgramEnds();
     void MuchOutputDoesNotBlockTheProgram();
 };
@@ -44,6 +43,7 @@ const ShownBox Done = ShownBox::Notice("Title", "Solver is Done");
 
 void tst_SolverSetting::TheFormHasAPathAndThreeButtons()
 {
+    CompareForm<SolverSetting>("SolverSetting");
     const SolverSetting dialog(nullptr);
     QCOMPARE(dialog.windowTitle(), QString("Nastran Solver"));
     QCOMPARE(DescribeForm(dialog, false),
@@ -244,19 +244,10 @@ void tst_SolverSetting::AProgramThatCannotStartIsReported()
     QCOMPARE(PressRun(dialog), QVector<ShownBox>({Done}));
 }
 
-void tst_SolverSetting::TheRunLastsUntilTheProgramEnds_data()
-{
-    QTest::addColumn<QByteArray>("action");
-    QTest::newRow("half a second") << QByteArray("wait");
-    // Longer than the time limit that a process has by default.
-    QTest::newRow("half a minute") << QByteArray("wait long");
-}
-
 void tst_SolverSetting::TheRunLastsUntilTheProgramEnds()
 {
-    QFETCH(QByteArray, action);
     EnterTemporaryDirectory();
-    const OutsideAction playing(action);
+    const OutsideAction playing("wait");
     SolverSetting dialog(nullptr);
     dialog.show();
     Browse(dialog, OUTSIDE_PROGRAM);

@@ -4,29 +4,10 @@
 #include "TestCase.h"
 
 #include <QAbstractButton>
-#include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 #include <limits>
-
-namespace {
-
-QString VisibleText(const QWidget& widget)
-{
-    if (const auto* const label = qobject_cast<const QLabel*>(&widget))
-        return label->text();
-    if (const auto* const edit = qobject_cast<const QLineEdit*>(&widget))
-        return edit->text();
-    if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget))
-        return button->text();
-    if (const auto* const group = qobject_cast<const QGroupBox*>(&widget))
-        return group->title();
-    return QString();
-}
-
-} // namespace
 
 QStringList DescribeForm(const QWidget& form, bool withGeometry)
 {
@@ -46,7 +27,7 @@ QStringList DescribeForm(const QWidget& form, bool withGeometry)
                         .arg(place.width())
                         .arg(place.height());
         }
-        line += QStringLiteral(": ") + VisibleText(*widget);
+        line += QStringLiteral(": ") + ShownText(*widget);
         const auto* const button = qobject_cast<const QAbstractButton*>(widget);
         if (button != nullptr && button->isChecked())
             line += QStringLiteral(", checked");
@@ -54,6 +35,25 @@ QStringList DescribeForm(const QWidget& form, bool withGeometry)
     }
     lines.sort();
     return lines;
+}
+
+void CompareForm(const QWidget& form, const QString& name, const QWidget& plain,
+                 const QStringList& translated)
+{
+    QCOMPARE(form.objectName(), name);
+    QStringList texts = {form.windowTitle()};
+    const QList<QWidget*> widgets = form.findChildren<QWidget*>();
+    for (const QWidget* const widget : widgets)
+        texts << ShownText(*widget);
+    texts.removeAll(QString());
+    texts.removeDuplicates();
+    texts.sort();
+    QCOMPARE(translated, texts);
+
+    QCOMPARE(form.windowFlags(), plain.windowFlags());
+    QCOMPARE(form.windowModality(), plain.windowModality());
+    QVERIFY(!form.testAttribute(Qt::WA_DeleteOnClose));
+    QVERIFY(form.windowIcon().isNull());
 }
 
 QStringList EnterButtons(const QDialog& dialog)

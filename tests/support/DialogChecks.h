@@ -1,5 +1,7 @@
 #pragma once
 
+#include "DialogFacts.h"
+
 #include <QDialog>
 #include <QPair>
 #include <QString>
@@ -10,6 +12,20 @@
 /// for, text or title, and "checked". For example
 /// `QLineEdit lineEdit_Num in ArcArrayDlg at 270,20 81x21: 4`.
 QStringList DescribeForm(const QWidget& form, bool withGeometry);
+
+void CompareForm(const QWidget& form, const QString& name, const QWidget& plain,
+                 const QStringList& translated);
+
+/// Compares what all forms have in common: the root is named @p name, all texts are translated in
+/// the context of that name, and the window is as the toolkit makes it, without icon.
+template<class Form, class Plain = QDialog>
+void CompareForm(const char* name)
+{
+    const TextRecorder recorder;
+    const Form form(nullptr);
+    const Plain plain;
+    CompareForm(form, QString::fromLatin1(name), plain, recorder.TextsOf(name));
+}
 
 /// The buttons that Enter may press, by object name; the default button first, marked by a star.
 QStringList EnterButtons(const QDialog& dialog);

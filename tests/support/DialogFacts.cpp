@@ -4,15 +4,11 @@
 #include <QMetaMethod>
 #include <QTest>
 
-namespace {
-
 QString ShownText(const QWidget& widget)
 {
     const QVariant title = widget.property("title");
     return title.isValid() ? title.toString() : widget.property("text").toString();
 }
-
-} // namespace
 
 void AddFormColumns()
 {

@@ -7,6 +7,9 @@
 #include <QStringList>
 #include <QTranslator>
 
+/// The text of a widget, or its title.
+QString ShownText(const QWidget& widget);
+
 /// Columns for the widgets of a form, a row each, named after the object: type, parent, geometry,
 /// text (a group box's title), enabled, checked. An empty geometry leaves the place to a layout.
 ///
