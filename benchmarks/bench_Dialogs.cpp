@@ -1,15 +1,27 @@
+#include "ArcArrayDlg.h"
 #include "CAnalysisTypeGUI.h"
 #include "CQLTConstrainEditor.h"
 #include "CQLTElePropertyEditor.h"
 #include "CQLTLoadForceEditor.h"
 #include "DOEDlg.h"
 #include "ELementPropGUI.h"
+#include "ExternalSolverOption.h"
+#include "ExtrudInputDlg.h"
 #include "KVMaterialLibrary.h"
+#include "MatrixArrayDlg.h"
 #include "MeshSizeInput.h"
+#include "MirrorDialog.h"
+#include "MoveInput.h"
 #include "OneParameterDlg.h"
 #include "ParameterEditor.h"
+#include "PolygonNumInputDlg.h"
 #include "SubShapeMeshParameterDlg.h"
+#include "TruncatedConeInputDlg.h"
+#include "WedgeInputDlg.h"
 #include "frequencySetting.h"
+#include "rotateInputDlg.h"
+#include "sphereParaInputdlg.h"
+#include "torusParaInputDlg.h"
 
 #include <QApplication>
 #include <QDir>
@@ -71,18 +83,30 @@ void Register(const std::string& name)
 
 void RegisterAll()
 {
+    Register<ArcArrayDlg, Ui::ArcArrayDlg>("ArcArrayDlg");
     Register<CAnalysisTypeGUI, Ui::CAnalysisTypeGUI>("CAnalysisTypeGUI");
     Register<CQLTConstrainEditor, Ui::QLTConstrainEditor>("CQLTConstrainEditor");
     Register<CQLTElePropertyEditor, Ui::QLTElemProperty>("CQLTElePropertyEditor");
     Register<CQLTLoadForceEditor, Ui::QLTLoadForceEditor>("CQLTLoadForceEditor");
     Register<DOEDlg, Ui::DOEDlg>("DOEDlg");
     Register<ELementPropGUI, Ui::ELementPropGUI>("ELementPropGUI");
+    Register<ExternalSolverOption, Ui::ExternalSolverOption>("ExternalSolverOption");
+    Register<ExtrudInputDlg, Ui::ExtrudInputDlg>("ExtrudInputDlg");
     Register<KVMaterialLibrary, Ui::KVMaterialLibrary>("KVMaterialLibrary");
+    Register<MatrixArrayDlg, Ui::MatrixArrayDlg>("MatrixArrayDlg");
     Register<MeshSizeInput, Ui::MeshSizeInput>("MeshSizeInput");
+    Register<MirrorDialog, Ui::MirrorDialog>("MirrorDialog");
+    Register<MoveInput, Ui::MoveInput>("MoveInput");
     Register<OneParameterDlg, Ui::OneParameterDlg>("OneParameterDlg");
     Register<ParameterEditor, Ui::ParameterEditor>("ParameterEditor");
+    Register<PolygonNumInputDlg, Ui::PolygonNumInputDlg>("PolygonNumInputDlg");
     Register<SubShapeMeshParameterDlg, Ui::SubShapeMeshParameterDlg>("SubShapeMeshParameterDlg");
+    Register<TruncatedConeInputDlg, Ui::TruncatedConeInputDlg>("TruncatedConeInputDlg");
+    Register<WedgeInputDlg, Ui::WedgeInputDlg>("WedgeInputDlg");
     Register<frequencySetting, Ui::frequencySetting>("frequencySetting");
+    Register<rotateInputDlg, Ui::rotateInputDlg>("rotateInputDlg");
+    Register<sphereParaInputdlg, Ui::sphereParaInputdlg>("sphereParaInputdlg");
+    Register<torusParaInputDlg, Ui::torusParaInputDlg>("torusParaInputDlg");
 }
 
 } // namespace
