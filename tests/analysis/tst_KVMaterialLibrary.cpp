@@ -97,6 +97,8 @@ private Q_SLOTS:
     void LeavingWritesNothing();
     void WriteDataWritesTheUsersMaterials();
     void AFailedWriteIsSilent();
+    void AFileThatWasNotReadIsKeptAsACopy_data();
+    void AFileThatWasNotReadIsKeptAsACopy();
     void HelpDoesNothing();
     void TabFollowsReadingOrder();
     void EnterPressesNothing_data();
@@ -683,6 +685,44 @@ void tst_KVMaterialLibrary::AFailedWriteIsSilent()
     QCOMPARE(library.exec(), int(QDialog::Accepted));
     QVERIFY(user.IsDone());
     QCOMPARE(user.Boxes(), QVector<ShownBox>());
+}
+
+void tst_KVMaterialLibrary::AFileThatWasNotReadIsKeptAsACopy_data()
+{
+    QTest::addColumn<bool>("isReset");
+    QTest::newRow("the constructor reads the system file only") << false;
+    QTest::newRow("replaced while the dialog is open") << true;
+}
+
+void tst_KVMaterialLibrary::AFileThatWasNotReadIsKeptAsACopy()
+{
+    QFETCH(bool, isReset);
+    const QDir directory(EnterTemporaryDirectory());
+    const EmptyAnalysisStores stores;
+    WriteBothFiles();
+    const QByteArray foreign = "<somebody else's file>";
+    ModalDriver user;
+    KVMaterialLibrary library;
+    if (isReset)
+        library.Reset();
+    user.Then([&foreign](QDialog& shown) {
+        QFile file(UserFile);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(foreign), qint64(foreign.size()));
+        file.close();
+        Click(shown, "pushButton_6");
+    });
+    QCOMPARE(library.exec(), int(QDialog::Accepted));
+    QVERIFY(user.IsDone());
+
+    const QStringList copies = directory.entryList({"UserMaterial.xml.*.bak"});
+    QCOMPARE(copies.size(), 1);
+    QFile copy(copies.first());
+    QVERIFY(copy.open(QIODevice::ReadOnly));
+    QCOMPARE(copy.readAll(), foreign);
+    Store().ClearInfo();
+    QCOMPARE(Store().ReadXML(UserFile, MATERIAL_USER), 0);
+    QCOMPARE(Store().MapDataRow(), isReset ? 2 : 0);
 }
 
 void tst_KVMaterialLibrary::HelpDoesNothing()
