@@ -38,5 +38,5 @@ function(tarn_test name)
     set(arg_TIMEOUT 120)
   endif()
   set_tests_properties(${target} PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT
-                       "QT_QPA_PLATFORM=${platform};LOCPATH=${TARN_TEST_LOCALES};LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+                       "QT_QPA_PLATFORM=${platform};LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
 endfunction()

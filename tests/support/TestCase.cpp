@@ -164,5 +164,7 @@ void PrepareTestProgram()
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("LOCPATH"))
+        qputenv("LOCPATH", TARN_TEST_LOCALES);
     qputenv("QT_LOGGING_RULES", "*.debug=true;qt.*.debug=false");
 }
