@@ -1,7 +1,9 @@
-#include <GlobalParaMeterMgr.h>
-#include <ParameterEditor.h>
 #include <QApplication>
 #include <QTimer>
+
+#include <GlobalParaMeterMgr.h>
+#include <ParameterEditor.h>
+
 #include <cstdio>
 
 int main(int argc, char** argv)
@@ -17,6 +19,7 @@ int main(int argc, char** argv)
     editor.m_Slot_RefreshGUI();
     QTimer::singleShot(0, &editor, SLOT(m_Slot_OK()));
     editor.exec();
-    std::printf("a = %g\n", GlobalParaMeterMgr::GetParameterRawValue(QStringLiteral("a")).toDouble());
+    std::printf("a = %g\n",
+                GlobalParaMeterMgr::GetParameterRawValue(QStringLiteral("a")).toDouble());
     return 0;
 }
