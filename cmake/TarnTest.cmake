@@ -7,6 +7,8 @@ add_custom_command(
   VERBATIM)
 add_custom_target(TarnTestLocales ALL DEPENDS "${TARN_TEST_LOCALES}/de_DE.UTF-8/LC_NUMERIC")
 
+set(TARN_LSAN_OPTIONS "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+
 # tarn_test(<class> [INTERNAL] [WINDOW_SYSTEM] [TIMEOUT <seconds>] [LIBRARIES <target>...]
 #           [DEFINITIONS <definition>...])
 #
@@ -38,5 +40,5 @@ function(tarn_test name)
     set(arg_TIMEOUT 120)
   endif()
   set_tests_properties(${target} PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT
-                       "QT_QPA_PLATFORM=${platform};LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+                       "QT_QPA_PLATFORM=${platform};${TARN_LSAN_OPTIONS}")
 endfunction()
