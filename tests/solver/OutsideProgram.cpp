@@ -27,7 +27,9 @@ int main(int argc, char** argv)
     if (action == "crash")
         std::raise(SIGKILL);
     if (action == "wait")
-        std::this_thread::sleep_for(std::chrono::seconds(2));
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));
+    if (action == "wait long")
+        std::this_thread::sleep_for(std::chrono::seconds(31));
     if (action == "write") {
         const std::string block(1 << 20, 'x');
         for (int i = 0; i < 20; ++i) {

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void ACrashIsNotReported();
     void AProgramThatCannotStartIsReported_data();
     void AProgramThatCannotStartIsReported();
+    void TheRunLastsUntilTheProgramEnds_data();
     void TheRunLastsUntilTheProgramEnds();
     void MuchOutputDoesNotBlockTheProgram();
 };
@@ -244,10 +245,19 @@ void tst_SolverSetting::AProgramThatCannotStartIsReported()
     QCOMPARE(PressRun(dialog), QVector<ShownBox>({Done}));
 }
 
+void tst_SolverSetting::TheRunLastsUntilTheProgramEnds_data()
+{
+    QTest::addColumn<QByteArray>("action");
+    QTest::newRow("half a second") << QByteArray("wait");
+    // Longer than the time limit that a process has by default.
+    QTest::newRow("half a minute") << QByteArray("wait long");
+}
+
 void tst_SolverSetting::TheRunLastsUntilTheProgramEnds()
 {
+    QFETCH(QByteArray, action);
     EnterTemporaryDirectory();
-    const OutsideAction playing("wait");
+    const OutsideAction playing(action);
     SolverSetting dialog(nullptr);
     dialog.show();
     Browse(dialog, OUTSIDE_PROGRAM);
