@@ -12,6 +12,9 @@ function(tarn_finish_library target)
   # The four libraries find one another beside themselves, wherever the package stands.
   set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
                                              INSTALL_RPATH "$ORIGIN")
+  set(exports "${PROJECT_SOURCE_DIR}/cmake/exports.map")
+  target_link_options(${target} PRIVATE "-Wl,--version-script=${exports}")
+  set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${exports}")
   if(NOT TARN_SANITIZE)
     target_link_options(${target} PRIVATE -Wl,--no-undefined)
   endif()
@@ -21,6 +24,7 @@ function(tarn_finish_library target)
   install(TARGETS ${target} EXPORT TarnGUICommonTargets
           LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
           NAMELINK_COMPONENT development)
+  set_property(GLOBAL APPEND PROPERTY TARN_PUBLIC_HEADERS ${arg_HEADERS})
   install(FILES ${arg_HEADERS} "${PROJECT_BINARY_DIR}/exports/${lower}_export.h"
           DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon COMPONENT development)
 endfunction()

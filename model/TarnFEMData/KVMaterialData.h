@@ -74,6 +74,6 @@ private:
     KVMaterialData();
     ~KVMaterialData();
 
-    struct Private;
+    struct TARNFEMDATA_NO_EXPORT Private;
     const std::unique_ptr<Private> m_d;
 };

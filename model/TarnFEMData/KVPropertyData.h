@@ -57,6 +57,6 @@ private:
     KVPropertyData();
     ~KVPropertyData();
 
-    struct Private;
+    struct TARNFEMDATA_NO_EXPORT Private;
     const std::unique_ptr<Private> m_d;
 };
