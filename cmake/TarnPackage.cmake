@@ -1,4 +1,4 @@
-# The installed CMake package and the pkg-config file.
+# What is installed beside libraries, headers and host: the CMake package, the pkg-config file, the documents.
 include(CMakePackageConfigHelpers)
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/TarnGUICommon)
 configure_package_config_file(cmake/TarnGUICommonConfig.cmake.in "${PROJECT_BINARY_DIR}/TarnGUICommonConfig.cmake"
@@ -16,3 +16,8 @@ file(RELATIVE_PATH pc_prefix "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/prefi
 configure_file(cmake/TarnGUICommon.pc.in "${PROJECT_BINARY_DIR}/TarnGUICommon.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommon.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
         COMPONENT development)
+
+# The manual as web pages, where the build made them, stands in html/ of the same folder.
+set(TARN_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/libtarnguicommon-dev)
+install(DIRECTORY docs/ DESTINATION ${TARN_DOC_DIR} COMPONENT development)
+install(DIRECTORY "${PROJECT_BINARY_DIR}/docs/html" DESTINATION ${TARN_DOC_DIR} COMPONENT development OPTIONAL)

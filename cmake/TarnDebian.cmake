@@ -1,0 +1,84 @@
+# The Debian packages: the libraries, what hosts are developed with, the reference host.
+# `cmake --build --preset release --target package` makes all three.
+set(debian_runtime libtarnguicommon${PROJECT_VERSION_MAJOR})
+set(debian_development libtarnguicommon-dev)
+set(debian_host tarnhost)
+
+# tarn_install_gzip(<file> <installed name> <component> <folder>)
+function(tarn_install_gzip file name component folder)
+  set(zipped "${PROJECT_BINARY_DIR}/gzip/${component}/${name}.gz")
+  get_filename_component(zipped_folder "${zipped}" DIRECTORY)
+  file(MAKE_DIRECTORY "${zipped_folder}")
+  # No name and no time in it: the same source gives the same package.
+  add_custom_command(
+    OUTPUT "${zipped}" COMMAND sh -c "gzip -9nc \"$1\" >\"$2\"" gzip "${file}" "${zipped}"
+    DEPENDS "${file}" VERBATIM)
+  set_property(GLOBAL APPEND PROPERTY TARN_ZIPPED "${zipped}")
+  install(FILES "${zipped}" DESTINATION "${folder}" COMPONENT ${component})
+endfunction()
+
+set(CPACK_COMPONENTS_ALL runtime development)
+if(TARN_HOST)
+  list(APPEND CPACK_COMPONENTS_ALL host)
+  tarn_install_gzip("${PROJECT_SOURCE_DIR}/host/desktop/tarnhost.1" tarnhost.1 host ${CMAKE_INSTALL_MANDIR}/man1)
+endif()
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+  set(folder ${CMAKE_INSTALL_DATADIR}/doc/${debian_${component}})
+  install(FILES "${PROJECT_SOURCE_DIR}/cmake/debian/copyright" DESTINATION ${folder} COMPONENT ${component})
+  tarn_install_gzip("${PROJECT_SOURCE_DIR}/CHANGELOG.md" changelog ${component} ${folder})
+  string(TOUPPER ${component} upper)
+  set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${debian_${component}})
+endforeach()
+get_property(zipped GLOBAL PROPERTY TARN_ZIPPED)
+add_custom_target(TarnZipped ALL DEPENDS ${zipped})
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_CONTACT "TarnGUICommon project <packages@tarnguicommon.invalid>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # It would stand above each package's own.
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/debian/RemoveRunPath.cmake")
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+
+# What a package depends on is read from its programs and libraries, where the tool for it is there.
+find_program(TARN_SHLIBDEPS dpkg-shlibdeps)
+mark_as_advanced(TARN_SHLIBDEPS)
+if(TARN_SHLIBDEPS)
+  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
+      "${PROJECT_BINARY_DIR}" "${PROJECT_BINARY_DIR}/model/TarnCoreGeometry"
+      "${PROJECT_BINARY_DIR}/model/TarnDesign" "${PROJECT_BINARY_DIR}/model/TarnFEMData")
+endif()
+# While the major version is 0 every version may change the interface, so all ask for this very one.
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY "=")
+set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
+set(CPACK_COMPONENT_HOST_DEPENDS runtime)
+
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_SOURCE_DIR}/cmake/debian/triggers")
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
+    "dialog library of a desktop CAD/CAE application
+Dialogs for parameters and expressions, sampling and design of experiments,
+analysis set-up, geometry input and external solvers, and the stores that they
+share with the application.")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+# What the CMake package and the headers of ours name.
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+    "qtbase5-dev (>= 5.15), libocct-foundation-dev, libocct-modeling-data-dev, libtbb-dev")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
+    "dialog library of a desktop CAD/CAE application - development files
+Headers, CMake package, pkg-config file and documentation for applications that
+show the dialogs.")
+set(CPACK_DEBIAN_HOST_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_HOST_PACKAGE_RECOMMENDS fonts-noto-cjk)
+set(CPACK_COMPONENT_HOST_DESCRIPTION
+    "reference application of the TarnGUICommon dialog library
+Edits the parameters of a sample flange, runs design studies, with a window or
+without, and shows every dialog of the library. Brings the sample project and
+the system library of materials.")
+
+include(CPack)
