@@ -8,6 +8,8 @@ class TARNGUICOMMON_EXPORT TarnGUICommon
 public:
     TarnGUICommon();
     ~TarnGUICommon();
+    /// There is nothing to copy.
     TarnGUICommon(const TarnGUICommon& other) = default;
+    /// There is nothing to copy.
     TarnGUICommon& operator=(const TarnGUICommon& other);
 };
