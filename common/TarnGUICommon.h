@@ -6,6 +6,7 @@
 class TARNGUICOMMON_EXPORT TarnGUICommon
 {
 public:
+    /// There is nothing to make.
     TarnGUICommon();
     ~TarnGUICommon();
     /// There is nothing to copy.

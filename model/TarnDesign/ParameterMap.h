@@ -33,6 +33,7 @@ public:
     /// As iterator, for entries that are only read.
     using const_iterator = std::list<value_type>::const_iterator;
 
+    /// An empty map.
     ParameterMap() = default;
     /// A copy of all records, in the same order.
     ParameterMap(const ParameterMap& other);
