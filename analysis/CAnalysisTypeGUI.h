@@ -20,6 +20,7 @@ class TARNGUICOMMON_EXPORT CAnalysisTypeGUI : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with Vibration checked. @p parent may be null.
     explicit CAnalysisTypeGUI(QWidget* parent);
     ~CAnalysisTypeGUI() override;
 

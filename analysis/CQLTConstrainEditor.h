@@ -19,6 +19,7 @@ class TARNGUICOMMON_EXPORT CQLTConstrainEditor : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with the name "defaultBC" and all six degrees of freedom held. @p parent may be null.
     explicit CQLTConstrainEditor(QWidget* parent);
     ~CQLTConstrainEditor() override;
 

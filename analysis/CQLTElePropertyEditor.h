@@ -26,6 +26,7 @@ class TARNGUICOMMON_EXPORT CQLTElePropertyEditor : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens for a new shell of thickness 1, without name and material. @p parent may be null.
     explicit CQLTElePropertyEditor(QWidget* parent);
     ~CQLTElePropertyEditor() override;
 
@@ -43,10 +44,17 @@ public:
     int ApplyOk();
 
 public Q_SLOTS:
+    /// ApplyOk(), and accepts when that is done.
     void on_okButton_clicked();
+    /// Rejects.
     void on_CancelButton_clicked();
+    /// Runs the material library and takes over the material that it is accepted with, which may be
+    /// none. The library reads its files anew: materials that were not written yet are lost.
     void on_getMat_brower();
+    /// Shows the page of the checked element type, and writes the text of @p button, which must not
+    /// be null, to the debug log.
     void onButtonClicked(QAbstractButton* button);
+    /// Does nothing.
     void on_ApplyOk();
 
 private:

@@ -21,6 +21,7 @@ class TARNGUICOMMON_EXPORT CQLTLoadForceEditor : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with the name "Default" and the force (1000, 0, 0). @p parent may be null.
     explicit CQLTLoadForceEditor(QWidget* parent);
     ~CQLTLoadForceEditor() override;
 

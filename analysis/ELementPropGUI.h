@@ -26,6 +26,7 @@ class TARNGUICOMMON_EXPORT ELementPropGUI : public QDialog
     Q_OBJECT
 
 public:
+    /// Reads the file and lists the store, with the last row selected. @p parent may be null.
     explicit ELementPropGUI(QWidget* parent);
     ~ELementPropGUI() override;
 
@@ -44,8 +45,14 @@ public Q_SLOTS:
     void LoadBuildinProperty();
     /// Fills the table from the store and selects the last row.
     void ShowProperty();
+    /// Runs the property editor for a new property, and enters what was accepted in table and
+    /// store, also in place of a property of the same name.
     void InsertProperty();
+    /// Runs the property editor for the current row and fills the table anew, whose columns are
+    /// numbered from then on. Without a row, or where the store lacks the property, it says so.
     void EditProperty();
+    /// Removes the current row after a question; the store keeps the property. Without a row it
+    /// does nothing.
     void DeleteProperty();
     /// Writes the file and hides the dialog.
     void on_OK_Button();

@@ -19,8 +19,10 @@ class TARNGUICOMMON_EXPORT SubShapeMeshParameterDlg : public QDialog
     Q_OBJECT
 
 public:
+    /// Both fields are empty. @p parent may be null.
     explicit SubShapeMeshParameterDlg(QWidget* parent);
     ~SubShapeMeshParameterDlg() override;
 
+    /// The widgets: lineEdit_MeshSize, lineEdit_MeshNumber, pushButton_OK and pushButton_Cancel.
     Ui::SubShapeMeshParameterDlg ui;
 };

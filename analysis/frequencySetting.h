@@ -19,6 +19,7 @@ class TARNGUICOMMON_EXPORT frequencySetting : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with the values of FrequencyPref, in six significant digits. @p parent may be null.
     explicit frequencySetting(QWidget* parent);
     ~frequencySetting() override;
 

@@ -27,6 +27,10 @@ function(tarn_finish_library target)
   set_property(GLOBAL APPEND PROPERTY TARN_PUBLIC_HEADERS ${arg_HEADERS})
   install(FILES ${arg_HEADERS} "${PROJECT_BINARY_DIR}/exports/${lower}_export.h"
           DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon COMPONENT development)
+  foreach(header IN LISTS arg_HEADERS)
+    get_filename_component(header "${header}" ABSOLUTE)
+    set_property(GLOBAL APPEND PROPERTY TARN_PUBLIC_HEADERS "${header}")
+  endforeach()
 endfunction()
 
 # tarn_model_library(<target> SOURCES <source>... HEADERS <public header>...)

@@ -6,8 +6,11 @@
 class TARNGUICOMMON_EXPORT TarnGUICommon
 {
 public:
+    /// There is nothing to make.
     TarnGUICommon();
     ~TarnGUICommon();
+    /// There is nothing to copy.
     TarnGUICommon(const TarnGUICommon& other) = default;
+    /// There is nothing to copy.
     TarnGUICommon& operator=(const TarnGUICommon& other);
 };

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// The samples of parameters, and the registry that holds them.
+
 #include "tarnguicommon_export.h"
 
 #include <QString>

@@ -21,6 +21,7 @@ class TARNGUICOMMON_EXPORT ArcArrayDlg : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with 90 degrees, 4 instances and the z axis. @p parent may be null.
     explicit ArcArrayDlg(QDialog* parent);
     ~ArcArrayDlg() override;
 

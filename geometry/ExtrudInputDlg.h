@@ -21,6 +21,7 @@ class TARNGUICOMMON_EXPORT ExtrudInputDlg : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with the direction (0, 0, 1) and the length 10. @p parent may be null.
     explicit ExtrudInputDlg(QWidget* parent);
     ~ExtrudInputDlg() override;
 

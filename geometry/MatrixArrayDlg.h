@@ -20,6 +20,7 @@ class TARNGUICOMMON_EXPORT MatrixArrayDlg : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with 5 by 4 instances at distances of 50 and 100. @p parent may be null.
     explicit MatrixArrayDlg(QDialog* parent);
     ~MatrixArrayDlg() override;
 

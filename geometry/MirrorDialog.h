@@ -23,6 +23,7 @@ class TARNGUICOMMON_EXPORT MirrorDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with the symmetry about the z axis. @p parent may be null.
     explicit MirrorDialog(QDialog* parent);
     ~MirrorDialog() override;
 

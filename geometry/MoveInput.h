@@ -19,6 +19,7 @@ class TARNGUICOMMON_EXPORT MoveInput : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with three zeros. @p parent may be null.
     explicit MoveInput(QWidget* parent);
     ~MoveInput() override;
 

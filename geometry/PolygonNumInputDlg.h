@@ -18,6 +18,7 @@ class TARNGUICOMMON_EXPORT PolygonNumInputDlg : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with an empty field. @p parent may be null.
     explicit PolygonNumInputDlg(QWidget* parent);
     ~PolygonNumInputDlg() override;
 

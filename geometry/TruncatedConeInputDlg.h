@@ -19,6 +19,7 @@ class TARNGUICOMMON_EXPORT TruncatedConeInputDlg : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with height 10, top radius 5 and 360 degrees. @p parent may be null.
     explicit TruncatedConeInputDlg(QWidget* parent);
     ~TruncatedConeInputDlg() override;
 

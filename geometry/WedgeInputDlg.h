@@ -19,6 +19,7 @@ class TARNGUICOMMON_EXPORT WedgeInputDlg : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with height 30, X from 5 to 15 and Z from 8 to 20. @p parent may be null.
     explicit WedgeInputDlg(QWidget* parent);
     ~WedgeInputDlg() override;
 

@@ -23,6 +23,7 @@ class TARNGUICOMMON_EXPORT rotateInputDlg : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with 90 degrees about the z axis. @p parent may be null.
     explicit rotateInputDlg(QWidget* parent);
     ~rotateInputDlg() override;
 

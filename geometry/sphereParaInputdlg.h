@@ -19,6 +19,7 @@ class TARNGUICOMMON_EXPORT sphereParaInputdlg : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with -90, 90 and 360 degrees. @p parent may be null.
     explicit sphereParaInputdlg(QWidget* parent);
     ~sphereParaInputdlg() override;
 

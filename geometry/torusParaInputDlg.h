@@ -20,6 +20,7 @@ class TARNGUICOMMON_EXPORT torusParaInputDlg : public QDialog
     Q_OBJECT
 
 public:
+    /// Opens with the radius 3 and -180, 180 and 360 degrees. @p parent may be null.
     explicit torusParaInputDlg(QWidget* parent);
     ~torusParaInputDlg() override;
 

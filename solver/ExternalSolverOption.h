@@ -19,8 +19,12 @@ class TARNGUICOMMON_EXPORT ExternalSolverOption : public QDialog
     Q_OBJECT
 
 public:
+    /// All paths are empty. @p parent may be null.
     explicit ExternalSolverOption(QWidget* parent);
     ~ExternalSolverOption() override;
 
+    /// The widgets: lineEdit_Ansys, lineEdit_Abaqus, lineEdit_Nastran, then lineEdit_4 to
+    /// lineEdit_9 for Fluent, openFOAM, OOFEM, HFSS, CST and COMSOL; pushButton is OK, pushButton_2
+    /// is Cancel.
     Ui::ExternalSolverOption ui;
 };

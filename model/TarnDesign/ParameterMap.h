@@ -20,35 +20,57 @@
 class TARNDESIGN_EXPORT ParameterMap
 {
 public:
+    /// A parameter's name.
     using key_type = QString;
+    /// A parameter's record.
     using mapped_type = ParametersDef;
+    /// An entry: name and record.
     using value_type = std::pair<const QString, ParametersDef>;
+    /// Counts entries.
     using size_type = std::size_t;
+    /// Goes through the entries in the order of insertion, either way.
     using iterator = std::list<value_type>::iterator;
+    /// As iterator, for entries that are only read.
     using const_iterator = std::list<value_type>::const_iterator;
 
+    /// An empty map.
     ParameterMap() = default;
+    /// A copy of all records, in the same order.
     ParameterMap(const ParameterMap& other);
+    /// Takes the records over and leaves @p other empty; iterators stay valid.
     ParameterMap(ParameterMap&& other) noexcept;
+    /// Replaces all records by copies of those of @p other.
     ParameterMap& operator=(const ParameterMap& other);
+    /// Replaces all records by those of @p other, which is left empty.
     ParameterMap& operator=(ParameterMap&& other) noexcept;
     ~ParameterMap() = default;
 
+    /// The number of records.
     size_type size() const { return m_entries.size(); }
+    /// True when there is no record.
     bool empty() const { return m_entries.empty(); }
+    /// Removes all records.
     void clear();
 
+    /// The entry that was first added.
     iterator begin() { return m_entries.begin(); }
+    /// Past the entry that was last added.
     iterator end() { return m_entries.end(); }
+    /// The entry that was first added.
     const_iterator begin() const { return m_entries.begin(); }
+    /// Past the entry that was last added.
     const_iterator end() const { return m_entries.end(); }
 
+    /// The entry of @p name, or end().
     iterator find(const QString& name);
+    /// The entry of @p name, or end().
     const_iterator find(const QString& name) const;
+    /// How many records bear @p name: 0 or 1.
     size_type count(const QString& name) const { return m_index.count(name); }
 
     /// The record of @p name. @throws std::out_of_range when there is none.
     ParametersDef& at(const QString& name);
+    /// The record of @p name. @throws std::out_of_range when there is none.
     const ParametersDef& at(const QString& name) const;
 
     /// The record of @p name; a default record is added at the end when there is none.

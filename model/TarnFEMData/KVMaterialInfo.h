@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// The record of a material, and where materials come from.
+
 #include <QString>
 
 /// Where a material comes from.
