@@ -24,7 +24,6 @@ function(tarn_finish_library target)
   install(TARGETS ${target} EXPORT TarnGUICommonTargets
           LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
           NAMELINK_COMPONENT development)
-  set_property(GLOBAL APPEND PROPERTY TARN_PUBLIC_HEADERS ${arg_HEADERS})
   install(FILES ${arg_HEADERS} "${PROJECT_BINARY_DIR}/exports/${lower}_export.h"
           DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon COMPONENT development)
   foreach(header IN LISTS arg_HEADERS)
