@@ -164,6 +164,27 @@ bool WritePicture(QWidget& window, const QString& path)
 
 } // namespace
 
+QPalette DarkPalette()
+{
+    QPalette palette(QColor(53, 53, 53),
+                     QColor(53, 53, 53)); // Button and window; the rest follows.
+    palette.setColor(QPalette::Base, QColor(35, 35, 35));
+    palette.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
+    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+void VisitWindows(const Project& project,
+                  const std::function<void(const QString& name, QWidget& window)>& visit)
+{
+    const PictureFont font;
+    const NoticeWatcher notices;
+    const SampleAnalysisFiles files;
+    for (const Picture& picture : Pictures)
+        visit(QString::fromLatin1(picture.name), *picture.make(project));
+}
+
 void WriteScreenshots(const Project& project, const QString& directory)
 {
     if (!QDir().mkpath(directory))
@@ -171,14 +192,10 @@ void WriteScreenshots(const Project& project, const QString& directory)
     // The working directory changes while the pictures are made.
     const QDir pictures(QDir(directory).absolutePath());
 
-    const PictureFont font;
-    const NoticeWatcher notices;
-    const SampleAnalysisFiles files;
-    for (const Picture& picture : Pictures) {
-        const Window window = picture.make(project);
-        const QString name = QLatin1String(picture.name) + QStringLiteral(".png");
-        if (!WritePicture(*window, pictures.filePath(name)))
+    VisitWindows(project, [&directory, &pictures](const QString& name, QWidget& window) {
+        const QString file = name + QStringLiteral(".png");
+        if (!WritePicture(window, pictures.filePath(file)))
             throw ScreenshotError(
-                QStringLiteral("%1: cannot be written").arg(QDir(directory).filePath(name)));
-    }
+                QStringLiteral("%1: cannot be written").arg(QDir(directory).filePath(file)));
+    });
 }
