@@ -166,10 +166,12 @@ bool WritePicture(QWidget& window, const QString& path)
 
 QPalette DarkPalette()
 {
-    QPalette palette(QColor(53, 53, 53),
-                     QColor(53, 53, 53)); // Button and window; the rest follows.
-    palette.setColor(QPalette::Base, QColor(35, 35, 35));
-    palette.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
+    const QColor ground(48, 48, 48);
+    QPalette palette(ground, ground); // Of buttons and windows; the rest follows.
+    // Fields are lighter than the window: the style draws the frame of a check box darker than it,
+    // which would not be seen on black.
+    palette.setColor(QPalette::Base, QColor(68, 68, 68));
+    palette.setColor(QPalette::AlternateBase, QColor(76, 76, 76));
     palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     return palette;
@@ -178,7 +180,6 @@ QPalette DarkPalette()
 void VisitWindows(const Project& project,
                   const std::function<void(const QString& name, QWidget& window)>& visit)
 {
-    const PictureFont font;
     const NoticeWatcher notices;
     const SampleAnalysisFiles files;
     for (const Picture& picture : Pictures)
@@ -192,6 +193,7 @@ void WriteScreenshots(const Project& project, const QString& directory)
     // The working directory changes while the pictures are made.
     const QDir pictures(QDir(directory).absolutePath());
 
+    const PictureFont font;
     VisitWindows(project, [&directory, &pictures](const QString& name, QWidget& window) {
         const QString file = name + QStringLiteral(".png");
         if (!WritePicture(window, pictures.filePath(file)))
