@@ -7,6 +7,8 @@
 
 #include <QAbstractButton>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
 
 class tst_Language : public TestCase
 {
@@ -16,6 +18,7 @@ private Q_SLOTS:
     void WithoutALanguageTheFormsSpeakAsTheyAre();
     void EveryKnownLanguageIsSpoken_data();
     void EveryKnownLanguageIsSpoken();
+    void TheToolkitsButtonsSpeakTheLanguage();
     void TheBestOfTheUsersLanguagesIsTaken_data();
     void TheBestOfTheUsersLanguagesIsTaken();
 };
@@ -55,6 +58,15 @@ void tst_Language::EveryKnownLanguageIsSpoken()
     QVERIFY(Language::Known().contains(name));
     const Language language(name);
     QTEST(Spoken(), "texts");
+}
+
+void tst_Language::TheToolkitsButtonsSpeakTheLanguage()
+{
+    const Language language("zh_CN");
+    QMessageBox box;
+    box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+    QCOMPARE(box.button(QMessageBox::Ok)->text(), QString("确定"));
+    QCOMPARE(box.button(QMessageBox::Cancel)->text(), QString("取消"));
 }
 
 void tst_Language::TheBestOfTheUsersLanguagesIsTaken_data()
