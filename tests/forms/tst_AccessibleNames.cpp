@@ -109,7 +109,8 @@ void tst_AccessibleNames::AFieldWithoutANameIsFound()
 void tst_AccessibleNames::EveryFieldOfEveryWindowHasANameOfItsOwn_data()
 {
     QTest::addColumn<QString>("language");
-    for (const QString& language : Language::Known())
+    const QStringList languages = Language::Known();
+    for (const QString& language : languages)
         QTest::newRow(qPrintable(language)) << language;
 }
 
@@ -122,7 +123,8 @@ void tst_AccessibleNames::EveryFieldOfEveryWindowHasANameOfItsOwn()
     int count = 0;
     VisitWindows(Project::Load(Project::SamplePath()),
                  [&bad, &count](const QString& name, QWidget& window) {
-                     for (const QString& field : BadFields(window, &count))
+                     const QStringList fields = BadFields(window, &count);
+                     for (const QString& field : fields)
                          bad << name + ": " + field;
                  });
     QVERIFY2(bad.isEmpty(), qPrintable(bad.join('\n')));

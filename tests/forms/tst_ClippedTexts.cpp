@@ -129,7 +129,8 @@ void tst_ClippedTexts::WhatFitsAsGivenFitsInEveryLanguage_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("points");
-    for (const QString& language : Language::Known()) {
+    const QStringList languages = Language::Known();
+    for (const QString& language : languages) {
         for (const int points : {8, 9, 10, 12})
             QTest::addRow("%s, %d points", qPrintable(language), points) << language << points;
     }

@@ -71,9 +71,16 @@ QVector<Message> Updated(const QString& name, const QString& folders)
     return Read(copy);
 }
 
+bool HasAccessKey(const QString& text)
+{
+    static const QRegularExpression key("&\\w");
+    return text.contains(key);
+}
+
 bool IsChinese(const QString& text)
 {
-    return text.contains(QRegularExpression("\\p{Han}"));
+    static const QRegularExpression han("\\p{Han}");
+    return text.contains(han);
 }
 
 void AddChineseFiles()
@@ -87,7 +94,8 @@ void AddChineseFiles()
 QStringList Placeholders(const QString& text)
 {
     QStringList found;
-    auto match = QRegularExpression("%[0-9]").globalMatch(text);
+    static const QRegularExpression placeholder("%[0-9]");
+    auto match = placeholder.globalMatch(text);
     while (match.hasNext())
         found << match.next().captured();
     found.sort();
@@ -127,9 +135,8 @@ void tst_Translations::EnglishHasWhatIsNotEnglishInTheForms()
     int translated = 0;
     for (const Message& message : messages) {
         const bool isFinished = message.type.isEmpty() && !message.translation.isEmpty();
-        if (IsChinese(message.source) != isFinished)
-            bad << message.Place();
-        else if (isFinished && IsChinese(message.translation))
+        if (IsChinese(message.source) != isFinished ||
+            (isFinished && IsChinese(message.translation)))
             bad << message.Place();
         if (isFinished)
             ++translated;
@@ -146,10 +153,10 @@ void tst_Translations::ATranslationKeepsItsPlaceholders_data()
 void tst_Translations::ATranslationKeepsItsPlaceholders()
 {
     QStringList bad;
-    for (const Message& message : Read(SourceFile(QTest::currentDataTag()))) {
+    const QVector<Message> messages = Read(SourceFile(QTest::currentDataTag()));
+    for (const Message& message : messages) {
         if (Placeholders(message.source) != Placeholders(message.translation) ||
-            message.source.contains(QRegularExpression("&\\w")) !=
-                message.translation.contains(QRegularExpression("&\\w")) ||
+            HasAccessKey(message.source) != HasAccessKey(message.translation) ||
             message.source.count('\n') != message.translation.count('\n') ||
             message.source.count(";;") != message.translation.count(";;"))
             bad << message.Place();
@@ -163,7 +170,8 @@ void tst_Translations::WhatIsReadBackOrStoredStaysAsItIs()
     const QStringList words = {"Bar", "Beam", "Shell", "Membrane", "Solid", "defaultBC", "Default"};
     QStringList found;
     QStringList bad;
-    for (const Message& message : Read(SourceFile("TarnGUICommon_zh_CN"))) {
+    const QVector<Message> messages = Read(SourceFile("TarnGUICommon_zh_CN"));
+    for (const Message& message : messages) {
         bool isNumber = false;
         message.source.toDouble(&isNumber);
         if (words.contains(message.source))
