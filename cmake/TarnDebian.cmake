@@ -74,7 +74,7 @@ set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
 Headers, CMake package, pkg-config file and documentation for applications that
 show the dialogs.")
 set(CPACK_DEBIAN_HOST_PACKAGE_SECTION science)
-set(CPACK_DEBIAN_HOST_PACKAGE_RECOMMENDS fonts-noto-cjk)
+set(CPACK_DEBIAN_HOST_PACKAGE_RECOMMENDS "fonts-noto-cjk, qttranslations5-l10n")
 set(CPACK_COMPONENT_HOST_DESCRIPTION
     "reference application of the TarnGUICommon dialog library
 Edits the parameters of a sample flange, runs design studies, with a window or

@@ -1,8 +1,9 @@
 # What is installed beside libraries, headers and host: the CMake package, the pkg-config file, the documents.
 include(CMakePackageConfigHelpers)
+set(translations_dir ${CMAKE_INSTALL_DATADIR}/TarnGUICommon/translations)
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/TarnGUICommon)
 configure_package_config_file(cmake/TarnGUICommonConfig.cmake.in "${PROJECT_BINARY_DIR}/TarnGUICommonConfig.cmake"
-                              INSTALL_DESTINATION ${package_dir})
+                              INSTALL_DESTINATION ${package_dir} PATH_VARS translations_dir)
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/TarnGUICommonConfigVersion.cmake"
                                  COMPATIBILITY SameMajorVersion)
 install(EXPORT TarnGUICommonTargets NAMESPACE TarnGUICommon:: DESTINATION ${package_dir}

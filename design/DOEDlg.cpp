@@ -113,6 +113,7 @@ void DOEDlg::InitGUI()
         table.setItem(row, NameColumn, name);
 
         auto* const check = new QCheckBox;
+        check->setAccessibleName(entry.second.m_strName);
         check->setProperty(RowProperty, row);
         table.setCellWidget(row, StatusColumn, check);
 

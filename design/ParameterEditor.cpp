@@ -99,6 +99,7 @@ QComboBox* NewTypeCombo(const QTableWidget& table, int index)
     combo->addItem(ParameterEditor::tr("Tensor"));
     combo->addItem(ParameterEditor::tr("Bool"));
     combo->setCurrentIndex(index);
+    combo->setAccessibleName(ParameterEditor::tr("Type"));
     // With a size of its own it is not measured when shown; the table's layout sets the real one.
     combo->resize(table.columnWidth(TypeColumn), table.verticalHeader()->defaultSectionSize());
     return combo;

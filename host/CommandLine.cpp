@@ -1,11 +1,17 @@
 #include "CommandLine.h"
 
+#include "Language.h"
 #include "Project.h"
 
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
 namespace {
+
+QString LanguageNames()
+{
+    return Language::Known().join(QStringLiteral(" or "));
+}
 
 /// The options, and what is said of them.
 struct Options
@@ -24,6 +30,13 @@ struct Options
         QStringLiteral("screenshots"),
         QStringLiteral("Write a picture of every window to the folder <dir>."),
         QStringLiteral("dir")};
+    QCommandLineOption palette{QStringLiteral("palette"),
+                               QStringLiteral("Colours of the pictures: light or dark."),
+                               QStringLiteral("name")};
+    QCommandLineOption lang{QStringLiteral("lang"),
+                            QStringLiteral("Language of the windows: %1; without, the user's own.")
+                                .arg(LanguageNames()),
+                            QStringLiteral("name")};
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
                             QStringLiteral("Show this help.")};
     QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")},
@@ -33,7 +46,7 @@ struct Options
     {
         parser.setApplicationDescription(
             QStringLiteral("Reference host of the dialogs: a bolted flange and its study."));
-        parser.addOptions({study, out, runs, screenshots, help, version});
+        parser.addOptions({study, out, runs, screenshots, palette, lang, help, version});
         parser.addPositionalArgument(QStringLiteral("project"),
                                      QStringLiteral("The project file; without, a sample project."),
                                      QStringLiteral("[project]"));
@@ -54,6 +67,23 @@ void ReadRuns(const QString& text, CommandLine& line)
     if (line.firstRun < 1 || line.lastRun < line.firstRun)
         Refuse(QStringLiteral("--runs %1: runs are given as 3-7 or 5, counted from 1")
                    .arg(text.simplified()));
+}
+
+bool ReadPalette(const QString& text)
+{
+    const bool isDark = text == QLatin1String("dark");
+    if (!isDark && text != QLatin1String("light"))
+        Refuse(
+            QStringLiteral("--palette %1: the colours are light or dark").arg(text.simplified()));
+    return isDark;
+}
+
+QString ReadLanguage(const QString& text)
+{
+    if (!Language::Known().contains(text))
+        Refuse(QStringLiteral("--lang %1: the languages are %2")
+                   .arg(text.simplified(), LanguageNames()));
+    return text;
 }
 
 } // namespace
@@ -84,6 +114,8 @@ CommandLine CommandLine::Parse(const QStringList& arguments)
         Refuse(QStringLiteral("--study FILE and --out DIR need each other"));
     if (parser.isSet(options.runs) && !study)
         Refuse(QStringLiteral("--runs needs --study FILE"));
+    if (parser.isSet(options.palette) && !screenshots)
+        Refuse(QStringLiteral("--palette needs --screenshots DIR"));
 
     QStringList projects = parser.positionalArguments();
     if (study)
@@ -103,6 +135,10 @@ CommandLine CommandLine::Parse(const QStringList& arguments)
         Refuse(QStringLiteral("the name of a file or folder is empty"));
     if (parser.isSet(options.runs))
         ReadRuns(parser.value(options.runs), line);
+    if (parser.isSet(options.palette))
+        line.isDark = ReadPalette(parser.value(options.palette));
+    if (parser.isSet(options.lang))
+        line.language = ReadLanguage(parser.value(options.lang));
     return line;
 }
 

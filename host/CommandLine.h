@@ -28,6 +28,8 @@ struct CommandLine
     QString projectFile;         ///< The sample project where none was given.
     QString outputDirectory;     ///< Of a study.
     QString screenshotDirectory; ///< Of the screenshots.
+    bool isDark = false;         ///< Whether the screenshots have light text on dark.
+    QString language;            ///< Of the windows; empty for the user's own.
     int firstRun = 0;            ///< Of a study, from 1; 0 for all runs.
     int lastRun = 0;
 

@@ -12,6 +12,7 @@
 #include <BRep_Tool.hxx>
 #include <GeomAbs_CurveType.hxx>
 #include <Precision.hxx>
+#include <QCoreApplication>
 #include <Standard_Failure.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopTools_ListOfShape.hxx>
@@ -39,6 +40,11 @@ constexpr double LeastWall = 0.001;
 // How far a cutting tool stands out, so that its ends lie in no face of the part.
 constexpr double ToolExcess = 1.0;
 
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(FlangeBuilder)
+};
+
 [[noreturn]] void Refuse(const QString& reason)
 {
     throw BuildError(reason);
@@ -49,19 +55,19 @@ double Stored(const char* name)
     const ParameterMap& store = GlobalParaMeterMgr::m_nameMapParameters;
     const QString key = QLatin1String(name);
     if (store.count(key) == 0)
-        Refuse(QStringLiteral("There is no parameter \"%1\".").arg(key));
+        Refuse(Text::tr("There is no parameter \"%1\".").arg(key));
     return GlobalParaMeterMgr::GetParameterRawValue(key).toDouble();
 }
 
 void CheckLength(const char* what, double value)
 {
-    const QString name = QLatin1String(what);
+    const QString name = Text::tr(what);
     if (!std::isfinite(value))
-        Refuse(QStringLiteral("The %1 has no finite value.").arg(name));
+        Refuse(Text::tr("The %1 has no finite value.").arg(name));
     if (value <= 0.0)
-        Refuse(QStringLiteral("The %1 (%2) has to be above 0.").arg(name, ShortText(value)));
+        Refuse(Text::tr("The %1 (%2) has to be above 0.").arg(name, ShortText(value)));
     if (value < LeastLength || value > GreatestLength)
-        Refuse(QStringLiteral("The %1 (%2 mm) has to be from %3 to %4 mm.")
+        Refuse(Text::tr("The %1 (%2 mm) has to be from %3 to %4 mm.")
                    .arg(name, ShortText(value), ShortText(LeastLength), ShortText(GreatestLength)));
 }
 
@@ -90,7 +96,7 @@ TopoDS_Shape PlateWithHub(const FlangeDimensions& flange)
         Cylinder(AxisAt(0.0, 0.0, flange.thickness), flange.hubDiameter, flange.hubHeight);
     BRepAlgoAPI_Fuse fuse(plate, hub);
     if (!fuse.IsDone() || fuse.HasErrors())
-        Refuse(QStringLiteral("The hub could not be joined to the plate."));
+        Refuse(Text::tr("The hub could not be joined to the plate."));
     return fuse.Shape();
 }
 
@@ -107,7 +113,7 @@ TopoDS_Edge FootOfHub(const TopoDS_Shape& shape, const FlangeDimensions& flange)
             std::abs(circle.Location().Z() - flange.thickness) < Precision::Confusion())
             return edge;
     }
-    Refuse(QStringLiteral("The edge between hub and plate was not found for the fillet."));
+    Refuse(Text::tr("The edge between hub and plate was not found for the fillet."));
 }
 
 TopoDS_Shape WithFillet(const TopoDS_Shape& shape, const FlangeDimensions& flange)
@@ -116,7 +122,7 @@ TopoDS_Shape WithFillet(const TopoDS_Shape& shape, const FlangeDimensions& flang
     fillet.Add(flange.filletRadius, FootOfHub(shape, flange));
     fillet.Build();
     if (!fillet.IsDone())
-        Refuse(QStringLiteral("The fillet between hub and plate could not be built."));
+        Refuse(Text::tr("The fillet between hub and plate could not be built."));
     return fillet.Shape();
 }
 
@@ -142,7 +148,7 @@ TopoDS_Shape WithHoles(const TopoDS_Shape& shape, const FlangeDimensions& flange
     cut.SetTools(tools);
     cut.Build();
     if (!cut.IsDone() || cut.HasErrors())
-        Refuse(QStringLiteral("Bore and bolt holes could not be cut."));
+        Refuse(Text::tr("Bore and bolt holes could not be cut."));
     return cut.Shape();
 }
 
@@ -151,17 +157,17 @@ TopoDS_Shape TheSolid(const TopoDS_Shape& shape)
 {
     TopExp_Explorer solids(shape, TopAbs_SOLID);
     if (!solids.More())
-        Refuse(QStringLiteral("The finished part is no solid."));
+        Refuse(Text::tr("The finished part is no solid."));
     const TopoDS_Shape solid = solids.Current();
     solids.Next();
     if (solids.More())
-        Refuse(QStringLiteral("The finished part fell into several pieces."));
+        Refuse(Text::tr("The finished part fell into several pieces."));
     for (TopExp_Explorer shells(solid, TopAbs_SHELL); shells.More(); shells.Next()) {
         if (!BRep_Tool::IsClosed(shells.Current()))
-            Refuse(QStringLiteral("The finished part is not closed."));
+            Refuse(Text::tr("The finished part is not closed."));
     }
     if (!BRepCheck_Analyzer(solid).IsValid())
-        Refuse(QStringLiteral("The finished part is no valid solid."));
+        Refuse(Text::tr("The finished part is no valid solid."));
     return solid;
 }
 
@@ -185,53 +191,52 @@ FlangeDimensions FlangeBuilder::ReadDimensions()
 
 void FlangeBuilder::Check(const FlangeDimensions& flange)
 {
-    CheckLength("outer diameter", flange.outerDiameter);
-    CheckLength("bore", flange.boreDiameter);
-    CheckLength("thickness", flange.thickness);
-    CheckLength("bolt circle", flange.boltCircle);
-    CheckLength("bolt hole", flange.boltHole);
-    CheckLength("hub diameter", flange.hubDiameter);
-    CheckLength("hub height", flange.hubHeight);
+    CheckLength(QT_TRANSLATE_NOOP("FlangeBuilder", "outer diameter"), flange.outerDiameter);
+    CheckLength(QT_TRANSLATE_NOOP("FlangeBuilder", "bore"), flange.boreDiameter);
+    CheckLength(QT_TRANSLATE_NOOP("FlangeBuilder", "thickness"), flange.thickness);
+    CheckLength(QT_TRANSLATE_NOOP("FlangeBuilder", "bolt circle"), flange.boltCircle);
+    CheckLength(QT_TRANSLATE_NOOP("FlangeBuilder", "bolt hole"), flange.boltHole);
+    CheckLength(QT_TRANSLATE_NOOP("FlangeBuilder", "hub diameter"), flange.hubDiameter);
+    CheckLength(QT_TRANSLATE_NOOP("FlangeBuilder", "hub height"), flange.hubHeight);
     if (flange.filletRadius != 0.0)
-        CheckLength("fillet radius", flange.filletRadius);
+        CheckLength(QT_TRANSLATE_NOOP("FlangeBuilder", "fillet radius"), flange.filletRadius);
     if (!(flange.boltCount >= 1.0 && flange.boltCount <= MaximumBoltCount &&
           flange.boltCount == std::floor(flange.boltCount)))
-        Refuse(
-            QStringLiteral("The number of bolt holes (%1) has to be a whole number from 1 to %2.")
-                .arg(ShortText(flange.boltCount))
-                .arg(MaximumBoltCount));
+        Refuse(Text::tr("The number of bolt holes (%1) has to be a whole number from 1 to %2.")
+                   .arg(ShortText(flange.boltCount))
+                   .arg(MaximumBoltCount));
 
     const double outer = flange.outerDiameter / 2.0;
     const double hub = flange.hubDiameter / 2.0;
     const double circle = flange.boltCircle / 2.0;
     const double hole = flange.boltHole / 2.0;
     CheckWall(flange.boreDiameter / 2.0, outer,
-              QStringLiteral("The bore (%1) is not smaller than the flange (%2).")
+              Text::tr("The bore (%1) is not smaller than the flange (%2).")
                   .arg(ShortText(flange.boreDiameter), ShortText(flange.outerDiameter)));
     CheckWall(flange.boreDiameter / 2.0, hub,
-              QStringLiteral("The bore (%1) is not smaller than the hub (%2).")
+              Text::tr("The bore (%1) is not smaller than the hub (%2).")
                   .arg(ShortText(flange.boreDiameter), ShortText(flange.hubDiameter)));
     CheckWall(hub, outer,
-              QStringLiteral("The hub (%1) is not smaller than the flange (%2).")
+              Text::tr("The hub (%1) is not smaller than the flange (%2).")
                   .arg(ShortText(flange.hubDiameter), ShortText(flange.outerDiameter)));
     CheckWall(flange.filletRadius, flange.hubHeight,
-              QStringLiteral("The fillet radius (%1) is not smaller than the hub's height (%2).")
+              Text::tr("The fillet radius (%1) is not smaller than the hub's height (%2).")
                   .arg(ShortText(flange.filletRadius), ShortText(flange.hubHeight)));
     CheckWall(hub + flange.filletRadius, outer,
-              QStringLiteral("The fillet around the hub reaches outside the flange."));
+              Text::tr("The fillet around the hub reaches outside the flange."));
     CheckWall(circle + hole, outer,
-              QStringLiteral("The bolt holes (%1 on a circle of %2) reach outside the flange (%3).")
+              Text::tr("The bolt holes (%1 on a circle of %2) reach outside the flange (%3).")
                   .arg(ShortText(flange.boltHole), ShortText(flange.boltCircle),
                        ShortText(flange.outerDiameter)));
     CheckWall(hub + flange.filletRadius, circle - hole,
-              QStringLiteral("The bolt holes (%1 on a circle of %2) reach into the hub (%3) or its "
-                             "fillet.")
+              Text::tr("The bolt holes (%1 on a circle of %2) reach into the hub (%3) or its "
+                       "fillet.")
                   .arg(ShortText(flange.boltHole), ShortText(flange.boltCircle),
                        ShortText(flange.hubDiameter)));
     if (flange.boltCount > 1.0) {
         const double distance = 2.0 * circle * std::sin(Pi / flange.boltCount);
         CheckWall(flange.boltHole, distance,
-                  QStringLiteral("The bolt holes overlap: %1 of %2 on a circle of %3.")
+                  Text::tr("The bolt holes overlap: %1 of %2 on a circle of %3.")
                       .arg(ShortText(flange.boltCount), ShortText(flange.boltHole),
                            ShortText(flange.boltCircle)));
     }
@@ -240,20 +245,20 @@ void FlangeBuilder::Check(const FlangeDimensions& flange)
 TopoDS_Shape FlangeBuilder::Build(const FlangeDimensions& dimensions)
 {
     Check(dimensions);
-    QString step = QStringLiteral("joining hub and plate");
+    QString step = Text::tr("joining hub and plate");
     try {
         TopoDS_Shape shape = PlateWithHub(dimensions);
-        step = QStringLiteral("cutting bore and bolt holes");
+        step = Text::tr("cutting bore and bolt holes");
         shape = WithHoles(shape, dimensions);
         // Last: cutting is much slower where a fillet is near.
         if (dimensions.filletRadius > 0.0) {
-            step = QStringLiteral("building the fillet");
+            step = Text::tr("building the fillet");
             shape = WithFillet(shape, dimensions);
         }
-        step = QStringLiteral("checking the finished part");
+        step = Text::tr("checking the finished part");
         return TheSolid(shape);
     } catch (const Standard_Failure& failure) {
-        throw BuildError(QStringLiteral("The geometry kernel failed while %1: %2")
+        throw BuildError(Text::tr("The geometry kernel failed while %1: %2")
                              .arg(step, QString::fromLocal8Bit(failure.GetMessageString())));
     }
 }

@@ -45,6 +45,7 @@ MessageDock::MessageDock(QWidget* parent)
 
     m_model.setHorizontalHeaderLabels({tr("Time"), tr("Level"), tr("Times"), tr("Text")});
     m_view->setObjectName(QStringLiteral("messageView"));
+    m_view->setAccessibleName(windowTitle());
     m_view->setModel(&m_model);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -106,6 +106,7 @@ ModelTree::ModelTree(AnalysisModel& model, QWidget* parent)
     setWidget(m_tree);
 
     m_tree->setObjectName(QStringLiteral("modelTree"));
+    m_tree->setAccessibleName(windowTitle());
     m_tree->setHeaderLabels({tr("Record"), tr("Stored")});
     m_tree->header()->setStretchLastSection(true);
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);

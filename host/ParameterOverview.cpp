@@ -44,6 +44,7 @@ ParameterOverview::ParameterOverview(QWidget* parent)
     setWidget(m_table);
 
     m_table->setObjectName(QStringLiteral("parameterTable"));
+    m_table->setAccessibleName(windowTitle());
     m_table->setHorizontalHeaderLabels({tr("Name"), tr("Type"), tr("Value"), tr("Raw value"),
                                         tr("Expression"), tr("Description")});
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -4,6 +4,7 @@
 #include "GlobalParaMeterMgr.h"
 #include "NumberTexts.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QStringList>
 
@@ -16,6 +17,11 @@
 namespace {
 
 constexpr int NotVisited = -1;
+
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(ParameterSettler)
+};
 
 /// A parameter with an expression and what it needs.
 struct Node
@@ -146,7 +152,7 @@ private:
             names << At(member).name;
         }
         names << At(node).name;
-        m_messages.push_back(QStringLiteral("The expressions need each other: %1")
+        m_messages.push_back(Text::tr("The expressions need each other: %1")
                                  .arg(names.join(QStringLiteral(" -> "))));
         for (const int member : component)
             At(member).isBad = true;
@@ -161,7 +167,7 @@ private:
             if (store.count(name) == 0) {
                 node.isBad = true;
                 m_messages.push_back(
-                    QStringLiteral("%1: its expression uses \"%2\", which is no parameter")
+                    Text::tr("%1: its expression uses \"%2\", which is no parameter")
                         .arg(node.name, name));
                 return;
             }

@@ -164,6 +164,28 @@ bool WritePicture(QWidget& window, const QString& path)
 
 } // namespace
 
+QPalette DarkPalette()
+{
+    const QColor ground(48, 48, 48);
+    QPalette palette(ground, ground); // Of buttons and windows; the rest follows.
+    // Fields are lighter than the window: the style draws the frame of a check box darker than it,
+    // which would not be seen on black.
+    palette.setColor(QPalette::Base, QColor(68, 68, 68));
+    palette.setColor(QPalette::AlternateBase, QColor(76, 76, 76));
+    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+void VisitWindows(const Project& project,
+                  const std::function<void(const QString& name, QWidget& window)>& visit)
+{
+    const NoticeWatcher notices;
+    const SampleAnalysisFiles files;
+    for (const Picture& picture : Pictures)
+        visit(QString::fromLatin1(picture.name), *picture.make(project));
+}
+
 void WriteScreenshots(const Project& project, const QString& directory)
 {
     if (!QDir().mkpath(directory))
@@ -172,13 +194,10 @@ void WriteScreenshots(const Project& project, const QString& directory)
     const QDir pictures(QDir(directory).absolutePath());
 
     const PictureFont font;
-    const NoticeWatcher notices;
-    const SampleAnalysisFiles files;
-    for (const Picture& picture : Pictures) {
-        const Window window = picture.make(project);
-        const QString name = QLatin1String(picture.name) + QStringLiteral(".png");
-        if (!WritePicture(*window, pictures.filePath(name)))
+    VisitWindows(project, [&directory, &pictures](const QString& name, QWidget& window) {
+        const QString file = name + QStringLiteral(".png");
+        if (!WritePicture(window, pictures.filePath(file)))
             throw ScreenshotError(
-                QStringLiteral("%1: cannot be written").arg(QDir(directory).filePath(name)));
-    }
+                QStringLiteral("%1: cannot be written").arg(QDir(directory).filePath(file)));
+    });
 }

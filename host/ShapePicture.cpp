@@ -111,6 +111,9 @@ void ShapePicture::paintEvent(QPaintEvent*)
         for (const QPolygonF& line : lines)
             painter.drawPolyline(line);
     };
-    draw(m_smooth, palette().color(QPalette::Mid), 1.0);
-    draw(m_edges, palette().color(QPalette::Text), 1.5);
+    const QColor ink = palette().color(QPalette::Text);
+    QColor faint = ink; // On a dark ground as well, which the palette's own middle colour is not.
+    faint.setAlphaF(0.3);
+    draw(m_smooth, faint, 1.0);
+    draw(m_edges, ink, 1.5);
 }

@@ -1,11 +1,13 @@
 #include "AnalysisFiles.h"
 #include "CommandLine.h"
 #include "HostApplication.h"
+#include "Language.h"
 #include "MainWindow.h"
 #include "Project.h"
 #include "Screenshots.h"
 #include "StudyRunner.h"
 
+#include <QLocale>
 #include <QTextCodec>
 #include <Standard_Failure.hxx>
 
@@ -42,14 +44,30 @@ int RunStudy(const CommandLine& line)
     return runner.Run().failed == 0 ? DoneCode : FailedRunsCode;
 }
 
+QString WindowLanguage(const CommandLine& line)
+{
+    return line.language.isEmpty() ? Language::BestOf(QLocale::system().uiLanguages())
+                                   : line.language;
+}
+
 int OpenWindow(const CommandLine& line)
 {
+    const Language language(WindowLanguage(line));
     const Project project = Project::Load(line.projectFile);
     ReadAnalysisFiles();
     MainWindow window;
     window.show();
     window.OpenProject(project);
     return HostApplication::exec();
+}
+
+int WritePictures(const CommandLine& line)
+{
+    const Language language(WindowLanguage(line));
+    if (line.isDark)
+        HostApplication::setPalette(DarkPalette());
+    WriteScreenshots(Project::Load(line.projectFile), line.screenshotDirectory);
+    return DoneCode;
 }
 
 // A window needs a display; everything else does without.
@@ -90,8 +108,7 @@ int Act(const CommandLine& line)
     case CommandLine::RunStudy:
         return RunStudy(line);
     case CommandLine::WriteScreenshots:
-        WriteScreenshots(Project::Load(line.projectFile), line.screenshotDirectory);
-        return DoneCode;
+        return WritePictures(line);
     default:
         return OpenWindow(line);
     }

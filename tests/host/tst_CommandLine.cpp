@@ -13,6 +13,8 @@ private Q_SLOTS:
     void RunsAreARangeOrANumber_data();
     void RunsAreARangeOrANumber();
     void ScreenshotsTakeTheSampleProjectOrAnother();
+    void ScreenshotsMayBeDark();
+    void TheLanguageOfTheWindowsCanBeChosen();
     void HelpAndVersionWinOverAllElse();
     void TheHelpNamesEveryOption();
     void BadArgumentsAreToldInOneLine_data();
@@ -76,6 +78,20 @@ void tst_CommandLine::ScreenshotsTakeTheSampleProjectOrAnother()
     QCOMPARE(line.projectFile, QString("a.json"));
 }
 
+void tst_CommandLine::ScreenshotsMayBeDark()
+{
+    QVERIFY(Parse({"--screenshots", "s", "--palette", "dark"}).isDark);
+    QVERIFY(!Parse({"--screenshots", "s", "--palette", "light"}).isDark);
+    QVERIFY(!Parse({"--screenshots", "s"}).isDark);
+}
+
+void tst_CommandLine::TheLanguageOfTheWindowsCanBeChosen()
+{
+    QCOMPARE(Parse({"--lang", "zh_CN"}).language, QString("zh_CN"));
+    QCOMPARE(Parse({"--screenshots", "s", "--lang", "en"}).language, QString("en"));
+    QCOMPARE(Parse({}).language, QString());
+}
+
 void tst_CommandLine::HelpAndVersionWinOverAllElse()
 {
     QCOMPARE(Parse({"--study", "a.json", "--help"}).action, CommandLine::ShowHelp);
@@ -86,8 +102,9 @@ void tst_CommandLine::HelpAndVersionWinOverAllElse()
 void tst_CommandLine::TheHelpNamesEveryOption()
 {
     const QString help = CommandLine::HelpText();
-    for (const char* option : {"--study <file>", "--out <dir>", "--runs <runs>",
-                               "--screenshots <dir>", "--help", "--version", "[project]"})
+    for (const char* option :
+         {"--study <file>", "--out <dir>", "--runs <runs>", "--screenshots <dir>",
+          "--palette <name>", "--lang <name>", "--help", "--version", "[project]"})
         QVERIFY2(help.contains(option), option);
 }
 
@@ -105,6 +122,12 @@ void tst_CommandLine::BadArgumentsAreToldInOneLine_data()
     row("runs without study", {"--runs", "3"}, "--runs needs --study FILE");
     row("study and screenshots", {"--study", "a", "--out", "o", "--screenshots", "s"},
         "--study and --screenshots do not go together");
+    row("palette without screenshots", {"--palette", "dark"}, "--palette needs --screenshots DIR");
+    row("unknown palette", {"--screenshots", "s", "--palette", "Dark"},
+        "--palette Dark: the colours are light or dark");
+    for (const char* language : {"", "fr", "zh", "zh_cn", "en_US"})
+        row(qPrintable(QString("language \"%1\"").arg(language)), {"--lang", language},
+            qPrintable(QString("--lang %1: the languages are en or zh_CN").arg(language)));
     row("two projects", {"a", "b"}, "there is more than one project: a and b");
     row("two projects, one in a study", {"--study", "a", "--out", "o", "b"},
         "there is more than one project: a and b");

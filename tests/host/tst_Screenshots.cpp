@@ -18,6 +18,8 @@ class tst_Screenshots : public TestCase
 
 private Q_SLOTS:
     void EveryWindowHasAPicture();
+    void DarkPicturesAreDark();
+    void EveryWindowCanBeVisited();
     void ADirectoryThatCannotBeMadeIsAFailure();
     void AFileThatCannotBeWrittenIsAFailure();
     void TheMaterialEditorIsPicturedInItsLibrary();
@@ -88,6 +90,32 @@ void tst_Screenshots::EveryWindowHasAPicture()
         uniform.fill(image.pixelColor(0, 0));
         QVERIFY2(image != uniform, qPrintable(name));
     }
+}
+
+void tst_Screenshots::DarkPicturesAreDark()
+{
+    const QPalette dark = DarkPalette();
+    const auto lightness = [&dark](QPalette::ColorRole role) {
+        return dark.color(QPalette::Active, role).lightness();
+    };
+    QVERIFY(lightness(QPalette::Window) < 64 && lightness(QPalette::WindowText) > 192);
+    QVERIFY(lightness(QPalette::Base) < 80 && lightness(QPalette::Text) > 192);
+    QVERIFY(lightness(QPalette::Button) < 64 && lightness(QPalette::ButtonText) > 192);
+}
+
+void tst_Screenshots::EveryWindowCanBeVisited()
+{
+    EnterTemporaryDirectory();
+    const EmptyDesignStores stores;
+    QStringList names;
+    VisitWindows(Project::Load(Project::SamplePath()),
+                 [&names](const QString& name, QWidget& window) {
+                     QVERIFY(!window.isVisible());
+                     names << name;
+                 });
+    QCOMPARE(names.size(), 29);
+    QCOMPARE(names.first(), QString("MainWindow"));
+    QCOMPARE(KVMaterialData::GetInstance()->MapDataRow(), 0);
 }
 
 void tst_Screenshots::ADirectoryThatCannotBeMadeIsAFailure()

@@ -44,7 +44,7 @@ void CompareForm(const QWidget& form, const QString& name, const QWidget& plain,
     QStringList texts = {form.windowTitle()};
     const QList<QWidget*> widgets = form.findChildren<QWidget*>();
     for (const QWidget* const widget : widgets)
-        texts << ShownText(*widget);
+        texts << ShownText(*widget) << widget->accessibleName();
     texts.removeAll(QString());
     texts.removeDuplicates();
     texts.sort();

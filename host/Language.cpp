@@ -1,0 +1,48 @@
+#include "Language.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+
+// Outside every namespace, as the macro needs it: the texts come with a static library.
+static void LoadBuiltInTexts()
+{
+    Q_INIT_RESOURCE(translations);
+}
+
+Language::Language(const QString& name)
+{
+    LoadBuiltInTexts();
+    const QString own = QStringLiteral(":/translations");
+    const auto add = [this, &name](const QString& texts, const QString& directory) {
+        auto translator = std::make_unique<QTranslator>();
+        // The host's and the toolkit's own texts are English already.
+        if (!translator->load(texts + QLatin1Char('_') + name, directory))
+            return;
+        QCoreApplication::installTranslator(translator.get());
+        m_translators.push_back(std::move(translator));
+    };
+    add(QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    add(QStringLiteral("TarnGUICommon"), own);
+    add(QStringLiteral("tarnhost"), own);
+}
+
+// A translator that goes takes itself off the application.
+Language::~Language() = default;
+
+QStringList Language::Known()
+{
+    return {QStringLiteral("en"), QStringLiteral("zh_CN")};
+}
+
+QString Language::BestOf(const QStringList& wanted)
+{
+    const QStringList known = Known();
+    for (const QString& wish : wanted) {
+        for (const QString& name : known) {
+            if (QLocale(wish).language() == QLocale(name).language())
+                return name;
+        }
+    }
+    return known.first();
+}
