@@ -5,7 +5,7 @@
 #include "DOEDlg.h"
 #include "DialogTables.h"
 #include "DoeSession.h"
-#include "FlangeBuilder.h"
+#include "FeatureBuilder.h"
 #include "GlobalParaMeterMgr.h"
 #include "MessageDock.h"
 #include "MessageLevel.h"
@@ -180,9 +180,9 @@ void MainWindow::Rebuild()
 {
     m_overview->Refresh();
     try {
-        const TopoDS_Shape shape = FlangeBuilder::BuildFromStore();
-        m_summary->ShowShape(shape,
-                             m_project.has_value() ? m_project->Density() : Project::SteelDensity);
+        if (!m_project.has_value())
+            throw BuildError(tr("There is no project."));
+        m_summary->ShowShape(m_project->Build().shape, m_project->Density());
         PostMessageToChannel(InfoLevel, tr("The part was built"));
     } catch (const BuildError& error) {
         const QString reason = error.Reason();
