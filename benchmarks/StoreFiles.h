@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
 #include <QString>
@@ -8,7 +9,6 @@
 #include <QXmlStreamWriter>
 
 #include <benchmark/benchmark.h>
-#include <malloc.h>
 
 #include <vector>
 
@@ -91,6 +91,8 @@ void Fill(const benchmark::State& state)
         Store::Add(i);
 }
 
+constexpr int LargePiece = 100 * 1024;
+
 template<class Store>
 void Read(benchmark::State& state)
 {
@@ -102,7 +104,7 @@ void Read(benchmark::State& state)
         Store::Clear();
         // The allocator joins what was freed only when it is next asked for a large piece. That
         // belongs to the clearing, and the reading would be charged with it.
-        malloc_trim(0);
+        QByteArray(LargePiece, Qt::Uninitialized);
         state.ResumeTiming();
         if (!Store::Read())
             state.SkipWithError("the file was not read");
