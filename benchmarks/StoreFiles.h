@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
 #include <QString>
@@ -11,8 +12,10 @@
 
 #include <vector>
 
-/// What the benchmarks of the two XML files share: bare passes of Qt's stream classes over the same
-/// file, as the measure of ours.
+/// What the benchmarks of the two XML files share: reading and writing them through the store, bare
+/// passes of Qt's stream classes over the same file as the measure of that, and looking up all
+/// records. A store is told by a struct of static members: File, its name; Clear(), Add(i), Read(),
+/// Write() and LookUpAll().
 
 /// A temporary working directory, while it lives.
 class Directory
@@ -78,4 +81,94 @@ inline void WriteBare(const QString& path, const BareTokens& tokens)
         xml.writeAttributes(tokens[i].attributes);
     }
     xml.writeEndDocument();
+}
+
+template<class Store>
+void Fill(const benchmark::State& state)
+{
+    Store::Clear();
+    for (int i = 0; i < int(state.range(0)); ++i)
+        Store::Add(i);
+}
+
+constexpr int LargePiece = 100 * 1024;
+
+template<class Store>
+void Read(benchmark::State& state)
+{
+    const Directory directory;
+    Fill<Store>(state);
+    Store::Write();
+    for (auto _ : state) {
+        state.PauseTiming();
+        Store::Clear();
+        // The allocator joins what was freed only when it is next asked for a large piece. That
+        // belongs to the clearing, and the reading would be charged with it.
+        QByteArray(LargePiece, Qt::Uninitialized);
+        state.ResumeTiming();
+        if (!Store::Read())
+            state.SkipWithError("the file was not read");
+    }
+}
+
+template<class Store>
+void BareRead(benchmark::State& state)
+{
+    const Directory directory;
+    Fill<Store>(state);
+    Store::Write();
+    for (auto _ : state)
+        ReadBare(QString::fromLatin1(Store::File));
+}
+
+template<class Store>
+void Write(benchmark::State& state)
+{
+    const Directory directory;
+    Fill<Store>(state);
+    for (auto _ : state) {
+        if (!Store::Write())
+            state.SkipWithError("the file was not written");
+    }
+}
+
+template<class Store>
+void BareWrite(benchmark::State& state)
+{
+    const Directory directory;
+    Fill<Store>(state);
+    Store::Write();
+    const BareTokens tokens = LoadTokens(QString::fromLatin1(Store::File));
+    for (auto _ : state)
+        WriteBare(QStringLiteral("bare.xml"), tokens);
+}
+
+template<class Store>
+void LookUp(benchmark::State& state)
+{
+    Fill<Store>(state);
+    for (auto _ : state)
+        Store::LookUpAll();
+}
+
+template<class Store>
+int RunStoreBenchmarks(int argc, char** argv)
+{
+    const auto add = [](const char* name, void (*function)(benchmark::State&)) {
+        benchmark::RegisterBenchmark(name, function)
+            ->Arg(10000)
+            ->Arg(100000)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime();
+    };
+    add("read/ours", Read<Store>);
+    add("read/reference", BareRead<Store>);
+    add("write/ours", Write<Store>);
+    add("write/reference", BareWrite<Store>);
+    add("look up all", LookUp<Store>);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
 }

@@ -41,7 +41,7 @@ enum TypeCode
 // The stored type code of each entry of the type combo box, in the combo's order.
 constexpr std::array<int, 4> ComboTypeCodes = {ScalarType, VectorType, TensorType, BoolType};
 
-const QString Separator = QStringLiteral(",");
+constexpr QLatin1Char Separator(',');
 
 int TypeCodeOfCombo(int index)
 {

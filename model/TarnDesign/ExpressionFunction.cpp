@@ -1,7 +1,5 @@
 #include "ExpressionFunction.h"
 
-#include <muParserBase.h>
-
 #include <algorithm>
 #include <array>
 #include <cfenv>
@@ -43,35 +41,22 @@ double Largest(const double* values, int count)
     return *std::max_element(values, values + count);
 }
 
-using Unary = double (*)(double);
-using Binary = double (*)(double, double);
-using Multiple = double (*)(const double*, int);
-
-// The parser must not calculate anything while it compiles: what goes wrong then would be missed.
-constexpr bool FoldConstants = false;
-
-template<Unary Function>
+template<ExpressionFunction::Unary Function>
 constexpr ExpressionFunction One(const char* name)
 {
-    return {name, 1, [](mu::ParserBase& parser, const char* callName) {
-                parser.DefineFun(callName, mu::fun_type1(Function), FoldConstants);
-            }};
+    return {name, Function};
 }
 
-template<Binary Function>
+template<ExpressionFunction::Binary Function>
 constexpr ExpressionFunction Two(const char* name)
 {
-    return {name, 2, [](mu::ParserBase& parser, const char* callName) {
-                parser.DefineFun(callName, mu::fun_type2(Function), FoldConstants);
-            }};
+    return {name, Function};
 }
 
-template<Multiple Function>
+template<ExpressionFunction::Multiple Function>
 constexpr ExpressionFunction Many(const char* name)
 {
-    return {name, ExpressionFunction::AnyNumber, [](mu::ParserBase& parser, const char* callName) {
-                parser.DefineFun(callName, mu::multfun_type(Function), FoldConstants);
-            }};
+    return {name, Function};
 }
 
 // In alphabetical order, for the search.
@@ -90,6 +75,13 @@ constexpr std::array Functions = {
 };
 
 } // namespace
+
+int ExpressionFunction::Arguments() const
+{
+    if (std::holds_alternative<Multiple>(calculation))
+        return AnyNumber;
+    return std::holds_alternative<Unary>(calculation) ? 1 : 2;
+}
 
 const ExpressionFunction* ExpressionFunction::Find(std::string_view name)
 {

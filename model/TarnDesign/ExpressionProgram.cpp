@@ -10,6 +10,7 @@
 #include <cstring>
 #include <system_error>
 #include <utility>
+#include <variant>
 
 namespace {
 
@@ -72,13 +73,24 @@ public:
         AddValIdent(ReadNumber);
         DefineInfixOprt("-", Negative, mu::prINFIX, false);
         for (const ExpressionFormula::Call& call : formula.calls)
-            call.function->define(*this, call.function->name);
+            Define(*call.function);
         for (std::size_t i = 0; i < formula.variables.size(); ++i)
             DefineVar(ExpressionFormula::NameInText(i), &formula.variables[i].value);
         SetExpr(formula.text);
     }
 
 private:
+    void Define(const ExpressionFunction& function)
+    {
+        // The parser must not calculate anything while it compiles: what goes wrong then would be
+        // missed.
+        constexpr bool foldConstants = false;
+        const auto define = [this, &function](auto calculation) {
+            DefineFun(function.name, calculation, foldConstants);
+        };
+        std::visit(define, function.calculation);
+    }
+
     void InitCharSets() override {}
     void InitFun() override {}
     void InitConst() override {}

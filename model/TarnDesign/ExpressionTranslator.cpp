@@ -203,7 +203,7 @@ bool ExpressionTranslator::Finish(const Token& end)
 
 bool ExpressionTranslator::CheckArguments(const Frame& call)
 {
-    const int wanted = call.function->arguments;
+    const int wanted = call.function->Arguments();
     if (wanted == ExpressionFunction::AnyNumber || wanted == call.arguments)
         return true;
     return Refuse(call.begin, QStringLiteral("the function '%1' takes %2 value(s), not %3")

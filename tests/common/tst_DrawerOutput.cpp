@@ -25,6 +25,7 @@ private Q_SLOTS:
     void ALongTextIsCutAt1023Bytes();
     void NoHalfCharacterIsLeftAtTheCut_data();
     void NoHalfCharacterIsLeftAtTheCut();
+    void ACharacterThatIsOneByteTooLongIsLeftOut();
 };
 
 void tst_DrawerOutput::EveryCallOfGetInstanceGivesTheOneObject()
@@ -179,6 +180,15 @@ void tst_DrawerOutput::NoHalfCharacterIsLeftAtTheCut()
     const QByteArray bytes = (filler + character.repeated(1024)).toLocal8Bit();
     QCOMPARE(DrawerOutput::GetQStringFromChar("%s", bytes.constData()),
              filler + character.repeated((1023 - filler.size()) / width));
+}
+
+void tst_DrawerOutput::ACharacterThatIsOneByteTooLongIsLeftOut()
+{
+    UseCodePage("UTF-8");
+    const QString filler(1022, QLatin1Char('a'));
+    const QByteArray bytes = (filler + QStringLiteral("é")).toUtf8();
+    QCOMPARE(bytes.size(), 1024);
+    QCOMPARE(DrawerOutput::GetQStringFromChar("%s", bytes.constData()), filler);
 }
 
 TARN_TEST_MAIN(tst_DrawerOutput)

@@ -53,6 +53,7 @@ void tst_JsonSection::MessagesBeginWithThePlace()
 void tst_JsonSection::QuotedTextsStayShortAndInOneLine()
 {
     QCOMPARE(Quoted("a\nb"), QString("\"a b\""));
+    QCOMPARE(Quoted(QString(60, 'x')), '"' + QString(60, 'x') + '"');
     QCOMPARE(Quoted(QString(61, 'x')), '"' + QString(60, 'x') + "...\"");
 }
 

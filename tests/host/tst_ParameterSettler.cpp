@@ -18,6 +18,7 @@ private Q_SLOTS:
     void AnUnknownNameIsToldAndTheRecordKeepsItsValue();
     void AnExpressionWithoutValueIsToldAndGivesNaN();
     void WhatHandsAFailureOnIsNotTold();
+    void AFailureOfItsOwnIsToldBehindOneThatKeptItsValue();
     void ACycleIsNamed_data();
     void ACycleIsNamed();
     void EachCycleIsToldOnce();
@@ -143,6 +144,17 @@ void tst_ParameterSettler::WhatHandsAFailureOnIsNotTold()
     QCOMPARE(messages.size(), 1);
     QVERIFY(messages[0].startsWith("a = 1/0: "));
     QVERIFY(std::isnan(Value("c")));
+}
+
+void tst_ParameterSettler::AFailureOfItsOwnIsToldBehindOneThatKeptItsValue()
+{
+    const EmptyDesignStores stores;
+    Add("a", "nobody", "nobody", 2.0);
+    Add("b", "1/(a-2)", "a");
+    const QStringList messages = Messages();
+    QCOMPARE(messages.size(), 2);
+    QVERIFY(messages[0].startsWith("a: "));
+    QVERIFY(messages[1].startsWith("b = 1/(a-2): "));
 }
 
 void tst_ParameterSettler::ACycleIsNamed_data()

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void WhatIsWrittenCanBeRead();
     void AFileIsReplaced();
     void AFolderThatIsNotThereIsTold();
+    void WhatCannotBeReplacedIsToldAndNothingIsLeft();
     void NoShapeIsTold();
     void AFullDiskIsToldAndTheOldFileStays();
     void AFileIsReadInMillimetres_data();
@@ -80,6 +81,14 @@ void tst_StepFile::AFolderThatIsNotThereIsTold()
 {
     EnterTemporaryDirectory();
     QCOMPARE(Reason(Box(10.0), "none/a.step"), QString("a.step: the file could not be written."));
+}
+
+void tst_StepFile::WhatCannotBeReplacedIsToldAndNothingIsLeft()
+{
+    EnterTemporaryDirectory();
+    QVERIFY(QDir().mkdir("a.step"));
+    QCOMPARE(Reason(Box(10.0), "a.step"), QString("a.step: the file could not be replaced."));
+    QCOMPARE(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("a.step"));
 }
 
 void tst_StepFile::NoShapeIsTold()

@@ -91,6 +91,7 @@ private Q_SLOTS:
     void ARefusedFileChangesNothing_data();
     void WhatIsNotAFileIsRefused();
     void WhatIsUnknownIsSkipped();
+    void AMillionRecordsAreRead();
     void ATextTooLongToBeReadIsNotWritten();
     void ThePathIsInTheLocalCodePage();
     void AFileNotReadIsKeptAsACopy();
@@ -512,6 +513,15 @@ void tst_KVMaterialData::WhatIsUnknownIsSkipped()
     QCOMPARE(Store().GetMaterialNameList(), QStringList("a"));
     QCOMPARE(Store().GetMaterialInfo("a")->m_strDensity, QString("3"));
     QCOMPARE(Store().GetMaterialInfo("a")->m_strPoisson, QString());
+}
+
+void tst_KVMaterialData::AMillionRecordsAreRead()
+{
+    // The most there may be; one more is refused.
+    Start();
+    Put("UserMaterial.xml", File(QByteArray("<Material name=\"\"/>").repeated(1000000)));
+    QCOMPARE(Store().ReadXML(UserFile, MATERIAL_USER), 0);
+    QCOMPARE(Store().MapDataRow(), 1);
 }
 
 void tst_KVMaterialData::ATextTooLongToBeReadIsNotWritten()

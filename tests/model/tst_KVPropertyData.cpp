@@ -97,6 +97,8 @@ private Q_SLOTS:
     void AFileNotReadIsKeptAsACopy_data();
     void AFileReadIsReplaced();
     void WhatMemoryHoldsOtherwiseIsKeptAsACopy();
+    void AValueThatMemoryHoldsOtherwiseIsKeptAsACopy_data();
+    void AValueThatMemoryHoldsOtherwiseIsKeptAsACopy();
     void AFileReplacedSinceItWasReadIsKept();
     void ClearingForgetsWhatWasRead();
     void AFullDiskIsToldAndLeavesTheOldFile();
@@ -507,6 +509,31 @@ void tst_KVPropertyData::WhatMemoryHoldsOtherwiseIsKeptAsACopy()
     Put("ElementProperty.xml", foreign);
     QCOMPARE(Store().ReadXML(PropertyFile), 0);
     QCOMPARE(Contents(), QStringList("a:a:2"));
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    const QStringList copies = CopiesOf("ElementProperty.xml");
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(ContentOf(copies.first()), foreign);
+}
+
+void tst_KVPropertyData::AValueThatMemoryHoldsOtherwiseIsKeptAsACopy_data()
+{
+    QTest::addColumn<QByteArray>("attribute");
+    QTest::newRow("material") << QByteArray("material=\"m\"");
+    QTest::newRow("thickness") << QByteArray("thickness=\"3\"");
+    QTest::newRow("type name") << QByteArray("typeName=\"Beam\"");
+    QTest::newRow("type code") << QByteArray("typeCode=\"7\"");
+    QTest::newRow("reserved") << QByteArray("reserved=\"7\"");
+}
+
+void tst_KVPropertyData::AValueThatMemoryHoldsOtherwiseIsKeptAsACopy()
+{
+    Start();
+    QFETCH(QByteArray, attribute);
+    Put("ElementProperty.xml", File("<ElementProperty name=\"a\"/>"));
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    const QByteArray foreign = File("<ElementProperty name=\"a\" " + attribute + "/>");
+    Put("ElementProperty.xml", foreign);
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
     QCOMPARE(Store().WriteXML(PropertyFile), 0);
     const QStringList copies = CopiesOf("ElementProperty.xml");
     QCOMPARE(copies.size(), 1);

@@ -168,6 +168,14 @@ void tst_ParameterMap::AMoveLeavesNothingBehind()
     map = std::move(moved);
     QCOMPARE(map.at("a").m_dValue, 4.0);
     QVERIFY(map.find("x") == map.end());
+
+    ParameterMap other;
+    other["c"];
+    other = std::move(map);
+    QVERIFY(map.empty()); // NOLINT(bugprone-use-after-move)
+    QCOMPARE(map.count("c"), std::size_t(0));
+    QCOMPARE(Names(other), QStringList({"b", "a"}));
+    QCOMPARE(other.count("c"), std::size_t(0));
 }
 
 void tst_ParameterMap::AssigningAMapToItselfKeepsIt()
