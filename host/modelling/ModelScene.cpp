@@ -9,8 +9,11 @@
 #include <Aspect_NeutralWindow.hxx>
 #include <Geom_CartesianPoint.hxx>
 #include <OpenGl_FrameBuffer.hxx>
+#include <Prs3d_DatumAspect.hxx>
 #include <Prs3d_LineAspect.hxx>
 #include <Prs3d_PointAspect.hxx>
+#include <QFontInfo>
+#include <QGuiApplication>
 #include <QOpenGLContext>
 #include <QPalette>
 #include <Standard_ProgramError.hxx>
@@ -30,11 +33,12 @@ constexpr int NoSelection = -1;
 // In pixels of a screen with a ratio of 1.
 constexpr double CubeSize = 42.0;
 constexpr int CubeMargin = 82; // From both sides of the corner to the cube's middle.
-constexpr double CubeFontHeight = 11.0;
+constexpr double CubeFontHeight = 9.0;
+constexpr double AxisLetterHeight = 14.0;
 constexpr unsigned int DotsPerInch = 96;
 
 constexpr double TurnSeconds = 0.25;
-constexpr double FitMargin = 0.1;
+constexpr double FitMargin = 0.02;
 constexpr int Samples = 4;
 constexpr double MarkScale = 3.0;
 constexpr double Chord = 0.0005; // The largest distance of a facet, as a share of the part's size.
@@ -53,7 +57,8 @@ const QColor PartColour(0x9d, 0xb0, 0xc4);
 const QColor CursorColour(0x5c, 0xc8, 0xf0);
 const QColor SelectionColour(0xff, 0x9a, 0x2e);
 const QColor MarkColour(0xd0, 0x20, 0x20);
-const QColor CubeColour(0xe6, 0xea, 0xf0);
+const QColor CubeColour(0xb4, 0xbe, 0xca);
+const QColor AxisColour(0x5a, 0x68, 0x78);
 const QColor CubeTextColour(0x30, 0x38, 0x42);
 
 void SetStyle(const Handle(AIS_InteractiveContext) & context, Prs3d_TypeOfHighlight type,
@@ -62,6 +67,11 @@ void SetStyle(const Handle(AIS_InteractiveContext) & context, Prs3d_TypeOfHighli
     const Handle(Prs3d_Drawer)& style = context->HighlightStyle(type);
     style->SetColor(Colour(colour));
     style->SetTransparency(0.0F);
+}
+
+Handle(Prs3d_LineAspect) NewEdgeAspect(double width)
+{
+    return new Prs3d_LineAspect(Quantity_NOC_BLACK, Aspect_TOL_SOLID, width);
 }
 
 Handle(AIS_ViewCube) NewCube(const Handle(AIS_AnimationCamera) & animation)
@@ -75,6 +85,15 @@ Handle(AIS_ViewCube) NewCube(const Handle(AIS_AnimationCamera) & animation)
     cube->SetBoxColor(Colour(CubeColour));
     cube->SetTextColor(Colour(CubeTextColour));
     cube->SetInnerColor(Colour(CubeTextColour));
+    cube->SetFont(QFontInfo(QGuiApplication::font()).family().toUtf8().constData());
+    const Handle(Prs3d_DatumAspect) axes = new Prs3d_DatumAspect;
+    const Handle(Prs3d_TextAspect) letters = new Prs3d_TextAspect;
+    letters->SetColor(Colour(AxisColour));
+    letters->SetHeight(AxisLetterHeight);
+    axes->SetTextAspect(letters);
+    for (const auto axis : {Prs3d_DatumParts_XAxis, Prs3d_DatumParts_YAxis, Prs3d_DatumParts_ZAxis})
+        axes->ShadingAspect(axis)->SetColor(Colour(AxisColour));
+    cube->Attributes()->SetDatumAspect(axes);
     return cube;
 }
 
@@ -82,20 +101,23 @@ Handle(AIS_ViewCube) NewCube(const Handle(AIS_AnimationCamera) & animation)
 
 ModelScene::ModelScene(QOpenGLContext& context, double pixelRatio,
                        std::function<void()> askForFrame)
-    : m_askForFrame(std::move(askForFrame))
+    : m_pixelRatio(pixelRatio)
+    , m_askForFrame(std::move(askForFrame))
 {
     // The kernel asks for the window of the context; the toolkit's own, a buffer, is none to it.
     m_surface.setSurfaceType(QSurface::OpenGLSurface);
     m_surface.setFormat(context.format());
     m_surface.create();
     const Handle(OpenGl_Context) wrapped = new OpenGl_Context;
-    if (!context.makeCurrent(&m_surface) || !wrapped->Init())
-        throw Standard_ProgramError("The OpenGL context is none that the kernel can use");
+    if (!context.makeCurrent(&m_surface) || !wrapped->Init() || !wrapped->IsGlGreaterEqual(2, 1))
+        throw Standard_ProgramError("the system's OpenGL is none that the geometry kernel can use");
 
     m_driver = new OpenGl_GraphicDriver(
         new Aspect_DisplayConnection(static_cast<Aspect_XDisplay*>(wrapped->GetDisplay())), false);
     m_driver->ChangeOptions().buffersNoSwap = true;
     m_driver->ChangeOptions().buffersOpaqueAlpha = true;
+    // The toolkit's buffer takes colours as they are on the screen.
+    m_driver->ChangeOptions().sRGBDisable = true;
     m_driver->ChangeOptions().useSystemBuffer = false;
 
     const Handle(V3d_Viewer) viewer = new V3d_Viewer(m_driver);
@@ -113,8 +135,7 @@ ModelScene::ModelScene(QOpenGLContext& context, double pixelRatio,
     m_context = new AIS_InteractiveContext(viewer);
     const Handle(Prs3d_Drawer)& drawer = m_context->DefaultDrawer();
     drawer->SetFaceBoundaryDraw(true);
-    drawer->SetFaceBoundaryAspect(
-        new Prs3d_LineAspect(Quantity_NOC_BLACK, Aspect_TOL_SOLID, pixelRatio));
+    drawer->SetFaceBoundaryUpperContinuity(GeomAbs_C1);
     drawer->SetDeviationCoefficient(Chord);
     drawer->SetDeviationAngle(FacetAngle);
     SetStyle(m_context, Prs3d_TypeOfHighlight_Dynamic, CursorColour);
@@ -178,7 +199,7 @@ void ModelScene::Draw()
         gl->SetDefaultFrameBuffer(target);
     }
     if (!target->InitWrapper(gl))
-        throw Standard_ProgramError("The OpenGL driver gives no frame buffer to draw into");
+        throw Standard_ProgramError("the OpenGL driver gives no frame buffer to draw into");
     m_view->Redraw();
 }
 
@@ -201,6 +222,9 @@ void ModelScene::ShowPart(const TopoDS_Shape& shape, bool isShaded)
         part = new AIS_Shape(shape);
         part->SetMaterial(Graphic3d_NameOfMaterial_Plastified);
         part->SetColor(Colour(PartColour));
+        // The colour of the part would be that of its edges, too.
+        part->Attributes()->SetFaceBoundaryAspect(NewEdgeAspect(m_pixelRatio));
+        part->Attributes()->SetWireAspect(NewEdgeAspect(m_pixelRatio));
     }
     Replace(m_part, part, isShaded ? AIS_Shaded : AIS_WireFrame, FaceSelection);
 }

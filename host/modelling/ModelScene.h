@@ -75,6 +75,7 @@ private:
                  int mode, int selection);
 
     QWindow m_surface;
+    double m_pixelRatio;
     std::function<void()> m_askForFrame;
     bool m_wasClicked = false;
 

@@ -11,9 +11,6 @@
 
 namespace {
 
-// The driver's versions that the kernel draws with begin here.
-const auto LeastVersion = qMakePair(2, 1);
-
 V3d_TypeOfOrientation Orientation(ModelView::StandardView view)
 {
     switch (view) {
@@ -83,15 +80,10 @@ QString TryOpenGl()
     QOpenGLContext context;
     if (!context.create())
         return ModelView::tr("the system offers no OpenGL");
-    const QPair<int, int> version = context.format().version();
-    if (version < LeastVersion)
-        return ModelView::tr("the system's OpenGL has version %1.%2, which is too old")
-            .arg(version.first)
-            .arg(version.second);
     try {
         const ModelScene scene(context, 1.0, [] {});
-    } catch (const Standard_Failure&) {
-        return ModelView::tr("the geometry kernel cannot use the system's OpenGL");
+    } catch (const Standard_Failure& failure) {
+        return QString::fromLocal8Bit(failure.GetMessageString());
     }
     return {};
 }
