@@ -32,7 +32,7 @@ public:
     };
 
     /// @p askForFrame is called whenever the picture has changed.
-    ModelScene(QOpenGLContext& context, double pixelRatio, std::function<void()> askForFrame);
+    ModelScene(QOpenGLContext& context, std::function<void()> askForFrame);
     ~ModelScene() override;
     Q_DISABLE_COPY(ModelScene)
 
@@ -75,7 +75,6 @@ private:
                  int mode, int selection);
 
     QWindow m_surface;
-    double m_pixelRatio;
     std::function<void()> m_askForFrame;
     bool m_wasClicked = false;
 
