@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QIcon>
 #include <QTextCodec>
+#include <Standard_ConstructionError.hxx>
 #include <Standard_Failure.hxx>
 #include <Standard_Type.hxx>
 
@@ -35,6 +36,8 @@ void ProvideDialogFont()
 
 } // namespace
 
+int KernelErrorPass::s_passes = 0;
+
 HostApplication::HostApplication(int& argc, char** argv)
     : QApplication(argc, argv)
 {
@@ -55,6 +58,8 @@ bool HostApplication::notify(QObject* receiver, QEvent* event)
     try {
         return QApplication::notify(receiver, event);
     } catch (const Standard_Failure& failure) {
+        if (KernelErrorPass::IsGiven() && failure.IsKind(STANDARD_TYPE(Standard_ConstructionError)))
+            throw;
         PostFailure(tr("The geometry kernel failed: %1 (%2)")
                         .arg(QString::fromLocal8Bit(failure.GetMessageString()),
                              QString::fromLatin1(failure.DynamicType()->Name())));
