@@ -1,17 +1,8 @@
 #pragma once
 
-#include "HostError.h"
-
-#include <QString>
+#include "BuildError.h"
 
 class TopoDS_Shape;
-
-/// Why a part cannot be built: one line in plain words.
-class BuildError : public HostError
-{
-public:
-    using HostError::HostError;
-};
 
 /// The measures of a bolted flange: a round plate with a hub on top, a bore through both, and a
 /// circle of bolt holes in the plate. Lengths are in millimetres.

@@ -13,7 +13,7 @@ QString Quoted(const QString& text)
 }
 
 JsonSection::JsonSection(QString place, const QJsonValue& value,
-                         std::initializer_list<QLatin1String> keys)
+                         const std::vector<QLatin1String>& keys)
     : m_place(std::move(place))
     , m_object(value.toObject())
 {

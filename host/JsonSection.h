@@ -8,7 +8,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <initializer_list>
 #include <vector>
 
 /// What is wrong with a JSON file: one line.
@@ -30,9 +29,11 @@ class JsonSection
 public:
     /// @p value has to be an object that has none but these @p keys: an entry that nobody reads is
     /// a misspelling.
-    JsonSection(QString place, const QJsonValue& value, std::initializer_list<QLatin1String> keys);
+    JsonSection(QString place, const QJsonValue& value, const std::vector<QLatin1String>& keys);
 
     bool Has(QLatin1String key) const { return m_object.contains(key); }
+    /// Of any type; undefined when it is not there.
+    QJsonValue Value(QLatin1String key) const { return m_object.value(key); }
     QString Text(QLatin1String key, const QString& byDefault = QString()) const;
     QString NeededText(QLatin1String key) const;
     double Number(QLatin1String key) const;

@@ -1,0 +1,245 @@
+#include "FeatureList.h"
+
+#include "BuildError.h"
+#include "FeatureKinds.h"
+#include "JsonSection.h"
+#include "NumberTexts.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const QLatin1String NameKey("name");
+const QLatin1String KindKey("kind");
+const QLatin1String SuppressedKey("suppressed");
+const QLatin1String InputsKey("inputs");
+const QLatin1String FieldsKey("fields");
+const QLatin1String FileKey("file");
+
+// A number stands in a file as a number where nothing of its text is lost by that.
+QJsonValue FieldToJson(const QString& text)
+{
+    bool isNumber = false;
+    const double value = text.toDouble(&isNumber);
+    if (isNumber && std::isfinite(value) && ExactText(value) == text)
+        return value;
+    return text;
+}
+
+QStringList ReadFields(const JsonSection& section, const QString& place, FeatureKind kind)
+{
+    const std::vector<FieldKind>& fields = FeatureKinds::Of(kind).fields;
+    std::vector<QLatin1String> keys;
+    keys.reserve(fields.size());
+    for (const FieldKind& field : fields)
+        keys.push_back(field.key);
+    const JsonSection values(place + QStringLiteral(" in its \"fields\""),
+                             section.Has(FieldsKey) ? section.Value(FieldsKey) : QJsonObject(),
+                             keys);
+    QStringList texts;
+    for (const FieldKind& field : fields) {
+        const QJsonValue value = values.Value(field.key);
+        if (value.isDouble())
+            texts << ExactText(value.toDouble());
+        else if (value.isString())
+            texts << value.toString();
+        else if (!values.Has(field.key))
+            texts << field.defaultText;
+        else
+            values.FailAt(field.key, QStringLiteral("a number or an expression"));
+    }
+    return texts;
+}
+
+Feature ReadFeature(const QJsonValue& json, int number)
+{
+    const std::vector<QLatin1String> keys = {NameKey,   KindKey,   SuppressedKey,
+                                             InputsKey, FieldsKey, FileKey};
+    const QString nameless = QStringLiteral("feature %1").arg(number);
+    const QString name = JsonSection(nameless, json, keys).NeededText(NameKey);
+    const QString place = QStringLiteral("%1, %2,").arg(nameless, Quoted(name));
+    const JsonSection section(place, json, keys);
+
+    const QString word = section.NeededText(KindKey);
+    const std::optional<FeatureKind> kind = FeatureKinds::FromWord(word);
+    if (!kind.has_value())
+        section.Fail(QStringLiteral("has the unknown kind %1").arg(Quoted(word)));
+    Feature feature;
+    feature.name = name;
+    feature.kind = *kind;
+    feature.suppressed = section.Flag(SuppressedKey, false);
+    feature.inputs = section.Texts(InputsKey);
+    feature.fields = ReadFields(section, place, *kind);
+    feature.file = section.Text(FileKey);
+    return feature;
+}
+
+QJsonObject WriteFeature(const Feature& feature)
+{
+    const FeatureKinds::Entry& kind = FeatureKinds::Of(feature.kind);
+    QJsonObject json;
+    json.insert(NameKey, feature.name);
+    json.insert(KindKey, kind.word);
+    if (feature.suppressed)
+        json.insert(SuppressedKey, true);
+    if (!feature.inputs.isEmpty())
+        json.insert(InputsKey, QJsonArray::fromStringList(feature.inputs));
+    QJsonObject fields;
+    const int count = std::min(int(kind.fields.size()), feature.fields.size());
+    for (int field = 0; field < count; ++field)
+        fields.insert(kind.fields[std::size_t(field)].key, FieldToJson(feature.fields[field]));
+    if (!fields.isEmpty())
+        json.insert(FieldsKey, fields);
+    if (!feature.file.isEmpty())
+        json.insert(FileKey, feature.file);
+    return json;
+}
+
+void CheckShape(const Feature& feature)
+{
+    const FeatureKinds::Entry& kind = FeatureKinds::Of(feature.kind);
+    const int inputs = feature.inputs.size();
+    const bool tooMany = kind.mostInputs != FeatureKinds::AnyNumber && inputs > kind.mostInputs;
+    if (inputs < kind.leastInputs || tooMany) {
+        QString wanted = QStringLiteral("no input");
+        if (kind.mostInputs == FeatureKinds::AnyNumber)
+            wanted = QStringLiteral("at least %1 inputs").arg(kind.leastInputs);
+        else if (kind.mostInputs > 0)
+            wanted = QStringLiteral("one input");
+        throw FeatureError(feature.name, QStringLiteral("a feature of the kind \"%1\" takes %2, "
+                                                        "but there are %3.")
+                                             .arg(kind.word, wanted)
+                                             .arg(inputs));
+    }
+    if (feature.fields.size() != int(kind.fields.size()))
+        throw FeatureError(feature.name, QStringLiteral("a feature of the kind \"%1\" has %2 "
+                                                        "fields, but there are %3.")
+                                             .arg(kind.word)
+                                             .arg(kind.fields.size())
+                                             .arg(feature.fields.size()));
+    const bool isImport = feature.kind == FeatureKind::StepImport;
+    if (isImport && feature.file.isEmpty())
+        throw FeatureError(feature.name, QStringLiteral("there is no file to import."));
+    if (!isImport && !feature.file.isEmpty())
+        throw FeatureError(
+            feature.name,
+            QStringLiteral("a feature of the kind \"%1\" has no file.").arg(kind.word));
+}
+
+} // namespace
+
+int FeatureList::Find(const QString& name) const
+{
+    const auto found = std::find_if(m_features.begin(), m_features.end(),
+                                    [&](const Feature& feature) { return feature.name == name; });
+    return found == m_features.end() ? -1 : int(found - m_features.begin());
+}
+
+QStringList FeatureList::UsersOf(const QString& name) const
+{
+    QStringList users;
+    for (const Feature& feature : m_features) {
+        if (feature.inputs.contains(name))
+            users << feature.name;
+    }
+    return users;
+}
+
+QString FeatureList::UniqueName(const QString& stem) const
+{
+    QString name = stem;
+    for (int number = 2; Find(name) >= 0; ++number)
+        name = QStringLiteral("%1_%2").arg(stem).arg(number);
+    return name;
+}
+
+void FeatureList::Insert(int index, const Feature& feature)
+{
+    m_features.insert(m_features.begin() + index, feature);
+}
+
+void FeatureList::Replace(int index, const Feature& feature)
+{
+    Feature& place = m_features.at(std::size_t(index));
+    const QString former = place.name;
+    place = feature;
+    if (former == feature.name || Find(former) >= 0)
+        return;
+    for (Feature& user : m_features) {
+        for (QString& input : user.inputs) {
+            if (input == former)
+                input = feature.name;
+        }
+    }
+}
+
+void FeatureList::Remove(int index)
+{
+    m_features.erase(m_features.begin() + index);
+}
+
+void FeatureList::Move(int from, int to)
+{
+    const Feature feature = At(from);
+    Remove(from);
+    Insert(to, feature);
+}
+
+void FeatureList::SetSuppressed(int index, bool suppressed)
+{
+    m_features.at(std::size_t(index)).suppressed = suppressed;
+}
+
+void FeatureList::Check() const
+{
+    if (Size() > MaximumSize)
+        throw BuildError(
+            QStringLiteral("There are %1 features; %2 are the most.").arg(Size()).arg(MaximumSize));
+    QSet<QString> earlier;
+    for (const Feature& feature : m_features) {
+        if (feature.name.trimmed().isEmpty())
+            throw FeatureError(QStringLiteral("?"), QStringLiteral("the feature has no name."));
+        if (earlier.contains(feature.name))
+            throw FeatureError(feature.name, QStringLiteral("two features have this name."));
+        CheckShape(feature);
+        QSet<QString> used;
+        for (const QString& input : feature.inputs) {
+            if (!earlier.contains(input))
+                throw FeatureError(
+                    feature.name,
+                    Find(input) < 0
+                        ? QStringLiteral("it uses %1, which is no feature.").arg(Quoted(input))
+                        : QStringLiteral("it uses %1, which does not stand before it.")
+                              .arg(Quoted(input)));
+            if (used.contains(input))
+                throw FeatureError(feature.name,
+                                   QStringLiteral("it uses %1 twice.").arg(Quoted(input)));
+            used.insert(input);
+        }
+        earlier.insert(feature.name);
+    }
+}
+
+FeatureList FeatureList::FromJson(const QJsonArray& json)
+{
+    FeatureList list;
+    for (const QJsonValue& value : json)
+        list.Append(ReadFeature(value, list.Size() + 1));
+    try {
+        list.Check();
+    } catch (const BuildError& error) {
+        throw JsonError(QStringLiteral("features: %1").arg(error.Reason()));
+    }
+    return list;
+}
+
+QJsonArray FeatureList::ToJson() const
+{
+    QJsonArray json;
+    for (const Feature& feature : m_features)
+        json.append(WriteFeature(feature));
+    return json;
+}
