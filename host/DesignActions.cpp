@@ -40,6 +40,13 @@ void DesignActions::Start()
     SettleExpressions();
 }
 
+void DesignActions::TellWhetherRun() const
+{
+    if (m_storeIsRun)
+        PostMessageToChannel(WarningLevel, tr("What was saved are the values of a run; \"Restore "
+                                              "parameters\" brings the design back"));
+}
+
 void DesignActions::EditParameters()
 {
     ParameterEditor editor(m_window);
@@ -65,6 +72,7 @@ void DesignActions::DesignExperiments()
         Q_EMIT ParametersChanged();
     });
     dialog.exec();
+    Q_EMIT SamplesEdited();
 }
 
 void DesignActions::KeepDesign(const ParameterMap& records)

@@ -24,9 +24,14 @@ public:
     /// Another project stands in the store: settles its expressions and forgets the last design.
     void Start();
 
+    /// After the store was saved: tells where that was a run and not the design.
+    void TellWhetherRun() const;
+
 Q_SIGNALS:
     /// The store was written and its expressions are settled: whatever depends on it is to follow.
     void ParametersChanged();
+    /// The dialog in which samples are given was closed.
+    void SamplesEdited();
 
 private:
     void EditParameters();

@@ -1,5 +1,6 @@
 #include "ShapeSummary.h"
 
+#include "ModelView.h"
 #include "NumberTexts.h"
 #include "ShapeMeasures.h"
 #include "ShapePicture.h"
@@ -33,10 +34,13 @@ QLabel* AddRow(QFormLayout& form, const QString& caption, const char* name)
 
 } // namespace
 
-ShapeSummary::ShapeSummary(QWidget* parent)
+ShapeSummary::ShapeSummary(QWidget* parent, ModelView* view)
     : QWidget(parent)
-    , m_picture(new ShapePicture(this))
+    , m_view(view)
 {
+    if (m_view == nullptr)
+        m_picture = new ShapePicture(this);
+
     setObjectName(QStringLiteral("shapeSummary"));
 
     auto* const form = new QFormLayout;
@@ -50,7 +54,7 @@ ShapeSummary::ShapeSummary(QWidget* parent)
     m_position = AddRow(*form, tr("From, to"), "label_BoundingBoxPosition");
 
     auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(m_picture, 1);
+    layout->addWidget(m_view != nullptr ? static_cast<QWidget*>(m_view) : m_picture, 1);
     layout->addLayout(form);
     Clear();
 }
@@ -72,9 +76,17 @@ void ShapeSummary::ShowShape(const TopoDS_Shape& shape, double density)
     m_position->setText(tr("(%1, %2, %3), (%4, %5, %6) mm")
                             .arg(LengthText(box[0]), LengthText(box[1]), LengthText(box[2]),
                                  LengthText(box[3]), LengthText(box[4]), LengthText(box[5])));
-    m_picture->SetShape(shape);
+    ShowInPicture(shape);
     m_builtAt = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
     m_status->setText(tr("Built at %1").arg(m_builtAt));
+}
+
+void ShapeSummary::ShowInPicture(const TopoDS_Shape& shape)
+{
+    if (m_view != nullptr)
+        m_view->ShowShape(shape);
+    else
+        m_picture->SetShape(shape);
 }
 
 void ShapeSummary::ShowFailure(const QString& reason)
@@ -87,7 +99,7 @@ void ShapeSummary::ShowFailure(const QString& reason)
 
 void ShapeSummary::Clear()
 {
-    m_picture->SetShape(TopoDS_Shape());
+    ShowInPicture(TopoDS_Shape());
     m_builtAt.clear();
     m_status->setText(tr("There is no shape yet"));
     for (QLabel* const label : {m_volume, m_area, m_mass, m_size, m_position})

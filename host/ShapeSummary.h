@@ -2,17 +2,20 @@
 
 #include <QWidget>
 
+class ModelView;
 class QLabel;
 class ShapePicture;
 class TopoDS_Shape;
 
-/// Shows the part: a picture, its measures, and whether the last build succeeded.
+/// Shows the part: in the 3D view or, where there is none, as a line drawing; its measures; and
+/// whether the last build succeeded.
 class ShapeSummary : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit ShapeSummary(QWidget* parent);
+    /// Takes @p view, which may be null, over.
+    explicit ShapeSummary(QWidget* parent, ModelView* view = nullptr);
     ~ShapeSummary() override;
 
     /// Shows a shape that was just built; @p density is in kg/m3.
@@ -25,7 +28,10 @@ public:
     void Clear();
 
 private:
-    ShapePicture* m_picture;
+    void ShowInPicture(const TopoDS_Shape& shape);
+
+    ModelView* m_view;
+    ShapePicture* m_picture = nullptr; // Where there is no view.
     QLabel* m_status;
     QLabel* m_volume;
     QLabel* m_area;

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <QOpenGLWidget>
+#include <TopoDS_Face.hxx>
+#include <TopoDS_Shape.hxx>
+#include <gp_Pnt.hxx>
+
+#include <memory>
+
+class QShortcut;
+
+/// The part in three dimensions: the kernel's viewer in a widget.
+///
+/// Dragging with the left or the middle button orbits, with the right button (or the left one and
+/// Shift) pans; the wheel zooms about the cursor; a click selects a face; the cube in the corner
+/// turns to the view that is clicked on it. Lengths are in millimetres.
+///
+/// Make one only where WhyNotAvailable() gives no reason against it. Should the driver fail later,
+/// Failed() comes once and the view stays empty.
+class ModelView : public QOpenGLWidget
+{
+    Q_OBJECT
+
+public:
+    /// Where the eye is; z is upwards except in the views from the top and the bottom.
+    enum StandardView
+    {
+        FrontView, ///< Looks along +y.
+        BackView,
+        LeftView, ///< Looks along +x.
+        RightView,
+        TopView, ///< Looks along -z, y upwards.
+        BottomView,
+        IsometricView
+    };
+
+    enum DisplayMode
+    {
+        ShadedWithEdges,
+        Wireframe
+    };
+
+    /// Why this system cannot show a ModelView, for the user; empty when it can. Asked of the
+    /// driver once, then remembered.
+    static QString WhyNotAvailable();
+
+    explicit ModelView(QWidget* parent = nullptr);
+    ~ModelView() override;
+
+    /// Shows @p shape in place of the earlier one; a null shape empties the view. The camera stays,
+    /// but where @p fitFirstTime is set and nothing was shown before, the shape is fitted into the
+    /// view. The selected face is selected no longer.
+    void ShowShape(const TopoDS_Shape& shape, bool fitFirstTime = true);
+
+    /// Shows @p shape, which may lie within the part, on top of it in a signal colour; a null shape
+    /// ends that.
+    void HighlightShape(const TopoDS_Shape& shape);
+
+    /// Marks a point, in place of the one marked earlier.
+    void ShowPoint(const gp_Pnt& point);
+    void HidePoint();
+
+    void FitAll();
+    /// Turns to a standard view and fits the shape into it.
+    void SetStandardView(StandardView view);
+    void SetDisplayMode(DisplayMode mode);
+    DisplayMode CurrentDisplayMode() const { return m_mode; }
+
+    /// The next click on a face is told with FacePicked(). Escape, or CancelPicking(), ends the
+    /// wait with PickingCancelled(); a click beside the part does not.
+    void PickFace();
+    void CancelPicking();
+    bool IsPicking() const { return m_isPicking; }
+
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// @p point is where the face was clicked on, exactly on the face's surface.
+    void FacePicked(const TopoDS_Face& face, const gp_Pnt& point);
+    void PickingCancelled();
+
+    /// The cursor is over this point of the part.
+    void PointMoved(const gp_Pnt& point);
+    /// The cursor left the part.
+    void PointLost();
+
+    /// The driver has failed; the reason is for the user.
+    void Failed(const QString& reason);
+
+protected:
+    void initializeGL() override;
+    void paintGL() override;
+    void resizeGL(int width, int height) override;
+
+    void changeEvent(QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    class Scene;
+
+    std::unique_ptr<Scene> m_scene; // Of the OpenGL context; null before there is one.
+    TopoDS_Shape m_shape;
+    TopoDS_Shape m_highlight;
+    DisplayMode m_mode = ShadedWithEdges;
+    bool m_isPicking = false;
+    bool m_isPointKnown = false; // The last signal about the point was PointMoved().
+    QShortcut* m_escape;
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QObject>
+
+#include "ModelView.h"
+
+class QMenu;
+class QToolBar;
+
+/// What menu and toolbar offer for the view: fit, the standard views, the way of display.
+///
+/// Without a view, where there is no OpenGL, the actions are there but disabled.
+class ViewActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p view may be null; otherwise it outlives the actions.
+    ViewActions(ModelView* view, QObject* parent);
+    ~ViewActions() override;
+
+    void FillMenu(QMenu& menu) const;
+    void FillToolBar(QToolBar& toolBar) const;
+
+private:
+    QAction* Add(const QString& text, const char* name, const QKeySequence& shortcut);
+
+    ModelView* m_view;
+    QList<QAction*> m_actions; // A null entry is a separator.
+};
