@@ -1,5 +1,6 @@
 #include "HostApplication.h"
 
+#include "KernelMessages.h"
 #include "MessageLevel.h"
 
 #include <QFontDatabase>
@@ -45,6 +46,7 @@ HostApplication::HostApplication(int& argc, char** argv)
     std::setlocale(LC_NUMERIC, "C");
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     ProvideDialogFont();
+    RouteKernelMessages();
 
     setApplicationName(QStringLiteral("tarnhost"));
     setApplicationVersion(QStringLiteral(TARN_VERSION));

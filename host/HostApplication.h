@@ -6,8 +6,9 @@
 ///
 /// No exception leaves an event handler or slot: it ends up as a line in the message channel, and
 /// the application lives on - but for the kernel's construction errors while a KernelErrorPass
-/// lives: those go on to whoever runs the event loop. Whatever the system's locale, numbers have a full stop as decimal
-/// sign, 8-bit texts are UTF-8, and the font family that the dialogs ask for has a substitute.
+/// lives: those go on to whoever runs the event loop. Whatever the system's locale, numbers have a
+/// full stop as decimal sign, 8-bit texts are UTF-8, and the font family that the dialogs ask for
+/// has a substitute. The kernel writes nothing to the console.
 class HostApplication : public QApplication
 {
     Q_OBJECT

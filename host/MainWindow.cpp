@@ -27,12 +27,12 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , m_analysis(new AnalysisModel(this))
     , m_part(new PartModel(this))
+    , m_summary(new ShapeSummary(this))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(tr("Tarn host"));
     resize(1440, 900);
-    m_messages = new MessageDock(this); // First: the others may have something to tell.
-    CreateView();
+    setCentralWidget(m_summary);
     CreateDocks();
     CreateMenus();
     ConnectPart();
@@ -40,27 +40,12 @@ MainWindow::MainWindow(QWidget* parent)
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::CreateView()
-{
-    const QString whyNot = ModelView::WhyNotAvailable();
-    if (whyNot.isEmpty()) {
-        m_view = new ModelView(this);
-        connect(m_view, &ModelView::Failed, this, [](const QString& reason) {
-            PostMessageToChannel(ErrorLevel, tr("The 3D view failed: %1").arg(reason));
-        });
-    } else {
-        PostMessageToChannel(
-            InfoLevel, tr("A line drawing stands in for the 3D view. %1").arg(whyNot));
-    }
-    m_summary = new ShapeSummary(this, m_view);
-    setCentralWidget(m_summary);
-}
-
 void MainWindow::CreateDocks()
 {
     m_features = new FeatureTree(*m_part, this);
     m_fields = new FeatureFields(*m_part, this);
-    m_position = new PositionDock(m_view, this);
+    m_position = new PositionDock(m_summary->View(), this);
+    m_messages = new MessageDock(this);
     m_tree = new ModelTree(*m_analysis, this);
     m_overview = new ParameterOverview(this);
     addDockWidget(Qt::LeftDockWidgetArea, m_features);
@@ -83,7 +68,7 @@ void MainWindow::CreateMenus()
     m_projectActions->FillMenu(*menuBar()->addMenu(tr("&File")));
     m_designActions = new DesignActions(this);
     m_designActions->FillMenu(*menuBar()->addMenu(tr("&Design")));
-    m_modellingActions = new ModellingActions(*m_part, *m_features, *m_fields, m_view, this);
+    m_modellingActions = new ModellingActions(*m_part, *m_features, *m_fields, m_summary->View(), this);
     m_modellingActions->FillMenu(*menuBar()->addMenu(tr("&Model")));
     auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, this);
     analysis->FillMenu(*menuBar()->addMenu(tr("&Analysis")));
@@ -91,7 +76,7 @@ void MainWindow::CreateMenus()
     solver->FillMenu(*menuBar()->addMenu(tr("&Solver")));
 
     QMenu& view = *menuBar()->addMenu(tr("&View"));
-    const ViewActions* const viewActions = new ViewActions(m_view, this);
+    const ViewActions* const viewActions = new ViewActions(m_summary->View(), this);
     viewActions->FillMenu(view);
     view.addSeparator();
     const QList<QDockWidget*> docks = {m_features, m_fields, m_position,
@@ -101,7 +86,7 @@ void MainWindow::CreateMenus()
     QToolBar* const toolBar = addToolBar(tr("View"));
     toolBar->setObjectName(QStringLiteral("viewToolBar"));
     viewActions->FillToolBar(*toolBar);
-    toolBar->setVisible(m_view != nullptr);
+    toolBar->setVisible(m_summary->View() != nullptr);
 
     connect(m_projectActions, &ProjectActions::Opened, this, &MainWindow::StartProject);
     connect(m_projectActions, &ProjectActions::Saved, m_designActions,
@@ -159,9 +144,9 @@ void MainWindow::ShowSelectedFeature()
 {
     const QStringList& selected = m_features->Selected();
     m_fields->ShowFeature(selected.size() == 1 ? selected.first() : QString());
-    if (m_view != nullptr)
-        m_view->HighlightShape(selected.isEmpty() ? TopoDS_Shape()
-                                                  : m_part->ShapeOf(selected.last()));
+    if (ModelView* const view = m_summary->View())
+        view->HighlightShape(selected.isEmpty() ? TopoDS_Shape()
+                                                : m_part->ShapeOf(selected.last()));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

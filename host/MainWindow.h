@@ -8,7 +8,6 @@ class FeatureFields;
 class FeatureTree;
 class MessageDock;
 class ModelTree;
-class ModelView;
 class ModellingActions;
 class ParameterOverview;
 class PartModel;
@@ -41,7 +40,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void CreateView();
     void CreateDocks();
     void CreateMenus();
     void ConnectPart();
@@ -54,8 +52,7 @@ private:
 
     AnalysisModel* m_analysis;
     PartModel* m_part;
-    ModelView* m_view = nullptr; // Null where there is no OpenGL.
-    ShapeSummary* m_summary = nullptr;
+    ShapeSummary* m_summary;
 
     MessageDock* m_messages = nullptr;
     ParameterOverview* m_overview = nullptr;

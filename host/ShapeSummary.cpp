@@ -1,5 +1,6 @@
 #include "ShapeSummary.h"
 
+#include "MessageLevel.h"
 #include "ModelView.h"
 #include "NumberTexts.h"
 #include "ShapeMeasures.h"
@@ -9,7 +10,6 @@
 #include <QLabel>
 #include <QTime>
 #include <QVBoxLayout>
-#include <TopoDS_Shape.hxx>
 
 namespace {
 
@@ -34,13 +34,10 @@ QLabel* AddRow(QFormLayout& form, const QString& caption, const char* name)
 
 } // namespace
 
-ShapeSummary::ShapeSummary(QWidget* parent, ModelView* view)
+ShapeSummary::ShapeSummary(QWidget* parent)
     : QWidget(parent)
-    , m_view(view)
+    , m_layout(new QVBoxLayout(this))
 {
-    if (m_view == nullptr)
-        m_picture = new ShapePicture(this);
-
     setObjectName(QStringLiteral("shapeSummary"));
 
     auto* const form = new QFormLayout;
@@ -53,13 +50,43 @@ ShapeSummary::ShapeSummary(QWidget* parent, ModelView* view)
     m_size = AddRow(*form, tr("Bounding box"), "label_BoundingBox");
     m_position = AddRow(*form, tr("From, to"), "label_BoundingBoxPosition");
 
-    auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(m_view != nullptr ? static_cast<QWidget*>(m_view) : m_picture, 1);
-    layout->addLayout(form);
+    m_layout->addLayout(form);
+    const QString reason = ModelView::WhyNotAvailable();
+    if (reason.isEmpty()) {
+        m_view = new ModelView(this);
+        m_layout->insertWidget(0, m_view, 1);
+        connect(m_view, &ModelView::Failed, this, &ShapeSummary::UsePicture);
+    } else {
+        UsePicture(reason);
+    }
     Clear();
 }
 
 ShapeSummary::~ShapeSummary() = default;
+
+void ShapeSummary::UsePicture(const QString& reason)
+{
+    if (m_view != nullptr)
+        m_view->hide();
+    m_picture = new ShapePicture(this);
+    m_layout->insertWidget(0, m_picture, 1);
+    m_warning = tr("The part is shown as a line drawing: %1").arg(reason);
+    if (!m_shape.IsNull())
+        Show(m_shape);
+}
+
+void ShapeSummary::Show(const TopoDS_Shape& shape)
+{
+    m_shape = shape;
+    if (m_view != nullptr)
+        m_view->ShowShape(shape);
+    if (m_picture != nullptr)
+        m_picture->SetShape(shape);
+    if (m_warning.isEmpty() || shape.IsNull())
+        return;
+    PostMessageToChannel(WarningLevel, m_warning);
+    m_warning.clear();
+}
 
 void ShapeSummary::ShowShape(const TopoDS_Shape& shape, double density)
 {
@@ -76,17 +103,9 @@ void ShapeSummary::ShowShape(const TopoDS_Shape& shape, double density)
     m_position->setText(tr("(%1, %2, %3), (%4, %5, %6) mm")
                             .arg(LengthText(box[0]), LengthText(box[1]), LengthText(box[2]),
                                  LengthText(box[3]), LengthText(box[4]), LengthText(box[5])));
-    ShowInPicture(shape);
+    Show(shape);
     m_builtAt = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
     m_status->setText(tr("Built at %1").arg(m_builtAt));
-}
-
-void ShapeSummary::ShowInPicture(const TopoDS_Shape& shape)
-{
-    if (m_view != nullptr)
-        m_view->ShowShape(shape);
-    else
-        m_picture->SetShape(shape);
 }
 
 void ShapeSummary::ShowFailure(const QString& reason)
@@ -99,7 +118,7 @@ void ShapeSummary::ShowFailure(const QString& reason)
 
 void ShapeSummary::Clear()
 {
-    ShowInPicture(TopoDS_Shape());
+    Show(TopoDS_Shape());
     m_builtAt.clear();
     m_status->setText(tr("There is no shape yet"));
     for (QLabel* const label : {m_volume, m_area, m_mass, m_size, m_position})

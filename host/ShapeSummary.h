@@ -1,21 +1,23 @@
 #pragma once
 
 #include <QWidget>
+#include <TopoDS_Shape.hxx>
 
 class ModelView;
 class QLabel;
+class QVBoxLayout;
 class ShapePicture;
-class TopoDS_Shape;
 
-/// Shows the part: in the 3D view or, where there is none, as a line drawing; its measures; and
-/// whether the last build succeeded.
+/// Shows the part: in three dimensions, with its measures, and whether the last build succeeded.
+///
+/// Where there is no OpenGL, a line drawing stands in for the view; the first shape then comes with
+/// one warning in the message channel.
 class ShapeSummary : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Takes @p view, which may be null, over.
-    explicit ShapeSummary(QWidget* parent, ModelView* view = nullptr);
+    explicit ShapeSummary(QWidget* parent);
     ~ShapeSummary() override;
 
     /// Shows a shape that was just built; @p density is in kg/m3.
@@ -27,11 +29,18 @@ public:
     /// Shows that there is no shape.
     void Clear();
 
-private:
-    void ShowInPicture(const TopoDS_Shape& shape);
+    /// The view, which belongs to this; null where there is no OpenGL.
+    ModelView* View() const { return m_view; }
 
-    ModelView* m_view;
-    ShapePicture* m_picture = nullptr; // Where there is no view.
+private:
+    void UsePicture(const QString& reason);
+    void Show(const TopoDS_Shape& shape);
+
+    ModelView* m_view = nullptr;
+    ShapePicture* m_picture = nullptr; // In place of the view.
+    QVBoxLayout* m_layout;
+    TopoDS_Shape m_shape;
+    QString m_warning; // Why there is a picture; empty once it was posted.
     QLabel* m_status;
     QLabel* m_volume;
     QLabel* m_area;

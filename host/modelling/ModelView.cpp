@@ -1,14 +1,107 @@
 #include "ModelView.h"
 
-#include <QShortcut>
+#include "MessageLevel.h"
+#include "ModelScene.h"
 
-class ModelView::Scene
+#include <QMouseEvent>
+#include <QOpenGLContext>
+#include <QShortcut>
+#include <QTimer>
+#include <Standard_Failure.hxx>
+
+namespace {
+
+// The driver's versions that the kernel draws with begin here.
+const auto LeastVersion = qMakePair(2, 1);
+
+V3d_TypeOfOrientation Orientation(ModelView::StandardView view)
 {
+    switch (view) {
+    case ModelView::FrontView:
+        return V3d_TypeOfOrientation_Zup_Front;
+    case ModelView::BackView:
+        return V3d_TypeOfOrientation_Zup_Back;
+    case ModelView::LeftView:
+        return V3d_TypeOfOrientation_Zup_Left;
+    case ModelView::RightView:
+        return V3d_TypeOfOrientation_Zup_Right;
+    case ModelView::TopView:
+        return V3d_TypeOfOrientation_Zup_Top;
+    case ModelView::BottomView:
+        return V3d_TypeOfOrientation_Zup_Bottom;
+    case ModelView::IsometricView:
+        break;
+    }
+    return V3d_TypeOfOrientation_Zup_AxoRight;
+}
+
+Aspect_VKeyMouse MouseButtons(Qt::MouseButtons buttons)
+{
+    Aspect_VKeyMouse keys = Aspect_VKeyMouse_NONE;
+    if (buttons.testFlag(Qt::LeftButton))
+        keys |= Aspect_VKeyMouse_LeftButton;
+    if (buttons.testFlag(Qt::MiddleButton))
+        keys |= Aspect_VKeyMouse_MiddleButton;
+    if (buttons.testFlag(Qt::RightButton))
+        keys |= Aspect_VKeyMouse_RightButton;
+    return keys;
+}
+
+Aspect_VKeyFlags KeyFlags(Qt::KeyboardModifiers modifiers)
+{
+    return modifiers.testFlag(Qt::ShiftModifier) ? Aspect_VKeyFlags_SHIFT : Aspect_VKeyFlags_NONE;
+}
+
+Graphic3d_Vec2i Vector(const QPoint& point)
+{
+    return Graphic3d_Vec2i(point.x(), point.y());
+}
+
+void DropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+// Keeps the toolkit quiet about what is only tried.
+class QuietToolkit
+{
+public:
+    QuietToolkit()
+        : m_handler(qInstallMessageHandler(DropMessage))
+    {
+    }
+    ~QuietToolkit() { qInstallMessageHandler(m_handler); }
+    Q_DISABLE_COPY(QuietToolkit)
+
+private:
+    QtMessageHandler m_handler;
 };
+
+QString TryOpenGl()
+{
+    // The driver writes to the console where it finds no hardware.
+    if (qEnvironmentVariableIsEmpty("LIBGL_DEBUG"))
+        qputenv("LIBGL_DEBUG", "quiet");
+    const QuietToolkit quiet;
+    QOpenGLContext context;
+    if (!context.create())
+        return ModelView::tr("the system offers no OpenGL");
+    const QPair<int, int> version = context.format().version();
+    if (version < LeastVersion)
+        return ModelView::tr("the system's OpenGL has version %1.%2, which is too old")
+            .arg(version.first)
+            .arg(version.second);
+    try {
+        const ModelScene scene(context, 1.0, [] {});
+    } catch (const Standard_Failure&) {
+        return ModelView::tr("the geometry kernel cannot use the system's OpenGL");
+    }
+    return {};
+}
+
+} // namespace
 
 QString ModelView::WhyNotAvailable()
 {
-    return QStringLiteral("not yet");
+    static const QString reason = TryOpenGl();
+    return reason;
 }
 
 ModelView::ModelView(QWidget* parent)
@@ -16,25 +109,264 @@ ModelView::ModelView(QWidget* parent)
     , m_escape(new QShortcut(Qt::Key_Escape, this))
 {
     setObjectName(QStringLiteral("modelView"));
+    setMinimumSize(160, 120);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::ClickFocus);
+    m_escape->setEnabled(false);
+    connect(m_escape, &QShortcut::activated, this, &ModelView::CancelPicking);
 }
 
-ModelView::~ModelView() = default;
-void ModelView::ShowShape(const TopoDS_Shape&, bool) {}
-void ModelView::HighlightShape(const TopoDS_Shape&) {}
-void ModelView::ShowPoint(const gp_Pnt&) {}
-void ModelView::HidePoint() {}
-void ModelView::FitAll() {}
-void ModelView::SetStandardView(StandardView) {}
-void ModelView::SetDisplayMode(DisplayMode) {}
-void ModelView::PickFace() {}
-void ModelView::CancelPicking() {}
-QSize ModelView::sizeHint() const { return {480, 360}; }
-void ModelView::initializeGL() {}
-void ModelView::paintGL() {}
-void ModelView::resizeGL(int, int) {}
-void ModelView::changeEvent(QEvent*) {}
-void ModelView::leaveEvent(QEvent*) {}
-void ModelView::mouseMoveEvent(QMouseEvent*) {}
-void ModelView::mousePressEvent(QMouseEvent*) {}
-void ModelView::mouseReleaseEvent(QMouseEvent*) {}
-void ModelView::wheelEvent(QWheelEvent*) {}
+ModelView::~ModelView()
+{
+    DropScene();
+    if (context() != nullptr)
+        disconnect(context(), nullptr, this, nullptr);
+}
+
+bool ModelView::WithScene(const std::function<void(ModelScene&)>& act)
+{
+    if (!m_scene)
+        return false;
+    makeCurrent();
+    try {
+        act(*m_scene);
+        return true;
+    } catch (const Standard_Failure& failure) {
+        PostMessageToChannel(ErrorLevel,
+                             tr("The 3D view cannot show this: %1")
+                                 .arg(QString::fromLocal8Bit(failure.GetMessageString())));
+    }
+    return false;
+}
+
+void ModelView::ShowShape(const TopoDS_Shape& shape, bool fitFirstTime)
+{
+    const bool isFirst = m_shape.IsNull();
+    m_shape = shape;
+    TellPoint({});
+    WithScene([this](ModelScene& scene) { scene.ShowPart(m_shape, m_mode == ShadedWithEdges); });
+    if (isFirst && fitFirstTime && !shape.IsNull())
+        FitAll();
+}
+
+void ModelView::HighlightShape(const TopoDS_Shape& shape)
+{
+    m_highlight = shape;
+    WithScene([this](ModelScene& scene) { scene.ShowHighlight(m_highlight); });
+}
+
+void ModelView::ShowPoint(const gp_Pnt& point)
+{
+    m_mark = point;
+    WithScene([this](ModelScene& scene) { scene.ShowMark(*m_mark); });
+}
+
+void ModelView::HidePoint()
+{
+    m_mark.reset();
+    WithScene([](ModelScene& scene) { scene.HideMark(); });
+}
+
+void ModelView::FitAll()
+{
+    if (!WithScene([](ModelScene& scene) { scene.FitAll(); }))
+        m_isFitAwaited = true;
+}
+
+void ModelView::SetStandardView(StandardView view)
+{
+    m_firstView = view;
+    if (!WithScene([view](ModelScene& scene) { scene.Turn(Orientation(view)); }))
+        m_isFitAwaited = true;
+}
+
+void ModelView::SetDisplayMode(DisplayMode mode)
+{
+    m_mode = mode;
+    WithScene([mode](ModelScene& scene) { scene.SetShaded(mode == ShadedWithEdges); });
+}
+
+void ModelView::PickFace()
+{
+    m_isPicking = true;
+    m_escape->setEnabled(true);
+    setCursor(Qt::CrossCursor);
+}
+
+void ModelView::EndPicking()
+{
+    m_isPicking = false;
+    m_escape->setEnabled(false);
+    unsetCursor();
+}
+
+void ModelView::CancelPicking()
+{
+    if (!m_isPicking)
+        return;
+    EndPicking();
+    Q_EMIT PickingCancelled();
+}
+
+QSize ModelView::sizeHint() const
+{
+    return {480, 360};
+}
+
+void ModelView::initializeGL()
+{
+    // The context goes when the view moves into another window; a new one comes then.
+    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &ModelView::DropScene);
+    MakeScene();
+}
+
+void ModelView::MakeScene()
+{
+    try {
+        m_scene =
+            std::make_unique<ModelScene>(*context(), devicePixelRatioF(), [this] { update(); });
+    } catch (const Standard_Failure& failure) {
+        Fail(failure);
+        return;
+    }
+    makeCurrent();
+    WithScene([this](ModelScene& scene) {
+        scene.SetPalette(palette());
+        scene.Turn(Orientation(m_firstView));
+        if (!m_camera.IsNull())
+            scene.SetCamera(m_camera);
+        if (m_mark.has_value())
+            scene.ShowMark(*m_mark);
+        scene.ShowHighlight(m_highlight);
+        scene.ShowPart(m_shape, m_mode == ShadedWithEdges);
+    });
+}
+
+void ModelView::DropScene()
+{
+    if (!m_scene)
+        return;
+    makeCurrent();
+    m_camera = m_scene->Camera();
+    m_scene.reset();
+    doneCurrent();
+}
+
+void ModelView::resizeGL(int width, int height)
+{
+    WithScene([&](ModelScene& scene) {
+        scene.Resize(qRound(width * devicePixelRatioF()), qRound(height * devicePixelRatioF()),
+                     devicePixelRatioF());
+        if (m_isFitAwaited)
+            scene.FitAll();
+        m_isFitAwaited = false;
+    });
+}
+
+void ModelView::paintGL()
+{
+    if (!m_scene)
+        return;
+    try {
+        m_scene->Draw();
+    } catch (const Standard_Failure& failure) {
+        DropScene();
+        Fail(failure);
+        return;
+    }
+    if (m_scene->IsTurning())
+        QTimer::singleShot(0, this, [this] { HandleMouse(m_cursor); });
+}
+
+void ModelView::Fail(const Standard_Failure& failure)
+{
+    // Queued, as whoever hears of it may delete this, which must not be while it is drawn.
+    const QString reason = QString::fromLocal8Bit(failure.GetMessageString());
+    QMetaObject::invokeMethod(
+        this, [this, reason] { Q_EMIT Failed(reason); }, Qt::QueuedConnection);
+}
+
+void ModelView::changeEvent(QEvent* event)
+{
+    QOpenGLWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        WithScene([this](ModelScene& scene) { scene.SetPalette(palette()); });
+}
+
+QPoint ModelView::DevicePosition(const QPointF& position) const
+{
+    return (position * devicePixelRatioF()).toPoint();
+}
+
+void ModelView::mousePressEvent(QMouseEvent* event)
+{
+    WithScene([&](ModelScene& scene) {
+        scene.UpdateMouseButtons(Vector(DevicePosition(event->localPos())),
+                                 MouseButtons(event->buttons()), KeyFlags(event->modifiers()),
+                                 false);
+    });
+    HandleMouse(event->localPos());
+}
+
+void ModelView::mouseReleaseEvent(QMouseEvent* event)
+{
+    mousePressEvent(event);
+}
+
+void ModelView::mouseMoveEvent(QMouseEvent* event)
+{
+    WithScene([&](ModelScene& scene) {
+        scene.UpdateMousePosition(Vector(DevicePosition(event->localPos())),
+                                  MouseButtons(event->buttons()), KeyFlags(event->modifiers()),
+                                  false);
+    });
+    HandleMouse(event->localPos());
+}
+
+void ModelView::wheelEvent(QWheelEvent* event)
+{
+    constexpr double UnitsPerDegree = 8.0;
+    const double degrees = event->angleDelta().y() / UnitsPerDegree;
+    WithScene([&](ModelScene& scene) {
+        if (scene.CanZoom(degrees > 0.0))
+            scene.UpdateMouseScroll(
+                Aspect_ScrollDelta(Vector(DevicePosition(event->position())), degrees));
+    });
+    HandleMouse(event->position());
+    event->accept();
+}
+
+void ModelView::leaveEvent(QEvent* event)
+{
+    QOpenGLWidget::leaveEvent(event);
+    WithScene([](ModelScene& scene) { scene.Leave(); });
+    TellPoint({});
+}
+
+void ModelView::HandleMouse(const QPointF& position)
+{
+    m_cursor = position;
+    bool wasClicked = false;
+    std::optional<ModelScene::Hit> hit;
+    WithScene([&](ModelScene& scene) {
+        wasClicked = scene.HandleMouse();
+        const QPoint pixel = DevicePosition(position);
+        hit = scene.Detected(pixel.x(), pixel.y());
+    });
+    // From here on others act, who may show other shapes.
+    TellPoint(hit.has_value() ? std::optional<gp_Pnt>(hit->point) : std::nullopt);
+    if (m_isPicking && wasClicked && hit.has_value()) {
+        EndPicking();
+        Q_EMIT FacePicked(hit->face, hit->point);
+    }
+}
+
+void ModelView::TellPoint(const std::optional<gp_Pnt>& point)
+{
+    const bool wasKnown = m_isPointKnown;
+    m_isPointKnown = point.has_value();
+    if (point.has_value())
+        Q_EMIT PointMoved(*point);
+    else if (wasKnown)
+        Q_EMIT PointLost();
+}

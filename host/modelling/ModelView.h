@@ -1,13 +1,18 @@
 #pragma once
 
+#include <Graphic3d_Camera.hxx>
 #include <QOpenGLWidget>
 #include <TopoDS_Face.hxx>
 #include <TopoDS_Shape.hxx>
 #include <gp_Pnt.hxx>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
+class ModelScene;
 class QShortcut;
+class Standard_Failure;
 
 /// The part in three dimensions: the kernel's viewer in a widget.
 ///
@@ -100,13 +105,30 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    class Scene;
+    /// Runs @p act on the scene, if there is one, with its context; false if that failed.
+    bool WithScene(const std::function<void(ModelScene&)>& act);
+    void MakeScene();
+    void DropScene();
+    void Fail(const Standard_Failure& failure);
+    void EndPicking();
+    /// Passes on what the mouse did at @p position, and tells what came of it.
+    void HandleMouse(const QPointF& position);
+    void TellPoint(const std::optional<gp_Pnt>& point);
+    /// The position in the device's pixels.
+    QPoint DevicePosition(const QPointF& position) const;
 
-    std::unique_ptr<Scene> m_scene; // Of the OpenGL context; null before there is one.
+    std::unique_ptr<ModelScene> m_scene; // Of the OpenGL context; null before there is one.
+    // What a new scene is to show.
     TopoDS_Shape m_shape;
     TopoDS_Shape m_highlight;
+    std::optional<gp_Pnt> m_mark;
+    Handle(Graphic3d_Camera) m_camera; // Null unless an earlier scene left it.
+    StandardView m_firstView = IsometricView;
+    bool m_isFitAwaited = false;
+
     DisplayMode m_mode = ShadedWithEdges;
     bool m_isPicking = false;
     bool m_isPointKnown = false; // The last signal about the point was PointMoved().
+    QPointF m_cursor;            // Where the mouse was last.
     QShortcut* m_escape;
 };

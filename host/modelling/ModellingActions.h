@@ -4,6 +4,7 @@
 #include "FeatureDialogs.h"
 
 #include <QObject>
+#include <QPointer>
 #include <gp_Pnt.hxx>
 
 #include <functional>
@@ -65,7 +66,7 @@ private:
     PartModel& m_model;
     FeatureTree& m_tree;
     FeatureFields& m_fields;
-    ModelView* m_view;
+    QPointer<ModelView> m_view; // Goes when the driver fails.
     QWidget* m_window;
     FeatureDialogs m_dialogs;
     std::optional<Feature> m_waiting; // For a face; without a name while it is new.

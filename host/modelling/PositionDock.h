@@ -3,8 +3,9 @@
 #include <QDockWidget>
 #include <gp_Pnt.hxx>
 
+#include <array>
+
 class ModelView;
-class PosInputDlg;
 class QLineEdit;
 
 /// The point under the cursor on the part, and a place to type one.
@@ -25,11 +26,9 @@ Q_SIGNALS:
     void PointEntered(const gp_Pnt& point);
 
 private:
-    void Follow(const gp_Pnt& point);
-    void Clear();
+    void Fill(const QStringList& texts);
     void Enter();
-    bool IsTyping() const;
 
     ModelView* m_view;
-    PosInputDlg* m_input;
+    std::array<QLineEdit*, 3> m_fields; // Of x, y and z.
 };

@@ -1,9 +1,13 @@
 #pragma once
 
+#include <QKeySequence>
+#include <QList>
 #include <QObject>
 
-#include "ModelView.h"
+#include <functional>
 
+class ModelView;
+class QAction;
 class QMenu;
 class QToolBar;
 
@@ -23,8 +27,8 @@ public:
     void FillToolBar(QToolBar& toolBar) const;
 
 private:
-    QAction* Add(const QString& text, const char* name, const QKeySequence& shortcut);
+    QAction* Add(const QString& text, const char* name, const QKeySequence& shortcut,
+                 const std::function<void()>& act);
 
-    ModelView* m_view;
-    QList<QAction*> m_actions; // A null entry is a separator.
+    QList<QAction*> m_actions;
 };

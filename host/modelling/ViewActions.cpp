@@ -1,0 +1,77 @@
+#include "ViewActions.h"
+
+#include "ModelView.h"
+
+#include <QActionGroup>
+#include <QMenu>
+#include <QToolBar>
+
+namespace {
+
+QAction* NewSeparator(QObject* parent)
+{
+    auto* const separator = new QAction(parent);
+    separator->setSeparator(true);
+    return separator;
+}
+
+} // namespace
+
+ViewActions::ViewActions(ModelView* view, QObject* parent)
+    : QObject(parent)
+{
+    Add(tr("&Fit"), "action_FitView", Qt::CTRL | Qt::Key_0, [view] { view->FitAll(); });
+    m_actions << NewSeparator(this);
+
+    const auto addView = [this, view](const QString& text, const char* name, int key,
+                                      ModelView::StandardView standardView) {
+        Add(text, name, Qt::CTRL | key,
+            [view, standardView] { view->SetStandardView(standardView); });
+    };
+    addView(tr("F&ront"), "action_FrontView", Qt::Key_1, ModelView::FrontView);
+    addView(tr("&Back"), "action_BackView", Qt::Key_2, ModelView::BackView);
+    addView(tr("&Left"), "action_LeftView", Qt::Key_3, ModelView::LeftView);
+    addView(tr("Ri&ght"), "action_RightView", Qt::Key_4, ModelView::RightView);
+    addView(tr("&Top"), "action_TopView", Qt::Key_5, ModelView::TopView);
+    addView(tr("B&ottom"), "action_BottomView", Qt::Key_6, ModelView::BottomView);
+    addView(tr("&Isometric"), "action_IsometricView", Qt::Key_7, ModelView::IsometricView);
+    m_actions << NewSeparator(this);
+
+    auto* const modes = new QActionGroup(this);
+    const auto addMode = [this, view, modes](const QString& text, const char* name,
+                                             ModelView::DisplayMode mode) {
+        QAction* const action =
+            Add(text, name, QKeySequence(), [view, mode] { view->SetDisplayMode(mode); });
+        action->setCheckable(true);
+        action->setChecked(view != nullptr && view->CurrentDisplayMode() == mode);
+        modes->addAction(action);
+    };
+    addMode(tr("&Shaded with edges"), "action_ShadedWithEdges", ModelView::ShadedWithEdges);
+    addMode(tr("&Wireframe"), "action_Wireframe", ModelView::Wireframe);
+
+    for (QAction* const action : qAsConst(m_actions))
+        action->setEnabled(view != nullptr);
+}
+
+ViewActions::~ViewActions() = default;
+
+QAction* ViewActions::Add(const QString& text, const char* name, const QKeySequence& shortcut,
+                          const std::function<void()>& act)
+{
+    auto* const action = new QAction(text, this);
+    action->setObjectName(QString::fromLatin1(name));
+    action->setShortcut(shortcut);
+    connect(action, &QAction::triggered, this, act);
+    m_actions << action;
+    return action;
+}
+
+void ViewActions::FillMenu(QMenu& menu) const
+{
+    menu.addActions(m_actions);
+}
+
+void ViewActions::FillToolBar(QToolBar& toolBar) const
+{
+    toolBar.addActions(m_actions);
+}
