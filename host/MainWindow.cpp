@@ -31,7 +31,7 @@ MainWindow::MainWindow(QWidget* parent)
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(tr("Tarn host"));
-    resize(1440, 900);
+    resize(1440, 940);
     setCentralWidget(m_summary);
     CreateDocks();
     CreateMenus();
@@ -56,9 +56,9 @@ void MainWindow::CreateDocks()
     addDockWidget(Qt::BottomDockWidgetArea, m_overview);
     addDockWidget(Qt::BottomDockWidgetArea, m_messages);
     resizeDocks({m_features}, {470}, Qt::Horizontal);
-    resizeDocks({m_features, m_fields, m_position}, {260, 260, 50}, Qt::Vertical);
+    resizeDocks({m_features, m_fields, m_position}, {240, 300, 50}, Qt::Vertical);
     resizeDocks({m_overview, m_messages}, {820, 620}, Qt::Horizontal);
-    resizeDocks({m_messages}, {270}, Qt::Vertical);
+    resizeDocks({m_messages}, {260}, Qt::Vertical);
     m_overview->Refresh();
 }
 

@@ -153,7 +153,7 @@ void ModellingActions::Add(FeatureKind kind)
         const std::optional<Feature> asked = m_dialogs.AskNew(feature);
         if (!asked.has_value())
             return;
-        if (asked->kind == FeatureKind::MirrorFace && m_view != nullptr)
+        if (asked->kind == FeatureKind::MirrorFace && CanPick())
             PickFaceFor(*asked);
         else
             AddNamed(*asked);
@@ -192,7 +192,7 @@ void ModellingActions::AddNamed(Feature feature)
     feature.name = m_model.Features().UniqueName(FeatureKinds::Of(feature.kind).word);
     m_model.Add(feature);
     m_tree.Select(feature.name);
-    if (feature.kind == FeatureKind::MirrorFace && m_view == nullptr) {
+    if (feature.kind == FeatureKind::MirrorFace && !CanPick()) {
         PostMessageToChannel(WarningLevel, tr("There is no 3D view to pick a face in: type a point "
                                               "on the face into the fields of %1")
                                                .arg(Quoted(feature.name)));
@@ -217,10 +217,15 @@ void ModellingActions::Edit()
 
 void ModellingActions::Apply(const Feature& feature)
 {
-    if (feature.kind == FeatureKind::MirrorFace && m_view != nullptr)
+    if (feature.kind == FeatureKind::MirrorFace && CanPick())
         PickFaceFor(feature);
     else
         Try([this, &feature] { m_model.Change(feature.name, feature); });
+}
+
+bool ModellingActions::CanPick() const
+{
+    return m_view != nullptr && !m_view->isHidden();
 }
 
 void ModellingActions::PickFaceFor(const Feature& feature)

@@ -4,7 +4,6 @@
 #include "FeatureDialogs.h"
 
 #include <QObject>
-#include <QPointer>
 #include <gp_Pnt.hxx>
 
 #include <functional>
@@ -51,6 +50,8 @@ private:
     void AddNamed(Feature feature);
     void Edit();
     void Apply(const Feature& feature);
+    /// Whether there is a view to pick a face in; one that failed hides.
+    bool CanPick() const;
     void PickFaceFor(const Feature& feature);
     void EndPicking();
 
@@ -66,7 +67,7 @@ private:
     PartModel& m_model;
     FeatureTree& m_tree;
     FeatureFields& m_fields;
-    QPointer<ModelView> m_view; // Goes when the driver fails.
+    ModelView* m_view;
     QWidget* m_window;
     FeatureDialogs m_dialogs;
     std::optional<Feature> m_waiting; // For a face; without a name while it is new.
