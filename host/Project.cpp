@@ -1,22 +1,29 @@
 #include "Project.h"
 
+#include "FeatureBuilder.h"
 #include "GlobalParaMeterMgr.h"
 #include "JsonSection.h"
 #include "NumberTexts.h"
 #include "OneParameterDlg.h"
 #include "ParameterType.h"
+#include "ProjectKeys.h"
+#include "StoredDesign.h"
 #include "sParaArrayData.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSaveFile>
 #include <QSet>
 
 #include <array>
 #include <utility>
+
+using namespace ProjectKeys;
 
 // The macro wants to stand outside every namespace.
 static void InitializeSamples()
@@ -26,40 +33,10 @@ static void InitializeSamples()
 
 namespace {
 
-// In the order of ParameterType.
-const std::array<QLatin1String, 4> TypeWords = {QLatin1String("Bool"), QLatin1String("Scalar"),
-                                                QLatin1String("Vector"), QLatin1String("Tensor")};
-
-// In the order of sParaArrayData::nSampleType, with the radio button that stands for each.
-struct Spacing
-{
-    QLatin1String word;
-    QLatin1String button;
-};
-const std::array<Spacing, 4> Spacings = {
-    Spacing{QLatin1String("Linear"), QLatin1String("radioButton_Linear")},
-    Spacing{QLatin1String("Log10"), QLatin1String("radioButton_Log")},
-    Spacing{QLatin1String("Ln"), QLatin1String("radioButton_Ln")},
-    Spacing{QLatin1String("Gauss"), QLatin1String("radioButton_Gauss")}};
-
-const QLatin1String VersionKey("version");
-const QLatin1String TitleKey("title");
-const QLatin1String DensityKey("density");
-const QLatin1String ParametersKey("parameters");
-const QLatin1String SamplesKey("samples");
-const QLatin1String NameKey("name");
-const QLatin1String TypeKey("type");
-const QLatin1String ValueKey("value");
-const QLatin1String ExpressionKey("expression");
-const QLatin1String UsesKey("expressionParameters");
-const QLatin1String DescriptionKey("description");
-const QLatin1String ParameterKey("parameter");
-const QLatin1String MinKey("min");
-const QLatin1String MaxKey("max");
-const QLatin1String DeltaKey("delta");
-const QLatin1String SpacingKey("spacing");
-const QLatin1String ValuesKey("values");
-const QLatin1String TickedKey("ticked");
+// In the order of SpacingWords, the radio button that stands for each.
+const std::array<QLatin1String, 4> SpacingButtons = {
+    QLatin1String("radioButton_Linear"), QLatin1String("radioButton_Log"),
+    QLatin1String("radioButton_Ln"), QLatin1String("radioButton_Gauss")};
 
 // Value texts are exact, so that what an editor reads back is the number that stood in the file.
 void ReadValue(const JsonSection& section, ParametersDef& record)
@@ -165,10 +142,10 @@ Project::Samples ReadSamples(const QJsonValue& value, int number)
     samples.delta = section.Number(DeltaKey);
     CheckRange(section, samples);
 
-    const QString word = section.Text(SpacingKey, Spacings[0].word);
+    const QString word = section.Text(SpacingKey, SpacingWords[0]);
     samples.spacing = -1;
-    for (std::size_t code = 0; code < Spacings.size(); ++code) {
-        if (word == Spacings[code].word)
+    for (std::size_t code = 0; code < SpacingWords.size(); ++code) {
+        if (word == SpacingWords[code])
             samples.spacing = int(code);
     }
     if (samples.spacing < 0)
@@ -212,8 +189,7 @@ void SampleByDialog(const Project::Samples& samples)
     dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit_Max"))->setText(ExactText(samples.max));
     auto* const delta = dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit_Deta"));
     delta->setText(ExactText(samples.delta));
-    dialog.findChild<QRadioButton*>(Spacings[std::size_t(samples.spacing)].button)
-        ->setChecked(true);
+    dialog.findChild<QRadioButton*>(SpacingButtons[std::size_t(samples.spacing)])->setChecked(true);
     // One finished edit after all fields are filled: a range half typed would be refused.
     Q_EMIT delta->editingFinished();
     dialog.findChild<QPushButton*>(QStringLiteral("pushButton_OK"))->click();
@@ -248,8 +224,9 @@ void Project::Read(const QJsonValue& json)
             QStringLiteral("the project is of version %1; this program reads version %2")
                 .arg(version)
                 .arg(Version));
-    const JsonSection root(QStringLiteral("the project"), json,
-                           {VersionKey, TitleKey, DensityKey, ParametersKey, SamplesKey});
+    const JsonSection root(
+        QStringLiteral("the project"), json,
+        {VersionKey, TitleKey, DensityKey, ParametersKey, SamplesKey, FeaturesKey, ConditionsKey});
     if (root.Number(VersionKey) != Version)
         root.FailAt(VersionKey, QString::number(Version));
 
@@ -281,6 +258,78 @@ void Project::Read(const QJsonValue& json)
             root.Fail(QStringLiteral("has two sample lists for %1").arg(Quoted(name)));
         sampled.insert(name);
     }
+
+    m_features = FeatureList::FromJson(root.Array(FeaturesKey));
+    m_conditions = ReadConditions(root.Array(ConditionsKey));
+}
+
+QJsonObject Project::ToJson() const
+{
+    QJsonObject json{{VersionKey, Version},
+                     {TitleKey, m_title},
+                     {DensityKey, m_density},
+                     {ParametersKey, StoredParameters()},
+                     {SamplesKey, StoredSamples()}};
+    if (!m_features.IsEmpty())
+        json.insert(FeaturesKey, m_features.ToJson());
+    if (!m_conditions.empty())
+        json.insert(ConditionsKey, ConditionsToJson(m_conditions));
+    return json;
+}
+
+QString Project::Folder() const
+{
+    return QFileInfo(m_path).absolutePath();
+}
+
+FeatureList Project::FeaturesSeenFrom(const QString& path) const
+{
+    const QDir before(Folder());
+    const QDir after(QFileInfo(path).absolutePath());
+    FeatureList features = m_features;
+    for (int index = 0; index < features.Size(); ++index) {
+        Feature feature = features.At(index);
+        if (before == after || feature.file.isEmpty() || QFileInfo(feature.file).isAbsolute())
+            continue;
+        feature.file = after.relativeFilePath(before.filePath(feature.file));
+        features.Replace(index, feature);
+    }
+    return features;
+}
+
+void Project::Save(const QString& path)
+{
+    const auto fail = [&](const QString& reason) {
+        throw ProjectError(QStringLiteral("%1: %2").arg(path.simplified(), reason));
+    };
+    Project written = *this;
+    written.m_path = path;
+    written.m_features = FeaturesSeenFrom(path);
+    const QJsonObject json = written.ToJson();
+    Project read;
+    try {
+        read.Read(json);
+    } catch (const JsonError& error) {
+        fail(QStringLiteral("the project cannot be saved: %1").arg(error.Reason()));
+    }
+
+    const QByteArray bytes = QJsonDocument(json).toJson();
+    if (bytes.size() > MaximumFileSize)
+        fail(QStringLiteral("the project is larger than %1 MB").arg(MaximumFileSize >> 20));
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        fail(QStringLiteral("cannot be written: %1").arg(file.errorString()));
+    read.m_path = path;
+    *this = read;
+}
+
+BuiltPart Project::Build() const
+{
+    CheckConditions(m_conditions);
+    BuiltPart part = FeatureBuilder::Build(m_features, Folder());
+    if (part.shape.IsNull())
+        throw BuildError(QStringLiteral("The project has no features, so there is no part."));
+    return part;
 }
 
 void Project::FillStores() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Conditions.h"
+#include "FeatureList.h"
 #include "HostError.h"
 #include "ParametersDef.h"
 
@@ -7,9 +9,11 @@
 
 #include <vector>
 
+class QJsonObject;
 class QJsonValue;
+struct BuiltPart;
 
-/// Why a project file cannot be used: one line, with the file's name.
+/// Why a project file cannot be read or written: one line, with the file's name.
 class ProjectError : public HostError
 {
 public:
@@ -44,11 +48,28 @@ public:
     /// Reads the file at @p path. @throws ProjectError
     static Project Load(const QString& path);
 
-    const QString& Path() const { return m_path; }   ///< As given to Load().
+    const QString& Path() const { return m_path; }   ///< As given to Load() or Save().
     const QString& Title() const { return m_title; } ///< What the project is called.
     double Density() const { return m_density; }     ///< Of the part, in kg/m3.
     const std::vector<ParametersDef>& Parameters() const { return m_parameters; }
     const std::vector<Samples>& SampleLists() const { return m_samples; }
+    const FeatureList& Features() const { return m_features; }
+    void SetFeatures(const FeatureList& features) { m_features = features; }
+    const std::vector<Condition>& Conditions() const { return m_conditions; }
+
+    /// Where the files of imports are looked for.
+    QString Folder() const;
+
+    /// Builds the part from the features with the values that the store holds now, when all
+    /// conditions hold. @throws BuildError, also when there is nothing to build
+    BuiltPart Build() const;
+
+    /// Writes the project to the file at @p path: parameters and samples as GlobalParaMeterMgr and
+    /// g_mapParaArrays hold them now, and the rest as it is here. Path() is @p path from then on;
+    /// relative paths of imports follow a change of folder. Samples without values are left out.
+    /// What Load() would refuse is not written, and a file that stands there stays until the new
+    /// one is complete. @throws ProjectError
+    void Save(const QString& path);
 
     /// Replaces what GlobalParaMeterMgr and g_mapParaArrays hold by this project. Ranges go through
     /// the sampling dialog, as if a user typed them, so that dialog may show its notices here.
@@ -58,10 +79,14 @@ private:
     Project() = default;
 
     void Read(const QJsonValue& json);
+    QJsonObject ToJson() const;
+    FeatureList FeaturesSeenFrom(const QString& path) const;
 
     QString m_path;
     QString m_title;
     double m_density = SteelDensity;
     std::vector<ParametersDef> m_parameters;
     std::vector<Samples> m_samples;
+    FeatureList m_features;
+    std::vector<Condition> m_conditions;
 };

@@ -1,20 +1,25 @@
 #include "StepFile.h"
 
+#include <BRepBndLib.hxx>
+#include <Bnd_Box.hxx>
 #include <IFSelect_ReturnStatus.hxx>
 #include <Message.hxx>
 #include <Message_Messenger.hxx>
 #include <Message_Printer.hxx>
 #include <QFile>
 #include <QFileInfo>
+#include <STEPControl_Reader.hxx>
 #include <STEPControl_Writer.hxx>
 #include <Standard_Failure.hxx>
 #include <TopoDS_Shape.hxx>
 
+#include <cmath>
 #include <cstdio>
 
 namespace {
 
-// The last thing in every complete file.
+// The first and the last thing in every complete file.
+const char BeginMark[] = "ISO-10303-21;";
 const char EndMark[] = "END-ISO-10303-21;";
 
 // The kernel tells its statistics on the console, which belongs to the host.
@@ -39,7 +44,7 @@ private:
 }
 
 // The kernel does not say when the disk is full: only the file's end tells.
-bool IsComplete(const QString& path)
+bool EndsComplete(const QString& path)
 {
     constexpr qint64 TailSize = 64;
     QFile file(path);
@@ -48,7 +53,61 @@ bool IsComplete(const QString& path)
            file.readAll().contains(EndMark);
 }
 
+// The kernel would read a whole disk image before it said anything.
+void CheckFile(const QString& path)
+{
+    constexpr qint64 MostMegabytes = 256;
+    constexpr qint64 HeadSize = 1024;
+    if (QFileInfo(path).isDir())
+        Fail(path, QStringLiteral("it is a folder, not a file."));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        Fail(path, QStringLiteral("it cannot be opened: %1.").arg(file.errorString()));
+    if (file.isSequential() || !file.read(HeadSize).contains(BeginMark))
+        Fail(path, QStringLiteral("it is no STEP file."));
+    if (file.size() > MostMegabytes << 20)
+        Fail(path, QStringLiteral("it is larger than %1 MB.").arg(MostMegabytes));
+    if (!EndsComplete(path))
+        Fail(path, QStringLiteral("it is not complete."));
+}
+
+void CheckExtent(const TopoDS_Shape& shape, const QString& path)
+{
+    constexpr double Farthest = 1e6; // mm
+    Bnd_Box box;
+    BRepBndLib::Add(shape, box);
+    if (box.IsVoid())
+        Fail(path, QStringLiteral("there is no shape in it."));
+    for (const gp_Pnt& corner : {box.CornerMin(), box.CornerMax()}) {
+        for (int axis = 1; axis <= 3; ++axis) {
+            // Written so that what is no number is refused too.
+            if (!(std::abs(corner.Coord(axis)) <= Farthest))
+                Fail(path, QStringLiteral("its shape reaches farther than 1000 m."));
+        }
+    }
+}
+
 } // namespace
+
+TopoDS_Shape ReadStepFile(const QString& path)
+{
+    CheckFile(path);
+    try {
+        const QuietKernel quiet;
+        STEPControl_Reader reader;
+        if (reader.ReadFile(QFile::encodeName(path).constData()) != IFSelect_RetDone)
+            Fail(path, QStringLiteral("it cannot be read as a STEP file."));
+        reader.TransferRoots();
+        TopoDS_Shape shape = reader.OneShape();
+        if (shape.IsNull())
+            Fail(path, QStringLiteral("there is no shape in it."));
+        CheckExtent(shape, path);
+        return shape;
+    } catch (const Standard_Failure& failure) {
+        Fail(path, QStringLiteral("the geometry kernel failed: %1")
+                       .arg(QString::fromLocal8Bit(failure.GetMessageString())));
+    }
+}
 
 void WriteStepFile(const TopoDS_Shape& shape, const QString& path)
 {
@@ -59,7 +118,7 @@ void WriteStepFile(const TopoDS_Shape& shape, const QString& path)
         STEPControl_Writer writer;
         if (writer.Transfer(shape, STEPControl_AsIs) != IFSelect_RetDone)
             Fail(path, QStringLiteral("the kernel could not translate the part."));
-        if (writer.Write(partName.constData()) != IFSelect_RetDone || !IsComplete(part)) {
+        if (writer.Write(partName.constData()) != IFSelect_RetDone || !EndsComplete(part)) {
             QFile::remove(part);
             Fail(path, QStringLiteral("the file could not be written."));
         }

@@ -2,7 +2,7 @@
 
 #include "DOEDlg.h"
 #include "DoeSession.h"
-#include "FlangeBuilder.h"
+#include "FeatureBuilder.h"
 #include "GlobalParaMeterMgr.h"
 #include "NoticeWatcher.h"
 #include "NumberTexts.h"
@@ -86,6 +86,9 @@ public:
         return problems.join(QStringLiteral("; ")).simplified();
     }
 
+    /// The part of what the store holds now. @throws BuildError
+    TopoDS_Shape Build() const { return m_project.Build().shape; }
+
 private:
     QTableWidget& Table() const
     {
@@ -126,7 +129,7 @@ RunResult BuildRun(Study& study, int run, double density, const QString& stepPat
     if (!result.error.isEmpty())
         return result;
     try {
-        const TopoDS_Shape shape = FlangeBuilder::BuildFromStore();
+        const TopoDS_Shape shape = study.Build();
         result.measures = Measure(shape);
         result.mass = Mass(result.measures, density);
         WriteStepFile(shape, stepPath);

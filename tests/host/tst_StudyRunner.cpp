@@ -8,6 +8,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 
 #include <cmath>
@@ -30,6 +32,8 @@ private Q_SLOTS:
     void ANoticeEndsTheStudyInsteadOfBlockingIt();
     void TooManyRunsAreRefused();
     void AnExpressionThatCannotBeSettledFailsTheRun();
+    void AFeatureThatCannotBeBuiltFailsTheRun_data();
+    void AFeatureThatCannotBeBuiltFailsTheRun();
     void AFolderThatCannotBeMadeIsTold();
 
     void TheProgramRunsAStudy();
@@ -39,6 +43,17 @@ private Q_SLOTS:
     void TheProgramTellsItsHelpAndVersion();
     void TheProgramNeedsNoLocale();
 };
+
+// The features and conditions of the sample project, as entries of another one.
+static QByteArray PartOfTheSample()
+{
+    QFile file(Project::SamplePath());
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("The sample project is missing.");
+    const QJsonObject sample = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonObject part{{"features", sample["features"]}, {"conditions", sample["conditions"]}};
+    return QJsonDocument(part).toJson(QJsonDocument::Compact).mid(1).chopped(1);
+}
 
 // A flange of two thicknesses and two bores. @p bores are its samples of the bore.
 static QByteArray Flange(const QByteArray& bores = "[60, 70]", const QByteArray& density = "7850")
@@ -53,11 +68,12 @@ static QByteArray Flange(const QByteArray& bores = "[60, 70]", const QByteArray&
           "expressionParameters": ["outer_diameter", "hub_diameter"] },
         { "name": "hub_diameter", "value": 110 },
         { "name": "hub_height", "expression": "1.5 * thickness",
-          "expressionParameters": ["thickness"] }
+          "expressionParameters": ["thickness"] },
+        { "name": "fillet_radius", "value": 0 }
       ], "samples": [
         { "parameter": "thickness", "min": 16, "max": 20, "delta": 4 },
         { "parameter": "bore_diameter", "values": )" +
-           bores + " } ] }";
+           bores + " } ], " + PartOfTheSample() + " }";
 }
 
 static void Write(const QByteArray& content, const QString& path = "p.json")
@@ -102,7 +118,7 @@ static Outcome RunStudy(const QByteArray& project, int first = 0, int last = 0)
 static ResultsTable Results()
 {
     ResultsTable table({"outer_diameter", "bore_diameter", "thickness", "bolt_count", "bolt_hole",
-                        "bolt_circle", "hub_diameter", "hub_height"});
+                        "bolt_circle", "hub_diameter", "hub_height", "fillet_radius"});
     table.Read("out/results.csv");
     return table;
 }
@@ -137,7 +153,7 @@ void tst_StudyRunner::ARunHoldsWhatItsPartHas()
     RunStudy(Flange(), 3, 3);
     // The last name turns fastest: bore 60, 60, 70, 70 and thickness 16, 20, 16, 20.
     const RunResult run = Results().Runs().at(3);
-    QCOMPARE(run.values, std::vector<double>({200, 70, 16, 2, 18, 155, 110, 24}));
+    QCOMPARE(run.values, std::vector<double>({200, 70, 16, 2, 18, 155, 110, 24, 0}));
     QVERIFY(run.ok);
     QCOMPARE(run.error, QString());
     const double volume =
@@ -294,6 +310,45 @@ void tst_StudyRunner::AnExpressionThatCannotBeSettledFailsTheRun()
                      "parameter"));
 }
 
+void tst_StudyRunner::AFeatureThatCannotBeBuiltFailsTheRun_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char* name, const char* before, const char* after,
+                        const char* reason) {
+        QTest::newRow(name) << QByteArray(before) << QByteArray(after) << QString(reason);
+    };
+    row("a length below 0", R"("bolt_hole", "value": 18)", R"("bolt_hole", "value": -18)",
+        R"(hole: Radius ("bolt_hole / 2") is -9, but has to be from 0.0001 to 1000000 mm.)");
+    row("half a hole", R"("bolt_count", "value": 2)", R"("bolt_count", "value": 2.5)",
+        R"(holes: Number ("bolt_count") is 2.5, but has to be a whole number from 1 to 10000.)");
+    row("an unknown parameter", R"("height":"hub_height")", R"("height":"hub_hight")",
+        R"(hub: Height ("hub_hight") has no value: Position 1: the name 'hub_hight' is unknown.)");
+    row("a missing parameter", R"({ "name": "bolt_count", "value": 2 },)", "",
+        R"(There are at most 360 bolt holes, not nan. ("bolt_count <= 360" has no value: )"
+        R"(Position 1: the name 'bolt_count' is unknown.))");
+    row("no edge", R"("y":"hub_diameter / 2")", R"("y":"hub_diameter")",
+        "flange: there is no edge at the point (0, 110, 16).");
+}
+
+void tst_StudyRunner::AFeatureThatCannotBeBuiltFailsTheRun()
+{
+    const EmptyDesignStores stores;
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    QFETCH(QString, reason);
+    EnterTemporaryDirectory();
+    QByteArray project =
+        Flange().replace("\"fillet_radius\", \"value\": 0", "\"fillet_radius\", \"value\": 1");
+    QVERIFY(project.contains(before));
+    const Outcome outcome = RunStudy(project.replace(before, after), 1, 1);
+    QCOMPARE(outcome.error, QString());
+    QCOMPARE(outcome.summary.failed, 1);
+    QCOMPARE(outcome.told[0], "run 1 of 4: failed: " + reason);
+    QVERIFY(!QFile::exists("out/run_0001.step"));
+}
+
 void tst_StudyRunner::AFolderThatCannotBeMadeIsTold()
 {
     const EmptyDesignStores stores;
@@ -418,7 +473,7 @@ void tst_StudyRunner::TheProgramNeedsNoLocale()
                                        {{"LC_ALL", "de_DE.UTF-8"}, {"LANG", "de_DE.UTF-8"}});
     QCOMPARE(process.error, QString());
     QCOMPARE(process.code, 0);
-    QVERIFY(Content("out/results.csv").contains("\n1,200,60,16,2,18,155,110,24,"));
+    QVERIFY(Content("out/results.csv").contains("\n1,200,60,16,2,18,155,110,24,0,"));
     const QByteArray step = Content("out/run_0001.step");
     QVERIFY(step.contains("CARTESIAN_POINT"));
     QVERIFY(!step.contains(",0000"));

@@ -1,0 +1,59 @@
+#include "FieldValues.h"
+
+#include "BuildError.h"
+#include "ExpressionEngine.h"
+#include "FeatureKinds.h"
+#include "GlobalParaMeterMgr.h"
+#include "JsonSection.h"
+#include "NumberTexts.h"
+#include "ParameterType.h"
+
+#include <cmath>
+
+namespace {
+
+// A text that says more than its value is shown with it.
+QString Shown(const QString& label, const QString& text)
+{
+    bool isNumber = false;
+    text.toDouble(&isNumber);
+    return isNumber ? label : QStringLiteral("%1 (%2)").arg(label, Quoted(text));
+}
+
+} // namespace
+
+FieldValues::FieldValues()
+{
+    for (const auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters) {
+        if (record.m_nType == BoolType || record.m_nType == ScalarType)
+            m_variables[name.toLocal8Bit().toStdString()] =
+                GlobalParaMeterMgr::GetParameterRawValue(name).toDouble();
+    }
+}
+
+double FieldValues::Evaluate(const QString& text)
+{
+    return ExpressionEngine::CalculateExpress(text.toLocal8Bit().toStdString(), m_variables);
+}
+
+std::vector<double> FieldValues::Of(const Feature& feature)
+{
+    std::vector<double> values;
+    const std::vector<FieldKind>& fields = FeatureKinds::Of(feature.kind).fields;
+    values.reserve(fields.size());
+    for (const FieldKind& field : fields) {
+        const QString& text = feature.fields.at(int(values.size()));
+        const QString label = FeatureKinds::Label(field);
+        const double value = Evaluate(text);
+        if (std::isnan(value))
+            throw FeatureError(feature.name,
+                               QStringLiteral("%1 (%2) has no value: %3.")
+                                   .arg(label, Quoted(text), ExpressionEngine::LastError()));
+        if (!field.rule.Allows(value))
+            throw FeatureError(feature.name,
+                               QStringLiteral("%1 is %2, but has to be %3.")
+                                   .arg(Shown(label, text), ShortText(value), field.rule.Text()));
+        values.push_back(value);
+    }
+    return values;
+}

@@ -1,0 +1,99 @@
+#include "ShapeAtPoint.h"
+
+#include "BuildError.h"
+#include "NumberTexts.h"
+
+#include <BRepAdaptor_Surface.hxx>
+#include <BRepBndLib.hxx>
+#include <BRepBuilderAPI_MakeVertex.hxx>
+#include <BRepExtrema_DistShapeShape.hxx>
+#include <BRep_Tool.hxx>
+#include <Bnd_Box.hxx>
+#include <GeomAbs_SurfaceType.hxx>
+#include <TopExp.hxx>
+#include <TopExp_Explorer.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+#include <TopTools_MapOfShape.hxx>
+#include <TopoDS.hxx>
+#include <TopoDS_Edge.hxx>
+#include <TopoDS_Face.hxx>
+#include <TopoDS_Shape.hxx>
+#include <gp_Ax2.hxx>
+#include <gp_Pln.hxx>
+#include <gp_Pnt.hxx>
+
+namespace {
+
+// Far above the rounding of expressions and below the least length.
+constexpr double Nearness = 1e-5;
+
+bool IsNear(const TopoDS_Shape& shape, const gp_Pnt& point)
+{
+    // The box first: it is much cheaper.
+    Bnd_Box box;
+    BRepBndLib::Add(shape, box);
+    box.Enlarge(Nearness);
+    if (box.IsOut(point))
+        return false;
+    const TopoDS_Shape vertex = BRepBuilderAPI_MakeVertex(point).Shape();
+    const BRepExtrema_DistShapeShape distance(vertex, shape);
+    return distance.IsDone() && distance.Value() <= Nearness;
+}
+
+// The seams of closed faces and the edges without length, which nothing can be built on.
+TopTools_MapOfShape InnerEdges(const TopoDS_Shape& shape)
+{
+    TopTools_MapOfShape inner;
+    for (TopExp_Explorer faces(shape, TopAbs_FACE); faces.More(); faces.Next()) {
+        const TopoDS_Face& face = TopoDS::Face(faces.Current());
+        for (TopExp_Explorer edges(face, TopAbs_EDGE); edges.More(); edges.Next()) {
+            const TopoDS_Edge& edge = TopoDS::Edge(edges.Current());
+            if (BRep_Tool::Degenerated(edge) || BRep_Tool::IsClosed(edge, face))
+                inner.Add(edge);
+        }
+    }
+    return inner;
+}
+
+TopoDS_Shape OnlyOneAt(const TopTools_IndexedMapOfShape& shapes, const TopTools_MapOfShape& ignored,
+                       const gp_Pnt& point, const char* what)
+{
+    const QString place =
+        QStringLiteral("(%1, %2, %3)")
+            .arg(ShortText(point.X()), ShortText(point.Y()), ShortText(point.Z()));
+    TopoDS_Shape found;
+    for (int index = 1; index <= shapes.Extent(); ++index) {
+        const TopoDS_Shape& shape = shapes(index);
+        if (ignored.Contains(shape) || !IsNear(shape, point))
+            continue;
+        if (!found.IsNull())
+            throw BuildError(QStringLiteral("several %1s meet at the point %2; choose a point on "
+                                            "one of them alone.")
+                                 .arg(QLatin1String(what), place));
+        found = shape;
+    }
+    if (found.IsNull())
+        throw BuildError(
+            QStringLiteral("there is no %1 at the point %2.").arg(QLatin1String(what), place));
+    return found;
+}
+
+} // namespace
+
+TopoDS_Edge EdgeAt(const TopoDS_Shape& shape, const gp_Pnt& point)
+{
+    TopTools_IndexedMapOfShape edges;
+    TopExp::MapShapes(shape, TopAbs_EDGE, edges);
+    return TopoDS::Edge(OnlyOneAt(edges, InnerEdges(shape), point, "edge"));
+}
+
+gp_Ax2 PlaneAt(const TopoDS_Shape& shape, const gp_Pnt& point)
+{
+    TopTools_IndexedMapOfShape faces;
+    TopExp::MapShapes(shape, TopAbs_FACE, faces);
+    const TopoDS_Shape face = OnlyOneAt(faces, {}, point, "face");
+    const BRepAdaptor_Surface surface(TopoDS::Face(face));
+    if (surface.GetType() != GeomAbs_Plane)
+        throw BuildError(QStringLiteral("the face at the point is not flat."));
+    return surface.Plane().Position().Ax2();
+}
