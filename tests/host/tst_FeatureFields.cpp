@@ -70,12 +70,16 @@ struct ShownFields
         return Cell(label, FeatureFields::TextColumn).foreground().color() == QColor(Qt::red);
     }
 
-    // As a user does: a click opens the editor, then the text and Enter.
+    // As a user does: a click opens the editor, F2 where the cell is the current one, then the text
+    // and Enter.
     void Type(const QString& label, const QString& text) const
     {
-        QTest::mouseClick(
-            Table().viewport(), Qt::LeftButton, {},
-            Table().visualItemRect(&Cell(label, FeatureFields::TextColumn)).center());
+        QTableWidgetItem& cell = Cell(label, FeatureFields::TextColumn);
+        if (Table().currentItem() == &cell)
+            QTest::keyClick(&Table(), Qt::Key_F2);
+        else
+            QTest::mouseClick(Table().viewport(), Qt::LeftButton, {},
+                              Table().visualItemRect(&cell).center());
         QLineEdit* edit = nullptr;
         const QList<QLineEdit*> edits = Table().viewport()->findChildren<QLineEdit*>();
         for (QLineEdit* const child : edits) {
