@@ -19,7 +19,6 @@
 
 #include <QLineEdit>
 #include <QRadioButton>
-#include <Standard_ConstructionError.hxx>
 #include <gp.hxx>
 #include <gp_Vec.hxx>
 
@@ -130,17 +129,10 @@ bool DialogRun::Run(Dialog& dialog, std::initializer_list<FieldEdit> edits, Take
         for (const FieldEdit& edit : edits)
             Show(dialog, edit);
     }
+    const ConstructionErrorText zeroDirection(
+        tr("A direction needs a component that is not 0; the dialog waits for one"));
     const Feature before = m_feature;
-    for (;;) {
-        try {
-            const KernelErrorPass pass;
-            if (dialog.exec() != QDialog::Accepted)
-                return false;
-        } catch (const Standard_ConstructionError&) {
-            PostMessageToChannel(WarningLevel, tr("A direction needs a component that is not 0; "
-                                                  "the dialog waits for one"));
-            continue;
-        }
+    while (dialog.exec() == QDialog::Accepted) {
         m_problem.clear();
         take();
         if (m_problem.isEmpty())
@@ -148,6 +140,7 @@ bool DialogRun::Run(Dialog& dialog, std::initializer_list<FieldEdit> edits, Take
         PostMessageToChannel(WarningLevel, m_problem);
         m_feature = before;
     }
+    return false;
 }
 
 void DialogRun::Replace(const char* key, double number, const QString& text)

@@ -12,7 +12,8 @@ class QWidget;
 /// An edited feature's dialog shows the numbers of its expressions; only fields whose number the
 /// user changed are replaced, so that the other expressions survive. The three components of a
 /// direction count as one number, because the dialogs give them normalised. A direction of length 0
-/// and values out of range are told in the message channel, and the dialog opens again as it was.
+/// is told in the message channel, by HostApplication, and the dialog stays open; so are values out
+/// of range, and the dialog opens again as it was.
 class FeatureDialogs
 {
 public:

@@ -2,7 +2,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QScopeGuard>
 #include <QTest>
 #include <QTimer>
 
@@ -89,9 +88,8 @@ void ModalDriver::Poll()
     const auto step = std::move(m_steps.front());
     m_steps.pop_front();
     m_inStep.append(dialog);
-    // Also when what the step pressed throws: the error is the host's, and the dialog may go on.
-    const auto leave = qScopeGuard([this] { m_inStep.removeLast(); });
     step(*dialog);
+    m_inStep.removeLast();
 }
 
 void ModalDriver::AnswerBox(QMessageBox& box)
