@@ -184,8 +184,11 @@ bool FieldRule::Allows(double value) const
 
 QString FieldRule::Text() const
 {
-    const QString low = ExactText(least);
-    const QString high = QString::number(greatest, 'f', 0);
+    const auto plain = [](double limit) {
+        return limit == std::floor(limit) ? QString::number(limit, 'f', 0) : ExactText(limit);
+    };
+    const QString low = plain(least);
+    const QString high = plain(greatest);
     QString text;
     if (isAboveLeast)
         text = QStringLiteral("above %1 and at most %2").arg(low, high);
