@@ -9,8 +9,12 @@
 #include <Aspect_NeutralWindow.hxx>
 #include <Geom_CartesianPoint.hxx>
 #include <OpenGl_FrameBuffer.hxx>
+#include <Prs3d_DatumAspect.hxx>
+#include <Prs3d_IsoAspect.hxx>
 #include <Prs3d_LineAspect.hxx>
 #include <Prs3d_PointAspect.hxx>
+#include <QFontInfo>
+#include <QGuiApplication>
 #include <QOpenGLContext>
 #include <QPalette>
 #include <Standard_ProgramError.hxx>
@@ -28,13 +32,14 @@ constexpr int FaceSelection = 4;
 constexpr int NoSelection = -1;
 
 // In pixels of a screen with a ratio of 1.
-constexpr double CubeSize = 42.0;
-constexpr int CubeMargin = 82; // From both sides of the corner to the cube's middle.
-constexpr double CubeFontHeight = 11.0;
+constexpr double CubeSize = 34.0;
+constexpr int CubeMargin = 66; // From both sides of the corner to the cube's middle.
+constexpr double CubeFontHeight = 8.0;
+constexpr double AxisLetterHeight = 14.0;
 constexpr unsigned int DotsPerInch = 96;
 
 constexpr double TurnSeconds = 0.25;
-constexpr double FitMargin = 0.1;
+constexpr double FitMargin = 0.05;
 constexpr int Samples = 4;
 constexpr double MarkScale = 3.0;
 constexpr double Chord = 0.0005; // The largest distance of a facet, as a share of the part's size.
@@ -50,11 +55,14 @@ Quantity_Color Colour(const QColor& colour)
 }
 
 const QColor PartColour(0x9d, 0xb0, 0xc4);
-const QColor CursorColour(0x5c, 0xc8, 0xf0);
+const QColor EdgeColour(0x00, 0x00, 0x00);
+const QColor WireColour(0x3f, 0x6e, 0xa5); // To be seen on a light and on a dark background.
+const QColor CursorColour(0x6a, 0xb4, 0xe8);
 const QColor SelectionColour(0xff, 0x9a, 0x2e);
 const QColor MarkColour(0xd0, 0x20, 0x20);
-const QColor CubeColour(0xe6, 0xea, 0xf0);
-const QColor CubeTextColour(0x30, 0x38, 0x42);
+const QColor CubeColour(0xb4, 0xbe, 0xca);
+const QColor AxisColour(0x5a, 0x68, 0x78);
+const QColor CubeTextColour(0x1c, 0x22, 0x2a);
 
 void SetStyle(const Handle(AIS_InteractiveContext) & context, Prs3d_TypeOfHighlight type,
               const QColor& colour)
@@ -62,6 +70,28 @@ void SetStyle(const Handle(AIS_InteractiveContext) & context, Prs3d_TypeOfHighli
     const Handle(Prs3d_Drawer)& style = context->HighlightStyle(type);
     style->SetColor(Colour(colour));
     style->SetTransparency(0.0F);
+    style->SetDisplayMode(AIS_Shaded);
+    style->SetZLayer(Graphic3d_ZLayerId_Default); // Below the cube.
+}
+
+// From above the viewer's left shoulder: straight from the eye, the three sides of a box that is
+// seen from its corner would look alike.
+void SetLights(V3d_Viewer& viewer)
+{
+    const Handle(Graphic3d_CLight) sun = new Graphic3d_CLight(Graphic3d_TOLS_DIRECTIONAL);
+    sun->SetHeadlight(true);
+    sun->SetDirection(0.2, -0.35, -1.0);
+    sun->SetIntensity(0.85F);
+    const Handle(Graphic3d_CLight) sky = new Graphic3d_CLight(Graphic3d_TOLS_AMBIENT);
+    for (const Handle(Graphic3d_CLight) & light : {sun, sky}) {
+        viewer.AddLight(light);
+        viewer.SetLightOn(light);
+    }
+}
+
+Handle(Prs3d_LineAspect) NewLineAspect(const QColor& colour)
+{
+    return new Prs3d_LineAspect(Colour(colour), Aspect_TOL_SOLID, 1.0);
 }
 
 Handle(AIS_ViewCube) NewCube(const Handle(AIS_AnimationCamera) & animation)
@@ -72,16 +102,27 @@ Handle(AIS_ViewCube) NewCube(const Handle(AIS_AnimationCamera) & animation)
     cube->SetAutoStartAnimation(true);
     cube->SetDuration(TurnSeconds);
     cube->SetFitSelected(false);
+    cube->SetZLayer(Graphic3d_ZLayerId_Topmost);
     cube->SetBoxColor(Colour(CubeColour));
     cube->SetTextColor(Colour(CubeTextColour));
     cube->SetInnerColor(Colour(CubeTextColour));
+    const QByteArray font = QFontInfo(QGuiApplication::font()).family().toUtf8();
+    cube->SetFont(font.constData());
+    const Handle(Prs3d_DatumAspect) axes = new Prs3d_DatumAspect;
+    const Handle(Prs3d_TextAspect) letters = new Prs3d_TextAspect;
+    letters->SetColor(Colour(AxisColour));
+    letters->SetFont(font.constData());
+    letters->SetHeight(AxisLetterHeight);
+    axes->SetTextAspect(letters);
+    for (const auto axis : {Prs3d_DatumParts_XAxis, Prs3d_DatumParts_YAxis, Prs3d_DatumParts_ZAxis})
+        axes->ShadingAspect(axis)->SetColor(Colour(AxisColour));
+    cube->Attributes()->SetDatumAspect(axes);
     return cube;
 }
 
 } // namespace
 
-ModelScene::ModelScene(QOpenGLContext& context, double pixelRatio,
-                       std::function<void()> askForFrame)
+ModelScene::ModelScene(QOpenGLContext& context, std::function<void()> askForFrame)
     : m_askForFrame(std::move(askForFrame))
 {
     // The kernel asks for the window of the context; the toolkit's own, a buffer, is none to it.
@@ -89,18 +130,19 @@ ModelScene::ModelScene(QOpenGLContext& context, double pixelRatio,
     m_surface.setFormat(context.format());
     m_surface.create();
     const Handle(OpenGl_Context) wrapped = new OpenGl_Context;
-    if (!context.makeCurrent(&m_surface) || !wrapped->Init())
-        throw Standard_ProgramError("The OpenGL context is none that the kernel can use");
+    if (!context.makeCurrent(&m_surface) || !wrapped->Init() || !wrapped->IsGlGreaterEqual(2, 1))
+        throw Standard_ProgramError("the system's OpenGL is none that the geometry kernel can use");
 
     m_driver = new OpenGl_GraphicDriver(
         new Aspect_DisplayConnection(static_cast<Aspect_XDisplay*>(wrapped->GetDisplay())), false);
     m_driver->ChangeOptions().buffersNoSwap = true;
     m_driver->ChangeOptions().buffersOpaqueAlpha = true;
+    // The toolkit's buffer takes colours as they are on the screen.
+    m_driver->ChangeOptions().sRGBDisable = true;
     m_driver->ChangeOptions().useSystemBuffer = false;
 
     const Handle(V3d_Viewer) viewer = new V3d_Viewer(m_driver);
-    viewer->SetDefaultLights();
-    viewer->SetLightOn();
+    SetLights(*viewer);
     m_window = new Aspect_NeutralWindow;
     m_window->SetNativeHandle(wrapped->Window());
     m_window->SetSize(1, 1);
@@ -113,8 +155,9 @@ ModelScene::ModelScene(QOpenGLContext& context, double pixelRatio,
     m_context = new AIS_InteractiveContext(viewer);
     const Handle(Prs3d_Drawer)& drawer = m_context->DefaultDrawer();
     drawer->SetFaceBoundaryDraw(true);
-    drawer->SetFaceBoundaryAspect(
-        new Prs3d_LineAspect(Quantity_NOC_BLACK, Aspect_TOL_SOLID, pixelRatio));
+    drawer->SetFaceBoundaryUpperContinuity(GeomAbs_C1);
+    drawer->UIsoAspect()->SetNumber(0);
+    drawer->VIsoAspect()->SetNumber(0);
     drawer->SetDeviationCoefficient(Chord);
     drawer->SetDeviationAngle(FacetAngle);
     SetStyle(m_context, Prs3d_TypeOfHighlight_Dynamic, CursorColour);
@@ -178,7 +221,7 @@ void ModelScene::Draw()
         gl->SetDefaultFrameBuffer(target);
     }
     if (!target->InitWrapper(gl))
-        throw Standard_ProgramError("The OpenGL driver gives no frame buffer to draw into");
+        throw Standard_ProgramError("the OpenGL driver gives no frame buffer to draw into");
     m_view->Redraw();
 }
 
@@ -201,6 +244,12 @@ void ModelScene::ShowPart(const TopoDS_Shape& shape, bool isShaded)
         part = new AIS_Shape(shape);
         part->SetMaterial(Graphic3d_NameOfMaterial_Plastified);
         part->SetColor(Colour(PartColour));
+        // The colour of the part would be that of its edges, too.
+        const Handle(Prs3d_Drawer)& style = part->Attributes();
+        style->SetFaceBoundaryAspect(NewLineAspect(EdgeColour));
+        for (const auto set : {&Prs3d_Drawer::SetWireAspect, &Prs3d_Drawer::SetFreeBoundaryAspect,
+                               &Prs3d_Drawer::SetUnFreeBoundaryAspect})
+            (*style.*set)(NewLineAspect(WireColour));
     }
     Replace(m_part, part, isShaded ? AIS_Shaded : AIS_WireFrame, FaceSelection);
 }
@@ -217,9 +266,11 @@ void ModelScene::ShowHighlight(const TopoDS_Shape& shape)
     Handle(AIS_Shape) highlight;
     if (!shape.IsNull()) {
         highlight = new AIS_Shape(shape);
+        highlight->SetMaterial(Graphic3d_NameOfMaterial_Plastified);
         highlight->SetColor(Colour(SelectionColour));
-        highlight->SetTransparency(0.6);
-        highlight->SetZLayer(Graphic3d_ZLayerId_Top);
+        highlight->SetTransparency(0.4);
+        // Above the part, which would hide what lies within.
+        highlight->SetZLayer(Graphic3d_ZLayerId_Topmost);
     }
     Replace(m_highlight, highlight, AIS_Shaded, NoSelection);
 }

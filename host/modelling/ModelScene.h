@@ -32,7 +32,7 @@ public:
     };
 
     /// @p askForFrame is called whenever the picture has changed.
-    ModelScene(QOpenGLContext& context, double pixelRatio, std::function<void()> askForFrame);
+    ModelScene(QOpenGLContext& context, std::function<void()> askForFrame);
     ~ModelScene() override;
     Q_DISABLE_COPY(ModelScene)
 

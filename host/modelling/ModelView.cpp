@@ -9,10 +9,10 @@
 #include <QTimer>
 #include <Standard_Failure.hxx>
 
-namespace {
+#include <fcntl.h>
+#include <unistd.h>
 
-// The driver's versions that the kernel draws with begin here.
-const auto LeastVersion = qMakePair(2, 1);
+namespace {
 
 V3d_TypeOfOrientation Orientation(ModelView::StandardView view)
 {
@@ -59,39 +59,41 @@ Graphic3d_Vec2i Vector(const QPoint& point)
 
 void DropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
 
-// Keeps the toolkit quiet about what is only tried.
-class QuietToolkit
+// Keeps quiet what is only tried: the toolkit warns, and the driver writes to the console itself.
+class QuietConsole
 {
 public:
-    QuietToolkit()
+    QuietConsole()
         : m_handler(qInstallMessageHandler(DropMessage))
+        , m_console(dup(STDERR_FILENO))
     {
+        const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+        dup2(nowhere, STDERR_FILENO);
+        close(nowhere);
     }
-    ~QuietToolkit() { qInstallMessageHandler(m_handler); }
-    Q_DISABLE_COPY(QuietToolkit)
+    ~QuietConsole()
+    {
+        dup2(m_console, STDERR_FILENO);
+        close(m_console);
+        qInstallMessageHandler(m_handler);
+    }
+    Q_DISABLE_COPY(QuietConsole)
 
 private:
     QtMessageHandler m_handler;
+    int m_console;
 };
 
 QString TryOpenGl()
 {
-    // The driver writes to the console where it finds no hardware.
-    if (qEnvironmentVariableIsEmpty("LIBGL_DEBUG"))
-        qputenv("LIBGL_DEBUG", "quiet");
-    const QuietToolkit quiet;
+    const QuietConsole quiet;
     QOpenGLContext context;
     if (!context.create())
         return ModelView::tr("the system offers no OpenGL");
-    const QPair<int, int> version = context.format().version();
-    if (version < LeastVersion)
-        return ModelView::tr("the system's OpenGL has version %1.%2, which is too old")
-            .arg(version.first)
-            .arg(version.second);
     try {
-        const ModelScene scene(context, 1.0, [] {});
-    } catch (const Standard_Failure&) {
-        return ModelView::tr("the geometry kernel cannot use the system's OpenGL");
+        const ModelScene scene(context, [] {});
+    } catch (const Standard_Failure& failure) {
+        return QString::fromLocal8Bit(failure.GetMessageString());
     }
     return {};
 }
@@ -223,14 +225,14 @@ void ModelView::initializeGL()
 void ModelView::MakeScene()
 {
     try {
-        m_scene =
-            std::make_unique<ModelScene>(*context(), devicePixelRatioF(), [this] { update(); });
+        m_scene = std::make_unique<ModelScene>(*context(), [this] { update(); });
     } catch (const Standard_Failure& failure) {
         Fail(failure);
         return;
     }
     makeCurrent();
     WithScene([this](ModelScene& scene) {
+        Resize(scene);
         scene.SetPalette(palette());
         scene.Turn(Orientation(m_firstView));
         if (!m_camera.IsNull())
@@ -254,13 +256,20 @@ void ModelView::DropScene()
 
 void ModelView::resizeGL(int width, int height)
 {
-    WithScene([&](ModelScene& scene) {
-        scene.Resize(qRound(width * devicePixelRatioF()), qRound(height * devicePixelRatioF()),
-                     devicePixelRatioF());
+    Q_UNUSED(width)
+    Q_UNUSED(height)
+    WithScene([this](ModelScene& scene) {
+        Resize(scene);
         if (m_isFitAwaited)
             scene.FitAll();
         m_isFitAwaited = false;
     });
+}
+
+void ModelView::Resize(ModelScene& scene) const
+{
+    const double ratio = devicePixelRatioF();
+    scene.Resize(qRound(width() * ratio), qRound(height() * ratio), ratio);
 }
 
 void ModelView::paintGL()
@@ -325,12 +334,11 @@ void ModelView::mouseMoveEvent(QMouseEvent* event)
 
 void ModelView::wheelEvent(QWheelEvent* event)
 {
-    constexpr double UnitsPerDegree = 8.0;
-    const double degrees = event->angleDelta().y() / UnitsPerDegree;
+    const double notches = event->angleDelta().y() / double(QWheelEvent::DefaultDeltasPerStep);
     WithScene([&](ModelScene& scene) {
-        if (scene.CanZoom(degrees > 0.0))
+        if (scene.CanZoom(notches > 0.0))
             scene.UpdateMouseScroll(
-                Aspect_ScrollDelta(Vector(DevicePosition(event->position())), degrees));
+                Aspect_ScrollDelta(Vector(DevicePosition(event->position())), notches));
     });
     HandleMouse(event->position());
     event->accept();

@@ -109,6 +109,7 @@ private:
     bool WithScene(const std::function<void(ModelScene&)>& act);
     void MakeScene();
     void DropScene();
+    void Resize(ModelScene& scene) const;
     void Fail(const Standard_Failure& failure);
     void EndPicking();
     /// Passes on what the mouse did at @p position, and tells what came of it.
