@@ -64,7 +64,11 @@ ModellingActions::ModellingActions(PartModel& model, FeatureTree& tree, FeatureF
     if (m_view != nullptr) {
         connect(m_view, &ModelView::FacePicked, this,
                 [this](const TopoDS_Face&, const gp_Pnt& point) { TakePoint(point); });
-        connect(m_view, &ModelView::PickingCancelled, this, &ModellingActions::EndPicking);
+        connect(m_view, &ModelView::PickingCancelled, this, [this] { m_waiting.reset(); });
+        connect(m_view, &ModelView::Failed, this, [this] {
+            EndPicking();
+            m_view = nullptr;
+        });
     }
     UpdateActions();
 }
@@ -154,7 +158,7 @@ void ModellingActions::Add(FeatureKind kind)
         const std::optional<Feature> asked = m_dialogs.AskNew(feature);
         if (!asked.has_value())
             return;
-        if (asked->kind == FeatureKind::MirrorFace && CanPick())
+        if (asked->kind == FeatureKind::MirrorFace && m_view != nullptr)
             PickFaceFor(*asked);
         else
             AddNamed(*asked);
@@ -193,7 +197,7 @@ void ModellingActions::AddNamed(Feature feature)
     feature.name = m_model.Features().UniqueName(FeatureKinds::Of(feature.kind).word);
     m_model.Add(feature);
     m_tree.Select(feature.name);
-    if (feature.kind == FeatureKind::MirrorFace && !CanPick()) {
+    if (feature.kind == FeatureKind::MirrorFace && m_view == nullptr) {
         PostMessageToChannel(WarningLevel, tr("There is no 3D view to pick a face in: type a point "
                                               "on the face into the fields of %1")
                                                .arg(Quoted(feature.name)));
@@ -218,15 +222,10 @@ void ModellingActions::Edit()
 
 void ModellingActions::Apply(const Feature& feature)
 {
-    if (feature.kind == FeatureKind::MirrorFace && CanPick())
+    if (feature.kind == FeatureKind::MirrorFace && m_view != nullptr)
         PickFaceFor(feature);
     else
         Try([this, &feature] { m_model.Change(feature.name, feature); });
-}
-
-bool ModellingActions::CanPick() const
-{
-    return m_view != nullptr && !m_view->isHidden();
 }
 
 void ModellingActions::PickFaceFor(const Feature& feature)

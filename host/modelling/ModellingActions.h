@@ -50,8 +50,6 @@ private:
     void AddNamed(Feature feature);
     void Edit();
     void Apply(const Feature& feature);
-    /// Whether there is a view to pick a face in; one that failed hides.
-    bool CanPick() const;
     void PickFaceFor(const Feature& feature);
     void EndPicking();
 
@@ -67,7 +65,7 @@ private:
     PartModel& m_model;
     FeatureTree& m_tree;
     FeatureFields& m_fields;
-    ModelView* m_view;
+    ModelView* m_view; // Null where there is none, or none any more.
     QWidget* m_window;
     FeatureDialogs m_dialogs;
     std::optional<Feature> m_waiting; // For a face; without a name while it is new.

@@ -5,6 +5,7 @@
 #include "HostApplication.h"
 #include "MessageLevel.h"
 #include "ModalDriver.h"
+#include "ModelView.h"
 #include "ModellingActions.h"
 #include "NewFeature.h"
 #include "PartModel.h"
@@ -51,6 +52,11 @@ private Q_SLOTS:
     void UndoAndRedoSayWhatTheyDo();
     void ActionsFitTheSelection();
     void WithoutAViewTheFacesPointIsToBeTyped();
+    void AMirrorWaitsForItsFace();
+    void AMirrorThatWaitsCanBeGivenUp();
+    void AMirrorTakesATypedPoint();
+    void AnEditedMirrorWaitsForAnotherFace();
+    void AFailedViewIsNoView();
     void ATypedPointNeedsAWaitingMirror();
     void AStepFileIsExportedAndImported();
     void TheSelectedFeaturesShapeIsExported();
@@ -63,7 +69,8 @@ namespace {
 
 struct Modelling
 {
-    Modelling()
+    explicit Modelling(ModelView* view = nullptr)
+        : actions(new ModellingActions(model, *tree, *fields, view, &window))
     {
         window.addDockWidget(Qt::LeftDockWidgetArea, tree);
         window.addDockWidget(Qt::LeftDockWidgetArea, fields);
@@ -123,10 +130,20 @@ struct Modelling
     PartModel model;
     FeatureTree* tree = new FeatureTree(model, &window);
     FeatureFields* fields = new FeatureFields(model, &window);
-    ModellingActions* actions = new ModellingActions(model, *tree, *fields, nullptr, &window);
+    ModellingActions* actions;
     ModalDriver user;
     QSignalSpy posted{DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage};
 };
+
+void AskForFaceMirror(Modelling& modelling, const char* action)
+{
+    modelling.user.Then([](QDialog& dialog) {
+        Find<QRadioButton>(dialog, "radioButton_3").setChecked(true);
+        Click(dialog, "pushButton_OK");
+    });
+    modelling.Trigger(action);
+    QVERIFY(modelling.user.IsDone());
+}
 
 void ChooseFile(ModalDriver& user, const QString& path)
 {
@@ -402,6 +419,76 @@ void tst_ModellingActions::WithoutAViewTheFacesPointIsToBeTyped()
     QCOMPARE(modelling.Last().inputs, QStringList("box"));
     QVERIFY(modelling.posted.count() == 1);
     QVERIFY(modelling.posted[0][1].toString().contains("type a point on the face"));
+}
+
+void tst_ModellingActions::AMirrorWaitsForItsFace()
+{
+    ModelView view;
+    Modelling modelling(&view);
+    modelling.Trigger("action_Add_box");
+    AskForFaceMirror(modelling, "action_Add_mirror");
+    QVERIFY(view.IsPicking());
+    QCOMPARE(modelling.model.Features().Size(), 1);
+    Q_EMIT view.FacePicked(TopoDS_Face(), gp_Pnt(10.000000000000002, 5.25, 5.0 - 1e-12));
+    QCOMPARE(modelling.Last().kind, FeatureKind::MirrorFace);
+    QCOMPARE(modelling.Last().inputs, QStringList("box"));
+    QCOMPARE(modelling.Last().fields, QStringList({"10", "5.25", "5"}));
+    QVERIFY2(!modelling.model.HasFailed(), qPrintable(modelling.model.Failure()));
+    // The next click is an ordinary one.
+    Q_EMIT view.FacePicked(TopoDS_Face(), gp_Pnt(0.0, 5.0, 5.0));
+    QCOMPARE(modelling.model.Features().Size(), 2);
+}
+
+void tst_ModellingActions::AMirrorThatWaitsCanBeGivenUp()
+{
+    ModelView view;
+    Modelling modelling(&view);
+    modelling.Trigger("action_Add_box");
+    AskForFaceMirror(modelling, "action_Add_mirror");
+    view.CancelPicking();
+    modelling.actions->TakePoint(gp_Pnt(10.0, 5.0, 5.0));
+    QCOMPARE(modelling.model.Features().Size(), 1);
+    // Another feature gives it up, too.
+    AskForFaceMirror(modelling, "action_Add_mirror");
+    modelling.Trigger("action_Add_cylinder");
+    QVERIFY(!view.IsPicking());
+    modelling.actions->TakePoint(gp_Pnt(10.0, 5.0, 5.0));
+    QCOMPARE(modelling.Names(), QStringList({"box", "cylinder"}));
+}
+
+void tst_ModellingActions::AMirrorTakesATypedPoint()
+{
+    ModelView view;
+    Modelling modelling(&view);
+    modelling.Trigger("action_Add_box");
+    AskForFaceMirror(modelling, "action_Add_mirror");
+    modelling.actions->TakePoint(gp_Pnt(5.0, 5.0, 10.0));
+    QCOMPARE(modelling.Last().fields, QStringList({"5", "5", "10"}));
+    QVERIFY(!view.IsPicking());
+}
+
+void tst_ModellingActions::AnEditedMirrorWaitsForAnotherFace()
+{
+    ModelView view;
+    Modelling modelling(&view);
+    modelling.Trigger("action_Add_box");
+    modelling.model.Add(NewFeature("twin", FeatureKind::MirrorFace, {"box"}, {{"x", "10"}}));
+    modelling.Select({"twin"});
+    AskForFaceMirror(modelling, "action_EditFeature");
+    QVERIFY(view.IsPicking());
+    Q_EMIT view.FacePicked(TopoDS_Face(), gp_Pnt(0.0, 5.0, 5.0));
+    QCOMPARE(modelling.Names(), QStringList({"box", "twin"}));
+    QCOMPARE(modelling.Last().fields, QStringList({"0", "5", "5"}));
+}
+
+void tst_ModellingActions::AFailedViewIsNoView()
+{
+    ModelView view;
+    Modelling modelling(&view);
+    modelling.Trigger("action_Add_box");
+    Q_EMIT view.Failed("broken");
+    AskForFaceMirror(modelling, "action_Add_mirror");
+    QCOMPARE(modelling.Last().kind, FeatureKind::MirrorFace);
 }
 
 void tst_ModellingActions::ATypedPointNeedsAWaitingMirror()
