@@ -305,15 +305,14 @@ void Project::Save(const QString& path)
     Project written = *this;
     written.m_path = path;
     written.m_features = FeaturesSeenFrom(path);
-    const QJsonObject json = written.ToJson();
+    const QByteArray bytes = QJsonDocument(written.ToJson()).toJson();
     Project read;
     try {
-        read.Read(json);
+        read.Read(ParseJson(bytes));
     } catch (const JsonError& error) {
         fail(QStringLiteral("the project cannot be saved: %1").arg(error.Reason()));
     }
 
-    const QByteArray bytes = QJsonDocument(json).toJson();
     if (bytes.size() > MaximumFileSize)
         fail(QStringLiteral("the project is larger than %1 MB").arg(MaximumFileSize >> 20));
     QSaveFile file(path);

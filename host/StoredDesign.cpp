@@ -15,13 +15,19 @@ using namespace ProjectKeys;
 
 namespace {
 
+// JSON has no word for what is no finite number.
+QJsonValue Finite(double value)
+{
+    return std::isfinite(value) ? QJsonValue(value) : QJsonValue();
+}
+
 QJsonValue ValueOf(const ParametersDef& record)
 {
     switch (record.m_nType) {
     case BoolType:
         return record.m_strValue.toDouble() != 0.0;
     case ScalarType:
-        return GlobalParaMeterMgr::GetParameterRawValue(record.m_strName).toDouble();
+        return Finite(GlobalParaMeterMgr::GetParameterRawValue(record.m_strName).toDouble());
     case VectorType:
         return QJsonArray{record.m_dX, record.m_dY, record.m_dZ};
     default:

@@ -3,15 +3,20 @@
 #include "TestCase.h"
 
 #include <BRepPrimAPI_MakeBox.hxx>
+#include <BRep_Builder.hxx>
 #include <QDir>
 #include <QFile>
 #include <STEPControl_Reader.hxx>
+#include <TopoDS_Compound.hxx>
 #include <TopoDS_Shape.hxx>
 
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <cmath>
 #include <csignal>
+#include <cstdio>
+#include <iostream>
 
 class tst_StepFile : public TestCase
 {
@@ -23,6 +28,12 @@ private Q_SLOTS:
     void AFolderThatIsNotThereIsTold();
     void NoShapeIsTold();
     void AFullDiskIsToldAndTheOldFileStays();
+    void AFileIsReadInMillimetres_data();
+    void AFileIsReadInMillimetres();
+    void SeveralShapesComeAsACompound();
+    void WhatIsNoShapeIsToldAndNothingIsPrinted_data();
+    void WhatIsNoShapeIsToldAndNothingIsPrinted();
+    void FilesThatCannotBeReadAreTold();
 };
 
 static TopoDS_Shape Box(double size)
@@ -99,6 +110,147 @@ void tst_StepFile::AFullDiskIsToldAndTheOldFileStays()
     QCOMPARE(reason, QString("a.step: the file could not be written."));
     QVERIFY(std::abs(VolumeInFile("a.step") - 1000.0) < 1e-6);
     QCOMPARE(QDir().entryList(QDir::Files), QStringList("a.step"));
+}
+
+static QByteArray Content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+static void WriteText(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("The test's file could not be written.");
+}
+
+void tst_StepFile::AFileIsReadInMillimetres_data()
+{
+    QTest::addColumn<QByteArray>("unit");
+    QTest::addColumn<double>("factor");
+    QTest::newRow("millimetres") << QByteArray("SI_UNIT(.MILLI.,.METRE.)") << 1.0;
+    QTest::newRow("centimetres") << QByteArray("SI_UNIT(.CENTI.,.METRE.)") << 10.0;
+    QTest::newRow("metres") << QByteArray("SI_UNIT($,.METRE.)") << 1000.0;
+}
+
+void tst_StepFile::AFileIsReadInMillimetres()
+{
+    QFETCH(QByteArray, unit);
+    QFETCH(double, factor);
+    EnterTemporaryDirectory();
+    WriteStepFile(BRepPrimAPI_MakeBox(1.0, 2.0, 3.0).Shape(), "长.step");
+    QByteArray content = Content("长.step");
+    const QByteArray millimetres = "SI_UNIT(.MILLI.,.METRE.)";
+    QVERIFY(content.contains(millimetres));
+    WriteText("长.step", content.replace(millimetres, unit));
+    const double volume = Measure(ReadStepFile("长.step")).volume;
+    const double expected = 6.0 * factor * factor * factor;
+    QVERIFY2(std::abs(volume - expected) <= 1e-9 * expected, QByteArray::number(volume));
+}
+
+void tst_StepFile::SeveralShapesComeAsACompound()
+{
+    EnterTemporaryDirectory();
+    TopoDS_Compound boxes;
+    const BRep_Builder builder;
+    builder.MakeCompound(boxes);
+    builder.Add(boxes, Box(10.0));
+    builder.Add(boxes, Box(20.0));
+    WriteStepFile(boxes, "a.step");
+    const TopoDS_Shape shape = ReadStepFile("a.step");
+    QCOMPARE(shape.ShapeType(), TopAbs_COMPOUND);
+    QVERIFY(std::abs(Measure(shape).volume - 9000.0) < 1e-6);
+}
+
+void tst_StepFile::WhatIsNoShapeIsToldAndNothingIsPrinted_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("reason");
+    const QByteArray head = "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\n"
+                            "FILE_NAME('','',(''),(''),'','','');\n"
+                            "FILE_SCHEMA(('AUTOMOTIVE_DESIGN'));\nENDSEC;\nDATA;\n";
+    const QByteArray tail = "ENDSEC;\nEND-ISO-10303-21;\n";
+    const auto row = [](const char* name, const QByteArray& content, const char* reason) {
+        QTest::newRow(name) << content << QString("a.step: %1").arg(reason);
+    };
+    row("empty", "", "it is no STEP file.");
+    row("a picture", "\x89PNG\r\n" + QByteArray(5000, '\0'), "it is no STEP file.");
+    row("cut off", head + "#1=CARTESIAN_POINT('',(0.,0.,0.));\n", "it is not complete.");
+    row("no data", head + tail, "there is no shape in it.");
+    row("a point of nobody", head + "#1=CARTESIAN_POINT('',(0.,0.,0.));\n" + tail,
+        "there is no shape in it.");
+    row("nonsense between the marks", head + "%%%% ((( #1=; '" + tail,
+        "it cannot be read as a STEP file.");
+    row("references to nothing", head + "#1=MANIFOLD_SOLID_BREP('',#99);\n" + tail,
+        "there is no shape in it.");
+}
+
+// What is written to standard output and error while @p action runs.
+template<class Action>
+static QByteArray Printed(const Action& action)
+{
+    std::fflush(nullptr);
+    QFile caught("printed");
+    if (!caught.open(QIODevice::ReadWrite | QIODevice::Truncate))
+        qFatal("The test's file could not be written.");
+    const int out = dup(STDOUT_FILENO);
+    const int error = dup(STDERR_FILENO);
+    dup2(caught.handle(), STDOUT_FILENO);
+    dup2(caught.handle(), STDERR_FILENO);
+    action();
+    std::cout.flush();
+    std::fflush(nullptr);
+    dup2(out, STDOUT_FILENO);
+    dup2(error, STDERR_FILENO);
+    close(out);
+    close(error);
+    caught.seek(0);
+    return caught.readAll();
+}
+
+void tst_StepFile::WhatIsNoShapeIsToldAndNothingIsPrinted()
+{
+    QFETCH(QByteArray, content);
+    EnterTemporaryDirectory();
+    WriteText("a.step", content);
+    QString reason = "it was read";
+    const QByteArray printed = Printed([&] {
+        try {
+            ReadStepFile("a.step");
+        } catch (const StepError& error) {
+            reason = error.Reason();
+        }
+    });
+    QTEST(reason, "reason");
+    QCOMPARE(printed, QByteArray());
+}
+
+void tst_StepFile::FilesThatCannotBeReadAreTold()
+{
+    EnterTemporaryDirectory();
+    const auto reason = [](const QString& path) {
+        try {
+            ReadStepFile(path);
+        } catch (const StepError& error) {
+            return error.Reason();
+        }
+        return QString("it was read");
+    };
+    QCOMPARE(reason("none.step"),
+             QString("none.step: it cannot be opened: No such file or directory."));
+    QCOMPARE(reason("."), QString(".: it is a folder, not a file."));
+    QCOMPARE(reason("/dev/zero"), QString("zero: it is no STEP file."));
+
+    WriteStepFile(Box(10.0), "huge.step");
+    QByteArray content = Content("huge.step");
+    WriteText("far.step", content.replace("10.,", "1.E7,"));
+    QCOMPARE(reason("far.step"), QString("far.step: its shape reaches farther than 1000 m."));
+    QFile huge("huge.step");
+    QVERIFY(huge.open(QIODevice::ReadWrite));
+    QVERIFY(huge.resize((qint64(256) << 20) + 1));
+    huge.close();
+    QCOMPARE(reason("huge.step"), QString("huge.step: it is larger than 256 MB."));
 }
 
 TARN_TEST_MAIN(tst_StepFile)

@@ -1,0 +1,132 @@
+#include "FeatureBuilder.h"
+#include "GlobalParaMeterMgr.h"
+#include "ParameterSettler.h"
+#include "Project.h"
+
+#include <BRepAdaptor_Curve.hxx>
+#include <BRepAlgoAPI_Cut.hxx>
+#include <BRepAlgoAPI_Fuse.hxx>
+#include <BRepCheck_Analyzer.hxx>
+#include <BRepFilletAPI_MakeFillet.hxx>
+#include <BRepPrimAPI_MakeCylinder.hxx>
+#include <GeomAbs_CurveType.hxx>
+#include <QApplication>
+#include <TopExp_Explorer.hxx>
+#include <TopTools_ListOfShape.hxx>
+#include <TopoDS.hxx>
+#include <TopoDS_Shape.hxx>
+#include <gp_Ax2.hxx>
+#include <gp_Circ.hxx>
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+
+// The sample flange, rebuilt for the runs of a study from its features and conditions, against the
+// same kernel calls written by hand for this one part.
+
+namespace {
+
+void Store(const char* name, double value)
+{
+    ParametersDef& record = GlobalParaMeterMgr::m_nameMapParameters[QLatin1String(name)];
+    record.m_dValue = value;
+    record.m_varRawValue = value;
+}
+
+double Stored(const char* name)
+{
+    return GlobalParaMeterMgr::GetParameterRawValue(QLatin1String(name)).toDouble();
+}
+
+// Run by run another bore and thickness, as in a study.
+void ChooseRun(int run)
+{
+    Store("bore_diameter", 60.0 + 2.0 * (run % 10));
+    Store("thickness", 16.0 + run / 10 % 10);
+    SettleParameters();
+}
+
+TopoDS_Shape Cylinder(double x, double z, double radius, double height)
+{
+    return BRepPrimAPI_MakeCylinder(gp_Ax2(gp_Pnt(x, 0.0, z), gp_Dir(0.0, 0.0, 1.0)), radius,
+                                    height)
+        .Shape();
+}
+
+TopoDS_Shape BuildByHand()
+{
+    const double thickness = Stored("thickness");
+    const double hubRadius = Stored("hub_diameter") / 2.0;
+    const double hubHeight = Stored("hub_height");
+    const TopoDS_Shape body =
+        BRepAlgoAPI_Fuse(Cylinder(0.0, 0.0, Stored("outer_diameter") / 2.0, thickness),
+                         Cylinder(0.0, thickness, hubRadius, hubHeight))
+            .Shape();
+
+    TopTools_ListOfShape tools;
+    tools.Append(Cylinder(0.0, -1.0, Stored("bore_diameter") / 2.0, thickness + hubHeight + 2.0));
+    const TopoDS_Shape hole =
+        Cylinder(Stored("bolt_circle") / 2.0, -1.0, Stored("bolt_hole") / 2.0, thickness + 2.0);
+    const int count = int(Stored("bolt_count"));
+    for (int index = 0; index < count; ++index) {
+        gp_Trsf rotation;
+        rotation.SetRotation(gp_Ax1(), 2.0 * std::acos(-1.0) * index / count);
+        tools.Append(hole.Moved(TopLoc_Location(rotation)));
+    }
+    TopTools_ListOfShape arguments;
+    arguments.Append(body);
+    BRepAlgoAPI_Cut cut;
+    cut.SetArguments(arguments);
+    cut.SetTools(tools);
+    cut.Build();
+
+    BRepFilletAPI_MakeFillet fillet(cut.Shape());
+    for (TopExp_Explorer edges(cut.Shape(), TopAbs_EDGE); edges.More(); edges.Next()) {
+        const BRepAdaptor_Curve curve(TopoDS::Edge(edges.Current()));
+        if (curve.GetType() == GeomAbs_Circle &&
+            std::abs(curve.Circle().Radius() - hubRadius) < 1e-7 &&
+            std::abs(curve.Circle().Location().Z() - thickness) < 1e-7) {
+            fillet.Add(Stored("fillet_radius"), TopoDS::Edge(edges.Current()));
+            break;
+        }
+    }
+    const TopoDS_Shape shape = fillet.Shape();
+    return BRepCheck_Analyzer(shape).IsValid() ? shape : TopoDS_Shape();
+}
+
+template<class Builder>
+void Regenerate(benchmark::State& state, const Project& project, const Builder& build)
+{
+    project.FillStores();
+    for (auto _ : state) {
+        for (int run = 0; run < int(state.range(0)); ++run) {
+            ChooseRun(run);
+            if (build().IsNull())
+                state.SkipWithError("a part was not built");
+        }
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "*.debug=false");
+    QApplication application(argc, argv);
+    const Project project = Project::Load(Project::SamplePath());
+    const auto add = [&](const char* name, auto build) {
+        benchmark::RegisterBenchmark(
+            name, [&project, build](benchmark::State& state) { Regenerate(state, project, build); })
+            ->Arg(100)
+            ->Unit(benchmark::kMillisecond);
+    };
+    add("Flange/ours", [&project] { return project.Build().shape; });
+    add("Flange/reference", [] { return BuildByHand(); });
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
