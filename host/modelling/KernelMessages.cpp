@@ -14,7 +14,7 @@ class ChannelPrinter : public Message_Printer
 protected:
     void send(const TCollection_AsciiString& text, const Message_Gravity gravity) const override
     {
-        if (gravity < Message_Fail)
+        if (gravity < Message_Alarm)
             return;
         PostMessageToChannel(
             WarningLevel, QCoreApplication::translate("KernelMessages", "The geometry kernel: %1")

@@ -4,17 +4,17 @@
 #include "ModelView.h"
 #include "TestCase.h"
 
-#include <BRep_Builder.hxx>
 #include <BRepGProp.hxx>
 #include <BRepPrimAPI_MakeBox.hxx>
 #include <BRepPrimAPI_MakeCylinder.hxx>
+#include <BRep_Builder.hxx>
 #include <GProp_GProps.hxx>
 #include <QMainWindow>
 #include <QProcess>
 #include <QScreen>
 #include <QSignalSpy>
-#include <QWheelEvent>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <cmath>
 #include <optional>
@@ -107,7 +107,8 @@ public:
         if (!QTest::qWaitForWindowActive(&window))
             qFatal("The window does not become active");
         view->ShowShape(Block());
-        QObject::connect(view, &ModelView::PointMoved, view, [this](const gp_Pnt& p) { point = p; });
+        QObject::connect(view, &ModelView::PointMoved, view,
+                         [this](const gp_Pnt& p) { point = p; });
         QObject::connect(view, &ModelView::PointLost, view, [this] {
             point.reset();
             ++lost;
@@ -370,12 +371,18 @@ void tst_ModelView::StandardViewsLookFromTheirSide_data()
     QTest::addColumn<ModelView::StandardView>("view");
     QTest::addColumn<QString>("middle"); // What is seen there of the block; * is not known exactly.
     QTest::addColumn<QString>("right");  // The axis that points to the right.
-    QTest::newRow("front") << ModelView::FrontView << "* 0 *" << "+x";
-    QTest::newRow("back") << ModelView::BackView << "* 60 *" << "-x";
-    QTest::newRow("left") << ModelView::LeftView << "0 * *" << "-y";
-    QTest::newRow("right") << ModelView::RightView << "100 * *" << "+y";
-    QTest::newRow("top") << ModelView::TopView << "* * 40" << "+x";
-    QTest::newRow("bottom") << ModelView::BottomView << "* * 0" << "+x";
+    QTest::newRow("front") << ModelView::FrontView << "* 0 *"
+                           << "+x";
+    QTest::newRow("back") << ModelView::BackView << "* 60 *"
+                          << "-x";
+    QTest::newRow("left") << ModelView::LeftView << "0 * *"
+                          << "-y";
+    QTest::newRow("right") << ModelView::RightView << "100 * *"
+                           << "+y";
+    QTest::newRow("top") << ModelView::TopView << "* * 40"
+                         << "+x";
+    QTest::newRow("bottom") << ModelView::BottomView << "* * 0"
+                            << "+x";
 }
 
 void tst_ModelView::StandardViewsLookFromTheirSide()
@@ -725,7 +732,8 @@ void tst_ModelView::NothingIsWrittenToTheConsole_data()
     QTest::addColumn<bool>("isShown");
     QTest::newRow("as it is") << QStringList() << true;
     QTest::newRow("scaled") << QStringList("QT_SCALE_FACTOR=2") << true;
-    QTest::newRow("offscreen, beside a display") << QStringList("QT_QPA_PLATFORM=offscreen") << true;
+    QTest::newRow("offscreen, beside a display")
+        << QStringList("QT_QPA_PLATFORM=offscreen") << true;
     QTest::newRow("offscreen") << QStringList({"QT_QPA_PLATFORM=offscreen", "DISPLAY="}) << false;
     QTest::newRow("no OpenGL") << QStringList("QT_XCB_GL_INTEGRATION=none") << false;
     QTest::newRow("no GLX") << QStringList("QT_XCB_GL_INTEGRATION=xcb_egl") << false;

@@ -1,8 +1,11 @@
+#include "DrawerOutput.h"
+#include "MessageLevel.h"
 #include "ShapeSummary.h"
 #include "TestCase.h"
 
 #include <BRepPrimAPI_MakeBox.hxx>
 #include <QLabel>
+#include <QSignalSpy>
 #include <TopoDS_Shape.hxx>
 
 class tst_ShapeSummary : public TestCase
@@ -15,6 +18,7 @@ private Q_SLOTS:
     void AFailureKeepsTheLastGoodShape();
     void AFailureWithoutAnEarlierShapeSaysSo();
     void ClearForgetsTheShape();
+    void WithoutOpenGlThereIsALineDrawingAndOneWarning();
 };
 
 namespace {
@@ -84,6 +88,28 @@ void tst_ShapeSummary::ClearForgetsTheShape()
     QCOMPARE(Shown(summary, "label_Volume"), QStringLiteral("none"));
     summary.ShowFailure("the bore is too large");
     QVERIFY(Shown(summary, "label_Status").contains("no earlier shape"));
+}
+
+void tst_ShapeSummary::WithoutOpenGlThereIsALineDrawingAndOneWarning()
+{
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    ShapeSummary summary(nullptr);
+    QVERIFY(summary.View() == nullptr);
+    auto& drawing = Find<QWidget>(summary, "shapePicture");
+    drawing.setFixedSize(300, 200);
+    const QImage empty = drawing.grab().toImage();
+    // Whoever shows the messages may be made after this.
+    QCOMPARE(posted.size(), 0);
+    ShowBlock(summary);
+    QVERIFY(drawing.grab().toImage() != empty);
+    QCOMPARE(posted.size(), 1);
+    QCOMPARE(posted[0][0].toInt(), int(WarningLevel));
+    QCOMPARE(posted[0][1].toString(),
+             QStringLiteral("The part is shown as a line drawing: the system offers no OpenGL"));
+    ShowBlock(summary);
+    summary.Clear();
+    ShowBlock(summary);
+    QCOMPARE(posted.size(), 1);
 }
 
 TARN_TEST_MAIN(tst_ShapeSummary)
