@@ -68,7 +68,8 @@ void MainWindow::CreateMenus()
     m_projectActions->FillMenu(*menuBar()->addMenu(tr("&File")));
     m_designActions = new DesignActions(this);
     m_designActions->FillMenu(*menuBar()->addMenu(tr("&Design")));
-    m_modellingActions = new ModellingActions(*m_part, *m_features, *m_fields, m_summary->View(), this);
+    m_modellingActions =
+        new ModellingActions(*m_part, *m_features, *m_fields, m_summary->View(), this);
     m_modellingActions->FillMenu(*menuBar()->addMenu(tr("&Model")));
     auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, this);
     analysis->FillMenu(*menuBar()->addMenu(tr("&Analysis")));
@@ -79,7 +80,7 @@ void MainWindow::CreateMenus()
     const ViewActions* const viewActions = new ViewActions(m_summary->View(), this);
     viewActions->FillMenu(view);
     view.addSeparator();
-    const QList<QDockWidget*> docks = {m_features, m_fields, m_position,
+    const QList<QDockWidget*> docks = {m_features, m_fields,   m_position,
                                        m_tree,     m_overview, m_messages};
     for (const QDockWidget* const dock : docks)
         view.addAction(dock->toggleViewAction());

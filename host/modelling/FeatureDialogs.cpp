@@ -422,11 +422,9 @@ bool DialogRun::AskMirror()
             Show(dialog, mode.edits[std::size_t(i)]);
     }
     return Run(dialog, {}, [&] {
-        const MirrorMode& mode =
-            *std::find_if(MirrorModes.begin(), MirrorModes.end(),
-                          [&button](const MirrorMode& candidate) {
-                              return button(candidate)->isChecked();
-                          });
+        const MirrorMode& mode = *std::find_if(
+            MirrorModes.begin(), MirrorModes.end(),
+            [&button](const MirrorMode& candidate) { return button(candidate)->isChecked(); });
         const bool isSameMode = !m_isNew && mode.kind == kindBefore;
         if (mode.kind != m_feature.kind) {
             m_feature.kind = mode.kind;

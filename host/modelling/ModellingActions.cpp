@@ -48,7 +48,8 @@ ModellingActions::ModellingActions(PartModel& model, FeatureTree& tree, FeatureF
     , m_up(NewAction(tr("Move &up"), "action_MoveUp", [this] { MoveSelected(-1); }))
     , m_down(NewAction(tr("Move do&wn"), "action_MoveDown", [this] { MoveSelected(1); }))
     , m_suppress(NewAction(tr("&Suppress"), "action_Suppress", [this] { SuppressSelected(); }))
-    , m_delete(NewAction(tr("&Delete feature"), "action_DeleteFeature", [this] { DeleteSelected(); }))
+    , m_delete(
+          NewAction(tr("&Delete feature"), "action_DeleteFeature", [this] { DeleteSelected(); }))
     , m_export(NewAction(tr("E&xport STEP"), "action_ExportStep", [this] { ExportStep(); }))
 {
     m_edit->setShortcut(Qt::CTRL | Qt::Key_E);
@@ -87,9 +88,9 @@ QAction* ModellingActions::NewAction(const QString& text, const char* name,
 void ModellingActions::FillMenu(QMenu& menu)
 {
     QMenu& bodies = *menu.addMenu(tr("Add &body"));
-    FillAddMenu(bodies, {FeatureKind::Box, FeatureKind::Cylinder, FeatureKind::Sphere,
-                         FeatureKind::Torus, FeatureKind::Cone, FeatureKind::Wedge,
-                         FeatureKind::Polygon});
+    FillAddMenu(bodies,
+                {FeatureKind::Box, FeatureKind::Cylinder, FeatureKind::Sphere, FeatureKind::Torus,
+                 FeatureKind::Cone, FeatureKind::Wedge, FeatureKind::Polygon});
     bodies.addSeparator();
     bodies.addAction(NewAction(tr("&Import STEP"), "action_ImportStep", [this] { ImportStep(); }));
     QMenu& transforms = *menu.addMenu(tr("&Transform"));
@@ -276,8 +277,8 @@ void ModellingActions::DeleteSelected()
 
 QString ModellingActions::AskForStepFile()
 {
-    const QString path = QFileDialog::getOpenFileName(m_window, tr("Import STEP"),
-                                                      m_model.Folder(), StepFilter());
+    const QString path =
+        QFileDialog::getOpenFileName(m_window, tr("Import STEP"), m_model.Folder(), StepFilter());
     const QString fromFolder = QDir(m_model.Folder()).relativeFilePath(path);
     // Files beside the project move with it.
     const bool isBeside = !m_model.Folder().isEmpty() && !path.isEmpty() &&

@@ -139,8 +139,8 @@ void PartModel::Change(const QString& name, const Feature& feature)
 {
     // Such a name could not be told in a list of inputs.
     if (feature.name.contains(QLatin1Char(',')) || feature.name != feature.name.trimmed())
-        throw ModellingError(
-            tr("%1 is no name: it has a comma, or a blank at its start or end").arg(Quoted(feature.name)));
+        throw ModellingError(tr("%1 is no name: it has a comma, or a blank at its start or end")
+                                 .arg(Quoted(feature.name)));
     FeatureList features = m_features;
     features.Replace(Find(features, name), feature);
     Push(features, name == feature.name

@@ -61,9 +61,9 @@ private:
 namespace {
 
 const std::vector<FeatureKind> DialogKinds = {
-    FeatureKind::Sphere,     FeatureKind::Torus,     FeatureKind::Cone,
-    FeatureKind::Wedge,      FeatureKind::Polygon,   FeatureKind::Move,
-    FeatureKind::Rotate,     FeatureKind::MirrorAxis, FeatureKind::PolarArray,
+    FeatureKind::Sphere,          FeatureKind::Torus,      FeatureKind::Cone,
+    FeatureKind::Wedge,           FeatureKind::Polygon,    FeatureKind::Move,
+    FeatureKind::Rotate,          FeatureKind::MirrorAxis, FeatureKind::PolarArray,
     FeatureKind::RectangularArray};
 
 void PressOK(const QDialog& dialog)
@@ -131,9 +131,8 @@ void tst_FeatureDialogs::KindsWithoutADialogAreTold()
     for (const FeatureKinds::Entry& entry : FeatureKinds::All()) {
         const bool isMirror =
             entry.kind == FeatureKind::MirrorPoint || entry.kind == FeatureKind::MirrorFace;
-        const bool hasDialog =
-            isMirror || std::find(DialogKinds.begin(), DialogKinds.end(), entry.kind) !=
-                            DialogKinds.end();
+        const bool hasDialog = isMirror || std::find(DialogKinds.begin(), DialogKinds.end(),
+                                                     entry.kind) != DialogKinds.end();
         QCOMPARE(FeatureDialogs::HaveOneFor(entry.kind), hasDialog);
     }
     Asked asked;
@@ -436,17 +435,29 @@ void tst_FeatureDialogs::ANumberOutOfRangeIsToldAndTheDialogWaits_data()
     QTest::addColumn<QString>("good");
     QTest::addColumn<QString>("key");
     QTest::newRow("no instance") << FeatureKind::PolarArray << "lineEdit_Num"
-                                 << "0" << "1" << "number";
+                                 << "0"
+                                 << "1"
+                                 << "number";
     QTest::newRow("too many instances") << FeatureKind::PolarArray << "lineEdit_Num"
-                                        << "10001" << "10000" << "number";
+                                        << "10001"
+                                        << "10000"
+                                        << "number";
     QTest::newRow("no column") << FeatureKind::RectangularArray << "lineEdit_XNum"
-                               << "" << "2" << "xNumber";
+                               << ""
+                               << "2"
+                               << "xNumber";
     QTest::newRow("empty sweep") << FeatureKind::Cone << "lineEdit_Angle"
-                                 << "0" << "360" << "angle";
+                                 << "0"
+                                 << "360"
+                                 << "angle";
     QTest::newRow("infinite") << FeatureKind::Move << "lineEdit_Dx"
-                              << "inf" << "5" << "dx";
+                              << "inf"
+                              << "5"
+                              << "dx";
     QTest::newRow("far away") << FeatureKind::MirrorAxis << "lineEdit_axisPtX"
-                              << "1e7" << "1e5" << "x";
+                              << "1e7"
+                              << "1e5"
+                              << "x";
 }
 
 void tst_FeatureDialogs::ANumberOutOfRangeIsToldAndTheDialogWaits()
@@ -558,8 +569,8 @@ void tst_FeatureDialogs::AnotherModeStartsWithItsDefaults()
         Fill(dialog, {{"lineEdit_axisPtX", "9"}});
         PressOK(dialog);
     });
-    const std::optional<Feature> result = asked.dialogs.AskChanges(
-        NewFeature("x", FeatureKind::MirrorPoint, {"body"}, {{"y", "5"}}));
+    const std::optional<Feature> result =
+        asked.dialogs.AskChanges(NewFeature("x", FeatureKind::MirrorPoint, {"body"}, {{"y", "5"}}));
     QVERIFY(result.has_value());
     QVERIFY(*result == NewFeature("x", FeatureKind::MirrorAxis, {"body"}, {{"x", "9"}}));
 }

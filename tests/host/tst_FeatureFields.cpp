@@ -181,11 +181,21 @@ void tst_FeatureFields::ATextWithoutAUsableValueIsKeptAndSaysWhy_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("why");
-    QTest::newRow("half typed") << "3 *" << "no value" << "";
-    QTest::newRow("unknown name") << "nuts" << "no value" << "nuts";
-    QTest::newRow("empty") << "" << "no value" << "";
-    QTest::newRow("out of range") << "-3" << "-3" << "Has to be from 0.0001 to 1000000 mm";
-    QTest::newRow("infinite") << "1 / 0" << "no value" << "";
+    QTest::newRow("half typed") << "3 *"
+                                << "no value"
+                                << "";
+    QTest::newRow("unknown name") << "nuts"
+                                  << "no value"
+                                  << "nuts";
+    QTest::newRow("empty") << ""
+                           << "no value"
+                           << "";
+    QTest::newRow("out of range") << "-3"
+                                  << "-3"
+                                  << "Has to be from 0.0001 to 1000000 mm";
+    QTest::newRow("infinite") << "1 / 0"
+                              << "no value"
+                              << "";
 }
 
 void tst_FeatureFields::ATextWithoutAUsableValueIsKeptAndSaysWhy()
@@ -248,14 +258,22 @@ void tst_FeatureFields::ARefusedTextStaysAndIsTold_data()
 {
     QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("text");
-    QTest::newRow("unknown input") << "Inputs" << "plate, nut";
-    QTest::newRow("itself") << "Inputs" << "plate, body";
-    QTest::newRow("too few") << "Inputs" << "plate";
-    QTest::newRow("none") << "Inputs" << "";
-    QTest::newRow("twice") << "Inputs" << "plate, plate";
-    QTest::newRow("name taken") << "Name" << "pin";
-    QTest::newRow("no name") << "Name" << "";
-    QTest::newRow("name with comma") << "Name" << "a,b";
+    QTest::newRow("unknown input") << "Inputs"
+                                   << "plate, nut";
+    QTest::newRow("itself") << "Inputs"
+                            << "plate, body";
+    QTest::newRow("too few") << "Inputs"
+                             << "plate";
+    QTest::newRow("none") << "Inputs"
+                          << "";
+    QTest::newRow("twice") << "Inputs"
+                           << "plate, plate";
+    QTest::newRow("name taken") << "Name"
+                                << "pin";
+    QTest::newRow("no name") << "Name"
+                             << "";
+    QTest::newRow("name with comma") << "Name"
+                                     << "a,b";
 }
 
 void tst_FeatureFields::ARefusedTextStaysAndIsTold()
@@ -271,8 +289,7 @@ void tst_FeatureFields::ARefusedTextStaysAndIsTold()
     QVERIFY(shown.IsMarked(label));
     QCOMPARE(shown.posted.count(), 1);
     QCOMPARE(shown.posted[0][0].toInt(), int(ErrorLevel));
-    QCOMPARE(shown.Cell(label, FeatureFields::TextColumn).toolTip(),
-             shown.posted[0][1].toString());
+    QCOMPARE(shown.Cell(label, FeatureFields::TextColumn).toolTip(), shown.posted[0][1].toString());
     // Corrected, it is taken.
     shown.Type(label, label == "Name" ? "whole" : "pin, plate");
     QVERIFY(!shown.IsMarked(label));
@@ -320,8 +337,7 @@ void tst_FeatureFields::EditingStartsInTheFirstField()
     QVERIFY(QTest::qWaitForWindowActive(&shown.dock));
     shown.dock.ShowFeature("pin");
     shown.dock.StartEditing();
-    QVERIFY(shown.Table().isAncestorOf(QApplication::focusWidget()) ||
-            shown.Table().hasFocus());
+    QVERIFY(shown.Table().isAncestorOf(QApplication::focusWidget()) || shown.Table().hasFocus());
     QCOMPARE(shown.Table().currentRow(), 2);
     shown.dock.ShowFeature("body");
     shown.dock.StartEditing();

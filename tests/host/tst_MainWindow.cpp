@@ -213,9 +213,8 @@ void ChooseFile(ModalDriver& user, const QString& path)
         Find<QLineEdit>(dialog, "fileNameEdit").setText(path);
         auto& buttons = Find<QDialogButtonBox>(dialog, "buttonBox");
         const bool isOpen = buttons.button(QDialogButtonBox::Open) != nullptr;
-        QTest::mouseClick(
-            buttons.button(isOpen ? QDialogButtonBox::Open : QDialogButtonBox::Save),
-            Qt::LeftButton);
+        QTest::mouseClick(buttons.button(isOpen ? QDialogButtonBox::Open : QDialogButtonBox::Save),
+                          Qt::LeftButton);
     });
 }
 
@@ -240,24 +239,54 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                 texts << QString(menu->text() + "/" + action->text()).remove('&');
         }
     }
-    QCOMPARE(
-        texts,
-        QStringList({"File/Open project", "File/Save project", "File/Save project as", "File/Quit",
-                     "Design/Parameters", "Design/Design of Experiments",
-                     "Design/Restore parameters", "Model/Add body", "Model/Transform",
-                     "Model/Combine", "Model/Edit feature", "Model/Move up", "Model/Move down",
-                     "Model/Suppress", "Model/Delete feature", "Model/Undo", "Model/Redo",
-                     "Model/Export STEP", "Analysis/Analysis type", "Analysis/Boundary condition",
-                     "Analysis/Load force", "Analysis/Delete boundary condition or load",
-                     "Analysis/New element property", "Analysis/Element properties",
-                     "Analysis/Material library", "Analysis/Frequency range", "Analysis/Mesh size",
-                     "Analysis/Sub-shape mesh", "Analysis/Is the set-up complete?",
-                     "Solver/Run Nastran", "Solver/Open results in HyperView",
-                     "Solver/Solver paths", "View/Fit", "View/Front", "View/Back", "View/Left",
-                     "View/Right", "View/Top", "View/Bottom", "View/Isometric",
-                     "View/Shaded with edges", "View/Wireframe", "View/Features",
-                     "View/Fields of the feature", "View/Position", "View/Analysis model",
-                     "View/Stored parameters", "View/Messages"}));
+    QCOMPARE(texts, QStringList({"File/Open project",
+                                 "File/Save project",
+                                 "File/Save project as",
+                                 "File/Quit",
+                                 "Design/Parameters",
+                                 "Design/Design of Experiments",
+                                 "Design/Restore parameters",
+                                 "Model/Add body",
+                                 "Model/Transform",
+                                 "Model/Combine",
+                                 "Model/Edit feature",
+                                 "Model/Move up",
+                                 "Model/Move down",
+                                 "Model/Suppress",
+                                 "Model/Delete feature",
+                                 "Model/Undo",
+                                 "Model/Redo",
+                                 "Model/Export STEP",
+                                 "Analysis/Analysis type",
+                                 "Analysis/Boundary condition",
+                                 "Analysis/Load force",
+                                 "Analysis/Delete boundary condition or load",
+                                 "Analysis/New element property",
+                                 "Analysis/Element properties",
+                                 "Analysis/Material library",
+                                 "Analysis/Frequency range",
+                                 "Analysis/Mesh size",
+                                 "Analysis/Sub-shape mesh",
+                                 "Analysis/Is the set-up complete?",
+                                 "Solver/Run Nastran",
+                                 "Solver/Open results in HyperView",
+                                 "Solver/Solver paths",
+                                 "View/Fit",
+                                 "View/Front",
+                                 "View/Back",
+                                 "View/Left",
+                                 "View/Right",
+                                 "View/Top",
+                                 "View/Bottom",
+                                 "View/Isometric",
+                                 "View/Shaded with edges",
+                                 "View/Wireframe",
+                                 "View/Features",
+                                 "View/Fields of the feature",
+                                 "View/Position",
+                                 "View/Analysis model",
+                                 "View/Stored parameters",
+                                 "View/Messages"}));
 }
 
 void tst_MainWindow::TheDocksStandRoundTheShape()

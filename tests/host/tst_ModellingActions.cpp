@@ -369,12 +369,10 @@ void tst_ModellingActions::UndoAndRedoSayWhatTheyDo()
     Modelling modelling;
     QVERIFY(!modelling.Action("action_Undo").isEnabled());
     modelling.Trigger("action_Add_cylinder");
-    QCOMPARE(modelling.Action("action_Undo").text(),
-             QString("&Undo Add Cylinder \"cylinder\""));
+    QCOMPARE(modelling.Action("action_Undo").text(), QString("&Undo Add Cylinder \"cylinder\""));
     modelling.Trigger("action_Undo");
     QVERIFY(modelling.model.Features().IsEmpty());
-    QCOMPARE(modelling.Action("action_Redo").text(),
-             QString("&Redo Add Cylinder \"cylinder\""));
+    QCOMPARE(modelling.Action("action_Redo").text(), QString("&Redo Add Cylinder \"cylinder\""));
     modelling.Trigger("action_Redo");
     QCOMPARE(modelling.Names(), QStringList("cylinder"));
 }

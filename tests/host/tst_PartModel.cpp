@@ -118,8 +118,7 @@ void tst_PartModel::EveryChangeHasATextAndAWayBack_data()
                         const QStringList& names) {
         QTest::newRow(name) << change << text << names;
     };
-    row(
-        "add", [](PartModel& m) { m.Add(NewFeature("disc", FeatureKind::Cylinder)); },
+    row("add", [](PartModel& m) { m.Add(NewFeature("disc", FeatureKind::Cylinder)); },
         "Add Cylinder \"disc\"", {"plate", "pin", "body", "disc"});
     row(
         "change",
@@ -127,20 +126,15 @@ void tst_PartModel::EveryChangeHasATextAndAWayBack_data()
             m.Change("pin", NewFeature("pin", FeatureKind::Cylinder, {}, {{"height", "33"}}));
         },
         "Change \"pin\"", Before);
-    row(
-        "rename",
-        [](PartModel& m) { m.Change("pin", NewFeature("bolt", FeatureKind::Cylinder)); },
+    row("rename", [](PartModel& m) { m.Change("pin", NewFeature("bolt", FeatureKind::Cylinder)); },
         "Rename \"pin\" to \"bolt\"", {"plate", "bolt", "body"});
-    row(
-        "up", [](PartModel& m) { m.Move("pin", -1); }, "Move \"pin\" up", {"pin", "plate", "body"});
-    row(
-        "down", [](PartModel& m) { m.Move("plate", 1); }, "Move \"plate\" down",
+    row("up", [](PartModel& m) { m.Move("pin", -1); }, "Move \"pin\" up", {"pin", "plate", "body"});
+    row("down", [](PartModel& m) { m.Move("plate", 1); }, "Move \"plate\" down",
         {"pin", "plate", "body"});
     row(
         "suppress", [](PartModel& m) { m.SetSuppressed({"pin"}, true); }, "Suppress \"pin\"",
         Before);
-    row(
-        "delete", [](PartModel& m) { m.Remove({"body"}); }, "Delete \"body\"", {"plate", "pin"});
+    row("delete", [](PartModel& m) { m.Remove({"body"}); }, "Delete \"body\"", {"plate", "pin"});
 }
 
 void tst_PartModel::EveryChangeHasATextAndAWayBack()
@@ -187,7 +181,11 @@ void tst_PartModel::ARefusedChangeChangesNothing_data()
     row(
         "unknown", [](PartModel& m) { m.Remove({"nut"}); }, "no feature \"nut\"");
     row(
-        "deleted twice", [](PartModel& m) { m.Remove({"body", "body"}); }, "no feature \"body\"");
+        "deleted twice",
+        [](PartModel& m) {
+            m.Remove({"body", "body"});
+        },
+        "no feature \"body\"");
     row(
         "comma in its name",
         [](PartModel& m) { m.Change("pin", NewFeature("a, b", FeatureKind::Cylinder)); }, "comma");

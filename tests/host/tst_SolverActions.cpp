@@ -18,9 +18,12 @@ void tst_SolverActions::EachActionRunsItsDialog_data()
 {
     QTest::addColumn<QString>("action");
     QTest::addColumn<QString>("dialog");
-    QTest::newRow("solver") << "action_RunSolver" << "SolverSetting";
-    QTest::newRow("results") << "action_ShowResults" << "ResultSetting";
-    QTest::newRow("paths") << "action_SolverPaths" << "ExternalSolverOption";
+    QTest::newRow("solver") << "action_RunSolver"
+                            << "SolverSetting";
+    QTest::newRow("results") << "action_ShowResults"
+                             << "ResultSetting";
+    QTest::newRow("paths") << "action_SolverPaths"
+                           << "ExternalSolverOption";
 }
 
 void tst_SolverActions::EachActionRunsItsDialog()
