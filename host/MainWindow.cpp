@@ -56,7 +56,7 @@ void MainWindow::CreateDocks()
     addDockWidget(Qt::BottomDockWidgetArea, m_overview);
     addDockWidget(Qt::BottomDockWidgetArea, m_messages);
     resizeDocks({m_features}, {470}, Qt::Horizontal);
-    resizeDocks({m_features, m_fields, m_position}, {240, 300, 50}, Qt::Vertical);
+    resizeDocks({m_features, m_fields, m_position}, {265, 275, 50}, Qt::Vertical);
     resizeDocks({m_overview, m_messages}, {820, 620}, Qt::Horizontal);
     resizeDocks({m_messages}, {260}, Qt::Vertical);
     m_overview->Refresh();
