@@ -57,11 +57,11 @@ Quantity_Color Colour(const QColor& colour)
 const QColor PartColour(0x9d, 0xb0, 0xc4);
 const QColor EdgeColour(0x00, 0x00, 0x00);
 const QColor WireColour(0x3f, 0x6e, 0xa5); // To be seen on a light and on a dark background.
-const QColor CursorColour(0x6a, 0xb4, 0xe8);
+const QColor CursorColour(0x96, 0xd2, 0xf8);
 const QColor SelectionColour(0xff, 0x9a, 0x2e);
 const QColor MarkColour(0xd0, 0x20, 0x20);
 const QColor CubeColour(0xb4, 0xbe, 0xca);
-const QColor AxisColour(0x5a, 0x68, 0x78);
+const QColor AxisColour(0x74, 0x86, 0x9a);
 const QColor CubeTextColour(0x1c, 0x22, 0x2a);
 
 void SetStyle(const Handle(AIS_InteractiveContext) & context, Prs3d_TypeOfHighlight type,
@@ -96,7 +96,7 @@ Handle(Prs3d_LineAspect) NewLineAspect(const QColor& colour)
 
 Handle(AIS_ViewCube) NewCube(const Handle(AIS_AnimationCamera) & animation)
 {
-    const Handle(AIS_ViewCube) cube = new AIS_ViewCube;
+    Handle(AIS_ViewCube) cube = new AIS_ViewCube;
     cube->SetViewAnimation(animation);
     cube->SetFixedAnimationLoop(false);
     cube->SetAutoStartAnimation(true);
@@ -190,7 +190,7 @@ ModelScene::~ModelScene()
 
 void ModelScene::SetPalette(const QPalette& palette)
 {
-    const QColor window = palette.color(QPalette::Window);
+    const QColor& window = palette.color(QPalette::Window);
     const bool isDark = window.lightness() < 128;
     const QColor top = isDark ? window.lighter(110) : window.lighter(106);
     const QColor bottom = isDark ? window.lighter(190) : window.darker(122);

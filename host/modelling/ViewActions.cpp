@@ -20,21 +20,22 @@ QAction* NewSeparator(QObject* parent)
 ViewActions::ViewActions(ModelView* view, QObject* parent)
     : QObject(parent)
 {
-    Add(tr("&Fit"), "action_FitView", Qt::CTRL | Qt::Key_0, [view] { view->FitAll(); });
+    Add(tr("&Fit"), "action_FitView", QKeySequence(QStringLiteral("Ctrl+0")),
+        [view] { view->FitAll(); });
     m_actions << NewSeparator(this);
 
     const auto addView = [this, view](const QString& text, const char* name, int key,
                                       ModelView::StandardView standardView) {
-        Add(text, name, Qt::CTRL | key,
+        Add(text, name, QKeySequence(QStringLiteral("Ctrl+%1").arg(key)),
             [view, standardView] { view->SetStandardView(standardView); });
     };
-    addView(tr("F&ront"), "action_FrontView", Qt::Key_1, ModelView::FrontView);
-    addView(tr("&Back"), "action_BackView", Qt::Key_2, ModelView::BackView);
-    addView(tr("&Left"), "action_LeftView", Qt::Key_3, ModelView::LeftView);
-    addView(tr("Ri&ght"), "action_RightView", Qt::Key_4, ModelView::RightView);
-    addView(tr("&Top"), "action_TopView", Qt::Key_5, ModelView::TopView);
-    addView(tr("B&ottom"), "action_BottomView", Qt::Key_6, ModelView::BottomView);
-    addView(tr("&Isometric"), "action_IsometricView", Qt::Key_7, ModelView::IsometricView);
+    addView(tr("F&ront"), "action_FrontView", 1, ModelView::FrontView);
+    addView(tr("&Back"), "action_BackView", 2, ModelView::BackView);
+    addView(tr("&Left"), "action_LeftView", 3, ModelView::LeftView);
+    addView(tr("Ri&ght"), "action_RightView", 4, ModelView::RightView);
+    addView(tr("&Top"), "action_TopView", 5, ModelView::TopView);
+    addView(tr("B&ottom"), "action_BottomView", 6, ModelView::BottomView);
+    addView(tr("&Isometric"), "action_IsometricView", 7, ModelView::IsometricView);
     m_actions << NewSeparator(this);
 
     auto* const modes = new QActionGroup(this);
