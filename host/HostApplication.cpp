@@ -6,6 +6,7 @@
 #include <QFontDatabase>
 #include <QIcon>
 #include <QTextCodec>
+#include <Standard_ConstructionError.hxx>
 #include <Standard_Failure.hxx>
 #include <Standard_Type.hxx>
 
@@ -36,6 +37,8 @@ void ProvideDialogFont()
 
 } // namespace
 
+QString ConstructionErrorText::s_text;
+
 HostApplication::HostApplication(int& argc, char** argv)
     : QApplication(argc, argv)
 {
@@ -57,9 +60,14 @@ bool HostApplication::notify(QObject* receiver, QEvent* event)
     try {
         return QApplication::notify(receiver, event);
     } catch (const Standard_Failure& failure) {
-        PostFailure(tr("The geometry kernel failed: %1 (%2)")
-                        .arg(QString::fromLocal8Bit(failure.GetMessageString()),
-                             QString::fromLatin1(failure.DynamicType()->Name())));
+        const bool isTold = !ConstructionErrorText::s_text.isEmpty() &&
+                            failure.IsKind(STANDARD_TYPE(Standard_ConstructionError));
+        if (isTold)
+            PostMessageToChannel(WarningLevel, ConstructionErrorText::s_text);
+        else
+            PostFailure(tr("The geometry kernel failed: %1 (%2)")
+                            .arg(QString::fromLocal8Bit(failure.GetMessageString()),
+                                 QString::fromLatin1(failure.DynamicType()->Name())));
     } catch (const std::bad_alloc&) {
         PostFailure(tr("There is not enough memory"));
     } catch (const std::exception& exception) {

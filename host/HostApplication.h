@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QString>
 
 /// The host's application object.
 ///
@@ -17,4 +18,21 @@ public:
     ~HostApplication() override;
 
     bool notify(QObject* receiver, QEvent* event) override;
+};
+
+/// While one lives, the kernel's construction error is told in these words, as a warning.
+///
+/// For a dialog that lets this error pass: it is caught in notify(), before it leaves the dialog's
+/// exec(), so the dialog stays open with what the user typed.
+class ConstructionErrorText
+{
+public:
+    explicit ConstructionErrorText(const QString& text) { s_text = text; }
+    ~ConstructionErrorText() { s_text.clear(); }
+    Q_DISABLE_COPY(ConstructionErrorText)
+
+private:
+    friend class HostApplication;
+
+    static QString s_text; // Empty where there is none.
 };

@@ -2,191 +2,155 @@
 
 #include "AnalysisActions.h"
 #include "AnalysisModel.h"
-#include "DOEDlg.h"
-#include "DialogTables.h"
-#include "DoeSession.h"
-#include "FeatureBuilder.h"
-#include "GlobalParaMeterMgr.h"
+#include "DesignActions.h"
+#include "FeatureFields.h"
+#include "FeatureTree.h"
 #include "MessageDock.h"
 #include "MessageLevel.h"
 #include "ModelTree.h"
-#include "ParameterEditor.h"
+#include "ModelView.h"
+#include "ModellingActions.h"
 #include "ParameterOverview.h"
-#include "ParameterSettler.h"
+#include "PartModel.h"
+#include "PositionDock.h"
+#include "Project.h"
+#include "ProjectActions.h"
 #include "ShapeSummary.h"
+#include "SolverActions.h"
+#include "ViewActions.h"
 
-#include <QFileDialog>
-#include <QFileInfo>
+#include <QCloseEvent>
 #include <QMenuBar>
-#include <TopoDS_Shape.hxx>
-
-namespace {
-
-QAction* AddAction(QMenu& menu, const QString& text, const char* name)
-{
-    QAction* const action = menu.addAction(text);
-    action->setObjectName(QString::fromLatin1(name));
-    return action;
-}
-
-} // namespace
+#include <QToolBar>
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , m_analysis(new AnalysisModel(this))
+    , m_part(new PartModel(this))
     , m_summary(new ShapeSummary(this))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(tr("Tarn host"));
-    resize(1360, 760);
+    resize(1440, 940);
     setCentralWidget(m_summary);
     CreateDocks();
     CreateMenus();
+    ConnectPart();
 }
 
 MainWindow::~MainWindow() = default;
 
 void MainWindow::CreateDocks()
 {
+    m_features = new FeatureTree(*m_part, this);
+    m_fields = new FeatureFields(*m_part, this);
+    m_position = new PositionDock(m_summary->View(), this);
     m_messages = new MessageDock(this);
-    m_overview = new ParameterOverview(this);
-    addDockWidget(Qt::BottomDockWidgetArea, m_messages);
-    addDockWidget(Qt::LeftDockWidgetArea, m_overview);
     m_tree = new ModelTree(*m_analysis, this);
-    addDockWidget(Qt::LeftDockWidgetArea, m_tree);
-    resizeDocks({m_overview}, {820}, Qt::Horizontal);
-    resizeDocks({m_messages}, {170}, Qt::Vertical);
+    m_overview = new ParameterOverview(this);
+    addDockWidget(Qt::LeftDockWidgetArea, m_features);
+    addDockWidget(Qt::LeftDockWidgetArea, m_fields);
+    addDockWidget(Qt::LeftDockWidgetArea, m_position);
+    tabifyDockWidget(m_features, m_tree);
+    m_features->raise();
+    addDockWidget(Qt::BottomDockWidgetArea, m_overview);
+    addDockWidget(Qt::BottomDockWidgetArea, m_messages);
+    resizeDocks({m_features}, {470}, Qt::Horizontal);
+    resizeDocks({m_features, m_fields, m_position}, {265, 275, 50}, Qt::Vertical);
+    resizeDocks({m_overview, m_messages}, {820, 620}, Qt::Horizontal);
+    resizeDocks({m_messages}, {260}, Qt::Vertical);
     m_overview->Refresh();
 }
 
 void MainWindow::CreateMenus()
 {
-    QMenu& file = *menuBar()->addMenu(tr("&File"));
-    QAction* const open = AddAction(file, tr("&Open project"), "action_OpenProject");
-    open->setShortcut(QKeySequence::Open);
-    file.addSeparator();
-    QAction* const quit = AddAction(file, tr("&Quit"), "action_Quit");
-    quit->setShortcut(QKeySequence::Quit);
-
-    QMenu& design = *menuBar()->addMenu(tr("&Design"));
-    QAction* const parameters = AddAction(design, tr("&Parameters"), "action_Parameters");
-    QAction* const experiments =
-        AddAction(design, tr("Design of &Experiments"), "action_DesignOfExperiments");
-    design.addSeparator();
-    m_restore = AddAction(design, tr("&Restore parameters"), "action_RestoreParameters");
-    m_restore->setEnabled(false);
-
+    m_projectActions = new ProjectActions(*m_part, this);
+    m_projectActions->FillMenu(*menuBar()->addMenu(tr("&File")));
+    m_designActions = new DesignActions(this);
+    m_designActions->FillMenu(*menuBar()->addMenu(tr("&Design")));
+    m_modellingActions =
+        new ModellingActions(*m_part, *m_features, *m_fields, m_summary->View(), this);
+    m_modellingActions->FillMenu(*menuBar()->addMenu(tr("&Model")));
     auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, this);
     analysis->FillMenu(*menuBar()->addMenu(tr("&Analysis")));
+    auto* const solver = new SolverActions(this);
+    solver->FillMenu(*menuBar()->addMenu(tr("&Solver")));
 
     QMenu& view = *menuBar()->addMenu(tr("&View"));
-    view.addAction(m_overview->toggleViewAction());
-    view.addAction(m_tree->toggleViewAction());
-    view.addAction(m_messages->toggleViewAction());
+    const ViewActions* const viewActions = new ViewActions(m_summary->View(), this);
+    viewActions->FillMenu(view);
+    view.addSeparator();
+    const QList<QDockWidget*> docks = {m_features, m_fields,   m_position,
+                                       m_tree,     m_overview, m_messages};
+    for (const QDockWidget* const dock : docks)
+        view.addAction(dock->toggleViewAction());
+    QToolBar* const toolBar = addToolBar(tr("View"));
+    toolBar->setObjectName(QStringLiteral("viewToolBar"));
+    viewActions->FillToolBar(*toolBar);
+    toolBar->setVisible(m_summary->View() != nullptr);
 
-    connect(open, &QAction::triggered, this, &MainWindow::AskForProject);
-    connect(quit, &QAction::triggered, this, &MainWindow::close);
-    connect(parameters, &QAction::triggered, this, &MainWindow::EditParameters);
-    connect(experiments, &QAction::triggered, this, &MainWindow::DesignExperiments);
-    connect(m_restore, &QAction::triggered, this, &MainWindow::RestoreParameters);
+    connect(m_projectActions, &ProjectActions::Opened, this, &MainWindow::StartProject);
+    connect(m_projectActions, &ProjectActions::Saved, m_designActions,
+            &DesignActions::TellWhetherRun);
+    connect(m_designActions, &DesignActions::ParametersChanged, this, &MainWindow::TakeParameters);
+    connect(m_designActions, &DesignActions::SamplesEdited, m_projectActions,
+            &ProjectActions::ShowWhetherChanged);
 }
 
-void MainWindow::AskForProject()
+void MainWindow::ConnectPart()
 {
-    QString directory;
-    if (m_project.has_value() && m_project->Path() != Project::SamplePath())
-        directory = QFileInfo(m_project->Path()).absolutePath();
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open project"), directory,
-                                                      tr("Projects (*.json);;All files (*)"));
-    if (path.isEmpty())
-        return;
-    try {
-        OpenProject(Project::Load(path));
-    } catch (const ProjectError& error) {
-        PostMessageToChannel(ErrorLevel, error.Reason());
-    }
+    connect(m_part, &PartModel::PartBuilt, this, &MainWindow::ShowBuiltPart);
+    connect(m_part, &PartModel::BuildFailed, this, &MainWindow::ShowFailure);
+    connect(m_features, &FeatureTree::SelectionChanged, this, &MainWindow::ShowSelectedFeature);
+    connect(m_position, &PositionDock::PointEntered, m_modellingActions,
+            &ModellingActions::TakePoint);
 }
 
 void MainWindow::OpenProject(const Project& project)
 {
-    m_project = project;
-    m_project->FillStores();
+    m_projectActions->Open(project);
+}
+
+void MainWindow::StartProject()
+{
     m_analysis->Clear();
-    m_design.clear();
-    m_storeIsRun = false;
-    m_restore->setEnabled(false);
     m_summary->Clear();
-    setWindowTitle(tr("%1 - Tarn host").arg(m_project->Title()));
-    PostMessageToChannel(InfoLevel, tr("Opened the project \"%1\"").arg(m_project->Title()));
-    SettleExpressions();
-    Rebuild();
-}
-
-void MainWindow::EditParameters()
-{
-    ParameterEditor editor(this);
-    editor.m_Slot_RefreshGUI();
-    FitTables(editor);
-    connect(&editor, &ParameterEditor::m_Signal_Apply, this, [this, &editor] {
-        // What the user applied is the design from now on.
-        m_storeIsRun = false;
-        SettleExpressions();
-        editor.m_Slot_RefreshGUI();
-        Rebuild();
-    });
-    editor.exec();
-}
-
-void MainWindow::DesignExperiments()
-{
-    DOEDlg dialog(this);
-    const DoeSession session(dialog);
-    FitTables(dialog);
-    connect(&session, &DoeSession::RunReady, this, [this, &session] {
-        KeepDesign(session.Remembered());
-        Rebuild();
-    });
-    dialog.exec();
-}
-
-void MainWindow::KeepDesign(const ParameterMap& records)
-{
-    // Of several runs in a row the first one has replaced the design.
-    if (!m_storeIsRun)
-        m_design = records;
-    m_storeIsRun = true;
-    m_restore->setEnabled(true);
-}
-
-void MainWindow::RestoreParameters()
-{
-    for (const auto& [name, record] : m_design)
-        GlobalParaMeterMgr::AddParameter(name, record);
-    m_storeIsRun = false;
-    m_restore->setEnabled(false);
-    PostMessageToChannel(InfoLevel, tr("The parameters are as before the design of experiments"));
-    // For the expressions of parameters that came later.
-    SettleExpressions();
-    Rebuild();
-}
-
-void MainWindow::SettleExpressions()
-{
-    for (const QString& problem : SettleParameters())
-        PostMessageToChannel(ErrorLevel, problem);
-}
-
-void MainWindow::Rebuild()
-{
+    m_designActions->Start();
     m_overview->Refresh();
-    try {
-        if (!m_project.has_value())
-            throw BuildError(tr("There is no project."));
-        m_summary->ShowShape(m_project->Build().shape, m_project->Density());
-        PostMessageToChannel(InfoLevel, tr("The part was built"));
-    } catch (const BuildError& error) {
-        const QString reason = error.Reason();
-        m_summary->ShowFailure(reason);
-        PostMessageToChannel(ErrorLevel, tr("The part cannot be built: %1").arg(reason));
-    }
+}
+
+void MainWindow::TakeParameters()
+{
+    m_projectActions->ShowWhetherChanged();
+    m_overview->Refresh();
+    m_part->Rebuild();
+}
+
+void MainWindow::ShowBuiltPart()
+{
+    if (m_part->Shape().IsNull())
+        m_summary->Clear();
+    else
+        m_summary->ShowShape(m_part->Shape(), m_projectActions->Density());
+    PostMessageToChannel(InfoLevel, tr("The part was built"));
+}
+
+void MainWindow::ShowFailure(const QString& reason)
+{
+    m_summary->ShowFailure(reason);
+    PostMessageToChannel(ErrorLevel, tr("The part cannot be built: %1").arg(reason));
+}
+
+void MainWindow::ShowSelectedFeature()
+{
+    const QStringList& selected = m_features->Selected();
+    m_fields->ShowFeature(selected.size() == 1 ? selected.first() : QString());
+    if (ModelView* const view = m_summary->View())
+        view->HighlightShape(selected.isEmpty() ? TopoDS_Shape()
+                                                : m_part->ShapeOf(selected.last()));
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(m_projectActions->MayLeave());
 }

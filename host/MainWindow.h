@@ -1,22 +1,23 @@
 #pragma once
 
-#include "ParameterMap.h"
-#include "Project.h"
-
 #include <QMainWindow>
 
-#include <optional>
-#include <vector>
-
 class AnalysisModel;
+class DesignActions;
+class FeatureFields;
+class FeatureTree;
 class MessageDock;
 class ModelTree;
+class ModellingActions;
 class ParameterOverview;
-class QAction;
+class PartModel;
+class PositionDock;
+class Project;
+class ProjectActions;
 class ShapeSummary;
 
-/// The host's window: menus that run the dialogs, the message channel, the stored parameters, and
-/// the part that is built from them.
+/// The host's window: menus that run the dialogs, the message channel, the stored parameters, the
+/// features, and the part that is built from them.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -30,31 +31,37 @@ public:
 
     /// The analysis set-up, which menu and tree work on; the window owns it.
     AnalysisModel& Analysis() { return *m_analysis; }
+    /// The part; the window owns it.
+    PartModel& Part() { return *m_part; }
+    FeatureTree& Features() { return *m_features; }
+
+protected:
+    /// Asks first where changes would be lost.
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void CreateDocks();
     void CreateMenus();
+    void ConnectPart();
 
-    void AskForProject();
-    void EditParameters();
-    void DesignExperiments();
-    void RestoreParameters();
-
-    /// Evaluates the expressions; tells in the message channel what cannot be evaluated.
-    void SettleExpressions();
-    /// Brings everything that is shown of the parameters into line with the store.
-    void Rebuild();
-    /// Before a run's values are accepted: keeps the records of the design that they replace.
-    void KeepDesign(const ParameterMap& records);
-
-    std::optional<Project> m_project;
-    ParameterMap m_design;     // The records that "Restore parameters" brings back.
-    bool m_storeIsRun = false; // The store holds a run in place of the design.
+    void StartProject();
+    void TakeParameters();
+    void ShowBuiltPart();
+    void ShowFailure(const QString& reason);
+    void ShowSelectedFeature();
 
     AnalysisModel* m_analysis;
+    PartModel* m_part;
+    ShapeSummary* m_summary;
+
     MessageDock* m_messages = nullptr;
     ParameterOverview* m_overview = nullptr;
     ModelTree* m_tree = nullptr;
-    ShapeSummary* m_summary = nullptr;
-    QAction* m_restore = nullptr;
+    FeatureTree* m_features = nullptr;
+    FeatureFields* m_fields = nullptr;
+    PositionDock* m_position = nullptr;
+
+    ProjectActions* m_projectActions = nullptr;
+    DesignActions* m_designActions = nullptr;
+    ModellingActions* m_modellingActions = nullptr;
 };

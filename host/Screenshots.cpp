@@ -8,6 +8,7 @@
 #include "ExternalSolver.h"
 #include "ExternalSolverOption.h"
 #include "ExtrudInputDlg.h"
+#include "FeatureTree.h"
 #include "GlobalParaMeterMgr.h"
 #include "MainWindow.h"
 #include "MatrixArrayDlg.h"
@@ -16,6 +17,7 @@
 #include "NoticeWatcher.h"
 #include "OneParameterDlg.h"
 #include "ParameterEditor.h"
+#include "PartModel.h"
 #include "PolygonNumInputDlg.h"
 #include "PosInputDlg.h"
 #include "Project.h"
@@ -63,6 +65,11 @@ Window NewMainWindow(const Project& project)
     auto window = std::make_unique<MainWindow>();
     window->OpenProject(project);
     FillSampleAnalysis(window->Analysis());
+    // A feature with fields, so that they show.
+    for (const Feature& feature : window->Part().Features().Features()) {
+        if (feature.kind == FeatureKind::PolarArray)
+            window->Features().Select(feature.name);
+    }
     return window;
 }
 

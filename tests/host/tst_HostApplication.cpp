@@ -67,6 +67,7 @@ private Q_SLOTS:
     void APostedEventMayFail();
     void ATimerMayFailInsideAnEventLoop();
     void AKernelFailureNamesItsKind();
+    void AConstructionErrorIsToldInTheWordsGiven();
     void APerCentSignInAReasonIsNoFormat();
 };
 
@@ -179,6 +180,27 @@ void tst_HostApplication::AKernelFailureNamesItsKind()
     QEvent event(FailingEvent);
     QCoreApplication::sendEvent(&object, &event);
     QVERIFY(messages[0][1].toString().contains("Standard_ConstructionError"));
+}
+
+void tst_HostApplication::AConstructionErrorIsToldInTheWordsGiven()
+{
+    FailingObject zeroDirection([] { gp_Dir(0.0, 0.0, 0.0); });
+    FailingObject other([] { throw std::runtime_error("other"); });
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    QEvent event(FailingEvent);
+    {
+        const ConstructionErrorText text(QStringLiteral("No direction."));
+        QCoreApplication::sendEvent(&zeroDirection, &event);
+        QCoreApplication::sendEvent(&other, &event);
+    }
+    QCoreApplication::sendEvent(&zeroDirection, &event);
+    QCOMPARE(posted.count(), 3);
+    QCOMPARE(posted[0][0].toInt(), int(WarningLevel));
+    QCOMPARE(posted[0][1].toString(), QStringLiteral("No direction."));
+    QCOMPARE(posted[1][0].toInt(), int(ErrorLevel));
+    QVERIFY(posted[1][1].toString().contains("other"));
+    QCOMPARE(posted[2][0].toInt(), int(ErrorLevel));
+    QVERIFY(posted[2][1].toString().contains("Standard_ConstructionError"));
 }
 
 void tst_HostApplication::APerCentSignInAReasonIsNoFormat()

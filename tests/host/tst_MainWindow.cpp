@@ -2,17 +2,20 @@
 #include "DrawerOutput.h"
 #include "EmptyAttributeNames.h"
 #include "EmptyDesignStores.h"
+#include "FeatureTree.h"
 #include "HostApplication.h"
 #include "MainWindow.h"
 #include "MessageLevel.h"
 #include "ModalDriver.h"
 #include "ParameterOverview.h"
+#include "PartModel.h"
 #include "Project.h"
 #include "TestCase.h"
 
 #include <QAction>
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QDockWidget>
 #include <QFile>
 #include <QLabel>
@@ -20,6 +23,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTableView>
@@ -27,6 +31,8 @@
 #include <QTreeWidget>
 
 #include <set>
+
+Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 
 class tst_MainWindow : public TestCase
 {
@@ -58,6 +64,24 @@ private Q_SLOTS:
     void ABadProjectIsToldAndChangesNothing();
     void ACancelledFileDialogChangesNothing();
     void QuitClosesTheWindow();
+    void TheFeaturesOfTheProjectAreShown();
+    void ASelectedFeatureShowsItsFields();
+    void UndoAndRedoHaveTheirKeys();
+    void DeletingAUsedFeatureIsRefused();
+    void SuppressingRebuilds();
+    void AFailedRebuildMarksTheFeatureAndKeepsTheShape();
+    void AnEmptyPartIsNoFailure();
+    void AZeroDirectionIsToldInPlainWords();
+    void ASavedProjectIsReadAsItWas();
+    void SaveWritesWhereTheProjectIs();
+    void TheSampleIsSavedUnderAnotherName();
+    void ASavedRunIsTold();
+    void AFileThatCannotBeWrittenIsTold();
+    void TheTitleTellsOfChanges();
+    void ChangesAreNotLostUnasked_data();
+    void ChangesAreNotLostUnasked();
+    void OpeningAsksForChangesToo();
+    void WithoutChangesNothingIsAsked();
 };
 
 namespace {
@@ -145,6 +169,12 @@ void Generate(QDialog& dialog, int row)
     Click(dialog, "pushButton_GenGeo");
 }
 
+void SelectFeature(MainWindow& window, const QString& name)
+{
+    window.Features().Select(name);
+    QCOMPARE(window.Features().Selected(), QStringList(name));
+}
+
 /// The messages at a level, in their order.
 QStringList Messages(const QSignalSpy& posted, MessageLevel level)
 {
@@ -182,7 +212,9 @@ void ChooseFile(ModalDriver& user, const QString& path)
     user.Then([path](QDialog& dialog) {
         Find<QLineEdit>(dialog, "fileNameEdit").setText(path);
         auto& buttons = Find<QDialogButtonBox>(dialog, "buttonBox");
-        QTest::mouseClick(buttons.button(QDialogButtonBox::Open), Qt::LeftButton);
+        const bool isOpen = buttons.button(QDialogButtonBox::Open) != nullptr;
+        QTest::mouseClick(buttons.button(isOpen ? QDialogButtonBox::Open : QDialogButtonBox::Save),
+                          Qt::LeftButton);
     });
 }
 
@@ -207,16 +239,54 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                 texts << QString(menu->text() + "/" + action->text()).remove('&');
         }
     }
-    QCOMPARE(
-        texts,
-        QStringList({"File/Open project", "File/Quit", "Design/Parameters",
-                     "Design/Design of Experiments", "Design/Restore parameters",
-                     "Analysis/Analysis type", "Analysis/Boundary condition", "Analysis/Load force",
-                     "Analysis/Delete boundary condition or load", "Analysis/New element property",
-                     "Analysis/Element properties", "Analysis/Material library",
-                     "Analysis/Frequency range", "Analysis/Mesh size", "Analysis/Sub-shape mesh",
-                     "Analysis/Is the set-up complete?", "View/Stored parameters",
-                     "View/Analysis model", "View/Messages"}));
+    QCOMPARE(texts, QStringList({"File/Open project",
+                                 "File/Save project",
+                                 "File/Save project as",
+                                 "File/Quit",
+                                 "Design/Parameters",
+                                 "Design/Design of Experiments",
+                                 "Design/Restore parameters",
+                                 "Model/Add body",
+                                 "Model/Transform",
+                                 "Model/Combine",
+                                 "Model/Edit feature",
+                                 "Model/Move up",
+                                 "Model/Move down",
+                                 "Model/Suppress",
+                                 "Model/Delete feature",
+                                 "Model/Undo",
+                                 "Model/Redo",
+                                 "Model/Export STEP",
+                                 "Analysis/Analysis type",
+                                 "Analysis/Boundary condition",
+                                 "Analysis/Load force",
+                                 "Analysis/Delete boundary condition or load",
+                                 "Analysis/New element property",
+                                 "Analysis/Element properties",
+                                 "Analysis/Material library",
+                                 "Analysis/Frequency range",
+                                 "Analysis/Mesh size",
+                                 "Analysis/Sub-shape mesh",
+                                 "Analysis/Is the set-up complete?",
+                                 "Solver/Run Nastran",
+                                 "Solver/Open results in HyperView",
+                                 "Solver/Solver paths",
+                                 "View/Fit",
+                                 "View/Front",
+                                 "View/Back",
+                                 "View/Left",
+                                 "View/Right",
+                                 "View/Top",
+                                 "View/Bottom",
+                                 "View/Isometric",
+                                 "View/Shaded with edges",
+                                 "View/Wireframe",
+                                 "View/Features",
+                                 "View/Fields of the feature",
+                                 "View/Position",
+                                 "View/Analysis model",
+                                 "View/Stored parameters",
+                                 "View/Messages"}));
 }
 
 void tst_MainWindow::TheDocksStandRoundTheShape()
@@ -226,7 +296,11 @@ void tst_MainWindow::TheDocksStandRoundTheShape()
     window.show();
     QVERIFY(Find<QTableView>(window, "messageView").isVisible());
     QVERIFY(Find<QTableWidget>(window, "parameterTable").isVisible());
-    QVERIFY(Find<QTreeWidget>(window, "modelTree").isVisible());
+    QVERIFY(Find<QTreeWidget>(window, "featureTree").isVisible());
+    QVERIFY(Find<QTableWidget>(window, "fieldTable").isVisible());
+    // A tab behind the features.
+    QCOMPARE(window.tabifiedDockWidgets(window.findChild<QDockWidget*>("featureDock")),
+             QList<QDockWidget*>({window.findChild<QDockWidget*>("modelTreeDock")}));
     QVERIFY(window.centralWidget()->isVisible());
 }
 
@@ -653,6 +727,303 @@ void tst_MainWindow::QuitClosesTheWindow()
     OpenWindow open;
     QVERIFY(open.window.isVisible());
     Trigger(open.window, "action_Quit");
+    QVERIFY(!open.window.isVisible());
+}
+
+void tst_MainWindow::TheFeaturesOfTheProjectAreShown()
+{
+    const OpenWindow open;
+    const auto& tree = Find<QTreeWidget>(open.window, "featureTree");
+    QCOMPARE(tree.topLevelItemCount(), Project::Load(Project::SamplePath()).Features().Size());
+    QCOMPARE(tree.topLevelItem(0)->text(0), QString("plate"));
+}
+
+void tst_MainWindow::ASelectedFeatureShowsItsFields()
+{
+    OpenWindow open;
+    SelectFeature(open.window, "plate");
+    const auto& fields = Find<QTableWidget>(open.window, "fieldTable");
+    QCOMPARE(fields.item(0, 1)->text(), QString("plate"));
+    QCOMPARE(fields.item(2, 1)->text(), QString("outer_diameter / 2"));
+    QCOMPARE(fields.item(2, 2)->text(), QString("100"));
+    ModalDriver user;
+    user.Then([](QDialog& editor) {
+        TypeValue(editor, "outer_diameter", "240");
+        Click(editor, "pushButton_OK");
+    });
+    Trigger(open.window, "action_Parameters");
+    QCOMPARE(fields.item(2, 2)->text(), QString("120"));
+}
+
+void tst_MainWindow::UndoAndRedoHaveTheirKeys()
+{
+    OpenWindow open;
+    open.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&open.window));
+    const QString box = Shown(open.window, "label_BoundingBox");
+    auto& fields = Find<QTableWidget>(open.window, "fieldTable");
+    SelectFeature(open.window, "plate");
+    fields.item(2, 1)->setText("150");
+    QCOMPARE(Shown(open.window, "label_BoundingBox"), QString("300 × 300 × 50 mm"));
+    QTest::keyClick(&open.window, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(Shown(open.window, "label_BoundingBox"), box);
+    QCOMPARE(fields.item(2, 1)->text(), QString("outer_diameter / 2"));
+    QTest::keyClick(&open.window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(Shown(open.window, "label_BoundingBox"), QString("300 × 300 × 50 mm"));
+}
+
+void tst_MainWindow::DeletingAUsedFeatureIsRefused()
+{
+    OpenWindow open;
+    auto& tree = Find<QTreeWidget>(open.window, "featureTree");
+    const int count = tree.topLevelItemCount();
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    open.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&open.window));
+    SelectFeature(open.window, "plate");
+    tree.setFocus();
+    QTest::keyClick(&tree, Qt::Key_Delete);
+    QCOMPARE(Messages(posted, ErrorLevel), QStringList("\"plate\" stays: it is used by \"body\""));
+    QCOMPARE(tree.topLevelItemCount(), count);
+    // The last one is used by none.
+    SelectFeature(open.window, "flange");
+    QTest::keyClick(&tree, Qt::Key_Delete);
+    QCOMPARE(tree.topLevelItemCount(), count - 1);
+}
+
+void tst_MainWindow::SuppressingRebuilds()
+{
+    OpenWindow open;
+    const QString mass = Shown(open.window, "label_Mass");
+    SelectFeature(open.window, "flange");
+    Trigger(open.window, "action_Suppress");
+    QVERIFY(Shown(open.window, "label_Mass") != mass);
+    QVERIFY(Find<QTreeWidget>(open.window, "featureTree").selectedItems()[0]->font(0).strikeOut());
+    Trigger(open.window, "action_Suppress");
+    QCOMPARE(Shown(open.window, "label_Mass"), mass);
+}
+
+void tst_MainWindow::AFailedRebuildMarksTheFeatureAndKeepsTheShape()
+{
+    OpenWindow open;
+    const QString mass = Shown(open.window, "label_Mass");
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    SelectFeature(open.window, "flange");
+    Find<QTableWidget>(open.window, "fieldTable").item(2, 1)->setText("80");
+    const QStringList errors = Messages(posted, ErrorLevel);
+    QCOMPARE(errors.size(), 1);
+    QVERIFY2(errors[0].startsWith("The part cannot be built: flange: "), qPrintable(errors[0]));
+    QVERIFY(Shown(open.window, "label_Status").contains("last good shape"));
+    QCOMPARE(Shown(open.window, "label_Mass"), mass);
+    const auto& tree = Find<QTreeWidget>(open.window, "featureTree");
+    QVERIFY(!tree.selectedItems()[0]->icon(0).isNull());
+    Trigger(open.window, "action_Undo");
+    QVERIFY(tree.selectedItems()[0]->icon(0).isNull());
+    QVERIFY(Shown(open.window, "label_Status").startsWith("Built at "));
+}
+
+void tst_MainWindow::AnEmptyPartIsNoFailure()
+{
+    OpenWindow open;
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    Find<QTreeWidget>(open.window, "featureTree").selectAll();
+    Trigger(open.window, "action_DeleteFeature");
+    QCOMPARE(Messages(posted, ErrorLevel), QStringList());
+    QCOMPARE(Shown(open.window, "label_Status"), QString("There is no shape yet"));
+    Trigger(open.window, "action_Undo");
+    QVERIFY(Shown(open.window, "label_Status").startsWith("Built at "));
+}
+
+void tst_MainWindow::AZeroDirectionIsToldInPlainWords()
+{
+    OpenWindow open;
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    ModalDriver user;
+    user.Then([](QDialog& dialog) {
+        Type(dialog, "lineEdit_zDir", "0");
+        Click(dialog, "pushButton_OK");
+    });
+    user.Then([](QDialog& dialog) {
+        Type(dialog, "lineEdit_xDir", "1");
+        Click(dialog, "pushButton_OK");
+    });
+    Trigger(open.window, "action_Add_rotate");
+    QVERIFY(user.IsDone());
+    QCOMPARE(Messages(posted, ErrorLevel), QStringList());
+    QCOMPARE(Messages(posted, WarningLevel).filter("direction").size(), 1);
+    QCOMPARE(Shown(open.window, "label_BoundingBox"), QString("200 × 50 × 200 mm"));
+}
+
+void tst_MainWindow::ASavedProjectIsReadAsItWas()
+{
+    OpenWindow open;
+    const QString directory = EnterTemporaryDirectory();
+    SelectFeature(open.window, "flange");
+    Trigger(open.window, "action_Suppress");
+    Find<QTableWidget>(open.window, "fieldTable").item(0, 1)->setText("rounded");
+    ModalDriver user;
+    user.Then([](QDialog& editor) {
+        TypeValue(editor, "outer_diameter", "240");
+        Click(editor, "pushButton_OK");
+    });
+    Trigger(open.window, "action_Parameters");
+    const FeatureList features = open.window.Part().Features();
+    const QString mass = Shown(open.window, "label_Mass");
+    ChooseFile(user, directory + "/saved");
+    Trigger(open.window, "action_SaveProjectAs");
+    QVERIFY(user.IsDone());
+    QVERIFY(!open.window.isWindowModified());
+
+    open.window.OpenProject(Project::Load(Project::SamplePath()));
+    QVERIFY(Shown(open.window, "label_Mass") != mass);
+    open.window.OpenProject(Project::Load(directory + "/saved.json"));
+    QVERIFY(open.window.Part().Features() == features);
+    QCOMPARE(Shown(open.window, "label_Mass"), mass);
+    QCOMPARE(Stored("outer_diameter"), 240.0);
+}
+
+void tst_MainWindow::SaveWritesWhereTheProjectIs()
+{
+    OpenWindow open;
+    const QString directory = EnterTemporaryDirectory();
+    WriteFile("mine.json", SampleProject());
+    open.window.OpenProject(Project::Load(directory + "/mine.json"));
+    SelectFeature(open.window, "flange");
+    Trigger(open.window, "action_DeleteFeature");
+    QVERIFY(open.window.isWindowModified());
+    Trigger(open.window, "action_SaveProject");
+    QVERIFY(!open.window.isWindowModified());
+    QCOMPARE(Project::Load("mine.json").Features().Find("flange"), -1);
+    // Undone, it is no longer what was saved.
+    Trigger(open.window, "action_Undo");
+    QVERIFY(open.window.isWindowModified());
+    Trigger(open.window, "action_Redo");
+    QVERIFY(!open.window.isWindowModified());
+}
+
+void tst_MainWindow::TheSampleIsSavedUnderAnotherName()
+{
+    OpenWindow open;
+    const QString directory = EnterTemporaryDirectory();
+    ModalDriver user;
+    user.Then([](QDialog& dialog) { dialog.reject(); });
+    Trigger(open.window, "action_SaveProject");
+    QVERIFY(user.IsDone());
+    ChooseFile(user, directory + "/flange.json");
+    Trigger(open.window, "action_SaveProject");
+    QVERIFY(user.IsDone());
+    QVERIFY(QFile::exists("flange.json"));
+    // From now on without a question.
+    Trigger(open.window, "action_SaveProject");
+}
+
+void tst_MainWindow::ASavedRunIsTold()
+{
+    OpenWindow open;
+    const QString directory = EnterTemporaryDirectory();
+    ModalDriver user;
+    user.Then([](QDialog& dialog) {
+        Generate(dialog, 17);
+        dialog.reject();
+    });
+    Trigger(open.window, "action_DesignOfExperiments");
+    QVERIFY(open.window.isWindowModified());
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    ChooseFile(user, directory + "/run.json");
+    Trigger(open.window, "action_SaveProject");
+    QCOMPARE(Messages(posted, WarningLevel).filter("a run").size(), 1);
+    Trigger(open.window, "action_RestoreParameters");
+    QVERIFY(open.window.isWindowModified());
+}
+
+void tst_MainWindow::AFileThatCannotBeWrittenIsTold()
+{
+    OpenWindow open;
+    const QString directory = EnterTemporaryDirectory();
+    QVERIFY(QDir().mkpath("gone"));
+    WriteFile("gone/mine.json", SampleProject());
+    open.window.OpenProject(Project::Load(directory + "/gone/mine.json"));
+    SelectFeature(open.window, "flange");
+    Trigger(open.window, "action_DeleteFeature");
+    QVERIFY(QDir("gone").removeRecursively());
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    Trigger(open.window, "action_SaveProject");
+    const QStringList errors = Messages(posted, ErrorLevel);
+    QCOMPARE(errors.size(), 1);
+    QVERIFY2(errors[0].contains("mine.json"), qPrintable(errors[0]));
+    QVERIFY(open.window.isWindowModified());
+}
+
+void tst_MainWindow::TheTitleTellsOfChanges()
+{
+    OpenWindow open;
+    QVERIFY(!open.window.isWindowModified());
+    Trigger(open.window, "action_Add_box");
+    QVERIFY(open.window.isWindowModified());
+    Trigger(open.window, "action_Undo");
+    QVERIFY(!open.window.isWindowModified());
+    ModalDriver user;
+    for (const char* const value : {"33", "20"}) {
+        user.Then([value](QDialog& editor) {
+            TypeValue(editor, "thickness", value);
+            Click(editor, "pushButton_OK");
+        });
+        Trigger(open.window, "action_Parameters");
+        QCOMPARE(open.window.isWindowModified(), QString(value) == "33");
+    }
+}
+
+void tst_MainWindow::ChangesAreNotLostUnasked_data()
+{
+    QTest::addColumn<QMessageBox::StandardButton>("answer");
+    QTest::addColumn<bool>("isClosed");
+    QTest::addColumn<bool>("isSaved");
+    QTest::newRow("save") << QMessageBox::Save << true << true;
+    QTest::newRow("discard") << QMessageBox::Discard << true << false;
+    QTest::newRow("cancel") << QMessageBox::Cancel << false << false;
+}
+
+void tst_MainWindow::ChangesAreNotLostUnasked()
+{
+    QFETCH(QMessageBox::StandardButton, answer);
+    QFETCH(bool, isClosed);
+    QFETCH(bool, isSaved);
+    OpenWindow open;
+    const QString directory = EnterTemporaryDirectory();
+    WriteFile("mine.json", SampleProject());
+    open.window.OpenProject(Project::Load(directory + "/mine.json"));
+    Trigger(open.window, "action_Add_box");
+    ModalDriver user;
+    user.Answer(answer);
+    open.window.close();
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes().size(), 1);
+    QVERIFY(user.Boxes()[0].text.contains("Bolted flange"));
+    QCOMPARE(open.window.isVisible(), !isClosed);
+    QCOMPARE(Project::Load("mine.json").Features().Find("box") >= 0, isSaved);
+}
+
+void tst_MainWindow::OpeningAsksForChangesToo()
+{
+    OpenWindow open;
+    Trigger(open.window, "action_Add_box");
+    ModalDriver user;
+    user.Answer(QMessageBox::Cancel);
+    Trigger(open.window, "action_OpenProject");
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes().size(), 1);
+    QVERIFY(open.window.Part().Features().Find("box") >= 0);
+}
+
+void tst_MainWindow::WithoutChangesNothingIsAsked()
+{
+    OpenWindow open;
+    ModalDriver user;
+    user.Then([](QDialog& dialog) { dialog.reject(); });
+    Trigger(open.window, "action_OpenProject");
+    open.window.close();
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes(), QVector<ShownBox>());
     QVERIFY(!open.window.isVisible());
 }
 

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QObject>
+
+class QMenu;
+class QWidget;
+
+/// Runs the dialogs of the external solvers.
+class SolverActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Dialogs belong to @p window, which also owns this object.
+    explicit SolverActions(QWidget* window);
+    ~SolverActions() override;
+
+    void FillMenu(QMenu& menu);
+
+private:
+    void RunSolver();
+    void ShowResults();
+    void ListSolvers();
+
+    QWidget* m_window;
+};

@@ -1,0 +1,197 @@
+#include "FeatureFields.h"
+
+#include "ExpressionEngine.h"
+#include "FeatureKinds.h"
+#include "FieldValues.h"
+#include "MessageLevel.h"
+#include "NumberTexts.h"
+#include "PartModel.h"
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+#include <QTableWidget>
+
+#include <cmath>
+
+namespace {
+
+// The rows before the fields. Where there is a file, it takes the place of the first field: an
+// import has none.
+enum Row
+{
+    NameRow,
+    InputsRow,
+    FirstFieldRow
+};
+
+const QColor WrongColor(Qt::red);
+
+struct FieldValue
+{
+    QString text;
+    QString problem; // Empty when the value can be used.
+};
+
+FieldValue ValueOf(const FieldKind& field, const QString& text, FieldValues& values)
+{
+    const double value = values.Evaluate(text);
+    if (std::isnan(value))
+        return {FeatureFields::tr("no value"), ExpressionEngine::LastError()};
+    if (!field.rule.Allows(value))
+        return {ShortText(value), FeatureFields::tr("Has to be %1").arg(field.rule.Text())};
+    return {ShortText(value), QString()};
+}
+
+QTableWidgetItem& Cell(QTableWidget& table, int row, int column)
+{
+    if (table.item(row, column) == nullptr) {
+        auto* const item = new QTableWidgetItem;
+        if (column != FeatureFields::TextColumn)
+            item->setFlags(Qt::ItemIsEnabled);
+        table.setItem(row, column, item);
+    }
+    return *table.item(row, column);
+}
+
+void ShowRow(QTableWidget& table, int row, const QString& label, const QString& text,
+             const FieldValue& value = {})
+{
+    Cell(table, row, FeatureFields::LabelColumn).setText(label);
+    const QBrush brush = value.problem.isEmpty() ? QBrush() : QBrush(WrongColor);
+    for (const int column : {FeatureFields::TextColumn, FeatureFields::ValueColumn}) {
+        QTableWidgetItem& item = Cell(table, row, column);
+        item.setText(column == FeatureFields::TextColumn ? text : value.text);
+        item.setForeground(brush);
+        item.setToolTip(value.problem.isEmpty() ? item.text() : value.problem);
+    }
+    Cell(table, row, FeatureFields::TextColumn)
+        .setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable);
+}
+
+void ForbidEditing(QTableWidget& table, int row)
+{
+    Cell(table, row, FeatureFields::TextColumn).setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+}
+
+QStringList Names(const QString& text)
+{
+    QStringList names;
+    const QStringList parts = text.split(QLatin1Char(','));
+    for (const QString& part : parts)
+        names << part.trimmed();
+    return names;
+}
+
+} // namespace
+
+FeatureFields::FeatureFields(PartModel& model, QWidget* parent)
+    : QDockWidget(tr("Fields of the feature"), parent)
+    , m_model(model)
+    , m_table(new QTableWidget(0, ValueColumn + 1, this))
+{
+    setObjectName(QStringLiteral("fieldsDock"));
+    setWidget(m_table);
+
+    m_table->setObjectName(QStringLiteral("fieldTable"));
+    m_table->setHorizontalHeaderLabels({tr("Field"), tr("Number or expression"), tr("Value")});
+    m_table->setWordWrap(false);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setEditTriggers(QAbstractItemView::AllEditTriggers);
+    m_table->setTabKeyNavigation(false);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setSectionResizeMode(LabelColumn, QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setSectionResizeMode(TextColumn, QHeaderView::Stretch);
+    m_table->horizontalHeader()->setSectionResizeMode(ValueColumn, QHeaderView::ResizeToContents);
+
+    connect(m_table, &QTableWidget::itemChanged, this,
+            [this](const QTableWidgetItem* item) { TakeText(item->row()); });
+    connect(&m_model, &PartModel::Changed, this, &FeatureFields::Refresh);
+    Refresh();
+}
+
+FeatureFields::~FeatureFields() = default;
+
+void FeatureFields::ShowFeature(const QString& name)
+{
+    if (name == m_name)
+        return;
+    m_name = name;
+    Refresh();
+}
+
+void FeatureFields::StartEditing()
+{
+    const bool hasFields = m_table->rowCount() > FirstFieldRow;
+    m_table->setFocus();
+    m_table->setCurrentCell(hasFields ? int(FirstFieldRow) : int(InputsRow), TextColumn);
+}
+
+void FeatureFields::Refresh()
+{
+    const QSignalBlocker silent(m_table);
+    const int index = m_model.Features().Find(m_name);
+    if (index < 0)
+        m_table->setRowCount(0);
+    else
+        ShowRows(m_model.Features().At(index));
+}
+
+void FeatureFields::ShowRows(const Feature& feature)
+{
+    const FeatureKinds::Entry& kind = FeatureKinds::Of(feature.kind);
+    const bool isImport = feature.kind == FeatureKind::StepImport;
+    m_table->setRowCount(FirstFieldRow + (isImport ? 1 : int(kind.fields.size())));
+
+    ShowRow(*m_table, NameRow, tr("Name"), feature.name);
+    ShowRow(*m_table, InputsRow, tr("Inputs"), feature.inputs.join(QStringLiteral(", ")));
+    if (kind.mostInputs == 0)
+        ForbidEditing(*m_table, InputsRow);
+    if (isImport)
+        ShowRow(*m_table, FirstFieldRow, tr("File"), feature.file);
+    FieldValues values;
+    int row = FirstFieldRow;
+    for (const FieldKind& field : kind.fields) {
+        const QString& text = feature.fields[row - FirstFieldRow];
+        ShowRow(*m_table, row, FeatureKinds::Label(field), text, ValueOf(field, text, values));
+        ++row;
+    }
+}
+
+Feature FeatureFields::Edited(const Feature& feature, int row, const QString& text) const
+{
+    Feature edited = feature;
+    if (row == NameRow)
+        edited.name = text.trimmed();
+    else if (row == InputsRow)
+        edited.inputs = Names(text);
+    else if (feature.kind == FeatureKind::StepImport)
+        edited.file = text.trimmed();
+    else
+        edited.fields[row - FirstFieldRow] = text.trimmed();
+    return edited;
+}
+
+void FeatureFields::TakeText(int row)
+{
+    const int index = m_model.Features().Find(m_name);
+    if (index < 0)
+        return;
+    const Feature feature = m_model.Features().At(index);
+    const Feature edited = Edited(feature, row, Cell(*m_table, row, TextColumn).text());
+    try {
+        // Already: the change shows this feature under its new name.
+        m_name = edited.name;
+        m_model.Change(feature.name, edited);
+        Refresh();
+    } catch (const ModellingError& error) {
+        m_name = feature.name;
+        const QSignalBlocker silent(m_table);
+        QTableWidgetItem& item = Cell(*m_table, row, TextColumn);
+        item.setForeground(WrongColor);
+        item.setToolTip(error.Reason());
+        PostMessageToChannel(ErrorLevel, error.Reason());
+    }
+}

@@ -1,0 +1,348 @@
+#include "DrawerOutput.h"
+#include "EmptyDesignStores.h"
+#include "FeatureFields.h"
+#include "MessageLevel.h"
+#include "NewFeature.h"
+#include "PartModel.h"
+#include "TestCase.h"
+
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTableWidget>
+
+class tst_FeatureFields : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void NoFeatureHasNoRows();
+    void NameInputsAndFieldsHaveARowEach();
+    void OnlyTextsCanBeEdited();
+    void ATypedTextChangesTheFeature();
+    void ATextWithoutAUsableValueIsKeptAndSaysWhy_data();
+    void ATextWithoutAUsableValueIsKeptAndSaysWhy();
+    void ValuesFollowTheParameters();
+    void ATypedNameRenamesTheFeature();
+    void TypedInputsAreTaken();
+    void ARefusedTextStaysAndIsTold_data();
+    void ARefusedTextStaysAndIsTold();
+    void UndoIsShown();
+    void AnImportShowsItsFile();
+    void ADeletedFeatureIsShownNoLonger();
+    void EditingStartsInTheFirstField();
+};
+
+namespace {
+
+struct ShownFields
+{
+    ShownFields()
+    {
+        FeatureList list;
+        list.Append(NewFeature("plate", FeatureKind::Box, {}, {{"x", "4 * 5"}}));
+        list.Append(NewFeature("pin", FeatureKind::Cylinder, {}, {{"radius", "2"}}));
+        list.Append(NewFeature("body", FeatureKind::Fuse, {"plate", "pin"}));
+        model.Open(list, {}, {});
+        dock.resize(500, 400);
+        dock.show();
+    }
+
+    QTableWidget& Table() const { return Find<QTableWidget>(dock, "fieldTable"); }
+
+    QTableWidgetItem& Cell(const QString& label, int column) const
+    {
+        for (int row = 0; row < Table().rowCount(); ++row) {
+            if (Table().item(row, FeatureFields::LabelColumn)->text() == label)
+                return *Table().item(row, column);
+        }
+        qFatal("There is no field \"%s\"", qPrintable(label));
+    }
+    QString Text(const QString& label) const
+    {
+        return Cell(label, FeatureFields::TextColumn).text();
+    }
+    QString Value(const QString& label) const
+    {
+        return Cell(label, FeatureFields::ValueColumn).text();
+    }
+    bool IsMarked(const QString& label) const
+    {
+        return Cell(label, FeatureFields::TextColumn).foreground().color() == QColor(Qt::red);
+    }
+
+    // As a user does: a click opens the editor, F2 where the cell is the current one, then the text
+    // and Enter.
+    void Type(const QString& label, const QString& text) const
+    {
+        QTableWidgetItem& cell = Cell(label, FeatureFields::TextColumn);
+        if (Table().currentItem() == &cell)
+            QTest::keyClick(&Table(), Qt::Key_F2);
+        else
+            QTest::mouseClick(Table().viewport(), Qt::LeftButton, {},
+                              Table().visualItemRect(&cell).center());
+        QLineEdit* edit = nullptr;
+        const QList<QLineEdit*> edits = Table().viewport()->findChildren<QLineEdit*>();
+        for (QLineEdit* const child : edits) {
+            if (child->isVisible())
+                edit = child;
+        }
+        QVERIFY(edit != nullptr);
+        edit->selectAll();
+        QTest::keyClicks(edit, text);
+        if (text.isEmpty())
+            QTest::keyClick(edit, Qt::Key_Delete);
+        QTest::keyClick(edit, Qt::Key_Return);
+        QCoreApplication::sendPostedEvents();
+    }
+
+    const Feature& Stored(const QString& name) const
+    {
+        return model.Features().At(model.Features().Find(name));
+    }
+
+    EmptyDesignStores stores;
+    PartModel model;
+    FeatureFields dock{model, nullptr};
+    QSignalSpy posted{DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage};
+};
+
+void SetParameter(const QString& name, double value)
+{
+    ParametersDef record;
+    record.m_strName = name;
+    record.m_nType = 1;
+    record.m_dValue = value;
+    GlobalParaMeterMgr::AddParameter(name, record);
+}
+
+} // namespace
+
+void tst_FeatureFields::NoFeatureHasNoRows()
+{
+    ShownFields shown;
+    QCOMPARE(shown.Table().rowCount(), 0);
+    shown.dock.ShowFeature("plate");
+    QVERIFY(shown.Table().rowCount() > 0);
+    shown.dock.ShowFeature("");
+    QCOMPARE(shown.Table().rowCount(), 0);
+}
+
+void tst_FeatureFields::NameInputsAndFieldsHaveARowEach()
+{
+    ShownFields shown;
+    shown.dock.ShowFeature("plate");
+    QStringList rows;
+    for (int row = 0; row < shown.Table().rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < shown.Table().columnCount(); ++column)
+            cells << shown.Table().item(row, column)->text();
+        rows << cells.join('|');
+    }
+    QCOMPARE(rows, QStringList({"Name|plate|", "Inputs||", "Size x|4 * 5|20", "Size y|10|10",
+                                "Size z|10|10"}));
+    shown.dock.ShowFeature("body");
+    QCOMPARE(shown.Table().rowCount(), 2);
+    QCOMPARE(shown.Text("Inputs"), QString("plate, pin"));
+}
+
+void tst_FeatureFields::OnlyTextsCanBeEdited()
+{
+    ShownFields shown;
+    shown.dock.ShowFeature("plate");
+    for (int row = 0; row < shown.Table().rowCount(); ++row) {
+        for (int column = 0; column < shown.Table().columnCount(); ++column) {
+            const QTableWidgetItem& item = *shown.Table().item(row, column);
+            // A box is made of no other body.
+            const bool isInputs = item.row() == 1;
+            QCOMPARE(bool(item.flags() & Qt::ItemIsEditable),
+                     column == FeatureFields::TextColumn && !isInputs);
+        }
+    }
+    shown.dock.ShowFeature("body");
+    QVERIFY(shown.Cell("Inputs", FeatureFields::TextColumn).flags() & Qt::ItemIsEditable);
+}
+
+void tst_FeatureFields::ATypedTextChangesTheFeature()
+{
+    ShownFields shown;
+    shown.dock.ShowFeature("pin");
+    shown.Type("Height", " 3 * 7 ");
+    QCOMPARE(FieldText(shown.Stored("pin"), "height"), QString("3 * 7"));
+    QCOMPARE(shown.Text("Height"), QString("3 * 7"));
+    QCOMPARE(shown.Value("Height"), QString("21"));
+    QCOMPARE(shown.model.UndoStack().undoText(), QString("Change \"pin\""));
+    shown.Type("Height", "3 * 7");
+    QCOMPARE(shown.model.UndoStack().count(), 1);
+    QCOMPARE(shown.posted.count(), 0);
+}
+
+void tst_FeatureFields::ATextWithoutAUsableValueIsKeptAndSaysWhy_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("why");
+    QTest::newRow("half typed") << "3 *"
+                                << "no value"
+                                << "";
+    QTest::newRow("unknown name") << "nuts"
+                                  << "no value"
+                                  << "nuts";
+    QTest::newRow("empty") << ""
+                           << "no value"
+                           << "";
+    QTest::newRow("out of range") << "-3"
+                                  << "-3"
+                                  << "Has to be from 0.0001 to 1000000 mm";
+    QTest::newRow("infinite") << "1 / 0"
+                              << "no value"
+                              << "";
+}
+
+void tst_FeatureFields::ATextWithoutAUsableValueIsKeptAndSaysWhy()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, value);
+    QFETCH(QString, why);
+    ShownFields shown;
+    shown.dock.ShowFeature("pin");
+    QVERIFY(!shown.IsMarked("Height"));
+    shown.Type("Height", text);
+    QCOMPARE(shown.Text("Height"), text);
+    QCOMPARE(FieldText(shown.Stored("pin"), "height"), text);
+    QCOMPARE(shown.Value("Height"), value);
+    QVERIFY(shown.IsMarked("Height"));
+    const QString toolTip = shown.Cell("Height", FeatureFields::TextColumn).toolTip();
+    QVERIFY2(!toolTip.isEmpty() && toolTip.contains(why), qPrintable(toolTip));
+    QCOMPARE(shown.model.FailedFeature(), QString("pin"));
+    QVERIFY(!shown.IsMarked("Radius"));
+    shown.Type("Height", "5");
+    QVERIFY(!shown.IsMarked("Height"));
+    QVERIFY(!shown.model.HasFailed());
+}
+
+void tst_FeatureFields::ValuesFollowTheParameters()
+{
+    ShownFields shown;
+    SetParameter("size", 4.0);
+    shown.dock.ShowFeature("pin");
+    shown.Type("Height", "size + 1");
+    QCOMPARE(shown.Value("Height"), QString("5"));
+    SetParameter("size", 6.0);
+    shown.model.Rebuild();
+    QCOMPARE(shown.Value("Height"), QString("7"));
+    QCOMPARE(shown.Text("Height"), QString("size + 1"));
+}
+
+void tst_FeatureFields::ATypedNameRenamesTheFeature()
+{
+    ShownFields shown;
+    shown.dock.ShowFeature("pin");
+    shown.Type("Name", "bolt");
+    QCOMPARE(shown.model.Features().Find("bolt"), 1);
+    QCOMPARE(shown.Stored("body").inputs, QStringList({"plate", "bolt"}));
+    // It goes on showing the same feature.
+    QCOMPARE(shown.Text("Name"), QString("bolt"));
+    QCOMPARE(shown.Text("Radius"), QString("2"));
+}
+
+void tst_FeatureFields::TypedInputsAreTaken()
+{
+    ShownFields shown;
+    shown.dock.ShowFeature("body");
+    shown.Type("Inputs", "pin ,plate");
+    QCOMPARE(shown.Stored("body").inputs, QStringList({"pin", "plate"}));
+    QCOMPARE(shown.Text("Inputs"), QString("pin, plate"));
+}
+
+void tst_FeatureFields::ARefusedTextStaysAndIsTold_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("unknown input") << "Inputs"
+                                   << "plate, nut";
+    QTest::newRow("itself") << "Inputs"
+                            << "plate, body";
+    QTest::newRow("too few") << "Inputs"
+                             << "plate";
+    QTest::newRow("none") << "Inputs"
+                          << "";
+    QTest::newRow("twice") << "Inputs"
+                           << "plate, plate";
+    QTest::newRow("name taken") << "Name"
+                                << "pin";
+    QTest::newRow("no name") << "Name"
+                             << "";
+    QTest::newRow("name with comma") << "Name"
+                                     << "a,b";
+}
+
+void tst_FeatureFields::ARefusedTextStaysAndIsTold()
+{
+    QFETCH(QString, label);
+    QFETCH(QString, text);
+    ShownFields shown;
+    shown.dock.ShowFeature("body");
+    const Feature before = shown.Stored("body");
+    shown.Type(label, text);
+    QVERIFY(shown.Stored("body") == before);
+    QCOMPARE(shown.Text(label), text);
+    QVERIFY(shown.IsMarked(label));
+    QCOMPARE(shown.posted.count(), 1);
+    QCOMPARE(shown.posted[0][0].toInt(), int(ErrorLevel));
+    QCOMPARE(shown.Cell(label, FeatureFields::TextColumn).toolTip(), shown.posted[0][1].toString());
+    // Corrected, it is taken.
+    shown.Type(label, label == "Name" ? "whole" : "pin, plate");
+    QVERIFY(!shown.IsMarked(label));
+    QCOMPARE(shown.posted.count(), 1);
+    QVERIFY(shown.model.UndoStack().canUndo());
+}
+
+void tst_FeatureFields::UndoIsShown()
+{
+    ShownFields shown;
+    shown.dock.ShowFeature("pin");
+    shown.Type("Height", "33");
+    shown.model.UndoStack().undo();
+    QCOMPARE(shown.Text("Height"), QString("10"));
+    QCOMPARE(shown.Value("Height"), QString("10"));
+}
+
+void tst_FeatureFields::AnImportShowsItsFile()
+{
+    ShownFields shown;
+    Feature import = NewFeature("nut", FeatureKind::StepImport);
+    import.file = "nut.step";
+    shown.model.Add(import);
+    shown.dock.ShowFeature("nut");
+    QCOMPARE(shown.Text("File"), QString("nut.step"));
+    shown.Type("File", "other.step");
+    QCOMPARE(shown.Stored("nut").file, QString("other.step"));
+    shown.Type("File", "");
+    QCOMPARE(shown.Stored("nut").file, QString("other.step"));
+    QVERIFY(shown.IsMarked("File"));
+}
+
+void tst_FeatureFields::ADeletedFeatureIsShownNoLonger()
+{
+    ShownFields shown;
+    shown.dock.ShowFeature("body");
+    shown.model.Remove({"body"});
+    QCOMPARE(shown.Table().rowCount(), 0);
+}
+
+void tst_FeatureFields::EditingStartsInTheFirstField()
+{
+    ShownFields shown;
+    shown.dock.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&shown.dock));
+    shown.dock.ShowFeature("pin");
+    shown.dock.StartEditing();
+    QVERIFY(shown.Table().isAncestorOf(QApplication::focusWidget()) || shown.Table().hasFocus());
+    QCOMPARE(shown.Table().currentRow(), 2);
+    shown.dock.ShowFeature("body");
+    shown.dock.StartEditing();
+    QCOMPARE(shown.Table().currentItem()->text(), QString("plate, pin"));
+}
+
+TARN_TEST_MAIN(tst_FeatureFields)
+#include "tst_FeatureFields.moc"

@@ -1,0 +1,324 @@
+#include "EmptyDesignStores.h"
+#include "NewFeature.h"
+#include "PartModel.h"
+#include "ShapeMeasures.h"
+#include "TestCase.h"
+
+#include <QSignalSpy>
+
+class tst_PartModel : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ANewModelIsEmpty();
+    void AnAddedFeatureIsBuilt();
+    void EveryChangeHasATextAndAWayBack_data();
+    void EveryChangeHasATextAndAWayBack();
+    void ARefusedChangeChangesNothing_data();
+    void ARefusedChangeChangesNothing();
+    void AChangeToTheSameIsNoChange();
+    void ANewNameReachesTheUsers();
+    void SeveralAreDeletedTogether();
+    void AFailedBuildKeepsTheLastGoodShape();
+    void AFailureIsOverWithTheNextGoodBuild();
+    void ParametersAreFollowed();
+    void AConditionThatDoesNotHoldFailsTheBuild();
+    void TheShapeOfAFeatureIsThatOfTheLastGoodPart();
+    void BodiesAreWhatNoFeatureUses();
+    void OpeningForgetsWhatWasBefore();
+};
+
+namespace {
+
+const QStringList Before = {"plate", "pin", "body"};
+
+FeatureList SampleList()
+{
+    FeatureList list;
+    list.Append(NewFeature("plate", FeatureKind::Box));
+    list.Append(NewFeature("pin", FeatureKind::Cylinder, {}, {{"radius", "2"}}));
+    list.Append(NewFeature("body", FeatureKind::Fuse, {"plate", "pin"}));
+    return list;
+}
+
+struct OpenModel
+{
+    OpenModel() { model.Open(SampleList(), {}, {}); }
+
+    EmptyDesignStores stores;
+    PartModel model;
+};
+
+QStringList Names(const PartModel& model)
+{
+    QStringList names;
+    for (const Feature& feature : model.Features().Features())
+        names << feature.name;
+    return names;
+}
+
+double Volume(const PartModel& model)
+{
+    return Measure(model.Shape()).volume;
+}
+
+QString ReasonRefused(const std::function<void()>& change)
+{
+    try {
+        change();
+    } catch (const ModellingError& error) {
+        return error.Reason();
+    }
+    return QString();
+}
+
+void SetParameter(const QString& name, double value)
+{
+    ParametersDef record;
+    record.m_strName = name;
+    record.m_nType = 1;
+    record.m_dValue = value;
+    GlobalParaMeterMgr::AddParameter(name, record);
+}
+
+using Change = std::function<void(PartModel&)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Change)
+
+void tst_PartModel::ANewModelIsEmpty()
+{
+    PartModel model;
+    QVERIFY(model.Features().IsEmpty());
+    QVERIFY(model.Shape().IsNull());
+    QVERIFY(!model.HasFailed());
+    QVERIFY(!model.UndoStack().canUndo());
+}
+
+void tst_PartModel::AnAddedFeatureIsBuilt()
+{
+    const EmptyDesignStores stores;
+    PartModel model;
+    QSignalSpy built(&model, &PartModel::PartBuilt);
+    QSignalSpy changed(&model, &PartModel::Changed);
+    model.Add(NewFeature("box", FeatureKind::Box, {}, {{"z", "20"}}));
+    QCOMPARE(built.count(), 1);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(Volume(model), 2000.0);
+}
+
+void tst_PartModel::EveryChangeHasATextAndAWayBack_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("names");
+    const auto row = [](const char* name, const Change& change, const QString& text,
+                        const QStringList& names) {
+        QTest::newRow(name) << change << text << names;
+    };
+    row("add", [](PartModel& m) { m.Add(NewFeature("disc", FeatureKind::Cylinder)); },
+        "Add Cylinder \"disc\"", {"plate", "pin", "body", "disc"});
+    row(
+        "change",
+        [](PartModel& m) {
+            m.Change("pin", NewFeature("pin", FeatureKind::Cylinder, {}, {{"height", "33"}}));
+        },
+        "Change \"pin\"", Before);
+    row("rename", [](PartModel& m) { m.Change("pin", NewFeature("bolt", FeatureKind::Cylinder)); },
+        "Rename \"pin\" to \"bolt\"", {"plate", "bolt", "body"});
+    row("up", [](PartModel& m) { m.Move("pin", -1); }, "Move \"pin\" up", {"pin", "plate", "body"});
+    row("down", [](PartModel& m) { m.Move("plate", 1); }, "Move \"plate\" down",
+        {"pin", "plate", "body"});
+    row(
+        "suppress", [](PartModel& m) { m.SetSuppressed({"pin"}, true); }, "Suppress \"pin\"",
+        Before);
+    row("delete", [](PartModel& m) { m.Remove({"body"}); }, "Delete \"body\"", {"plate", "pin"});
+}
+
+void tst_PartModel::EveryChangeHasATextAndAWayBack()
+{
+    QFETCH(Change, change);
+    QFETCH(QString, text);
+    QFETCH(QStringList, names);
+    OpenModel open;
+    const double volume = Volume(open.model);
+    change(open.model);
+    const FeatureList after = open.model.Features();
+    QVERIFY(after != SampleList());
+    QCOMPARE(Names(open.model), names);
+    QCOMPARE(open.model.UndoStack().undoText(), text);
+    open.model.UndoStack().undo();
+    QVERIFY(open.model.Features() == SampleList());
+    QCOMPARE(Volume(open.model), volume);
+    QCOMPARE(open.model.UndoStack().redoText(), text);
+    open.model.UndoStack().redo();
+    QVERIFY(open.model.Features() == after);
+}
+
+void tst_PartModel::ARefusedChangeChangesNothing_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<QString>("words");
+    const auto row = [](const char* name, const Change& change, const QString& words) {
+        QTest::newRow(name) << change << words;
+    };
+    row(
+        "name taken", [](PartModel& m) { m.Add(NewFeature("pin", FeatureKind::Box)); }, "pin");
+    row(
+        "no such input", [](PartModel& m) { m.Add(NewFeature("x", FeatureKind::Move, {"nut"})); },
+        "nut");
+    row(
+        "too few inputs", [](PartModel& m) { m.Add(NewFeature("x", FeatureKind::Cut, {"pin"})); },
+        "at least 2");
+    row(
+        "before its input", [](PartModel& m) { m.Move("body", -1); }, "\"body\" stays");
+    row(
+        "after its user", [](PartModel& m) { m.Move("pin", 1); }, "\"pin\" stays");
+    row(
+        "deleted while used", [](PartModel& m) { m.Remove({"pin"}); }, "it is used by \"body\"");
+    row(
+        "unknown", [](PartModel& m) { m.Remove({"nut"}); }, "no feature \"nut\"");
+    row(
+        "deleted twice",
+        [](PartModel& m) {
+            m.Remove({"body", "body"});
+        },
+        "no feature \"body\"");
+    row(
+        "comma in its name",
+        [](PartModel& m) { m.Change("pin", NewFeature("a, b", FeatureKind::Cylinder)); }, "comma");
+    row(
+        "no name", [](PartModel& m) { m.Change("pin", NewFeature("", FeatureKind::Cylinder)); },
+        "name");
+}
+
+void tst_PartModel::ARefusedChangeChangesNothing()
+{
+    QFETCH(Change, change);
+    QFETCH(QString, words);
+    OpenModel open;
+    QSignalSpy changed(&open.model, &PartModel::Changed);
+    const QString reason = ReasonRefused([&] { change(open.model); });
+    QVERIFY2(reason.contains(words), qPrintable(reason));
+    QVERIFY(open.model.Features() == SampleList());
+    QVERIFY(!open.model.UndoStack().canUndo());
+    QCOMPARE(changed.count(), 0);
+}
+
+void tst_PartModel::AChangeToTheSameIsNoChange()
+{
+    OpenModel open;
+    open.model.Change("pin", open.model.Features().At(1));
+    open.model.SetSuppressed({"pin"}, false);
+    open.model.Move("plate", -1);
+    QVERIFY(!open.model.UndoStack().canUndo());
+}
+
+void tst_PartModel::ANewNameReachesTheUsers()
+{
+    OpenModel open;
+    open.model.Change("pin", NewFeature("bolt", FeatureKind::Cylinder));
+    QCOMPARE(open.model.Features().At(2).inputs, QStringList({"plate", "bolt"}));
+    QVERIFY(!open.model.HasFailed());
+}
+
+void tst_PartModel::SeveralAreDeletedTogether()
+{
+    OpenModel open;
+    open.model.Remove({"pin", "body"});
+    QCOMPARE(Names(open.model), QStringList({"plate"}));
+    open.model.UndoStack().undo();
+    QCOMPARE(Names(open.model), Before);
+    open.model.Remove(Before);
+    QVERIFY(open.model.Shape().IsNull());
+    QVERIFY(!open.model.HasFailed());
+}
+
+void tst_PartModel::AFailedBuildKeepsTheLastGoodShape()
+{
+    OpenModel open;
+    const double volume = Volume(open.model);
+    QSignalSpy failed(&open.model, &PartModel::BuildFailed);
+    QSignalSpy built(&open.model, &PartModel::PartBuilt);
+    open.model.Change("pin", NewFeature("pin", FeatureKind::Cylinder, {}, {{"radius", "nuts"}}));
+    QCOMPARE(failed.count(), 1);
+    QCOMPARE(built.count(), 0);
+    QVERIFY2(open.model.Failure().startsWith("pin: "), qPrintable(open.model.Failure()));
+    QCOMPARE(failed[0][0].toString(), open.model.Failure());
+    QCOMPARE(open.model.FailedFeature(), QString("pin"));
+    QCOMPARE(FieldText(open.model.Features().At(1), "radius"), QString("nuts"));
+    QCOMPARE(Volume(open.model), volume);
+}
+
+void tst_PartModel::AFailureIsOverWithTheNextGoodBuild()
+{
+    OpenModel open;
+    open.model.Change("pin", NewFeature("pin", FeatureKind::Cylinder, {}, {{"radius", "-2"}}));
+    QVERIFY(open.model.HasFailed());
+    open.model.UndoStack().undo();
+    QVERIFY(!open.model.HasFailed());
+    QCOMPARE(open.model.FailedFeature(), QString());
+}
+
+void tst_PartModel::ParametersAreFollowed()
+{
+    const EmptyDesignStores stores;
+    SetParameter("size", 10.0);
+    PartModel model;
+    model.Add(NewFeature("box", FeatureKind::Box, {}, {{"x", "2 * size"}}));
+    QCOMPARE(Volume(model), 2000.0);
+    SetParameter("size", 20.0);
+    model.Rebuild();
+    QCOMPARE(Volume(model), 4000.0);
+    QVERIFY(model.UndoStack().index() == 1);
+}
+
+void tst_PartModel::AConditionThatDoesNotHoldFailsTheBuild()
+{
+    const EmptyDesignStores stores;
+    SetParameter("size", 10.0);
+    PartModel model;
+    model.Open(SampleList(), {{"size < 20", "The size is 20 or more."}}, {});
+    QVERIFY(!model.HasFailed());
+    SetParameter("size", 20.0);
+    model.Rebuild();
+    QVERIFY2(model.Failure().contains("The size is 20 or more."), qPrintable(model.Failure()));
+    QCOMPARE(model.FailedFeature(), QString());
+    QVERIFY(!model.Shape().IsNull());
+}
+
+void tst_PartModel::TheShapeOfAFeatureIsThatOfTheLastGoodPart()
+{
+    OpenModel open;
+    QCOMPARE(Measure(open.model.ShapeOf("plate")).volume, 1000.0);
+    QVERIFY(open.model.ShapeOf("nut").IsNull());
+    // In a list that is not built, places are others.
+    open.model.Change("pin", NewFeature("pin", FeatureKind::Cylinder, {}, {{"radius", "-2"}}));
+    open.model.Move("pin", -1);
+    QVERIFY(open.model.HasFailed());
+    QCOMPARE(Measure(open.model.ShapeOf("plate")).volume, 1000.0);
+}
+
+void tst_PartModel::BodiesAreWhatNoFeatureUses()
+{
+    OpenModel open;
+    QCOMPARE(open.model.Bodies(), QStringList({"body"}));
+    open.model.Remove({"body"});
+    QCOMPARE(open.model.Bodies(), QStringList({"plate", "pin"}));
+}
+
+void tst_PartModel::OpeningForgetsWhatWasBefore()
+{
+    OpenModel open;
+    open.model.Remove({"body"});
+    open.model.Open(FeatureList(), {}, "/somewhere");
+    QVERIFY(!open.model.UndoStack().canUndo());
+    QVERIFY(open.model.Shape().IsNull());
+    QVERIFY(open.model.ShapeOf("plate").IsNull());
+    QCOMPARE(open.model.Folder(), QString("/somewhere"));
+}
+
+TARN_TEST_MAIN(tst_PartModel)
+#include "tst_PartModel.moc"
