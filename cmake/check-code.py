@@ -110,7 +110,7 @@ def main(arguments):
                 print(done.result(), flush=True)
             else:
                 passed[key] = mark
-    passed_file.write_text(json.dumps(passed, indent=1, sort_keys=True))
+                passed_file.write_text(json.dumps(passed, indent=1, sort_keys=True))
     print(f"clang-tidy and clazy: {len(jobs)} run(s), {failures} with findings")
     sys.exit(failures > 0)
 

@@ -1,4 +1,5 @@
-// Gives each file of the folders named on the command line to a fuzz target, in place of the fuzzer.
+// Gives each file of the folders named on the command line to a fuzz target, in place of the
+// fuzzer.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
