@@ -41,13 +41,14 @@
 #include <algorithm>
 #include <clocale>
 #include <csignal>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
-#include <sanitizer/asan_interface.h>
+// Of the sanitizer's library; the compiler does not bring its header.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #else
 #include "Heap.h"
 #endif
@@ -291,12 +292,12 @@ void Run(int steps)
 
 #ifdef __SANITIZE_ADDRESS__
 // Freed memory is kept from reuse for a while, but not so long that it passes for growth.
-extern "C" const char* __asan_default_options()
+extern "C" Q_DECL_EXPORT const char* __asan_default_options()
 {
     return "quarantine_size_mb=16";
 }
 
-extern "C" void __asan_on_error()
+extern "C" Q_DECL_EXPORT void __asan_on_error()
 {
     PrintPlace("a memory error");
 }
