@@ -295,7 +295,7 @@ void tst_AnalysisActions::ADeletedLoadsNameCanBeGivenAgain()
     };
     host.Run("action_LoadForce", accept);
     auto& tree = Find<QTreeWidget>(host.tree, "modelTree");
-    tree.setCurrentItem(tree.findItems("Loads", Qt::MatchExactly).first()->child(0));
+    tree.setCurrentItem(tree.findItems("Loads", Qt::MatchExactly).constFirst()->child(0));
     host.Trigger("action_DeleteAttribute");
     QVERIFY(host.model.Loads().empty());
     QVERIFY(!IsTaken("Default"));
