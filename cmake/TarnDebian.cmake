@@ -10,9 +10,8 @@ function(tarn_install_gzip file name component folder)
   get_filename_component(zipped_folder "${zipped}" DIRECTORY)
   file(MAKE_DIRECTORY "${zipped_folder}")
   # No name and no time in it: the same source gives the same package.
-  add_custom_command(
-    OUTPUT "${zipped}" COMMAND sh -c "gzip -9nc \"$1\" >\"$2\"" gzip "${file}" "${zipped}"
-    DEPENDS "${file}" VERBATIM)
+  add_custom_command(OUTPUT "${zipped}" COMMAND sh -c "gzip -9nc \"$1\" >\"$2\"" gzip "${file}" "${zipped}"
+                     DEPENDS "${file}" VERBATIM)
   set_property(GLOBAL APPEND PROPERTY TARN_ZIPPED "${zipped}")
   install(FILES "${zipped}" DESTINATION "${folder}" COMPONENT ${component})
 endfunction()
@@ -48,8 +47,8 @@ mark_as_advanced(TARN_SHLIBDEPS)
 if(TARN_SHLIBDEPS)
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
-      "${PROJECT_BINARY_DIR}" "${PROJECT_BINARY_DIR}/model/TarnCoreGeometry"
-      "${PROJECT_BINARY_DIR}/model/TarnDesign" "${PROJECT_BINARY_DIR}/model/TarnFEMData")
+      "${PROJECT_BINARY_DIR}" "${PROJECT_BINARY_DIR}/model/TarnCoreGeometry" "${PROJECT_BINARY_DIR}/model/TarnDesign"
+      "${PROJECT_BINARY_DIR}/model/TarnFEMData")
 endif()
 # While the major version is 0 every version may change the interface, so all ask for this very one.
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)

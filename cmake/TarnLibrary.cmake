@@ -10,20 +10,18 @@ function(tarn_finish_library target)
   string(TOLOWER ${target} lower)
   generate_export_header(${target} EXPORT_FILE_NAME "${PROJECT_BINARY_DIR}/exports/${lower}_export.h")
   # The four libraries find one another beside themselves, wherever the package stands.
-  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
-                                             INSTALL_RPATH "$ORIGIN")
+  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH
+                                                                                                           "$ORIGIN")
   set(exports "${PROJECT_SOURCE_DIR}/cmake/exports.map")
   target_link_options(${target} PRIVATE "-Wl,--version-script=${exports}")
   set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${exports}")
   if(NOT TARN_SANITIZE)
     target_link_options(${target} PRIVATE -Wl,--no-undefined)
   endif()
-  target_include_directories(
-    ${target} PUBLIC "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/exports>"
-                     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon>")
-  install(TARGETS ${target} EXPORT TarnGUICommonTargets
-          LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
-          NAMELINK_COMPONENT development)
+  target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/exports>"
+                                              "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon>")
+  install(TARGETS ${target} EXPORT TarnGUICommonTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
+                                                                NAMELINK_COMPONENT development)
   install(FILES ${arg_HEADERS} "${PROJECT_BINARY_DIR}/exports/${lower}_export.h"
           DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon COMPONENT development)
   foreach(header IN LISTS arg_HEADERS)

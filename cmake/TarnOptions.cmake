@@ -8,8 +8,7 @@ target_compile_definitions(TarnOptions INTERFACE QT_NO_KEYWORDS QT_NO_FOREACH QT
 # No silent casts between text and bytes.
 add_library(TarnStrict INTERFACE)
 target_link_libraries(TarnStrict INTERFACE TarnOptions)
-target_compile_definitions(TarnStrict INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
-                                                QT_NO_URL_CAST_FROM_STRING)
+target_compile_definitions(TarnStrict INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
 
 if(TARN_SANITIZE)
   target_compile_options(TarnOptions INTERFACE -fsanitize=${TARN_SANITIZE} -fno-sanitize-recover=all

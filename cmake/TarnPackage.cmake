@@ -6,10 +6,8 @@ configure_package_config_file(cmake/TarnGUICommonConfig.cmake.in "${PROJECT_BINA
                               INSTALL_DESTINATION ${package_dir} PATH_VARS translations_dir)
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/TarnGUICommonConfigVersion.cmake"
                                  COMPATIBILITY SameMajorVersion)
-install(EXPORT TarnGUICommonTargets NAMESPACE TarnGUICommon:: DESTINATION ${package_dir}
-        COMPONENT development)
-install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommonConfig.cmake"
-              "${PROJECT_BINARY_DIR}/TarnGUICommonConfigVersion.cmake"
+install(EXPORT TarnGUICommonTargets NAMESPACE TarnGUICommon:: DESTINATION ${package_dir} COMPONENT development)
+install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommonConfig.cmake" "${PROJECT_BINARY_DIR}/TarnGUICommonConfigVersion.cmake"
         DESTINATION ${package_dir} COMPONENT development)
 
 # The prefix is told relative to the file, so the package can be moved.

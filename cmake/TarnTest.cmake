@@ -1,10 +1,8 @@
 # A locale with a decimal comma, made for the tests: the machine need not have one.
 set(TARN_TEST_LOCALES "${PROJECT_BINARY_DIR}/locales")
 add_custom_command(
-  OUTPUT "${TARN_TEST_LOCALES}/de_DE.UTF-8/LC_NUMERIC"
-  COMMAND ${CMAKE_COMMAND} -E make_directory "${TARN_TEST_LOCALES}"
-  COMMAND localedef -i de_DE -f UTF-8 "${TARN_TEST_LOCALES}/de_DE.UTF-8"
-  VERBATIM)
+  OUTPUT "${TARN_TEST_LOCALES}/de_DE.UTF-8/LC_NUMERIC" COMMAND ${CMAKE_COMMAND} -E make_directory "${TARN_TEST_LOCALES}"
+  COMMAND localedef -i de_DE -f UTF-8 "${TARN_TEST_LOCALES}/de_DE.UTF-8" VERBATIM)
 add_custom_target(TarnTestLocales ALL DEPENDS "${TARN_TEST_LOCALES}/de_DE.UTF-8/LC_NUMERIC")
 
 set(TARN_LSAN_OPTIONS "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
@@ -41,5 +39,5 @@ function(tarn_test name)
     set(arg_TIMEOUT 120)
   endif()
   set_tests_properties(${target} PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT
-                       "QT_QPA_PLATFORM=${platform};${TARN_LSAN_OPTIONS}")
+                                            "QT_QPA_PLATFORM=${platform};${TARN_LSAN_OPTIONS}")
 endfunction()

@@ -65,7 +65,8 @@ public:
         m_dialog = std::make_unique<DOEDlg>(nullptr);
         FailOnNotices();
         m_session = std::make_unique<DoeSession>(*m_dialog);
-        QObject::connect(m_session.get(), &DoeSession::RunReady, [this] { m_isReady = true; });
+        QObject::connect(m_session.get(), &DoeSession::RunReady, m_session.get(),
+                         [this] { m_isReady = true; });
         Button("pushButton_RefreshData").click();
         FailOnNotices();
     }

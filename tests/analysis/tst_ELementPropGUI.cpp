@@ -421,7 +421,7 @@ void tst_ELementPropGUI::AddEntersARowAndARecord()
         QCOMPARE(Names(Table(shown)), QStringList({"M", "A"}));
         QCOMPARE(RowTexts(Table(shown), 1), QStringList({"A", "Shell", "Bronze"}));
         QCOMPARE(SelectedRows(Table(shown)), QVector<int>({1}));
-        QCOMPARE(Headers(Table(shown)).first(), "Property Name");
+        QCOMPARE(Headers(Table(shown)).constFirst(), "Property Name");
         Click(shown, "pushButton_Cancel");
     });
     QCOMPARE(manager.exec(), int(QDialog::Rejected));
@@ -547,7 +547,7 @@ void tst_ELementPropGUI::EditNeedsARecord()
     manager.EditProperty();
     QVERIFY(user.IsDone());
     QCOMPARE(user.Boxes(), QVector<ShownBox>({NoRecord(), NoRecord()}));
-    QCOMPARE(Headers(Table(manager)).first(), "Property Name");
+    QCOMPARE(Headers(Table(manager)).constFirst(), "Property Name");
 }
 
 void tst_ELementPropGUI::EditShowsTheRecord()
@@ -648,7 +648,7 @@ void tst_ELementPropGUI::EditCancelledKeepsHeadersAndRecord()
     manager.EditProperty();
     QVERIFY(user.IsDone());
     QCOMPARE(record->m_strName, "A");
-    QCOMPARE(Headers(Table(manager)).first(), "Property Name");
+    QCOMPARE(Headers(Table(manager)).constFirst(), "Property Name");
     QCOMPARE(Names(Table(manager)), QStringList({"A"}));
 }
 
@@ -719,7 +719,7 @@ void tst_ELementPropGUI::DeleteAsksAndRemovesTheRow()
     QCOMPARE(SelectedRows(Table(manager)), selected);
     QCOMPARE(Table(manager).selectedItems().isEmpty(), selected.isEmpty());
     QCOMPARE(Table(manager).currentRow(), selected.value(0, -1));
-    QCOMPARE(Headers(Table(manager)).first(), "Property Name");
+    QCOMPARE(Headers(Table(manager)).constFirst(), "Property Name");
 }
 
 void tst_ELementPropGUI::TheQuestionHasNoDefaultButton()

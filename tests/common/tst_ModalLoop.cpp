@@ -149,7 +149,7 @@ public:
         m_application.m_catches = arguments[1] == "notify";
         m_window.resize(300, 200);
         m_window.move(700, 500);
-        QObject::connect(&m_button, &QPushButton::clicked, [this] { ++m_clicks; });
+        QObject::connect(&m_button, &QPushButton::clicked, &m_button, [this] { ++m_clicks; });
         m_window.show();
         m_dialog.reset(m_subject.make(arguments[3] == "parent" ? &m_window : nullptr));
     }

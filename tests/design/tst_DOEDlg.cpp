@@ -653,7 +653,7 @@ void tst_DOEDlg::SlotsWithoutASenderReturn()
         AddParameters({"a"});
     ModalDriver user;
     DOEDlg dialog(nullptr);
-    const QByteArray slot = QByteArray(QTest::currentDataTag()).split(',').first();
+    const QByteArray slot = QByteArray(QTest::currentDataTag()).split(',').constFirst();
     QVERIFY(QMetaObject::invokeMethod(&dialog, slot.constData()));
     QVERIFY(g_mapParaArrays.empty());
     QVERIFY(user.IsDone());

@@ -601,7 +601,7 @@ void tst_OneParameterDlg::TheHostMayDestroyTheDialogBehindABox()
     Find<QRadioButton>(*dialog, "radioButton_Gauss").setChecked(true);
     ModalDriver user;
     user.WhileBoxOpen([dialog](QMessageBox&) { delete dialog; });
-    const QByteArray slot = QByteArray(QTest::currentDataTag()).split(',').first();
+    const QByteArray slot = QByteArray(QTest::currentDataTag()).split(',').constFirst();
     QVERIFY(QMetaObject::invokeMethod(dialog, slot.constData()));
     QVERIFY(user.IsDone());
     QCOMPARE(user.Boxes().size(), 1);

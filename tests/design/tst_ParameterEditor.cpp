@@ -168,7 +168,7 @@ void tst_ParameterEditor::RefreshKeepsHeadersAndAdaptsTheRows()
     GlobalParaMeterMgr::m_nameMapParameters.erase("b");
     editor.m_Slot_RefreshGUI();
     QCOMPARE(Table(editor).rowCount(), 2);
-    QCOMPARE(RowTexts(editor, 1).first(), "c");
+    QCOMPARE(RowTexts(editor, 1).constFirst(), "c");
     GlobalParaMeterMgr::m_nameMapParameters.clear();
     editor.m_Slot_RefreshGUI();
     QCOMPARE(Table(editor).rowCount(), 0);
@@ -264,12 +264,12 @@ void tst_ParameterEditor::DeleteRemovesTheCurrentRowOfTheTableOnly()
     Table(editor).setCurrentCell(1, NameColumn);
     Click(editor, "pushButton_Del");
     QCOMPARE(Table(editor).rowCount(), 2);
-    QCOMPARE(RowTexts(editor, 1).first(), "c");
+    QCOMPARE(RowTexts(editor, 1).constFirst(), "c");
     QCOMPARE(int(GlobalParaMeterMgr::m_nameMapParameters.count("b")), 1);
 
     Click(editor, "pushButton_Apply");
     QCOMPARE(Table(editor).rowCount(), 3);
-    QCOMPARE(RowTexts(editor, 1).first(), "b");
+    QCOMPARE(RowTexts(editor, 1).constFirst(), "b");
 }
 
 void tst_ParameterEditor::DeleteWithoutACurrentRowRemovesNothing()
@@ -300,7 +300,7 @@ void tst_ParameterEditor::ApplyWritesRebuildsAndTellsTheHostAndMayBeRepeated()
     Click(editor, "pushButton_Apply");
     QCOMPARE(spy.count(), 1);
     QCOMPARE(rowsWhenTold, 2);
-    QCOMPARE(RowTexts(editor, 0).first(), "stored");
+    QCOMPARE(RowTexts(editor, 0).constFirst(), "stored");
     QCOMPARE(Stored("a").m_strName, "a");
     QCOMPARE(Stored("a").m_dValue, 2.5);
     QCOMPARE(Stored("a").m_strDescription, "free text");
@@ -400,7 +400,7 @@ void tst_ParameterEditor::EnterInACellPressesNoButton()
     QVERIFY(editor.isVisible());
     QCOMPARE(applied.count(), 0);
     QCOMPARE(Table(editor).rowCount(), 1);
-    QCOMPARE(RowTexts(editor, 0).first(), "b");
+    QCOMPARE(RowTexts(editor, 0).constFirst(), "b");
     editor.close();
 }
 

@@ -94,7 +94,7 @@ void tst_ParameterEditorNumbers::FillingTheTableIsNotTested()
     editor.m_Slot_Apply();
     QVERIFY(user.Boxes().isEmpty());
     QCOMPARE(changed.count(), 0);
-    QCOMPARE(RowTexts(editor, 0).first(), "a");
+    QCOMPARE(RowTexts(editor, 0).constFirst(), "a");
 }
 
 void tst_ParameterEditorNumbers::NoItemIsPassedOver()

@@ -11,7 +11,15 @@ if(SANITIZE)
 endif()
 file(REMOVE_RECURSE "${WORK_DIR}")
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/prefix)
-run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR}/build -G Ninja -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix
-    -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
+run(${CMAKE_COMMAND}
+    -S
+    ${SOURCE_DIR}
+    -B
+    ${WORK_DIR}/build
+    -G
+    Ninja
+    -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix
+    -DCMAKE_CXX_COMPILER=${CXX}
+    -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
     "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror ${sanitize}")
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)

@@ -72,7 +72,8 @@ void tst_Forms::EveryFormIsHeldByOneDialog()
     QStringList holders;
     for (const char* const folder : {"common", "design", "analysis", "geometry", "solver"}) {
         const QDir directory(QStringLiteral(TARN_SOURCE_DIR "/") + folder);
-        for (const QString& header : directory.entryList({"*.h"})) {
+        const QStringList headers = directory.entryList({"*.h"});
+        for (const QString& header : headers) {
             QFile file(directory.filePath(header));
             QVERIFY(file.open(QIODevice::ReadOnly));
             if (file.readAll().contains(include))

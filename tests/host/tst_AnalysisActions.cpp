@@ -89,7 +89,8 @@ public:
 
     void Trigger(const char* name)
     {
-        for (QAction* const action : menu.actions()) {
+        const QList<QAction*> actions = menu.actions();
+        for (QAction* const action : actions) {
             if (action->objectName() == name) {
                 action->trigger();
                 return;
@@ -103,7 +104,8 @@ public:
     {
         const auto& widget = Find<QTreeWidget>(tree, "modelTree");
         QStringList texts;
-        for (const QTreeWidgetItem* const item : widget.findItems(group, Qt::MatchExactly)) {
+        const QList<QTreeWidgetItem*> items = widget.findItems(group, Qt::MatchExactly);
+        for (const QTreeWidgetItem* const item : items) {
             if (item->childCount() == 0)
                 texts << item->text(ModelTree::ValueColumn);
             for (int i = 0; i < item->childCount(); ++i)
@@ -147,7 +149,8 @@ void tst_AnalysisActions::TheMenuOffersEveryDialog()
 {
     const Host host(*this);
     QStringList texts;
-    for (const QAction* const action : host.menu.actions())
+    const QList<QAction*> actions = host.menu.actions();
+    for (const QAction* const action : actions)
         texts << action->text().remove('&');
     QCOMPARE(texts, QStringList({"Analysis type", "Boundary condition", "Load force",
                                  "Delete boundary condition or load", "", "New element property",
@@ -295,7 +298,7 @@ void tst_AnalysisActions::ADeletedLoadsNameCanBeGivenAgain()
     };
     host.Run("action_LoadForce", accept);
     auto& tree = Find<QTreeWidget>(host.tree, "modelTree");
-    tree.setCurrentItem(tree.findItems("Loads", Qt::MatchExactly).first()->child(0));
+    tree.setCurrentItem(tree.findItems("Loads", Qt::MatchExactly).constFirst()->child(0));
     host.Trigger("action_DeleteAttribute");
     QVERIFY(host.model.Loads().empty());
     QVERIFY(!IsTaken("Default"));

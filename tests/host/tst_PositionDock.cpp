@@ -131,12 +131,12 @@ void tst_PositionDock::CoordinatesAreShort_data()
 {
     QTest::addColumn<double>("coordinate");
     QTest::addColumn<QString>("text");
-    QTest::newRow("whole")          << 12.0         << "12";
-    QTest::newRow("thousandths")    << 12.3456      << "12.346";
-    QTest::newRow("noise")          << -1e-13       << "0";
-    QTest::newRow("six digits")     << 1234.5678    << "1234.57";
-    QTest::newRow("negative")       << -0.5         << "-0.5";
-    QTest::newRow("large")          << -1e6         << "-1e+06";
+    QTest::newRow("whole") << 12.0 << "12";
+    QTest::newRow("thousandths") << 12.3456 << "12.346";
+    QTest::newRow("noise") << -1e-13 << "0";
+    QTest::newRow("six digits") << 1234.5678 << "1234.57";
+    QTest::newRow("negative") << -0.5 << "-0.5";
+    QTest::newRow("large") << -1e6 << "-1e+06";
 }
 
 void tst_PositionDock::CoordinatesAreShort()
@@ -192,14 +192,14 @@ void tst_PositionDock::BadTextIsToldAndStays_data()
 {
     QTest::addColumn<QStringList>("texts");
     QTest::addColumn<int>("bad");
-    QTest::newRow("empty")          << QStringList({"", "2", "3"})      << 0;
-    QTest::newRow("a word")         << QStringList({"1", "two", "3"})   << 1;
-    QTest::newRow("comma")          << QStringList({"1", "2", "3,5"})   << 2;
-    QTest::newRow("infinite")       << QStringList({"inf", "2", "3"})   << 0;
-    QTest::newRow("not a number")   << QStringList({"1", "nan", "3"})   << 1;
-    QTest::newRow("too large")      << QStringList({"1", "2", "1.1e6"}) << 2;
-    QTest::newRow("overflow")       << QStringList({"1", "-1e400", "3"}) << 1;
-    QTest::newRow("the first of two") << QStringList({"1", "b", "%s"})  << 1;
+    QTest::newRow("empty") << QStringList({"", "2", "3"}) << 0;
+    QTest::newRow("a word") << QStringList({"1", "two", "3"}) << 1;
+    QTest::newRow("comma") << QStringList({"1", "2", "3,5"}) << 2;
+    QTest::newRow("infinite") << QStringList({"inf", "2", "3"}) << 0;
+    QTest::newRow("not a number") << QStringList({"1", "nan", "3"}) << 1;
+    QTest::newRow("too large") << QStringList({"1", "2", "1.1e6"}) << 2;
+    QTest::newRow("overflow") << QStringList({"1", "-1e400", "3"}) << 1;
+    QTest::newRow("the first of two") << QStringList({"1", "b", "%s"}) << 1;
 }
 
 void tst_PositionDock::BadTextIsToldAndStays()

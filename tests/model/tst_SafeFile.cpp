@@ -328,7 +328,7 @@ void tst_SafeFile::ACopyIsKeptOfWhatIsNotRemembered()
     Put(Name, "foreign");
     QVERIFY(file.Write(Name, "third"));
     QCOMPARE(CopiesOf(Name).size(), 1);
-    QCOMPARE(ContentOf(CopiesOf(Name).first()), QByteArray("foreign"));
+    QCOMPARE(ContentOf(CopiesOf(Name).constFirst()), QByteArray("foreign"));
     file.Clear();
     QVERIFY(file.Write(Name, "fourth"));
     QCOMPARE(CopiesOf(Name).size(), 2);

@@ -18,9 +18,18 @@ if(SANITIZE)
   set(sanitize -fsanitize=${SANITIZE})
 endif()
 if(TOOL STREQUAL "cmake")
-  run(${CMAKE_COMMAND} -S ${CONSUMER_DIR} -B ${WORK_DIR}/build -G Ninja -DCMAKE_PREFIX_PATH=${PREFIX}
-      -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
-      "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror ${sanitize}" -DHEADERS_DIR=${WORK_DIR}/headers)
+  run(${CMAKE_COMMAND}
+      -S
+      ${CONSUMER_DIR}
+      -B
+      ${WORK_DIR}/build
+      -G
+      Ninja
+      -DCMAKE_PREFIX_PATH=${PREFIX}
+      -DCMAKE_CXX_COMPILER=${CXX}
+      -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
+      "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror ${sanitize}"
+      -DHEADERS_DIR=${WORK_DIR}/headers)
   run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
 else()
   set(ENV{PKG_CONFIG_PATH} "${PREFIX}/${LIBDIR}/pkgconfig")
@@ -31,7 +40,14 @@ else()
   expect(EXISTS "${translations}/TarnGUICommon_zh_CN.qm")
   run(pkg-config --cflags --libs TarnGUICommon)
   separate_arguments(flags UNIX_COMMAND "${output}")
-  run(${CXX} -std=c++17 -fPIC ${sanitize} ${CONSUMER_DIR}/main.cpp -o ${WORK_DIR}/build/consumer ${flags})
+  run(${CXX}
+      -std=c++17
+      -fPIC
+      ${sanitize}
+      ${CONSUMER_DIR}/main.cpp
+      -o
+      ${WORK_DIR}/build/consumer
+      ${flags})
 endif()
 
 # As the loader's cache has it where the package is installed for good.

@@ -5,7 +5,13 @@ file(MAKE_DIRECTORY "${WORK_DIR}")
 set(ENV{LD_LIBRARY_PATH} "${PREFIX}/${LIBDIR}")
 run(${PREFIX}/bin/tarnhost --version)
 expect(output STREQUAL "tarnhost ${VERSION}\n")
-run(${PREFIX}/bin/tarnhost --study ${PREFIX}/share/TarnGUICommon/samples/flange.json --out ${WORK_DIR} --runs 1-2)
+run(${PREFIX}/bin/tarnhost
+    --study
+    ${PREFIX}/share/TarnGUICommon/samples/flange.json
+    --out
+    ${WORK_DIR}
+    --runs
+    1-2)
 file(STRINGS "${WORK_DIR}/results.csv" results)
 list(LENGTH results lines)
 expect(lines EQUAL 3)

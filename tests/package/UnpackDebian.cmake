@@ -67,8 +67,10 @@ run(desktop-file-validate ${entry})
 expect(NOT output)
 file(STRINGS "${entry}" icon REGEX "^Icon=tarnhost$")
 expect(icon)
-foreach(file icons/hicolor/scalable/apps/tarnhost.svg man/man1/tarnhost.1.gz TarnGUICommon/SysMaterial.xml
-             TarnGUICommon/samples/flange.json doc/libtarnguicommon-dev/file-formats.md
-             doc/libtarnguicommon-dev/schemas/Materials.xsd)
+foreach(
+  file
+  icons/hicolor/scalable/apps/tarnhost.svg man/man1/tarnhost.1.gz TarnGUICommon/SysMaterial.xml
+  TarnGUICommon/samples/flange.json doc/libtarnguicommon-dev/file-formats.md
+  doc/libtarnguicommon-dev/schemas/Materials.xsd)
   expect(EXISTS "${root}/usr/share/${file}")
 endforeach()

@@ -1,0 +1,119 @@
+#!/usr/bin/env python3
+"""Runs clang-tidy and clazy over every C++ file of a build tree, on all processors.
+
+    cmake/check-code.py [--all] <build folder> [<part of a file's path>...]
+
+A file that has passed is not looked at again until it, a header it includes, its command line, the
+configuration or a tool changes; --all forgets that. Findings are errors.
+"""
+import concurrent.futures
+import hashlib
+import json
+import os
+import pathlib
+import shlex
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+TIDY = ["clang-tidy-14", "--quiet"]
+CLAZY = ["clazy-standalone", "-checks=level1,no-old-style-connect,no-non-pod-global-static,no-connect-by-name"]
+
+
+def commands(build):
+    """The files of the tree with how each is compiled; one that several targets compile counts once."""
+    found = {}
+    for entry in json.loads((build / "compile_commands.json").read_text()):
+        path = pathlib.Path(entry["file"])
+        if path.suffix != ".cpp" or build in path.parents or ROOT not in path.parents:
+            continue
+        words = shlex.split(entry["command"])
+        start = next(i for i, word in enumerate(words) if word.startswith("-"))
+        flags = words[start : words.index("-o")]
+        # What the compiler warns about is its own affair, and it has passed.
+        flags = [flag for flag in flags if not flag.startswith("-W")]
+        found.setdefault(path, (entry["directory"], words[words.index("-o") + 1], flags))
+    return found
+
+
+def dependencies(build):
+    """What each object was made of, as the last build noted it."""
+    text = subprocess.run(["ninja", "-C", build, "-t", "deps"], check=True, capture_output=True, text=True).stdout
+    found = {}
+    for block in text.split("\n\n"):
+        lines = block.splitlines()[1 if block.startswith("ninja: ") else 0 :]
+        if lines:
+            found[lines[0].split(":")[0]] = [build / line.strip() for line in lines[1:]]
+    return found
+
+
+def state(path, known={}):
+    """Ours by content, the system's by time and size."""
+    if path not in known:
+        if ROOT in path.parents:
+            known[path] = hashlib.sha256(path.read_bytes()).hexdigest()
+        else:
+            status = path.stat()
+            known[path] = f"{status.st_mtime_ns} {status.st_size}"
+    return known[path]
+
+
+def fingerprint(tool, path, flags, files):
+    parts = [*tool, *flags]
+    for folder in [ROOT, *reversed(path.relative_to(ROOT).parents)]:
+        config = ROOT / folder / ".clang-tidy"
+        if config.exists():
+            parts.append(config.read_text())
+    parts += [f"{file} {state(file)}" for file in sorted({path, *files})]
+    return hashlib.sha256("\n".join(parts).encode()).hexdigest()
+
+
+def check(tool, path, directory, flags):
+    run = subprocess.run([*tool, str(path), "--", *flags], cwd=directory, capture_output=True, text=True)
+    noise = (" warnings generated.", " warning generated.")
+    lines = [line for line in (run.stdout + run.stderr).splitlines() if not line.endswith(noise)]
+    # clazy ends with 0 whatever it finds.
+    if run.returncode != 0 or any("warning:" in line or "error:" in line for line in lines):
+        return "\n".join(lines) or f"{tool[0]} ended with {run.returncode} for {path}"
+    return ""
+
+
+def main(arguments):
+    forget = "--all" in arguments
+    arguments = [argument for argument in arguments if argument != "--all"]
+    if not arguments:
+        sys.exit(__doc__)
+    build = pathlib.Path(arguments[0]).resolve()
+    passed_file = build / "checked.json"
+    passed = json.loads(passed_file.read_text()) if passed_file.exists() and not forget else {}
+    versions = [subprocess.run([tool[0], "--version"], capture_output=True, text=True).stdout for tool in (TIDY, CLAZY)]
+    made_of = dependencies(build)
+
+    jobs = []
+    for path, (directory, target, flags) in commands(build).items():
+        name = str(path.relative_to(ROOT))
+        if arguments[1:] and not any(part in name for part in arguments[1:]):
+            continue
+        for tool, version in zip((TIDY, CLAZY), versions):
+            key = f"{tool[0]} {name}"
+            mark = fingerprint([*tool, version], path, flags, made_of.get(target, []))
+            if passed.get(key) != mark:
+                jobs.append((key, mark, tool, path, directory, flags))
+
+    failures = 0
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        running = {pool.submit(check, *job[2:]): job for job in jobs}
+        for done in concurrent.futures.as_completed(running):
+            key, mark = running[done][:2]
+            if done.result():
+                failures += 1
+                print(done.result(), flush=True)
+            else:
+                passed[key] = mark
+                passed_file.write_text(json.dumps(passed, indent=1, sort_keys=True))
+    print(f"clang-tidy and clazy: {len(jobs)} run(s), {failures} with findings")
+    sys.exit(failures > 0)
+
+
+if __name__ == "__main__":
+    main(sys.argv[1:])

@@ -1,0 +1,330 @@
+// Opens, fills, accepts and cancels every dialog in random order: see run. What goes wrong (a
+// warning, a crash, a hang, growing memory) is named with the seed and the step, and ends the run.
+#include "ArcArrayDlg.h"
+#include "CAnalysisTypeGUI.h"
+#include "CQLTConstrainEditor.h"
+#include "CQLTElePropertyEditor.h"
+#include "CQLTLoadForceEditor.h"
+#include "DOEDlg.h"
+#include "ELementPropGUI.h"
+#include "EmptyAnalysisStores.h"
+#include "EmptyAttributeNames.h"
+#include "EmptyDesignStores.h"
+#include "ExternalSolver.h"
+#include "ExternalSolverOption.h"
+#include "ExtrudInputDlg.h"
+#include "KVMaterialLibrary.h"
+#include "MaterialEditer.h"
+#include "MatrixArrayDlg.h"
+#include "MeshSizeInput.h"
+#include "MirrorDialog.h"
+#include "MoveInput.h"
+#include "OneParameterDlg.h"
+#include "ParameterEditor.h"
+#include "PolygonNumInputDlg.h"
+#include "PosInputDlg.h"
+#include "RandomUser.h"
+#include "SubShapeMeshParameterDlg.h"
+#include "TestCase.h"
+#include "TruncatedConeInputDlg.h"
+#include "WedgeInputDlg.h"
+#include "frequencySetting.h"
+#include "rotateInputDlg.h"
+#include "sphereParaInputdlg.h"
+#include "torusParaInputDlg.h"
+
+#include <QFile>
+#include <Standard_Failure.hxx>
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <clocale>
+#include <csignal>
+#include <cstddef>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#ifdef __SANITIZE_ADDRESS__
+// Of the sanitizer's library; the compiler does not bring its header.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
+#else
+#include "Heap.h"
+#endif
+
+namespace {
+
+constexpr int StepsBetweenFreshStores = 50;
+constexpr unsigned SecondsForOneStep = 120;
+constexpr double WarmUp = 0.2;      // Until then whatever is made once has been made.
+constexpr double MostGrowth = 32e6; // Bytes after that, heap and resident memory alike.
+
+quint64 g_seed = 1;
+int g_step = 0;
+const char* g_dialog = "start";
+
+void PrintPlace(const char* what)
+{
+    std::fprintf(stderr, "longrun: %s; seed %llu, step %d, %s\n", what,
+                 static_cast<unsigned long long>(g_seed), g_step, g_dialog);
+}
+
+[[noreturn]] void Fail(const char* what)
+{
+    PrintPlace(what);
+    std::_Exit(1);
+}
+
+void FailOnWarning(QtMsgType type, const QMessageLogContext&, const QString& text)
+{
+    // The offscreen platform says so of size hints, and of the lists of combo boxes.
+    const bool isPlatformNoise = text.startsWith(QLatin1String("This plugin does not support"));
+    if (type == QtDebugMsg || type == QtInfoMsg || isPlatformNoise)
+        return;
+    Fail(qPrintable(text));
+}
+
+std::size_t AllocatedBytes()
+{
+#ifdef __SANITIZE_ADDRESS__
+    return __sanitizer_get_current_allocated_bytes();
+#else
+    return HeapInUse();
+#endif
+}
+
+std::size_t ResidentBytes()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        Fail("the resident memory cannot be read");
+    return file.readAll().split(' ').at(1).toULong() * std::size_t(sysconf(_SC_PAGESIZE));
+}
+
+// The geometry dialogs let the kernel's error pass; a host catches it here.
+class Application : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const Standard_Failure&) {
+            return true;
+        }
+    }
+};
+
+using Window = std::unique_ptr<QWidget>;
+
+template<class Dialog>
+Window New(Dice&)
+{
+    return std::make_unique<Dialog>(nullptr);
+}
+
+template<QDialog* (*create)(QWidget*)>
+Window New(Dice&)
+{
+    return Window(create(nullptr));
+}
+
+Window NewPropertyEditor(Dice& dice)
+{
+    static CQLTElemPropDef record;
+    auto editor = std::make_unique<CQLTElePropertyEditor>(nullptr);
+    if (dice.OneIn(2))
+        editor->SetPropData(&record);
+    return editor;
+}
+
+Window NewMaterialEditor(Dice& dice)
+{
+    auto editor = std::make_unique<MaterialEditer>(nullptr);
+    if (dice.OneIn(2))
+        editor->SetMaterialData(QStringLiteral("Steel"), {"1", "2", "3"});
+    return editor;
+}
+
+Window NewSamplingDialog(Dice& dice)
+{
+    const std::vector<QString> names = GlobalParaMeterMgr::GetAllParametersName();
+    return std::make_unique<OneParameterDlg>(nullptr, names.empty() ? QStringLiteral("none")
+                                                                    : dice.Pick(names));
+}
+
+Window NewParameterEditor(Dice&)
+{
+    auto editor = std::make_unique<ParameterEditor>(nullptr);
+    editor->m_Slot_RefreshGUI();
+    return editor;
+}
+
+struct Subject
+{
+    const char* name;
+    Window (*make)(Dice&);
+};
+
+const std::vector<Subject>& Subjects()
+{
+    static const std::vector<Subject> subjects = {
+        {"ArcArrayDlg", New<ArcArrayDlg>},
+        {"CAnalysisTypeGUI", New<CAnalysisTypeGUI>},
+        {"CQLTConstrainEditor", New<CQLTConstrainEditor>},
+        {"CQLTElePropertyEditor", NewPropertyEditor},
+        {"CQLTLoadForceEditor", New<CQLTLoadForceEditor>},
+        {"DOEDlg", New<DOEDlg>},
+        {"ELementPropGUI", New<ELementPropGUI>},
+        {"ExternalSolverOption", New<ExternalSolverOption>},
+        {"ExtrudInputDlg", New<ExtrudInputDlg>},
+        {"KVMaterialLibrary", New<KVMaterialLibrary>},
+        {"MaterialEditer", NewMaterialEditor},
+        {"MatrixArrayDlg", New<MatrixArrayDlg>},
+        {"MeshSizeInput", New<MeshSizeInput>},
+        {"MirrorDialog", New<MirrorDialog>},
+        {"MoveInput", New<MoveInput>},
+        {"OneParameterDlg", NewSamplingDialog},
+        {"ParameterEditor", NewParameterEditor},
+        {"PolygonNumInputDlg", New<PolygonNumInputDlg>},
+        {"PosInputDlg", New<PosInputDlg>},
+        {"ResultSetting", New<CreateResultSetting>},
+        {"SolverSetting", New<CreateSolverSetting>},
+        {"SubShapeMeshParameterDlg", New<SubShapeMeshParameterDlg>},
+        {"TruncatedConeInputDlg", New<TruncatedConeInputDlg>},
+        {"WedgeInputDlg", New<WedgeInputDlg>},
+        {"frequencySetting", New<frequencySetting>},
+        {"rotateInputDlg", New<rotateInputDlg>},
+        {"sphereParaInputdlg", New<sphereParaInputdlg>},
+        {"torusParaInputDlg", New<torusParaInputDlg>},
+    };
+    return subjects;
+}
+
+// What users entered until now is forgotten: that memory grows with it says nothing.
+void FillStores(Dice& dice)
+{
+    {
+        const EmptyAnalysisStores analysis;
+        const EmptyAttributeNames names;
+        const EmptyDesignStores design;
+    }
+    for (const char* const name : {"a", "b", "c"}) {
+        ParametersDef record;
+        record.m_strName = QString::fromLatin1(name);
+        record.m_nType = 1;
+        record.m_dValue = 1 + dice.Below(9);
+        record.m_strValue = QString::number(record.m_dValue);
+        GlobalParaMeterMgr::AddParameter(record.m_strName, record);
+    }
+    for (const char* const file : {"SysMaterial.xml", "UserMaterial.xml", "ElementProperty.xml"})
+        QFile::remove(QString::fromLatin1(file));
+    if (!dice.OneIn(4))
+        QFile::copy(QStringLiteral(TARN_SOURCE_DIR "/model/TarnFEMData/SysMaterial.xml"),
+                    QStringLiteral("SysMaterial.xml"));
+    std::setlocale(LC_ALL, dice.OneIn(2) ? "C.UTF-8" : "de_DE.UTF-8");
+}
+
+// The most memory seen after the warm-up, against what there was at its end.
+class Memory
+{
+public:
+    explicit Memory(int steps)
+        : m_steps(steps)
+    {
+    }
+
+    void Sample()
+    {
+        const double heap = double(AllocatedBytes());
+        const double resident = double(ResidentBytes());
+        if (g_step % std::max(1, m_steps / 20) == 0) {
+            std::printf("%6d dialogs: heap %6.1f MB, resident %6.1f MB\n", g_step, heap / 1e6,
+                        resident / 1e6);
+            std::fflush(stdout);
+        }
+        if (g_step <= m_steps * WarmUp) {
+            m_heap = std::max(m_heap, heap);
+            m_resident = std::max(m_resident, resident);
+        } else if (heap - m_heap > MostGrowth) {
+            Fail("the heap grows");
+        } else if (resident - m_resident > MostGrowth) {
+            Fail("the resident memory grows");
+        }
+    }
+
+private:
+    const int m_steps;
+    double m_heap = 0;
+    double m_resident = 0;
+};
+
+void Run(int steps)
+{
+    Dice dice(g_seed);
+    RandomUser user(dice, {QString(), QStringLiteral("missing"), QStringLiteral(OUTSIDE_PROGRAM)});
+    Memory memory(steps);
+    for (g_step = 0; g_step < steps;) {
+        if (g_step % StepsBetweenFreshStores == 0)
+            FillStores(dice);
+        ++g_step;
+        const Subject subject = dice.Pick(Subjects());
+        g_dialog = subject.name;
+        alarm(SecondsForOneStep);
+        {
+            const Window window = subject.make(dice);
+            do {
+                user.Use(*window);
+            } while (dice.OneIn(4));
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (QApplication::activeModalWidget() != nullptr)
+            Fail("a modal window was left behind");
+        memory.Sample();
+    }
+    alarm(0);
+}
+
+} // namespace
+
+#ifdef __SANITIZE_ADDRESS__
+// Freed memory is kept from reuse for a while, but not so long that it passes for growth; giving it
+// back to the system over and over would take most of the time.
+extern "C" Q_DECL_EXPORT const char* __asan_default_options()
+{
+    return "quarantine_size_mb=32:allocator_release_to_os_interval_ms=-1";
+}
+
+extern "C" Q_DECL_EXPORT void __asan_on_error()
+{
+    PrintPlace("a memory error");
+}
+#endif
+
+int main(int argc, char** argv)
+{
+    g_seed = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 1;
+    const int steps = argc > 2 ? std::atoi(argv[2]) : 10000;
+    if (argc > 3 || steps <= 0) {
+        std::fprintf(stderr, "usage: longrun [seed [number of dialogs]]\n");
+        return 2;
+    }
+    std::signal(SIGALRM, [](int) { Fail("a dialog hangs"); });
+    std::signal(SIGABRT, [](int) { Fail("a crash"); });
+#ifndef __SANITIZE_ADDRESS__
+    std::signal(SIGSEGV, [](int) { Fail("a crash"); });
+#endif
+    PrepareTestProgram();
+    qputenv("PATH", ""); // A text that is run by chance starts nothing.
+    QTemporaryDir directory;
+    QDir::setCurrent(directory.path());
+    Application application(argc, argv);
+    qInstallMessageHandler(FailOnWarning); // Now: the system's own shortcomings are said above.
+    std::printf("seed %llu, %d dialogs\n", static_cast<unsigned long long>(g_seed), steps);
+    Run(steps);
+    std::printf("passed\n");
+    return 0;
+}
