@@ -173,7 +173,7 @@ void tst_ParameterEditorExpressions::ARefusedVectorStopsTheWritingOfRows()
     // The table shows what is stored, and no longer what was typed.
     QCOMPARE(Table(editor).rowCount(), 3);
     QCOMPARE(RowTexts(editor, 0), QStringList({"v", "1,2,3", "Vector", "", "", ""}));
-    QCOMPARE(RowTexts(editor, 1)[ValueColumn], "1");
+    QCOMPARE(RowTexts(editor, 1).at(ValueColumn), "1");
 }
 
 void tst_ParameterEditorExpressions::ATypedVectorEndsAtItsEmptyCell()
@@ -242,7 +242,7 @@ void tst_ParameterEditorExpressions::RowsAreWrittenAsTheyStand()
     QVERIFY(std::isnan(Stored("bad").m_varRawValue.toDouble()));
     QCOMPARE(Stored("bad").m_strValue, "nan");
     editor.m_Slot_Apply();
-    QCOMPARE(RowTexts(editor, 3)[ValueColumn], "nan");
+    QCOMPARE(RowTexts(editor, 3).at(ValueColumn), "nan");
 }
 
 void tst_ParameterEditorExpressions::ARowWithoutItemsIsWrittenUnderTheEmptyName()
@@ -309,7 +309,7 @@ void tst_ParameterEditorExpressions::TextsPassThroughTheLocalCodePage()
     editor.m_Slot_Apply();
     QCOMPARE(Stored("b").m_strExpression, tarn::ToLocal8Bit(QStringLiteral("长度*3")));
     QCOMPARE(Stored("b").m_dValue, 6.0);
-    QCOMPARE(RowTexts(editor, 1)[ExpressionColumn], QStringLiteral("长度*3"));
+    QCOMPARE(RowTexts(editor, 1).at(ExpressionColumn), QStringLiteral("长度*3"));
 }
 
 void tst_ParameterEditorExpressions::TheResultIsShownWithSixDigits_data()
@@ -337,7 +337,7 @@ void tst_ParameterEditorExpressions::TheResultIsShownWithSixDigits()
     AddExpression(editor, "b", expression, "a");
     editor.m_Slot_Apply();
     QTEST(Stored("b").m_strValue, "text");
-    QTEST(RowTexts(editor, 1)[ValueColumn], "text");
+    QTEST(RowTexts(editor, 1).at(ValueColumn), "text");
 }
 
 void tst_ParameterEditorExpressions::TheListOfNamesIsChecked_data()

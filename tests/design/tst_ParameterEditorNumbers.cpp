@@ -55,7 +55,7 @@ void tst_ParameterEditorNumbers::OnlyPlainNumbersAreAcceptedInTheValueColumn()
     user.Then([&](QDialog& shown) {
         TypeIntoCell(shown, 0, ValueColumn, text);
         QTRY_COMPARE(user.Boxes().size(), accepted ? 0 : 1);
-        QTRY_COMPARE(RowTexts(shown, 0)[ValueColumn], accepted ? text : QString());
+        QTRY_COMPARE(RowTexts(shown, 0).at(ValueColumn), accepted ? text : QString());
         shown.reject();
     });
     editor.exec();

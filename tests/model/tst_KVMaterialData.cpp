@@ -579,7 +579,7 @@ void tst_KVMaterialData::AFileNotReadIsKeptAsACopy()
 
     const QStringList copies = CopiesOf("UserMaterial.xml");
     QCOMPARE(copies.size(), 1);
-    const QRegularExpression name("^UserMaterial\\.xml\\.\\d{8}-\\d{6}-\\d{3}\\.bak$");
+    static const QRegularExpression name("^UserMaterial\\.xml\\.\\d{8}-\\d{6}-\\d{3}\\.bak$");
     QVERIFY2(name.match(copies.first()).hasMatch(), qPrintable(copies.first()));
     QCOMPARE(ContentOf(copies.first()), content);
 

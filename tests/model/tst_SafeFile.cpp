@@ -345,7 +345,8 @@ void tst_SafeFile::CopiesDoNotReplaceEachOther()
         QVERIFY(file.Write(Name, "new"));
     }
     QSet<QByteArray> contents;
-    for (const QString& copy : CopiesOf(Name))
+    const QStringList copies = CopiesOf(Name);
+    for (const QString& copy : copies)
         contents.insert(ContentOf(copy));
     QCOMPARE(contents.size(), count);
 }
