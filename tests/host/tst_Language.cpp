@@ -10,9 +10,13 @@
 #include "TestCase.h"
 
 #include <QAbstractButton>
+#include <QAction>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QToolButton>
 #include <TopoDS_Shape.hxx>
 
 #include <functional>
@@ -26,6 +30,8 @@ private Q_SLOTS:
     void EveryKnownLanguageIsSpoken_data();
     void EveryKnownLanguageIsSpoken();
     void TheToolkitsButtonsSpeakTheLanguage();
+    void TheToolBarShowsNoAccessKeys_data();
+    void TheToolBarShowsNoAccessKeys();
     void ReasonsSpeakTheLanguage_data();
     void ReasonsSpeakTheLanguage();
     void TheBestOfTheUsersLanguagesIsTaken_data();
@@ -88,18 +94,46 @@ void tst_Language::TheToolkitsButtonsSpeakTheLanguage()
     QCOMPARE(box.button(QMessageBox::Cancel)->text(), QString("取消"));
 }
 
+void tst_Language::TheToolBarShowsNoAccessKeys_data()
+{
+    QTest::addColumn<QString>("inMenu");
+    QTest::addColumn<QString>("onToolBar");
+    QTest::newRow("en") << "F&ront"
+                        << "Front";
+    QTest::newRow("zh_CN") << "前视(&R)"
+                           << "前视";
+}
+
+void tst_Language::TheToolBarShowsNoAccessKeys()
+{
+    const Language language(QTest::currentDataTag());
+    const MainWindow window;
+    const auto* const front = window.findChild<QAction*>("action_FrontView");
+    QVERIFY(front != nullptr);
+    QTEST(front->text(), "inMenu");
+    const QToolButton* button = nullptr;
+    const auto buttons = window.findChildren<QToolButton*>();
+    for (const QToolButton* const candidate : buttons) {
+        if (candidate->defaultAction() == front)
+            button = candidate;
+    }
+    QVERIFY(button != nullptr);
+    QTEST(button->text(), "onToolBar");
+    QTEST(button->toolTip(), "onToolBar");
+}
+
 void tst_Language::ReasonsSpeakTheLanguage_data()
 {
     QTest::addColumn<QStringList>("reasons");
     QTest::newRow("en") << QStringList(
         {"it: Size x is 0, but has to be from 0.0001 to 1000000 mm.",
-         "it: Number (\"2.5\") is 2.5, but has to be a whole number from 1 to 10000.",
+         "it: Number (\"5 / 2\") is 2.5, but has to be a whole number from 1 to 10000.",
          "it: a feature of the kind \"box\" takes no input, but there are 1.",
          "feature 1 has no \"name\"",
          "none.step: it cannot be opened: No such file or directory."});
     QTest::newRow("zh_CN") << QStringList(
         {"it: 尺寸 x 为 0，但必须为 0.0001 至 1000000 mm。",
-         "it: 数量 (\"2.5\") 为 2.5，但必须为 1 至 10000 的整数。",
+         "it: 数量 (\"5 / 2\") 为 2.5，但必须为 1 至 10000 的整数。",
          "it: 类型为“box”的特征不需要输入，但现有 1 个。", "特征 1 缺少“name”",
          "none.step: 无法打开：No such file or directory。"});
 }
@@ -112,7 +146,7 @@ void tst_Language::ReasonsSpeakTheLanguage()
     flat.fields[0] = "0";
     Feature halves = FeatureKinds::MakeFeature(FeatureKind::PolarArray);
     halves.name = "it";
-    halves.fields.last() = "2.5";
+    halves.fields.last() = "5 / 2";
     Feature user = FeatureKinds::MakeFeature(FeatureKind::Box);
     user.name = "it";
     user.inputs << "other";
