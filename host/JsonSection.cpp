@@ -18,11 +18,11 @@ JsonSection::JsonSection(QString place, const QJsonValue& value,
     , m_object(value.toObject())
 {
     if (!value.isObject())
-        Fail(QStringLiteral("is no object"));
+        Fail(JsonError::tr("is no object"));
     const QStringList found = m_object.keys();
     for (const QString& key : found) {
         if (std::find(keys.begin(), keys.end(), key) == keys.end())
-            Fail(QStringLiteral("has the unknown entry %1").arg(Quoted(key)));
+            Fail(JsonError::tr("has the unknown entry %1").arg(Quoted(key)));
     }
 }
 
@@ -32,7 +32,7 @@ QString JsonSection::Text(QLatin1String key, const QString& byDefault) const
         return byDefault;
     const QJsonValue value = m_object.value(key);
     if (!value.isString())
-        FailAt(key, QStringLiteral("a text"));
+        FailAt(key, JsonError::tr("a text"));
     return value.toString();
 }
 
@@ -40,17 +40,17 @@ QString JsonSection::NeededText(QLatin1String key) const
 {
     QString text = Text(key);
     if (text.isEmpty())
-        Fail(QStringLiteral("has no \"%1\"").arg(key));
+        Fail(JsonError::tr("has no \"%1\"").arg(key));
     return text;
 }
 
 double JsonSection::Number(QLatin1String key) const
 {
     if (!Has(key))
-        Fail(QStringLiteral("has no \"%1\"").arg(key));
+        Fail(JsonError::tr("has no \"%1\"").arg(key));
     const QJsonValue value = m_object.value(key);
     if (!value.isDouble())
-        FailAt(key, QStringLiteral("a number"));
+        FailAt(key, JsonError::tr("a number"));
     return value.toDouble();
 }
 
@@ -60,7 +60,7 @@ bool JsonSection::Flag(QLatin1String key, bool byDefault) const
         return byDefault;
     const QJsonValue value = m_object.value(key);
     if (!value.isBool())
-        FailAt(key, QStringLiteral("true or false"));
+        FailAt(key, JsonError::tr("true or false"));
     return value.toBool();
 }
 
@@ -68,7 +68,7 @@ QJsonArray JsonSection::Array(QLatin1String key) const
 {
     const QJsonValue value = m_object.value(key);
     if (Has(key) && !value.isArray())
-        FailAt(key, QStringLiteral("a list"));
+        FailAt(key, JsonError::tr("a list"));
     return value.toArray();
 }
 
@@ -79,7 +79,7 @@ std::vector<double> JsonSection::Numbers(QLatin1String key) const
     numbers.reserve(std::size_t(array.size()));
     for (const QJsonValue& value : array) {
         if (!value.isDouble())
-            FailAt(key, QStringLiteral("a list of numbers"));
+            FailAt(key, JsonError::tr("a list of numbers"));
         numbers.push_back(value.toDouble());
     }
     return numbers;
@@ -91,7 +91,7 @@ QStringList JsonSection::Texts(QLatin1String key) const
     const QJsonArray array = Array(key);
     for (const QJsonValue& value : array) {
         if (!value.isString())
-            FailAt(key, QStringLiteral("a list of texts"));
+            FailAt(key, JsonError::tr("a list of texts"));
         texts << value.toString();
     }
     return texts;
@@ -104,5 +104,5 @@ void JsonSection::Fail(const QString& what) const
 
 void JsonSection::FailAt(QLatin1String key, const QString& wanted) const
 {
-    Fail(QStringLiteral("has a \"%1\" that is not %2").arg(key, wanted));
+    Fail(JsonError::tr("has a \"%1\" that is not %2").arg(key, wanted));
 }

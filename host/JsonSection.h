@@ -2,6 +2,7 @@
 
 #include "HostError.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -13,6 +14,8 @@
 /// What is wrong with a JSON file: one line.
 class JsonError : public HostError
 {
+    Q_DECLARE_TR_FUNCTIONS(JsonError)
+
 public:
     using HostError::HostError;
 };

@@ -43,7 +43,7 @@ void ReadValue(const JsonSection& section, ParametersDef& record)
 {
     if (!section.Has(ValueKey)) {
         if (record.m_strExpression.empty())
-            section.Fail(QStringLiteral("has neither \"value\" nor \"expression\""));
+            section.Fail(JsonError::tr("has neither \"value\" nor \"expression\""));
         return;
     }
     switch (record.m_nType) {
@@ -58,7 +58,7 @@ void ReadValue(const JsonSection& section, ParametersDef& record)
     case VectorType: {
         const std::vector<double> components = section.Numbers(ValueKey);
         if (components.size() != 3)
-            section.FailAt(ValueKey, QStringLiteral("a list of three numbers"));
+            section.FailAt(ValueKey, JsonError::tr("a list of three numbers"));
         record.m_dX = components[0];
         record.m_dY = components[1];
         record.m_dZ = components[2];
@@ -77,13 +77,13 @@ ParametersDef ReadParameter(const QJsonValue& value, int number)
 {
     const std::initializer_list<QLatin1String> keys = {NameKey,       TypeKey, ValueKey,
                                                        ExpressionKey, UsesKey, DescriptionKey};
-    const QString place = QStringLiteral("parameter %1").arg(number);
+    const QString place = JsonError::tr("parameter %1").arg(number);
     const QString name = JsonSection(place, value, keys).NeededText(NameKey);
-    const JsonSection section(QStringLiteral("%1, %2,").arg(place, Quoted(name)), value, keys);
+    const JsonSection section(JsonError::tr("%1, %2,").arg(place, Quoted(name)), value, keys);
 
     // Such a name could not be told in a list of names.
     if (name.contains(QLatin1Char(',')))
-        section.Fail(QStringLiteral("has a comma in its name"));
+        section.Fail(JsonError::tr("has a comma in its name"));
 
     ParametersDef record;
     record.m_strName = name;
@@ -94,7 +94,7 @@ ParametersDef ReadParameter(const QJsonValue& value, int number)
             record.m_nType = int(code);
     }
     if (record.m_nType < 0)
-        section.Fail(QStringLiteral("has the unknown type %1").arg(Quoted(type)));
+        section.Fail(JsonError::tr("has the unknown type %1").arg(Quoted(type)));
     record.m_strExpression = section.Text(ExpressionKey).toLocal8Bit().toStdString();
     record.m_strExpressPara = section.Texts(UsesKey).join(QLatin1Char(','));
     record.m_strDescription = section.Text(DescriptionKey);
@@ -107,22 +107,22 @@ void CheckRange(const JsonSection& section, const Project::Samples& samples)
     constexpr double MostSamples = 1000000.0;
     const double length = samples.max - samples.min;
     if (!(length > 0.0))
-        section.Fail(QStringLiteral("has a \"max\" that is not above \"min\""));
+        section.Fail(JsonError::tr("has a \"max\" that is not above \"min\""));
     if (!(samples.delta > 0.0))
-        section.Fail(QStringLiteral("has a \"delta\" that is not above 0"));
+        section.Fail(JsonError::tr("has a \"delta\" that is not above 0"));
     if (samples.delta > length)
-        section.Fail(QStringLiteral("has a \"delta\" that is greater than the range"));
+        section.Fail(JsonError::tr("has a \"delta\" that is greater than the range"));
     if (!(length / samples.delta < MostSamples))
-        section.Fail(QStringLiteral("has more than a million samples"));
+        section.Fail(JsonError::tr("has more than a million samples"));
 }
 
 Project::Samples ReadSamples(const QJsonValue& value, int number)
 {
     const std::initializer_list<QLatin1String> keys = {ParameterKey, MinKey,    MaxKey,   DeltaKey,
                                                        SpacingKey,   ValuesKey, TickedKey};
-    const QString place = QStringLiteral("sample list %1").arg(number);
+    const QString place = JsonError::tr("sample list %1").arg(number);
     const QString name = JsonSection(place, value, keys).NeededText(ParameterKey);
-    const JsonSection section(QStringLiteral("%1, %2,").arg(place, Quoted(name)), value, keys);
+    const JsonSection section(JsonError::tr("%1, %2,").arg(place, Quoted(name)), value, keys);
 
     Project::Samples samples;
     samples.name = name;
@@ -130,11 +130,11 @@ Project::Samples ReadSamples(const QJsonValue& value, int number)
     if (section.Has(ValuesKey)) {
         for (const QLatin1String key : {MinKey, MaxKey, DeltaKey, SpacingKey}) {
             if (section.Has(key))
-                section.Fail(QStringLiteral("has both \"values\" and \"%1\"").arg(key));
+                section.Fail(JsonError::tr("has both \"values\" and \"%1\"").arg(key));
         }
         samples.values = section.Numbers(ValuesKey);
         if (samples.values.empty())
-            section.Fail(QStringLiteral("has no values"));
+            section.Fail(JsonError::tr("has no values"));
         return samples;
     }
     samples.min = section.Number(MinKey);
@@ -149,7 +149,7 @@ Project::Samples ReadSamples(const QJsonValue& value, int number)
             samples.spacing = int(code);
     }
     if (samples.spacing < 0)
-        section.Fail(QStringLiteral("has the unknown spacing %1").arg(Quoted(word)));
+        section.Fail(JsonError::tr("has the unknown spacing %1").arg(Quoted(word)));
     return samples;
 }
 
@@ -157,15 +157,15 @@ QByteArray ReadFile(const QString& path)
 {
     // A folder can be opened like a file, and only reading it fails, without a reason.
     if (QFileInfo(path).isDir())
-        throw JsonError(QStringLiteral("is a folder, not a file"));
+        throw JsonError(JsonError::tr("is a folder, not a file"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw JsonError(QStringLiteral("cannot be opened: %1").arg(file.errorString()));
+        throw JsonError(JsonError::tr("cannot be opened: %1").arg(file.errorString()));
     QByteArray bytes = file.read(Project::MaximumFileSize + 1);
     if (file.error() != QFileDevice::NoError)
-        throw JsonError(QStringLiteral("cannot be read: %1").arg(file.errorString()));
+        throw JsonError(JsonError::tr("cannot be read: %1").arg(file.errorString()));
     if (bytes.size() > Project::MaximumFileSize)
-        throw JsonError(QStringLiteral("is larger than %1 MB, which no project is")
+        throw JsonError(JsonError::tr("is larger than %1 MB, which no project is")
                             .arg(Project::MaximumFileSize >> 20));
     return bytes;
 }
@@ -175,7 +175,7 @@ QJsonValue ParseJson(const QByteArray& bytes)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError)
-        throw JsonError(QStringLiteral("is no valid JSON: %1 at byte %2")
+        throw JsonError(JsonError::tr("is no valid JSON: %1 at byte %2")
                             .arg(error.errorString())
                             .arg(error.offset));
     return document.isObject() ? QJsonValue(document.object()) : QJsonValue();
@@ -220,12 +220,11 @@ void Project::Read(const QJsonValue& json)
     // The version first: a newer file may have entries that are unknown here.
     const double version = json.toObject().value(VersionKey).toDouble(Version);
     if (version > Version)
-        throw JsonError(
-            QStringLiteral("the project is of version %1; this program reads version %2")
-                .arg(version)
-                .arg(Version));
+        throw JsonError(JsonError::tr("the project is of version %1; this program reads version %2")
+                            .arg(version)
+                            .arg(Version));
     const JsonSection root(
-        QStringLiteral("the project"), json,
+        JsonError::tr("the project"), json,
         {VersionKey, TitleKey, DensityKey, ParametersKey, SamplesKey, FeaturesKey, ConditionsKey});
     if (root.Number(VersionKey) != Version)
         root.FailAt(VersionKey, QString::number(Version));
@@ -234,7 +233,7 @@ void Project::Read(const QJsonValue& json)
     if (root.Has(DensityKey))
         m_density = root.Number(DensityKey);
     if (!(m_density > 0.0))
-        root.FailAt(DensityKey, QStringLiteral("above 0"));
+        root.FailAt(DensityKey, JsonError::tr("above 0"));
 
     QSet<QString> names;
     const QJsonArray parameters = root.Array(ParametersKey);
@@ -242,7 +241,7 @@ void Project::Read(const QJsonValue& json)
         m_parameters.push_back(ReadParameter(value, int(m_parameters.size()) + 1));
         const QString& name = m_parameters.back().m_strName;
         if (names.contains(name))
-            root.Fail(QStringLiteral("has two parameters %1").arg(Quoted(name)));
+            root.Fail(JsonError::tr("has two parameters %1").arg(Quoted(name)));
         names.insert(name);
     }
 
@@ -252,10 +251,9 @@ void Project::Read(const QJsonValue& json)
         m_samples.push_back(ReadSamples(value, int(m_samples.size()) + 1));
         const QString& name = m_samples.back().name;
         if (!names.contains(name))
-            root.Fail(
-                QStringLiteral("has samples for %1, which is no parameter").arg(Quoted(name)));
+            root.Fail(JsonError::tr("has samples for %1, which is no parameter").arg(Quoted(name)));
         if (sampled.contains(name))
-            root.Fail(QStringLiteral("has two sample lists for %1").arg(Quoted(name)));
+            root.Fail(JsonError::tr("has two sample lists for %1").arg(Quoted(name)));
         sampled.insert(name);
     }
 
@@ -310,14 +308,14 @@ void Project::Save(const QString& path)
     try {
         read.Read(ParseJson(bytes));
     } catch (const JsonError& error) {
-        fail(QStringLiteral("the project cannot be saved: %1").arg(error.Reason()));
+        fail(JsonError::tr("the project cannot be saved: %1").arg(error.Reason()));
     }
 
     if (bytes.size() > MaximumFileSize)
-        fail(QStringLiteral("the project is larger than %1 MB").arg(MaximumFileSize >> 20));
+        fail(JsonError::tr("the project is larger than %1 MB").arg(MaximumFileSize >> 20));
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        fail(QStringLiteral("cannot be written: %1").arg(file.errorString()));
+        fail(JsonError::tr("cannot be written: %1").arg(file.errorString()));
     read.m_path = path;
     *this = read;
 }
@@ -327,7 +325,7 @@ BuiltPart Project::Build() const
     CheckConditions(m_conditions);
     BuiltPart part = FeatureBuilder::Build(m_features, Folder());
     if (part.shape.IsNull())
-        throw BuildError(QStringLiteral("The project has no features, so there is no part."));
+        throw BuildError(BuildError::tr("The project has no features, so there is no part."));
     return part;
 }
 

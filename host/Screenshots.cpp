@@ -163,7 +163,6 @@ const Picture Pictures[] = {
 
 bool WritePicture(QWidget& window, const QString& path)
 {
-    window.setAttribute(Qt::WA_DontShowOnScreen);
     window.show();
     QCoreApplication::processEvents();
     return window.grab().save(path, "PNG");

@@ -59,16 +59,16 @@ void CheckFile(const QString& path)
     constexpr qint64 MostMegabytes = 256;
     constexpr qint64 HeadSize = 1024;
     if (QFileInfo(path).isDir())
-        Fail(path, QStringLiteral("it is a folder, not a file."));
+        Fail(path, StepError::tr("it is a folder, not a file."));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        Fail(path, QStringLiteral("it cannot be opened: %1.").arg(file.errorString()));
+        Fail(path, StepError::tr("it cannot be opened: %1.").arg(file.errorString()));
     if (file.isSequential() || !file.read(HeadSize).contains(BeginMark))
-        Fail(path, QStringLiteral("it is no STEP file."));
+        Fail(path, StepError::tr("it is no STEP file."));
     if (file.size() > MostMegabytes << 20)
-        Fail(path, QStringLiteral("it is larger than %1 MB.").arg(MostMegabytes));
+        Fail(path, StepError::tr("it is larger than %1 MB.").arg(MostMegabytes));
     if (!EndsComplete(path))
-        Fail(path, QStringLiteral("it is not complete."));
+        Fail(path, StepError::tr("it is not complete."));
 }
 
 void CheckExtent(const TopoDS_Shape& shape, const QString& path)
@@ -77,12 +77,12 @@ void CheckExtent(const TopoDS_Shape& shape, const QString& path)
     Bnd_Box box;
     BRepBndLib::Add(shape, box);
     if (box.IsVoid())
-        Fail(path, QStringLiteral("there is no shape in it."));
+        Fail(path, StepError::tr("there is no shape in it."));
     for (const gp_Pnt& corner : {box.CornerMin(), box.CornerMax()}) {
         for (int axis = 1; axis <= 3; ++axis) {
             // Written so that what is no number is refused too.
             if (!(std::abs(corner.Coord(axis)) <= Farthest))
-                Fail(path, QStringLiteral("its shape reaches farther than 1000 m."));
+                Fail(path, StepError::tr("its shape reaches farther than 1000 m."));
         }
     }
 }
@@ -96,15 +96,15 @@ TopoDS_Shape ReadStepFile(const QString& path)
         const QuietKernel quiet;
         STEPControl_Reader reader;
         if (reader.ReadFile(QFile::encodeName(path).constData()) != IFSelect_RetDone)
-            Fail(path, QStringLiteral("it cannot be read as a STEP file."));
+            Fail(path, StepError::tr("it cannot be read as a STEP file."));
         reader.TransferRoots();
         TopoDS_Shape shape = reader.OneShape();
         if (shape.IsNull())
-            Fail(path, QStringLiteral("there is no shape in it."));
+            Fail(path, StepError::tr("there is no shape in it."));
         CheckExtent(shape, path);
         return shape;
     } catch (const Standard_Failure& failure) {
-        Fail(path, QStringLiteral("the geometry kernel failed: %1")
+        Fail(path, StepError::tr("the geometry kernel failed: %1")
                        .arg(QString::fromLocal8Bit(failure.GetMessageString())));
     }
 }
@@ -117,19 +117,19 @@ void WriteStepFile(const TopoDS_Shape& shape, const QString& path)
         const QuietKernel quiet;
         STEPControl_Writer writer;
         if (writer.Transfer(shape, STEPControl_AsIs) != IFSelect_RetDone)
-            Fail(path, QStringLiteral("the kernel could not translate the part."));
+            Fail(path, StepError::tr("the kernel could not translate the part."));
         if (writer.Write(partName.constData()) != IFSelect_RetDone || !EndsComplete(part)) {
             QFile::remove(part);
-            Fail(path, QStringLiteral("the file could not be written."));
+            Fail(path, StepError::tr("the file could not be written."));
         }
     } catch (const Standard_Failure& failure) {
         QFile::remove(part);
-        Fail(path, QStringLiteral("the geometry kernel failed: %1")
+        Fail(path, StepError::tr("the geometry kernel failed: %1")
                        .arg(QString::fromLocal8Bit(failure.GetMessageString())));
     }
     // Not QFile::rename(), which replaces nothing.
     if (std::rename(partName.constData(), QFile::encodeName(path).constData()) != 0) {
         QFile::remove(part);
-        Fail(path, QStringLiteral("the file could not be replaced."));
+        Fail(path, StepError::tr("the file could not be replaced."));
     }
 }

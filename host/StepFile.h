@@ -2,6 +2,7 @@
 
 #include "HostError.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 class TopoDS_Shape;
@@ -9,6 +10,8 @@ class TopoDS_Shape;
 /// Why a STEP file could not be written or read: one line.
 class StepError : public HostError
 {
+    Q_DECLARE_TR_FUNCTIONS(StepError)
+
 public:
     using HostError::HostError;
 };

@@ -52,8 +52,9 @@ QString WindowLanguage(const CommandLine& line)
 
 int OpenWindow(const CommandLine& line)
 {
-    const Language language(WindowLanguage(line));
+    // What is wrong with the file goes to the console, which knows no other language.
     const Project project = Project::Load(line.projectFile);
+    const Language language(WindowLanguage(line));
     ReadAnalysisFiles();
     MainWindow window;
     window.show();
@@ -63,10 +64,11 @@ int OpenWindow(const CommandLine& line)
 
 int WritePictures(const CommandLine& line)
 {
+    const Project project = Project::Load(line.projectFile);
     const Language language(WindowLanguage(line));
     if (line.isDark)
         HostApplication::setPalette(DarkPalette());
-    WriteScreenshots(Project::Load(line.projectFile), line.screenshotDirectory);
+    WriteScreenshots(project, line.screenshotDirectory);
     return DoneCode;
 }
 

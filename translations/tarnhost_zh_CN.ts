@@ -64,6 +64,200 @@
     </message>
 </context>
 <context>
+    <name>BuildError</name>
+    <message>
+        <source>its direction is zero.</source>
+        <translation>其方向为零。</translation>
+    </message>
+    <message>
+        <source>its body is not closed.</source>
+        <translation>其实体未封闭。</translation>
+    </message>
+    <message>
+        <source>its body is not valid: it may touch or cross itself.</source>
+        <translation>其实体无效：可能自相接触或自相交。</translation>
+    </message>
+    <message>
+        <source>the geometry kernel could not combine the bodies.</source>
+        <translation>几何内核无法对这些实体进行布尔运算。</translation>
+    </message>
+    <message>
+        <source>nothing is left of the body.</source>
+        <translation>运算后实体没有剩余部分。</translation>
+    </message>
+    <message>
+        <source>a fillet of %1 mm cannot be built there; it may be too large for the faces beside the edge.</source>
+        <translation>该处无法生成 %1 mm 的圆角；对边两侧的面而言可能过大。</translation>
+    </message>
+    <message>
+        <source>%1 (%2 has no value: %3.)</source>
+        <translation>%1（%2 没有值：%3。）</translation>
+    </message>
+    <message>
+        <source>it uses %1, which is suppressed.</source>
+        <translation>它使用的 %1 已被抑制。</translation>
+    </message>
+    <message>
+        <source>the geometry kernel could not build it.</source>
+        <translation>几何内核无法生成它。</translation>
+    </message>
+    <message>
+        <source>the geometry kernel could not build it: %1</source>
+        <translation>几何内核无法生成它：%1</translation>
+    </message>
+    <message>
+        <source>no input</source>
+        <translation>不需要输入</translation>
+    </message>
+    <message>
+        <source>at least %1 inputs</source>
+        <translation>至少需要 %1 个输入</translation>
+    </message>
+    <message>
+        <source>one input</source>
+        <translation>需要一个输入</translation>
+    </message>
+    <message>
+        <source>a feature of the kind &quot;%1&quot; takes %2, but there are %3.</source>
+        <translation>类型为“%1”的特征%2，但现有 %3 个。</translation>
+    </message>
+    <message>
+        <source>a feature of the kind &quot;%1&quot; has %2 fields, but there are %3.</source>
+        <translation>类型为“%1”的特征有 %2 个字段，但现有 %3 个。</translation>
+    </message>
+    <message>
+        <source>there is no file to import.</source>
+        <translation>没有要导入的文件。</translation>
+    </message>
+    <message>
+        <source>a feature of the kind &quot;%1&quot; has no file.</source>
+        <translation>类型为“%1”的特征不使用文件。</translation>
+    </message>
+    <message>
+        <source>There are %1 features; %2 are the most.</source>
+        <translation>共有 %1 个特征，最多允许 %2 个。</translation>
+    </message>
+    <message>
+        <source>the feature has no name.</source>
+        <translation>该特征没有名称。</translation>
+    </message>
+    <message>
+        <source>two features have this name.</source>
+        <translation>有两个特征使用此名称。</translation>
+    </message>
+    <message>
+        <source>it uses %1, which is no feature.</source>
+        <translation>它使用的 %1 不是特征。</translation>
+    </message>
+    <message>
+        <source>it uses %1, which does not stand before it.</source>
+        <translation>它使用的 %1 不在它之前。</translation>
+    </message>
+    <message>
+        <source>it uses %1 twice.</source>
+        <translation>它两次使用了 %1。</translation>
+    </message>
+    <message>
+        <source>%1 (%2) has no value: %3.</source>
+        <translation>%1（%2）没有值：%3。</translation>
+    </message>
+    <message>
+        <source>%1 is %2, but has to be %3.</source>
+        <translation>%1 为 %2，但必须为%3。</translation>
+    </message>
+    <message>
+        <source>the array would have %1 bodies; %2 are the most.</source>
+        <translation>阵列将有 %1 个实体，最多允许 %2 个。</translation>
+    </message>
+    <message>
+        <source>the instances would lie upon one another: their angle is %1 degrees.</source>
+        <translation>各实例将相互重叠：其夹角为 %1 度。</translation>
+    </message>
+    <message>
+        <source>the instances would lie upon one another: their distance in %1 is %2 mm.</source>
+        <translation>各实例将相互重叠：其 %1 方向间距为 %2 mm。</translation>
+    </message>
+    <message>
+        <source>the array would reach farther than %1 mm in %2.</source>
+        <translation>阵列在 %2 方向上将超出 %1 mm。</translation>
+    </message>
+    <message>
+        <source>it places no body.</source>
+        <translation>它不放置任何实体。</translation>
+    </message>
+    <message>
+        <source>angle 1 (%1) has to be below angle 2 (%2).</source>
+        <translation>角度 1（%1）必须小于角度 2（%2）。</translation>
+    </message>
+    <message>
+        <source>the sweep radius (%1) has to be below the radius (%2).</source>
+        <translation>扫掠半径（%1）必须小于半径（%2）。</translation>
+    </message>
+    <message>
+        <source>%1 min (%2) has to be below %1 max (%3).</source>
+        <translation>%1 最小值（%2）必须小于 %1 最大值（%3）。</translation>
+    </message>
+    <message>
+        <source>its direction lies in the plane of the polygon.</source>
+        <translation>其方向位于多边形所在平面内。</translation>
+    </message>
+    <message>
+        <source>%1 edges are too many for a radius of %2 mm.</source>
+        <translation>半径为 %2 mm 时，%1 条边过多。</translation>
+    </message>
+    <message>
+        <source>it is no primitive.</source>
+        <translation>它不是基本体。</translation>
+    </message>
+    <message>
+        <source>several edges meet at the point %1; choose a point on one of them alone.</source>
+        <translation>有多条边交于点 %1；请选择只位于其中一条边上的点。</translation>
+    </message>
+    <message>
+        <source>there is no edge at the point %1.</source>
+        <translation>点 %1 处没有边。</translation>
+    </message>
+    <message>
+        <source>several faces meet at the point %1; choose a point on one of them alone.</source>
+        <translation>有多个面交于点 %1；请选择只位于其中一个面上的点。</translation>
+    </message>
+    <message>
+        <source>there is no face at the point %1.</source>
+        <translation>点 %1 处没有面。</translation>
+    </message>
+    <message>
+        <source>the face at the point is not flat.</source>
+        <translation>该点处的面不是平面。</translation>
+    </message>
+    <message>
+        <source>The project has no features, so there is no part.</source>
+        <translation>项目没有特征，因此没有零件。</translation>
+    </message>
+</context>
+<context>
+    <name>DesignActions</name>
+    <message>
+        <source>&amp;Restore parameters</source>
+        <translation>恢复参数(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Parameters</source>
+        <translation>参数(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Design of &amp;Experiments</source>
+        <translation>试验设计(&amp;E)</translation>
+    </message>
+    <message>
+        <source>What was saved are the values of a run; &quot;Restore parameters&quot; brings the design back</source>
+        <translation>保存的是某次运行的值；“恢复参数”可恢复原设计</translation>
+    </message>
+    <message>
+        <source>The parameters are as before the design of experiments</source>
+        <translation>参数已恢复到试验设计之前的状态</translation>
+    </message>
+</context>
+<context>
     <name>DoeSession</name>
     <message>
         <source>Run taken: %1. The other parameters, %2 of them, have their values from before again.</source>
@@ -71,142 +265,351 @@
     </message>
 </context>
 <context>
-    <name>FlangeBuilder</name>
+    <name>FeatureDialogs</name>
     <message>
-        <source>There is no parameter &quot;%1&quot;.</source>
-        <translation>没有参数“%1”。</translation>
+        <source>%1 has to be %2; %3 was entered</source>
+        <translation>%1 必须为%2；输入的是 %3</translation>
     </message>
     <message>
-        <source>The %1 has no finite value.</source>
-        <translation>%1没有有限的值。</translation>
+        <source>A direction needs a component that is not 0; the dialog waits for one</source>
+        <translation>方向至少需要一个不为 0 的分量；对话框正等待输入</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureFields</name>
+    <message>
+        <source>no value</source>
+        <translation>无值</translation>
     </message>
     <message>
-        <source>The %1 (%2) has to be above 0.</source>
-        <translation>%1（%2）必须大于 0。</translation>
+        <source>Has to be %1</source>
+        <translation>必须为%1</translation>
     </message>
     <message>
-        <source>The %1 (%2 mm) has to be from %3 to %4 mm.</source>
-        <translation>%1（%2 mm）必须在 %3 至 %4 mm 之间。</translation>
+        <source>Fields of the feature</source>
+        <translation>特征字段</translation>
     </message>
     <message>
-        <source>The hub could not be joined to the plate.</source>
-        <translation>轮毂无法与法兰盘合并。</translation>
+        <source>Field</source>
+        <translation>字段</translation>
     </message>
     <message>
-        <source>The edge between hub and plate was not found for the fillet.</source>
-        <translation>未找到轮毂与法兰盘之间用于倒圆的边。</translation>
+        <source>Number or expression</source>
+        <translation>数值或表达式</translation>
     </message>
     <message>
-        <source>The fillet between hub and plate could not be built.</source>
-        <translation>无法生成轮毂与法兰盘之间的圆角。</translation>
+        <source>Value</source>
+        <translation>值</translation>
     </message>
     <message>
-        <source>Bore and bolt holes could not be cut.</source>
-        <translation>无法切除中心孔和螺栓孔。</translation>
+        <source>Name</source>
+        <translation>名称</translation>
     </message>
     <message>
-        <source>The finished part is no solid.</source>
-        <translation>完成的零件不是实体。</translation>
+        <source>Inputs</source>
+        <translation>输入</translation>
     </message>
     <message>
-        <source>The finished part fell into several pieces.</source>
-        <translation>完成的零件分成了多块。</translation>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureKinds</name>
+    <message>
+        <source>Direction x</source>
+        <translation>方向 x</translation>
     </message>
     <message>
-        <source>The finished part is not closed.</source>
-        <translation>完成的零件不封闭。</translation>
+        <source>Direction y</source>
+        <translation>方向 y</translation>
     </message>
     <message>
-        <source>The finished part is no valid solid.</source>
-        <translation>完成的零件不是有效实体。</translation>
+        <source>Direction z</source>
+        <translation>方向 z</translation>
     </message>
     <message>
-        <source>outer diameter</source>
-        <translation>外径</translation>
+        <source>Point on axis x</source>
+        <translation>轴上点 x</translation>
     </message>
     <message>
-        <source>bore</source>
-        <translation>中心孔直径</translation>
+        <source>Point on axis y</source>
+        <translation>轴上点 y</translation>
     </message>
     <message>
-        <source>thickness</source>
-        <translation>厚度</translation>
+        <source>Point on axis z</source>
+        <translation>轴上点 z</translation>
     </message>
     <message>
-        <source>bolt circle</source>
-        <translation>螺栓孔分布圆直径</translation>
+        <source>Radius</source>
+        <translation>半径</translation>
     </message>
     <message>
-        <source>bolt hole</source>
-        <translation>螺栓孔直径</translation>
+        <source>Height</source>
+        <translation>高度</translation>
     </message>
     <message>
-        <source>hub diameter</source>
-        <translation>轮毂直径</translation>
+        <source>Angle</source>
+        <translation>角度</translation>
     </message>
     <message>
-        <source>hub height</source>
-        <translation>轮毂高度</translation>
+        <source>Angle 1</source>
+        <translation>角度 1</translation>
     </message>
     <message>
-        <source>fillet radius</source>
-        <translation>圆角半径</translation>
+        <source>Angle 2</source>
+        <translation>角度 2</translation>
     </message>
     <message>
-        <source>The number of bolt holes (%1) has to be a whole number from 1 to %2.</source>
-        <translation>螺栓孔数量（%1）必须是 1 至 %2 的整数。</translation>
+        <source>Angle 3</source>
+        <translation>角度 3</translation>
     </message>
     <message>
-        <source>The bore (%1) is not smaller than the flange (%2).</source>
-        <translation>中心孔（%1）不小于法兰（%2）。</translation>
+        <source>Box</source>
+        <translation>长方体</translation>
     </message>
     <message>
-        <source>The bore (%1) is not smaller than the hub (%2).</source>
-        <translation>中心孔（%1）不小于轮毂（%2）。</translation>
+        <source>Size x</source>
+        <translation>尺寸 x</translation>
     </message>
     <message>
-        <source>The hub (%1) is not smaller than the flange (%2).</source>
-        <translation>轮毂（%1）不小于法兰（%2）。</translation>
+        <source>Size y</source>
+        <translation>尺寸 y</translation>
     </message>
     <message>
-        <source>The fillet radius (%1) is not smaller than the hub&apos;s height (%2).</source>
-        <translation>圆角半径（%1）不小于轮毂高度（%2）。</translation>
+        <source>Size z</source>
+        <translation>尺寸 z</translation>
     </message>
     <message>
-        <source>The fillet around the hub reaches outside the flange.</source>
-        <translation>轮毂周围的圆角超出法兰。</translation>
+        <source>Cylinder</source>
+        <translation>圆柱体</translation>
     </message>
     <message>
-        <source>The bolt holes (%1 on a circle of %2) reach outside the flange (%3).</source>
-        <translation>螺栓孔（%1，分布圆 %2）超出法兰（%3）。</translation>
+        <source>Sphere</source>
+        <translation>球体</translation>
     </message>
     <message>
-        <source>The bolt holes (%1 on a circle of %2) reach into the hub (%3) or its fillet.</source>
-        <translation>螺栓孔（%1，分布圆 %2）侵入轮毂（%3）或其圆角。</translation>
+        <source>Torus</source>
+        <translation>圆环体</translation>
     </message>
     <message>
-        <source>The bolt holes overlap: %1 of %2 on a circle of %3.</source>
-        <translation>螺栓孔相互重叠：%1 个 %2 的孔位于 %3 的分布圆上。</translation>
+        <source>Sweep radius</source>
+        <translation>扫掠半径</translation>
     </message>
     <message>
-        <source>joining hub and plate</source>
-        <translation>合并轮毂与法兰盘</translation>
+        <source>Truncated cone</source>
+        <translation>圆台</translation>
     </message>
     <message>
-        <source>cutting bore and bolt holes</source>
-        <translation>切除中心孔和螺栓孔</translation>
+        <source>Base radius</source>
+        <translation>底面半径</translation>
     </message>
     <message>
-        <source>building the fillet</source>
-        <translation>生成圆角</translation>
+        <source>Top radius</source>
+        <translation>顶面半径</translation>
     </message>
     <message>
-        <source>checking the finished part</source>
-        <translation>检查完成的零件</translation>
+        <source>Wedge</source>
+        <translation>楔体</translation>
     </message>
     <message>
-        <source>The geometry kernel failed while %1: %2</source>
-        <translation>%1时几何内核失败：%2</translation>
+        <source>Base x</source>
+        <translation>底面 x</translation>
+    </message>
+    <message>
+        <source>Base z</source>
+        <translation>底面 z</translation>
+    </message>
+    <message>
+        <source>X min</source>
+        <translation>X 最小值</translation>
+    </message>
+    <message>
+        <source>X max</source>
+        <translation>X 最大值</translation>
+    </message>
+    <message>
+        <source>Z min</source>
+        <translation>Z 最小值</translation>
+    </message>
+    <message>
+        <source>Z max</source>
+        <translation>Z 最大值</translation>
+    </message>
+    <message>
+        <source>Extruded polygon</source>
+        <translation>拉伸多边形</translation>
+    </message>
+    <message>
+        <source>Number of edges</source>
+        <translation>边数</translation>
+    </message>
+    <message>
+        <source>Extrude length</source>
+        <translation>拉伸长度</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>Distance x</source>
+        <translation>距离 x</translation>
+    </message>
+    <message>
+        <source>Distance y</source>
+        <translation>距离 y</translation>
+    </message>
+    <message>
+        <source>Distance z</source>
+        <translation>距离 z</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Mirror at a point</source>
+        <translation>按点镜像</translation>
+    </message>
+    <message>
+        <source>Point x</source>
+        <translation>点 x</translation>
+    </message>
+    <message>
+        <source>Point y</source>
+        <translation>点 y</translation>
+    </message>
+    <message>
+        <source>Point z</source>
+        <translation>点 z</translation>
+    </message>
+    <message>
+        <source>Mirror at an axis</source>
+        <translation>按轴镜像</translation>
+    </message>
+    <message>
+        <source>Mirror at a face</source>
+        <translation>按面镜像</translation>
+    </message>
+    <message>
+        <source>Point on face x</source>
+        <translation>面上点 x</translation>
+    </message>
+    <message>
+        <source>Point on face y</source>
+        <translation>面上点 y</translation>
+    </message>
+    <message>
+        <source>Point on face z</source>
+        <translation>面上点 z</translation>
+    </message>
+    <message>
+        <source>Polar array</source>
+        <translation>圆周阵列</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>数量</translation>
+    </message>
+    <message>
+        <source>Rectangular array</source>
+        <translation>矩形阵列</translation>
+    </message>
+    <message>
+        <source>Number in x</source>
+        <translation>X 方向数量</translation>
+    </message>
+    <message>
+        <source>Number in y</source>
+        <translation>Y 方向数量</translation>
+    </message>
+    <message>
+        <source>Distance in x</source>
+        <translation>X 方向间距</translation>
+    </message>
+    <message>
+        <source>Distance in y</source>
+        <translation>Y 方向间距</translation>
+    </message>
+    <message>
+        <source>Fuse</source>
+        <translation>合并</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>切除</translation>
+    </message>
+    <message>
+        <source>Fillet</source>
+        <translation>圆角</translation>
+    </message>
+    <message>
+        <source>Point on edge x</source>
+        <translation>边上点 x</translation>
+    </message>
+    <message>
+        <source>Point on edge y</source>
+        <translation>边上点 y</translation>
+    </message>
+    <message>
+        <source>Point on edge z</source>
+        <translation>边上点 z</translation>
+    </message>
+    <message>
+        <source>STEP import</source>
+        <translation>STEP 导入</translation>
+    </message>
+    <message>
+        <source>above %1 and at most %2</source>
+        <translation>大于 %1 且不大于 %2</translation>
+    </message>
+    <message>
+        <source>at least %1 and below %2</source>
+        <translation>不小于 %1 且小于 %2</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation> %1 至 %2</translation>
+    </message>
+    <message>
+        <source>0 or %1</source>
+        <translation> 0 或%1</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>%1 degrees</source>
+        <translation>%1 度</translation>
+    </message>
+    <message>
+        <source>a whole number %1</source>
+        <translation>%1 的整数</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTree</name>
+    <message>
+        <source>of %1</source>
+        <translation>源自 %1</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>特征</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>特征</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Made from</source>
+        <translation>构成</translation>
     </message>
 </context>
 <context>
@@ -233,6 +636,188 @@
     </message>
 </context>
 <context>
+    <name>JsonError</name>
+    <message>
+        <source>is no object</source>
+        <translation>不是对象</translation>
+    </message>
+    <message>
+        <source>has the unknown entry %1</source>
+        <translation>有未知条目 %1</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>has no &quot;%1&quot;</source>
+        <translation>缺少“%1”</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true 或 false</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>a list of numbers</source>
+        <translation>数值列表</translation>
+    </message>
+    <message>
+        <source>a list of texts</source>
+        <translation>文本列表</translation>
+    </message>
+    <message>
+        <source>has a &quot;%1&quot; that is not %2</source>
+        <translation>的“%1”不是%2</translation>
+    </message>
+    <message>
+        <source>condition %1</source>
+        <translation>条件 %1</translation>
+    </message>
+    <message>
+        <source>%1 in its &quot;fields&quot;</source>
+        <translation>%1 的“fields”</translation>
+    </message>
+    <message>
+        <source>a number or an expression</source>
+        <translation>数值或表达式</translation>
+    </message>
+    <message>
+        <source>feature %1</source>
+        <translation>特征 %1</translation>
+    </message>
+    <message>
+        <source>%1, %2,</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>has the unknown kind %1</source>
+        <translation>的类型 %1 未知</translation>
+    </message>
+    <message>
+        <source>has neither &quot;value&quot; nor &quot;expression&quot;</source>
+        <translation>既没有“value”也没有“expression”</translation>
+    </message>
+    <message>
+        <source>a list of three numbers</source>
+        <translation>由三个数值组成的列表</translation>
+    </message>
+    <message>
+        <source>parameter %1</source>
+        <translation>参数 %1</translation>
+    </message>
+    <message>
+        <source>has a comma in its name</source>
+        <translation>的名称中有逗号</translation>
+    </message>
+    <message>
+        <source>has the unknown type %1</source>
+        <translation>的类型 %1 未知</translation>
+    </message>
+    <message>
+        <source>has a &quot;max&quot; that is not above &quot;min&quot;</source>
+        <translation>的“max”不大于“min”</translation>
+    </message>
+    <message>
+        <source>has a &quot;delta&quot; that is not above 0</source>
+        <translation>的“delta”不大于 0</translation>
+    </message>
+    <message>
+        <source>has a &quot;delta&quot; that is greater than the range</source>
+        <translation>的“delta”大于取值范围</translation>
+    </message>
+    <message>
+        <source>has more than a million samples</source>
+        <translation>的样本超过一百万个</translation>
+    </message>
+    <message>
+        <source>sample list %1</source>
+        <translation>样本列表 %1</translation>
+    </message>
+    <message>
+        <source>has both &quot;values&quot; and &quot;%1&quot;</source>
+        <translation>同时有“values”和“%1”</translation>
+    </message>
+    <message>
+        <source>has no values</source>
+        <translation>没有值</translation>
+    </message>
+    <message>
+        <source>has the unknown spacing %1</source>
+        <translation>的间隔方式 %1 未知</translation>
+    </message>
+    <message>
+        <source>is a folder, not a file</source>
+        <translation>是文件夹，不是文件</translation>
+    </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <translation>无法打开：%1</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>is larger than %1 MB, which no project is</source>
+        <translation>大于 %1 MB，不可能是项目</translation>
+    </message>
+    <message>
+        <source>is no valid JSON: %1 at byte %2</source>
+        <translation>不是有效的 JSON：%1，位于第 %2 字节</translation>
+    </message>
+    <message>
+        <source>the project is of version %1; this program reads version %2</source>
+        <translation>项目版本为 %1；本程序读取版本 %2</translation>
+    </message>
+    <message>
+        <source>the project</source>
+        <translation>项目</translation>
+    </message>
+    <message>
+        <source>above 0</source>
+        <translation>大于 0 的数</translation>
+    </message>
+    <message>
+        <source>has two parameters %1</source>
+        <translation>有两个参数 %1</translation>
+    </message>
+    <message>
+        <source>has samples for %1, which is no parameter</source>
+        <translation>有 %1 的样本，但它不是参数</translation>
+    </message>
+    <message>
+        <source>has two sample lists for %1</source>
+        <translation>有 %1 的两个样本列表</translation>
+    </message>
+    <message>
+        <source>the project cannot be saved: %1</source>
+        <translation>无法保存项目：%1</translation>
+    </message>
+    <message>
+        <source>the project is larger than %1 MB</source>
+        <translation>项目大于 %1 MB</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>无法写入：%1</translation>
+    </message>
+</context>
+<context>
+    <name>KernelMessages</name>
+    <message>
+        <source>The geometry kernel: %1</source>
+        <translation>几何内核：%1</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Tarn host</source>
@@ -243,28 +828,8 @@
         <translation>文件(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Open project</source>
-        <translation>打开项目(&amp;O)</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>退出(&amp;Q)</translation>
-    </message>
-    <message>
         <source>&amp;Design</source>
         <translation>设计(&amp;D)</translation>
-    </message>
-    <message>
-        <source>&amp;Parameters</source>
-        <translation>参数(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Design of &amp;Experiments</source>
-        <translation>试验设计(&amp;E)</translation>
-    </message>
-    <message>
-        <source>&amp;Restore parameters</source>
-        <translation>恢复参数(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Analysis</source>
@@ -275,32 +840,24 @@
         <translation>视图(&amp;V)</translation>
     </message>
     <message>
-        <source>Open project</source>
-        <translation>打开项目</translation>
-    </message>
-    <message>
-        <source>Projects (*.json);;All files (*)</source>
-        <translation>项目 (*.json);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>%1 - Tarn host</source>
-        <translation>%1 - Tarn 主程序</translation>
-    </message>
-    <message>
-        <source>Opened the project &quot;%1&quot;</source>
-        <translation>已打开项目“%1”</translation>
-    </message>
-    <message>
-        <source>The parameters are as before the design of experiments</source>
-        <translation>参数已恢复到试验设计之前的状态</translation>
-    </message>
-    <message>
         <source>The part was built</source>
         <translation>零件已生成</translation>
     </message>
     <message>
         <source>The part cannot be built: %1</source>
         <translation>无法生成零件：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>建模(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Solver</source>
+        <translation>求解器(&amp;S)</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>视图</translation>
     </message>
 </context>
 <context>
@@ -470,6 +1027,112 @@
     </message>
 </context>
 <context>
+    <name>ModelView</name>
+    <message>
+        <source>the system offers no OpenGL</source>
+        <translation>系统不提供 OpenGL</translation>
+    </message>
+    <message>
+        <source>The 3D view cannot show this: %1</source>
+        <translation>三维视图无法显示：%1</translation>
+    </message>
+</context>
+<context>
+    <name>ModellingActions</name>
+    <message>
+        <source>STEP files (*.step *.stp *.STEP *.STP);;All files (*)</source>
+        <translation>STEP 文件 (*.step *.stp *.STEP *.STP);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit feature</source>
+        <translation>编辑特征(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Move &amp;up</source>
+        <translation>上移(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move do&amp;wn</source>
+        <translation>下移(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Suppress</source>
+        <translation>抑制(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete feature</source>
+        <translation>删除特征(&amp;D)</translation>
+    </message>
+    <message>
+        <source>E&amp;xport STEP</source>
+        <translation>导出 STEP(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Add &amp;body</source>
+        <translation>添加实体(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Import STEP</source>
+        <translation>导入 STEP(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Transform</source>
+        <translation>变换(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Combine</source>
+        <translation>组合(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>镜像</translation>
+    </message>
+    <message>
+        <source>%1 takes one body, but %2 features are selected</source>
+        <translation>%1只能用于一个实体，但选中了 %2 个特征</translation>
+    </message>
+    <message>
+        <source>%1 needs a body, and there is none</source>
+        <translation>%1需要一个实体，但没有实体</translation>
+    </message>
+    <message>
+        <source>%1 needs two bodies, and there are too few</source>
+        <translation>%1需要两个实体，但实体不足</translation>
+    </message>
+    <message>
+        <source>There is no 3D view to pick a face in: type a point on the face into the fields of %1</source>
+        <translation>没有可选取面的三维视图：请在 %1 的字段中输入面上一点</translation>
+    </message>
+    <message>
+        <source>Click the face to mirror at, or press Escape</source>
+        <translation>请单击用作镜像面的面，或按 Esc 键取消</translation>
+    </message>
+    <message>
+        <source>Import STEP</source>
+        <translation>导入 STEP</translation>
+    </message>
+    <message>
+        <source>There is no shape to export</source>
+        <translation>没有可导出的形状</translation>
+    </message>
+    <message>
+        <source>Export STEP</source>
+        <translation>导出 STEP</translation>
+    </message>
+    <message>
+        <source>Wrote %1</source>
+        <translation>已写入 %1</translation>
+    </message>
+</context>
+<context>
     <name>ParameterOverview</name>
     <message>
         <source>Bool</source>
@@ -529,6 +1192,123 @@
     <message>
         <source>%1: its expression uses &quot;%2&quot;, which is no parameter</source>
         <translation>%1：其表达式使用的“%2”不是参数</translation>
+    </message>
+</context>
+<context>
+    <name>PartModel</name>
+    <message>
+        <source>There is no feature %1</source>
+        <translation>没有特征 %1</translation>
+    </message>
+    <message>
+        <source>The geometry kernel failed: %1</source>
+        <translation>几何内核失败：%1</translation>
+    </message>
+    <message>
+        <source>Add %1 %2</source>
+        <translation>添加%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 is no name: it has a comma, or a blank at its start or end</source>
+        <translation>%1 不能用作名称：其中有逗号，或首尾有空格</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>修改 %1</translation>
+    </message>
+    <message>
+        <source>Rename %1 to %2</source>
+        <translation>将 %1 重命名为 %2</translation>
+    </message>
+    <message>
+        <source>Move %1 up</source>
+        <translation>上移 %1</translation>
+    </message>
+    <message>
+        <source>Move %1 down</source>
+        <translation>下移 %1</translation>
+    </message>
+    <message>
+        <source>%1 stays where it is. %2</source>
+        <translation>%1 保持原位。%2</translation>
+    </message>
+    <message>
+        <source>Suppress %1</source>
+        <translation>抑制 %1</translation>
+    </message>
+    <message>
+        <source>Unsuppress %1</source>
+        <translation>取消抑制 %1</translation>
+    </message>
+    <message>
+        <source>%1 stays: it is used by %2</source>
+        <translation>%1 未删除：它被 %2 使用</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>删除 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PositionDock</name>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Position: %1 is &quot;%2&quot;, which is no number from %3 to %4</source>
+        <translation>位置：%1 为“%2”，不是 %3 至 %4 的数值</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectActions</name>
+    <message>
+        <source>Projects (*.json);;All files (*)</source>
+        <translation>项目 (*.json);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>&amp;Open project</source>
+        <translation>打开项目(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Save project</source>
+        <translation>保存项目(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save project &amp;as</source>
+        <translation>项目另存为(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>%1[*] - Tarn host</source>
+        <translation>%1[*] - Tarn 主程序</translation>
+    </message>
+    <message>
+        <source>Opened the project &quot;%1&quot;</source>
+        <translation>已打开项目“%1”</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>打开项目</translation>
+    </message>
+    <message>
+        <source>Save project</source>
+        <translation>保存项目</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>已保存为 %1</translation>
+    </message>
+    <message>
+        <source>Save changes?</source>
+        <translation>保存更改？</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has changes that are not saved.</source>
+        <translation>“%1”有未保存的更改。</translation>
     </message>
 </context>
 <context>
@@ -676,6 +1456,119 @@
     <message>
         <source>none</source>
         <translation>无</translation>
+    </message>
+    <message>
+        <source>The part is shown as a line drawing: %1</source>
+        <translation>零件以线框图显示：%1</translation>
+    </message>
+</context>
+<context>
+    <name>SolverActions</name>
+    <message>
+        <source>Run &amp;Nastran</source>
+        <translation>运行 Nastran(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Open results in &amp;HyperView</source>
+        <translation>在 HyperView 中打开结果(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Solver &amp;paths</source>
+        <translation>求解器路径(&amp;P)</translation>
+    </message>
+</context>
+<context>
+    <name>StepError</name>
+    <message>
+        <source>it is a folder, not a file.</source>
+        <translation>它是文件夹，不是文件。</translation>
+    </message>
+    <message>
+        <source>it cannot be opened: %1.</source>
+        <translation>无法打开：%1。</translation>
+    </message>
+    <message>
+        <source>it is no STEP file.</source>
+        <translation>它不是 STEP 文件。</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB.</source>
+        <translation>它大于 %1 MB。</translation>
+    </message>
+    <message>
+        <source>it is not complete.</source>
+        <translation>它不完整。</translation>
+    </message>
+    <message>
+        <source>there is no shape in it.</source>
+        <translation>其中没有形状。</translation>
+    </message>
+    <message>
+        <source>its shape reaches farther than 1000 m.</source>
+        <translation>其形状超出 1000 m 的范围。</translation>
+    </message>
+    <message>
+        <source>it cannot be read as a STEP file.</source>
+        <translation>无法作为 STEP 文件读取。</translation>
+    </message>
+    <message>
+        <source>the geometry kernel failed: %1</source>
+        <translation>几何内核失败：%1</translation>
+    </message>
+    <message>
+        <source>the kernel could not translate the part.</source>
+        <translation>几何内核无法转换该零件。</translation>
+    </message>
+    <message>
+        <source>the file could not be written.</source>
+        <translation>无法写入文件。</translation>
+    </message>
+    <message>
+        <source>the file could not be replaced.</source>
+        <translation>无法替换文件。</translation>
+    </message>
+</context>
+<context>
+    <name>ViewActions</name>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>适合窗口(&amp;F)</translation>
+    </message>
+    <message>
+        <source>F&amp;ront</source>
+        <translation>前视(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>后视(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Left</source>
+        <translation>左视(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Ri&amp;ght</source>
+        <translation>右视(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>俯视(&amp;T)</translation>
+    </message>
+    <message>
+        <source>B&amp;ottom</source>
+        <translation>仰视(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Isometric</source>
+        <translation>等轴测(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Shaded with edges</source>
+        <translation>带边着色(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Wireframe</source>
+        <translation>线框(&amp;W)</translation>
     </message>
 </context>
 </TS>

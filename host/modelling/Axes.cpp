@@ -13,7 +13,7 @@ gp_Dir DirectionOf(const double* components)
     const double z = components[2];
     // As the kernel tells a direction from none.
     if (std::sqrt(x * x + y * y + z * z) <= gp::Resolution())
-        throw BuildError(QStringLiteral("its direction is zero."));
+        throw BuildError(BuildError::tr("its direction is zero."));
     return gp_Dir(x, y, z);
 }
 

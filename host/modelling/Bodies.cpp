@@ -65,11 +65,11 @@ void CheckBodies(const TopoDS_Shape& shape)
             for (TopExp_Explorer shells(solids.Current(), TopAbs_SHELL); shells.More();
                  shells.Next()) {
                 if (!BRep_Tool::IsClosed(shells.Current()))
-                    throw BuildError(QStringLiteral("its body is not closed."));
+                    throw BuildError(BuildError::tr("its body is not closed."));
             }
         }
         if (!BRepCheck_Analyzer(body).IsValid())
             throw BuildError(
-                QStringLiteral("its body is not valid: it may touch or cross itself."));
+                BuildError::tr("its body is not valid: it may touch or cross itself."));
     });
 }

@@ -2,11 +2,14 @@
 
 #include "HostError.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 /// Why a part cannot be built: one line in plain words.
 class BuildError : public HostError
 {
+    Q_DECLARE_TR_FUNCTIONS(BuildError)
+
 public:
     using HostError::HostError;
 };

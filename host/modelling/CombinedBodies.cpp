@@ -28,10 +28,10 @@ TopoDS_Shape Combined(const TopoDS_Shape& first, const std::vector<TopoDS_Shape>
     operation.SetTools(toolBodies);
     operation.Build();
     if (!operation.IsDone() || operation.HasErrors())
-        throw BuildError(QStringLiteral("the geometry kernel could not combine the bodies."));
+        throw BuildError(BuildError::tr("the geometry kernel could not combine the bodies."));
     const TopoDS_Shape result = operation.Shape();
     if (result.IsNull() || !TopExp_Explorer(result, TopAbs_FACE).More())
-        throw BuildError(QStringLiteral("nothing is left of the body."));
+        throw BuildError(BuildError::tr("nothing is left of the body."));
     return Unwrapped(result);
 }
 
@@ -55,7 +55,7 @@ TopoDS_Shape FilletBody(const TopoDS_Shape& input, double radius, const gp_Pnt& 
     fillet.Add(radius, EdgeAt(input, point));
     fillet.Build();
     if (!fillet.IsDone())
-        throw BuildError(QStringLiteral("a fillet of %1 mm cannot be built there; it may be too "
+        throw BuildError(BuildError::tr("a fillet of %1 mm cannot be built there; it may be too "
                                         "large for the faces beside the edge.")
                              .arg(ShortText(radius)));
     return Unwrapped(fillet.Shape());

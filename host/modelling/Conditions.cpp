@@ -40,7 +40,7 @@ void CheckConditions(const std::vector<Condition>& conditions)
         const double value = values.Evaluate(condition.expression);
         if (std::isnan(value)) {
             const QString cause = ExpressionEngine::LastError();
-            throw BuildError(QStringLiteral("%1 (%2 has no value: %3.)")
+            throw BuildError(BuildError::tr("%1 (%2 has no value: %3.)")
                                  .arg(WithValues(condition.message, values),
                                       Quoted(condition.expression), cause));
         }
@@ -53,7 +53,7 @@ std::vector<Condition> ReadConditions(const QJsonArray& json)
 {
     std::vector<Condition> conditions;
     for (const QJsonValue& value : json) {
-        const JsonSection section(QStringLiteral("condition %1").arg(conditions.size() + 1), value,
+        const JsonSection section(JsonError::tr("condition %1").arg(conditions.size() + 1), value,
                                   {ExpressionKey, MessageKey});
         conditions.push_back({section.NeededText(ExpressionKey), section.NeededText(MessageKey)});
     }

@@ -62,7 +62,7 @@ private:
         const QString& name = feature.inputs.first();
         const TopoDS_Shape shape = m_shapes.value(name);
         if (shape.IsNull())
-            throw BuildError(QStringLiteral("it uses %1, which is suppressed.").arg(Quoted(name)));
+            throw BuildError(BuildError::tr("it uses %1, which is suppressed.").arg(Quoted(name)));
         return shape;
     }
 
@@ -101,8 +101,8 @@ auto NamingFeature(const Feature& feature, const Step& step)
         throw FeatureError(
             feature.name,
             message.isEmpty()
-                ? QStringLiteral("the geometry kernel could not build it.")
-                : QStringLiteral("the geometry kernel could not build it: %1").arg(message));
+                ? BuildError::tr("the geometry kernel could not build it.")
+                : BuildError::tr("the geometry kernel could not build it: %1").arg(message));
     }
 }
 

@@ -67,7 +67,7 @@ private:
     bool AskPolarArray();
     bool AskRectangularArray();
 
-    template<class Dialog, class TakeFields>
+    template<typename Dialog, typename TakeFields>
     bool Run(Dialog& dialog, std::initializer_list<FieldEdit> edits, TakeFields take);
 
     void Show(const QDialog& dialog, const FieldEdit& field);
@@ -121,7 +121,7 @@ void DialogRun::Show(const QDialog& dialog, const FieldEdit& field)
     m_shown.insert(QLatin1String(field.key), shown);
 }
 
-template<class Dialog, class TakeFields>
+template<typename Dialog, typename TakeFields>
 bool DialogRun::Run(Dialog& dialog, std::initializer_list<FieldEdit> edits, TakeFields take)
 {
     // A new feature's dialog opens with its own defaults.

@@ -93,6 +93,7 @@ FeatureFields::FeatureFields(PartModel& model, QWidget* parent)
     setWidget(m_table);
 
     m_table->setObjectName(QStringLiteral("fieldTable"));
+    m_table->setAccessibleName(windowTitle());
     m_table->setHorizontalHeaderLabels({tr("Field"), tr("Number or expression"), tr("Value")});
     m_table->setWordWrap(false);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);

@@ -191,20 +191,20 @@ QString FieldRule::Text() const
     const QString high = plain(greatest);
     QString text;
     if (isAboveLeast)
-        text = QStringLiteral("above %1 and at most %2").arg(low, high);
+        text = FeatureKinds::tr("above %1 and at most %2").arg(low, high);
     else if (isBelowGreatest)
-        text = QStringLiteral("at least %1 and below %2").arg(low, high);
+        text = FeatureKinds::tr("at least %1 and below %2").arg(low, high);
     else
-        text = QStringLiteral("from %1 to %2").arg(low, high);
+        text = FeatureKinds::tr("from %1 to %2").arg(low, high);
     if (isZeroAllowed)
-        text.prepend(QStringLiteral("0 or "));
+        text = FeatureKinds::tr("0 or %1").arg(text);
     switch (unit) {
     case Millimetres:
-        return text + QStringLiteral(" mm");
+        return FeatureKinds::tr("%1 mm").arg(text);
     case Degrees:
-        return text + QStringLiteral(" degrees");
+        return FeatureKinds::tr("%1 degrees").arg(text);
     case Count:
-        return QStringLiteral("a whole number ") + text;
+        return FeatureKinds::tr("a whole number %1").arg(text);
     case Number:
         break;
     }

@@ -36,7 +36,7 @@ QStringList ReadFields(const JsonSection& section, const QString& place, Feature
     keys.reserve(fields.size());
     for (const FieldKind& field : fields)
         keys.push_back(field.key);
-    const JsonSection values(place + QStringLiteral(" in its \"fields\""),
+    const JsonSection values(JsonError::tr("%1 in its \"fields\"").arg(place),
                              section.Has(FieldsKey) ? section.Value(FieldsKey) : QJsonObject(),
                              keys);
     QStringList texts;
@@ -49,7 +49,7 @@ QStringList ReadFields(const JsonSection& section, const QString& place, Feature
         else if (!values.Has(field.key))
             texts << field.defaultText;
         else
-            values.FailAt(field.key, QStringLiteral("a number or an expression"));
+            values.FailAt(field.key, JsonError::tr("a number or an expression"));
     }
     return texts;
 }
@@ -58,15 +58,15 @@ Feature ReadFeature(const QJsonValue& json, int number)
 {
     const std::vector<QLatin1String> keys = {NameKey,   KindKey,   SuppressedKey,
                                              InputsKey, FieldsKey, FileKey};
-    const QString nameless = QStringLiteral("feature %1").arg(number);
+    const QString nameless = JsonError::tr("feature %1").arg(number);
     const QString name = JsonSection(nameless, json, keys).NeededText(NameKey);
-    const QString place = QStringLiteral("%1, %2,").arg(nameless, Quoted(name));
+    const QString place = JsonError::tr("%1, %2,").arg(nameless, Quoted(name));
     const JsonSection section(place, json, keys);
 
     const QString word = section.NeededText(KindKey);
     const std::optional<FeatureKind> kind = FeatureKinds::FromWord(word);
     if (!kind.has_value())
-        section.Fail(QStringLiteral("has the unknown kind %1").arg(Quoted(word)));
+        section.Fail(JsonError::tr("has the unknown kind %1").arg(Quoted(word)));
     Feature feature;
     feature.name = name;
     feature.kind = *kind;
@@ -104,29 +104,29 @@ void CheckShape(const Feature& feature)
     const int inputs = feature.inputs.size();
     const bool tooMany = kind.mostInputs != FeatureKinds::AnyNumber && inputs > kind.mostInputs;
     if (inputs < kind.leastInputs || tooMany) {
-        QString wanted = QStringLiteral("no input");
+        QString wanted = BuildError::tr("no input");
         if (kind.mostInputs == FeatureKinds::AnyNumber)
-            wanted = QStringLiteral("at least %1 inputs").arg(kind.leastInputs);
+            wanted = BuildError::tr("at least %1 inputs").arg(kind.leastInputs);
         else if (kind.mostInputs > 0)
-            wanted = QStringLiteral("one input");
-        throw FeatureError(feature.name, QStringLiteral("a feature of the kind \"%1\" takes %2, "
+            wanted = BuildError::tr("one input");
+        throw FeatureError(feature.name, BuildError::tr("a feature of the kind \"%1\" takes %2, "
                                                         "but there are %3.")
                                              .arg(kind.word, wanted)
                                              .arg(inputs));
     }
     if (feature.fields.size() != int(kind.fields.size()))
-        throw FeatureError(feature.name, QStringLiteral("a feature of the kind \"%1\" has %2 "
+        throw FeatureError(feature.name, BuildError::tr("a feature of the kind \"%1\" has %2 "
                                                         "fields, but there are %3.")
                                              .arg(kind.word)
                                              .arg(kind.fields.size())
                                              .arg(feature.fields.size()));
     const bool isImport = feature.kind == FeatureKind::StepImport;
     if (isImport && feature.file.isEmpty())
-        throw FeatureError(feature.name, QStringLiteral("there is no file to import."));
+        throw FeatureError(feature.name, BuildError::tr("there is no file to import."));
     if (!isImport && !feature.file.isEmpty())
         throw FeatureError(
             feature.name,
-            QStringLiteral("a feature of the kind \"%1\" has no file.").arg(kind.word));
+            BuildError::tr("a feature of the kind \"%1\" has no file.").arg(kind.word));
 }
 
 } // namespace
@@ -197,13 +197,13 @@ void FeatureList::Check() const
 {
     if (Size() > MaximumSize)
         throw BuildError(
-            QStringLiteral("There are %1 features; %2 are the most.").arg(Size()).arg(MaximumSize));
+            BuildError::tr("There are %1 features; %2 are the most.").arg(Size()).arg(MaximumSize));
     QSet<QString> earlier;
     for (const Feature& feature : m_features) {
         if (feature.name.trimmed().isEmpty())
-            throw FeatureError(QStringLiteral("?"), QStringLiteral("the feature has no name."));
+            throw FeatureError(QStringLiteral("?"), BuildError::tr("the feature has no name."));
         if (earlier.contains(feature.name))
-            throw FeatureError(feature.name, QStringLiteral("two features have this name."));
+            throw FeatureError(feature.name, BuildError::tr("two features have this name."));
         CheckShape(feature);
         QSet<QString> used;
         for (const QString& input : feature.inputs) {
@@ -211,12 +211,12 @@ void FeatureList::Check() const
                 throw FeatureError(
                     feature.name,
                     Find(input) < 0
-                        ? QStringLiteral("it uses %1, which is no feature.").arg(Quoted(input))
-                        : QStringLiteral("it uses %1, which does not stand before it.")
+                        ? BuildError::tr("it uses %1, which is no feature.").arg(Quoted(input))
+                        : BuildError::tr("it uses %1, which does not stand before it.")
                               .arg(Quoted(input)));
             if (used.contains(input))
                 throw FeatureError(feature.name,
-                                   QStringLiteral("it uses %1 twice.").arg(Quoted(input)));
+                                   BuildError::tr("it uses %1 twice.").arg(Quoted(input)));
             used.insert(input);
         }
         earlier.insert(feature.name);

@@ -37,6 +37,7 @@ FeatureTree::FeatureTree(PartModel& model, QWidget* parent)
     setWidget(m_tree);
 
     m_tree->setObjectName(QStringLiteral("featureTree"));
+    m_tree->setAccessibleName(windowTitle());
     m_tree->setHeaderLabels({tr("Feature"), tr("Kind"), tr("Made from")});
     m_tree->setRootIsDecorated(false);
     m_tree->setUniformRowHeights(true);

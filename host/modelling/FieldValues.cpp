@@ -47,11 +47,11 @@ std::vector<double> FieldValues::Of(const Feature& feature)
         const double value = Evaluate(text);
         if (std::isnan(value))
             throw FeatureError(feature.name,
-                               QStringLiteral("%1 (%2) has no value: %3.")
+                               BuildError::tr("%1 (%2) has no value: %3.")
                                    .arg(label, Quoted(text), ExpressionEngine::LastError()));
         if (!field.rule.Allows(value))
             throw FeatureError(feature.name,
-                               QStringLiteral("%1 is %2, but has to be %3.")
+                               BuildError::tr("%1 is %2, but has to be %3.")
                                    .arg(Shown(label, text), ShortText(value), field.rule.Text()));
         values.push_back(value);
     }

@@ -67,7 +67,7 @@ void CheckNumber(double instances, const TopoDS_Shape& shape)
 {
     const double bodies = instances * CountBodies(shape);
     if (bodies > FeatureBuilder::MaximumInstances)
-        throw BuildError(QStringLiteral("the array would have %1 bodies; %2 are the most.")
+        throw BuildError(BuildError::tr("the array would have %1 bodies; %2 are the most.")
                              .arg(bodies, 0, 'f', 0)
                              .arg(FeatureBuilder::MaximumInstances));
 }
@@ -82,7 +82,7 @@ TopoDS_Shape PolarArray(const TopoDS_Shape& shape, const gp_Ax1& axis, double an
     const bool isFullTurn = std::abs(std::abs(angle) - 360.0) < Rounding;
     const double step = angle / (isFullTurn ? number : number - 1);
     if (std::abs(step) < LeastAngle)
-        throw BuildError(QStringLiteral("the instances would lie upon one another: their angle is "
+        throw BuildError(BuildError::tr("the instances would lie upon one another: their angle is "
                                         "%1 degrees.")
                              .arg(ShortText(step)));
     std::vector<TopoDS_Shape> instances = {shape};
@@ -96,11 +96,11 @@ void CheckRow(const char* axis, int number, double distance)
     if (number == 1)
         return;
     if (std::abs(distance) < LeastDistance)
-        throw BuildError(QStringLiteral("the instances would lie upon one another: their distance "
+        throw BuildError(BuildError::tr("the instances would lie upon one another: their distance "
                                         "in %1 is %2 mm.")
                              .arg(QLatin1String(axis), ShortText(distance)));
     if (std::abs(distance) * (number - 1) > FarthestInstance)
-        throw BuildError(QStringLiteral("the array would reach farther than %1 mm in %2.")
+        throw BuildError(BuildError::tr("the array would reach farther than %1 mm in %2.")
                              .arg(QString::number(FarthestInstance, 'f', 0), QLatin1String(axis)));
 }
 
@@ -141,6 +141,6 @@ TopoDS_Shape PlaceBody(FeatureKind kind, const TopoDS_Shape& input, const Values
     case FeatureKind::RectangularArray:
         return RectangularArray(input, v);
     default:
-        throw BuildError(QStringLiteral("it places no body."));
+        throw BuildError(BuildError::tr("it places no body."));
     }
 }

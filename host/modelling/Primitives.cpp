@@ -39,7 +39,7 @@ TopoDS_Shape Cylinder(double radius, double height, double angle)
 TopoDS_Shape Sphere(const Values& v)
 {
     if (v[2] - v[1] < LeastAngle)
-        throw BuildError(QStringLiteral("angle 1 (%1) has to be below angle 2 (%2).")
+        throw BuildError(BuildError::tr("angle 1 (%1) has to be below angle 2 (%2).")
                              .arg(ShortText(v[1]), ShortText(v[2])));
     return BRepPrimAPI_MakeSphere(v[0], Radians(v[1]), Radians(v[2]), Radians(v[3])).Shape();
 }
@@ -47,7 +47,7 @@ TopoDS_Shape Sphere(const Values& v)
 TopoDS_Shape Torus(const Values& v)
 {
     if (v[0] - v[1] < LeastDifference)
-        throw BuildError(QStringLiteral("the sweep radius (%1) has to be below the radius (%2).")
+        throw BuildError(BuildError::tr("the sweep radius (%1) has to be below the radius (%2).")
                              .arg(ShortText(v[1]), ShortText(v[0])));
     return BRepPrimAPI_MakeTorus(v[0], v[1], Radians(v[2]), Radians(v[3]), Radians(v[4])).Shape();
 }
@@ -64,7 +64,7 @@ TopoDS_Shape Wedge(const Values& v)
 {
     const auto checkOrder = [](const char* axis, double least, double greatest) {
         if (greatest - least < LeastDifference)
-            throw BuildError(QStringLiteral("%1 min (%2) has to be below %1 max (%3).")
+            throw BuildError(BuildError::tr("%1 min (%2) has to be below %1 max (%3).")
                                  .arg(QLatin1String(axis), ShortText(least), ShortText(greatest)));
     };
     checkOrder("X", v[3], v[4]);
@@ -78,9 +78,9 @@ TopoDS_Shape Polygon(const Values& v)
     const double radius = v[1];
     const gp_Vec sweep = gp_Vec(DirectionOf(&v[3])) * v[2];
     if (std::abs(sweep.Z()) < LeastDifference)
-        throw BuildError(QStringLiteral("its direction lies in the plane of the polygon."));
+        throw BuildError(BuildError::tr("its direction lies in the plane of the polygon."));
     if (radius * Radians(360.0) / edges < LeastDifference)
-        throw BuildError(QStringLiteral("%1 edges are too many for a radius of %2 mm.")
+        throw BuildError(BuildError::tr("%1 edges are too many for a radius of %2 mm.")
                              .arg(edges)
                              .arg(ShortText(radius)));
     BRepBuilderAPI_MakePolygon outline;
@@ -113,6 +113,6 @@ TopoDS_Shape MakePrimitive(FeatureKind kind, const Values& v)
     case FeatureKind::Polygon:
         return Polygon(v);
     default:
-        throw BuildError(QStringLiteral("it is no primitive."));
+        throw BuildError(BuildError::tr("it is no primitive."));
     }
 }

@@ -56,7 +56,7 @@ TopTools_MapOfShape InnerEdges(const TopoDS_Shape& shape)
 }
 
 TopoDS_Shape OnlyOneAt(const TopTools_IndexedMapOfShape& shapes, const TopTools_MapOfShape& ignored,
-                       const gp_Pnt& point, const char* what)
+                       const gp_Pnt& point, const QString& several, const QString& none)
 {
     const QString place =
         QStringLiteral("(%1, %2, %3)")
@@ -67,14 +67,11 @@ TopoDS_Shape OnlyOneAt(const TopTools_IndexedMapOfShape& shapes, const TopTools_
         if (ignored.Contains(shape) || !IsNear(shape, point))
             continue;
         if (!found.IsNull())
-            throw BuildError(QStringLiteral("several %1s meet at the point %2; choose a point on "
-                                            "one of them alone.")
-                                 .arg(QLatin1String(what), place));
+            throw BuildError(several.arg(place));
         found = shape;
     }
     if (found.IsNull())
-        throw BuildError(
-            QStringLiteral("there is no %1 at the point %2.").arg(QLatin1String(what), place));
+        throw BuildError(none.arg(place));
     return found;
 }
 
@@ -84,16 +81,22 @@ TopoDS_Edge EdgeAt(const TopoDS_Shape& shape, const gp_Pnt& point)
 {
     TopTools_IndexedMapOfShape edges;
     TopExp::MapShapes(shape, TopAbs_EDGE, edges);
-    return TopoDS::Edge(OnlyOneAt(edges, InnerEdges(shape), point, "edge"));
+    return TopoDS::Edge(OnlyOneAt(
+        edges, InnerEdges(shape), point,
+        BuildError::tr("several edges meet at the point %1; choose a point on one of them alone."),
+        BuildError::tr("there is no edge at the point %1.")));
 }
 
 gp_Ax2 PlaneAt(const TopoDS_Shape& shape, const gp_Pnt& point)
 {
     TopTools_IndexedMapOfShape faces;
     TopExp::MapShapes(shape, TopAbs_FACE, faces);
-    const TopoDS_Shape face = OnlyOneAt(faces, {}, point, "face");
+    const TopoDS_Shape face = OnlyOneAt(
+        faces, {}, point,
+        BuildError::tr("several faces meet at the point %1; choose a point on one of them alone."),
+        BuildError::tr("there is no face at the point %1."));
     const BRepAdaptor_Surface surface(TopoDS::Face(face));
     if (surface.GetType() != GeomAbs_Plane)
-        throw BuildError(QStringLiteral("the face at the point is not flat."));
+        throw BuildError(BuildError::tr("the face at the point is not flat."));
     return surface.Plane().Position().Ax2();
 }

@@ -4,9 +4,17 @@
 
 #include <QActionGroup>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QToolBar>
 
 namespace {
+
+// "Fit" of "&Fit", and of "Fit(&F)", where the toolkit would leave the letter.
+QString WithoutAccessKey(QString text)
+{
+    static const QRegularExpression letterApart(QStringLiteral("\\(&\\w\\)"));
+    return text.remove(letterApart).remove(QLatin1Char('&'));
+}
 
 QAction* NewSeparator(QObject* parent)
 {
@@ -62,6 +70,9 @@ QAction* ViewActions::Add(const QString& text, const char* name, const QKeySeque
     auto* const action = new QAction(text, this);
     action->setObjectName(QString::fromLatin1(name));
     action->setShortcut(shortcut);
+    // On the tool bar.
+    action->setIconText(WithoutAccessKey(text));
+    action->setToolTip(action->iconText());
     connect(action, &QAction::triggered, this, act);
     m_actions << action;
     return action;

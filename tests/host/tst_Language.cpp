@@ -1,14 +1,25 @@
 #include "ExternalSolverOption.h"
+#include "FeatureKinds.h"
+#include "FeatureList.h"
+#include "FieldValues.h"
 #include "HostApplication.h"
 #include "Language.h"
 #include "MainWindow.h"
 #include "MatrixArrayDlg.h"
+#include "StepFile.h"
 #include "TestCase.h"
 
 #include <QAbstractButton>
+#include <QAction>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QToolButton>
+#include <TopoDS_Shape.hxx>
+
+#include <functional>
 
 class tst_Language : public TestCase
 {
@@ -19,11 +30,25 @@ private Q_SLOTS:
     void EveryKnownLanguageIsSpoken_data();
     void EveryKnownLanguageIsSpoken();
     void TheToolkitsButtonsSpeakTheLanguage();
+    void TheToolBarShowsNoAccessKeys_data();
+    void TheToolBarShowsNoAccessKeys();
+    void ReasonsSpeakTheLanguage_data();
+    void ReasonsSpeakTheLanguage();
     void TheBestOfTheUsersLanguagesIsTaken_data();
     void TheBestOfTheUsersLanguagesIsTaken();
 };
 
 namespace {
+
+QString Reason(const std::function<void()>& act)
+{
+    try {
+        act();
+    } catch (const HostError& error) {
+        return error.Reason();
+    }
+    return QString();
+}
 
 QStringList Spoken()
 {
@@ -67,6 +92,75 @@ void tst_Language::TheToolkitsButtonsSpeakTheLanguage()
     box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
     QCOMPARE(box.button(QMessageBox::Ok)->text(), QString("确定"));
     QCOMPARE(box.button(QMessageBox::Cancel)->text(), QString("取消"));
+}
+
+void tst_Language::TheToolBarShowsNoAccessKeys_data()
+{
+    QTest::addColumn<QString>("inMenu");
+    QTest::addColumn<QString>("onToolBar");
+    QTest::newRow("en") << "F&ront"
+                        << "Front";
+    QTest::newRow("zh_CN") << "前视(&R)"
+                           << "前视";
+}
+
+void tst_Language::TheToolBarShowsNoAccessKeys()
+{
+    const Language language(QTest::currentDataTag());
+    const MainWindow window;
+    const auto* const front = window.findChild<QAction*>("action_FrontView");
+    QVERIFY(front != nullptr);
+    QTEST(front->text(), "inMenu");
+    const QToolButton* button = nullptr;
+    const auto buttons = window.findChildren<QToolButton*>();
+    for (const QToolButton* const candidate : buttons) {
+        if (candidate->defaultAction() == front)
+            button = candidate;
+    }
+    QVERIFY(button != nullptr);
+    QTEST(button->text(), "onToolBar");
+    QTEST(button->toolTip(), "onToolBar");
+}
+
+void tst_Language::ReasonsSpeakTheLanguage_data()
+{
+    QTest::addColumn<QStringList>("reasons");
+    QTest::newRow("en") << QStringList(
+        {"it: Size x is 0, but has to be from 0.0001 to 1000000 mm.",
+         "it: Number (\"5 / 2\") is 2.5, but has to be a whole number from 1 to 10000.",
+         "it: a feature of the kind \"box\" takes no input, but there are 1.",
+         "feature 1 has no \"name\"",
+         "none.step: it cannot be opened: No such file or directory."});
+    QTest::newRow("zh_CN") << QStringList(
+        {"it: 尺寸 x 为 0，但必须为 0.0001 至 1000000 mm。",
+         "it: 数量 (\"5 / 2\") 为 2.5，但必须为 1 至 10000 的整数。",
+         "it: 类型为“box”的特征不需要输入，但现有 1 个。", "特征 1 缺少“name”",
+         "none.step: 无法打开：No such file or directory。"});
+}
+
+void tst_Language::ReasonsSpeakTheLanguage()
+{
+    const Language language(QTest::currentDataTag());
+    Feature flat = FeatureKinds::MakeFeature(FeatureKind::Box);
+    flat.name = "it";
+    flat.fields[0] = "0";
+    Feature halves = FeatureKinds::MakeFeature(FeatureKind::PolarArray);
+    halves.name = "it";
+    halves.fields.last() = "5 / 2";
+    Feature user = FeatureKinds::MakeFeature(FeatureKind::Box);
+    user.name = "it";
+    user.inputs << "other";
+    FeatureList list;
+    Feature other = FeatureKinds::MakeFeature(FeatureKind::Sphere);
+    other.name = "other";
+    list.Append(other);
+    list.Append(user);
+
+    const QStringList reasons = {
+        Reason([&] { FieldValues().Of(flat); }), Reason([&] { FieldValues().Of(halves); }),
+        Reason([&] { list.Check(); }), Reason([] { FeatureList::FromJson({QJsonObject()}); }),
+        Reason([] { ReadStepFile("none.step"); })};
+    QTEST(reasons, "reasons");
 }
 
 void tst_Language::TheBestOfTheUsersLanguagesIsTaken_data()

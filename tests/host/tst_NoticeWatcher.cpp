@@ -2,6 +2,10 @@
 #include "TestCase.h"
 
 #include <QMessageBox>
+#include <QTimer>
+#include <QWindow>
+
+#include <memory>
 
 class tst_NoticeWatcher : public TestCase
 {
@@ -10,6 +14,8 @@ class tst_NoticeWatcher : public TestCase
 private Q_SLOTS:
     void BoxesAreClosedAndTheirTextsKept();
     void WithoutABoxThereIsNothing();
+    void NoWindowComesOnTheScreen_data();
+    void NoWindowComesOnTheScreen();
 };
 
 void tst_NoticeWatcher::BoxesAreClosedAndTheirTextsKept()
@@ -28,6 +34,32 @@ void tst_NoticeWatcher::WithoutABoxThereIsNothing()
     window.show();
     QCOMPARE(watcher.TakeNotices(), QStringList());
     QVERIFY(window.isVisible());
+}
+
+void tst_NoticeWatcher::NoWindowComesOnTheScreen_data()
+{
+    QTest::addColumn<bool>("isWatched");
+    QTest::newRow("watched") << true;
+    QTest::newRow("not watched") << false;
+}
+
+void tst_NoticeWatcher::NoWindowComesOnTheScreen()
+{
+    QFETCH(bool, isWatched);
+    const auto watcher = isWatched ? std::make_unique<NoticeWatcher>() : nullptr;
+    QWidget window;
+    window.show();
+    QDialog dialog(&window);
+    bool isDialogOnScreen = false;
+    QTimer::singleShot(0, &dialog, [&] {
+        QVERIFY(dialog.isVisible());
+        isDialogOnScreen = dialog.windowHandle()->isVisible();
+        dialog.close();
+    });
+    dialog.exec();
+    QCOMPARE(isDialogOnScreen, !isWatched);
+    QVERIFY(window.isVisible());
+    QCOMPARE(window.windowHandle()->isVisible(), !isWatched);
 }
 
 TARN_TEST_MAIN(tst_NoticeWatcher)

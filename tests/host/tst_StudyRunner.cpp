@@ -435,6 +435,9 @@ void tst_StudyRunner::TheProgramRefusesBadInputInOneLine_data()
     row("a notice", {"--study", "gauss.json", "--out", "out"}, "gauss.json: Not implement yet");
     row("folder is a file", {"--study", "p.json", "--out", "broken.json"},
         "broken.json: the folder cannot be made");
+    row("broken file for Chinese windows",
+        {"--screenshots", "pictures", "--lang", "zh_CN", "broken.json"},
+        "broken.json: is no valid JSON: unterminated object at byte 1");
     row("pictures into a file", {"--screenshots", "broken.json"},
         "broken.json: the folder cannot be made");
     row("no display", {"p.json"},
