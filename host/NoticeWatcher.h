@@ -3,8 +3,8 @@
 #include <QObject>
 #include <QStringList>
 
-/// Keeps windows from disturbing a run that nobody watches: while it lives, none comes on the screen,
-/// and every message box is closed as soon as it shows; its text is kept.
+/// Keeps windows from disturbing a run that nobody watches: while it lives, none comes on the
+/// screen, and every message box is closed as soon as it shows; its text is kept.
 class NoticeWatcher : public QObject
 {
     Q_OBJECT
