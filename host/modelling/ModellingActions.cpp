@@ -58,11 +58,11 @@ ModellingActions::ModellingActions(PartModel& model, FeatureTree& tree, FeatureF
           NewAction(tr("&Delete feature"), "action_DeleteFeature", [this] { DeleteSelected(); }))
     , m_export(NewAction(tr("E&xport STEP"), "action_ExportStep", [this] { ExportStep(); }))
 {
-    m_edit->setShortcut(Qt::CTRL | Qt::Key_E);
-    m_up->setShortcut(Qt::CTRL | Qt::Key_Up);
-    m_down->setShortcut(Qt::CTRL | Qt::Key_Down);
+    m_edit->setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
+    m_up->setShortcut(QKeySequence(QStringLiteral("Ctrl+Up")));
+    m_down->setShortcut(QKeySequence(QStringLiteral("Ctrl+Down")));
     m_suppress->setCheckable(true);
-    m_suppress->setShortcut(Qt::CTRL | Qt::Key_U);
+    m_suppress->setShortcut(QKeySequence(QStringLiteral("Ctrl+U")));
     m_delete->setShortcut(QKeySequence::Delete);
     tree.OfferActions({m_edit, m_up, m_down, m_suppress, m_delete});
 
@@ -116,7 +116,8 @@ void ModellingActions::FillMenu(QMenu& menu)
     QAction* const redo = m_model.UndoStack().createRedoAction(this, tr("&Redo"));
     redo->setObjectName(QStringLiteral("action_Redo"));
     // The two that desktops have for it, whichever this is.
-    redo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
+    redo->setShortcuts(
+        {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
     menu.addActions({undo, redo});
     menu.addSeparator();
     menu.addAction(m_export);
