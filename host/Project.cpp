@@ -158,6 +158,9 @@ QByteArray ReadFile(const QString& path)
     // A folder can be opened like a file, and only reading it fails, without a reason.
     if (QFileInfo(path).isDir())
         throw JsonError(JsonError::tr("is a folder, not a file"));
+    // Opening a pipe would wait for whoever writes into it.
+    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
+        throw JsonError(JsonError::tr("is no ordinary file"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw JsonError(JsonError::tr("cannot be opened: %1").arg(file.errorString()));

@@ -43,7 +43,7 @@ void ProjectActions::FillMenu(QMenu& menu)
     AddAction(menu, tr("&Save project"), "action_SaveProject", this, &ProjectActions::Save)
         ->setShortcut(QKeySequence::Save);
     AddAction(menu, tr("Save project &as"), "action_SaveProjectAs", this, &ProjectActions::SaveAs)
-        ->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+        ->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+S")));
     menu.addSeparator();
     AddAction(menu, tr("&Quit"), "action_Quit", m_window, &QWidget::close)
         ->setShortcut(QKeySequence::Quit);

@@ -60,10 +60,13 @@ void CheckFile(const QString& path)
     constexpr qint64 HeadSize = 1024;
     if (QFileInfo(path).isDir())
         Fail(path, StepError::tr("it is a folder, not a file."));
+    // Opening a pipe would wait for whoever writes into it.
+    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
+        Fail(path, StepError::tr("it is no STEP file."));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         Fail(path, StepError::tr("it cannot be opened: %1.").arg(file.errorString()));
-    if (file.isSequential() || !file.read(HeadSize).contains(BeginMark))
+    if (!file.read(HeadSize).contains(BeginMark))
         Fail(path, StepError::tr("it is no STEP file."));
     if (file.size() > MostMegabytes << 20)
         Fail(path, StepError::tr("it is larger than %1 MB.").arg(MostMegabytes));

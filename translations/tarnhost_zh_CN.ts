@@ -233,6 +233,14 @@
         <source>The project has no features, so there is no part.</source>
         <translation>项目没有特征，因此没有零件。</translation>
     </message>
+    <message>
+        <source>%1 bodies would have to be combined; %2 are the most.</source>
+        <translation>需要组合 %1 个实体，最多允许 %2 个。</translation>
+    </message>
+    <message>
+        <source>with it, all features together would have more than %1 bodies.</source>
+        <translation>加上它，所有特征的实体总数将超过 %1 个。</translation>
+    </message>
 </context>
 <context>
     <name>DesignActions</name>
@@ -808,6 +816,10 @@
     <message>
         <source>cannot be written: %1</source>
         <translation>无法写入：%1</translation>
+    </message>
+    <message>
+        <source>is no ordinary file</source>
+        <translation>不是普通文件</translation>
     </message>
 </context>
 <context>

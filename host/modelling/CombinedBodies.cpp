@@ -2,6 +2,7 @@
 
 #include "Bodies.h"
 #include "BuildError.h"
+#include "FeatureBuilder.h"
 #include "NumberTexts.h"
 #include "ShapeAtPoint.h"
 
@@ -23,8 +24,15 @@ TopoDS_Shape Combined(const TopoDS_Shape& first, const std::vector<TopoDS_Shape>
         TopTools_ListOfShape bodies = BodiesOf(tool);
         toolBodies.Append(bodies);
     }
+    const TopTools_ListOfShape firstBodies = BodiesOf(first);
+    // The kernel's time grows with the square of their number, and nothing can stop it meanwhile.
+    const int bodies = firstBodies.Size() + toolBodies.Size();
+    if (bodies > FeatureBuilder::MaximumCombined)
+        throw BuildError(BuildError::tr("%1 bodies would have to be combined; %2 are the most.")
+                             .arg(bodies)
+                             .arg(FeatureBuilder::MaximumCombined));
     Operation operation;
-    operation.SetArguments(BodiesOf(first));
+    operation.SetArguments(firstBodies);
     operation.SetTools(toolBodies);
     operation.Build();
     if (!operation.IsDone() || operation.HasErrors())

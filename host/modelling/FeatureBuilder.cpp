@@ -114,8 +114,16 @@ BuiltPart FeatureBuilder::Build(const FeatureList& list, const QString& folder)
     BuiltPart part;
     Builder builder(folder);
     QSet<QString> used;
+    int bodies = 0;
     for (const Feature& feature : list.Features()) {
         part.shapes.push_back(NamingFeature(feature, [&] { return builder.Result(feature); }));
+        bodies += part.shapes.back().IsNull() ? 0 : CountBodies(part.shapes.back());
+        // Before many large arrays have used up the memory.
+        if (bodies > MaximumBodies)
+            throw FeatureError(
+                feature.name,
+                BuildError::tr("with it, all features together would have more than %1 bodies.")
+                    .arg(MaximumBodies));
         for (const QString& input : feature.inputs)
             used.insert(input);
     }

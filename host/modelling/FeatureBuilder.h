@@ -23,6 +23,8 @@ class FeatureBuilder
 {
 public:
     static constexpr int MaximumInstances = 10000; ///< Bodies in the result of an array.
+    static constexpr int MaximumCombined = 500;    ///< Bodies in one fuse or cut.
+    static constexpr int MaximumBodies = 100000;   ///< Of all features together.
 
     FeatureBuilder() = delete;
 

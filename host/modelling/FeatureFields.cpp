@@ -119,6 +119,8 @@ void FeatureFields::ShowFeature(const QString& name)
 {
     if (name == m_name)
         return;
+    // What is being typed belongs to the feature that is shown still.
+    m_table->setCurrentItem(nullptr);
     m_name = name;
     Refresh();
 }

@@ -33,6 +33,12 @@ QString StepFilter()
     return ModellingActions::tr("STEP files (*.step *.stp *.STEP *.STP);;All files (*)");
 }
 
+// Where file dialogs start: that of the sample project lies within the program.
+QString StartFolder(const QString& folder)
+{
+    return folder.startsWith(QLatin1Char(':')) ? QString() : folder;
+}
+
 } // namespace
 
 ModellingActions::ModellingActions(PartModel& model, FeatureTree& tree, FeatureFields& fields,
@@ -52,20 +58,22 @@ ModellingActions::ModellingActions(PartModel& model, FeatureTree& tree, FeatureF
           NewAction(tr("&Delete feature"), "action_DeleteFeature", [this] { DeleteSelected(); }))
     , m_export(NewAction(tr("E&xport STEP"), "action_ExportStep", [this] { ExportStep(); }))
 {
-    m_edit->setShortcut(Qt::CTRL | Qt::Key_E);
-    m_up->setShortcut(Qt::CTRL | Qt::Key_Up);
-    m_down->setShortcut(Qt::CTRL | Qt::Key_Down);
+    m_edit->setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
+    m_up->setShortcut(QKeySequence(QStringLiteral("Ctrl+Up")));
+    m_down->setShortcut(QKeySequence(QStringLiteral("Ctrl+Down")));
     m_suppress->setCheckable(true);
-    m_suppress->setShortcut(Qt::CTRL | Qt::Key_U);
+    m_suppress->setShortcut(QKeySequence(QStringLiteral("Ctrl+U")));
     m_delete->setShortcut(QKeySequence::Delete);
     tree.OfferActions({m_edit, m_up, m_down, m_suppress, m_delete});
 
     connect(&tree, &FeatureTree::SelectionChanged, this, &ModellingActions::UpdateActions);
     connect(&tree, &FeatureTree::EditWanted, this, &ModellingActions::Edit);
+    // What waits was made for the features as they were.
+    connect(&model, &PartModel::Changed, this, &ModellingActions::EndPicking);
     if (m_view != nullptr) {
         connect(m_view, &ModelView::FacePicked, this,
                 [this](const TopoDS_Face&, const gp_Pnt& point) { TakePoint(point); });
-        connect(m_view, &ModelView::PickingCancelled, this, [this] { m_waiting.reset(); });
+        connect(m_view, &ModelView::PickingCancelled, this, &ModellingActions::EndPicking);
         connect(m_view, &ModelView::Failed, this, [this] {
             EndPicking();
             m_view = nullptr;
@@ -108,7 +116,8 @@ void ModellingActions::FillMenu(QMenu& menu)
     QAction* const redo = m_model.UndoStack().createRedoAction(this, tr("&Redo"));
     redo->setObjectName(QStringLiteral("action_Redo"));
     // The two that desktops have for it, whichever this is.
-    redo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
+    redo->setShortcuts(
+        {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
     menu.addActions({undo, redo});
     menu.addSeparator();
     menu.addAction(m_export);
@@ -233,6 +242,10 @@ void ModellingActions::PickFaceFor(const Feature& feature)
 {
     PostMessageToChannel(InfoLevel, tr("Click the face to mirror at, or press Escape"));
     m_waiting = feature;
+    // The face is one of the input, which the part need not show: a mirror has its image there.
+    const TopoDS_Shape input = m_model.ShapeOf(feature.inputs.first());
+    if (!input.IsNull())
+        m_view->ShowShape(input);
     m_view->PickFace();
 }
 
@@ -254,9 +267,13 @@ void ModellingActions::TakePoint(const gp_Pnt& point)
 
 void ModellingActions::EndPicking()
 {
+    if (!m_waiting.has_value())
+        return;
     m_waiting.reset();
-    if (m_view != nullptr && m_view->IsPicking())
-        m_view->CancelPicking();
+    if (m_view == nullptr)
+        return;
+    m_view->CancelPicking();
+    m_view->ShowShape(m_model.Shape());
 }
 
 void ModellingActions::MoveSelected(int steps)
@@ -277,8 +294,8 @@ void ModellingActions::DeleteSelected()
 
 QString ModellingActions::AskForStepFile()
 {
-    const QString path =
-        QFileDialog::getOpenFileName(m_window, tr("Import STEP"), m_model.Folder(), StepFilter());
+    const QString path = QFileDialog::getOpenFileName(m_window, tr("Import STEP"),
+                                                      StartFolder(m_model.Folder()), StepFilter());
     const QString fromFolder = QDir(m_model.Folder()).relativeFilePath(path);
     // Files beside the project move with it.
     const bool isBeside = !m_model.Folder().isEmpty() && !path.isEmpty() &&
@@ -311,7 +328,7 @@ void ModellingActions::ExportStep()
         PostMessageToChannel(WarningLevel, tr("There is no shape to export"));
         return;
     }
-    QFileDialog dialog(m_window, tr("Export STEP"), m_model.Folder(), StepFilter());
+    QFileDialog dialog(m_window, tr("Export STEP"), StartFolder(m_model.Folder()), StepFilter());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("step"));
     if (dialog.exec() != QDialog::Accepted)

@@ -137,8 +137,9 @@ void PartModel::Add(const Feature& feature)
 
 void PartModel::Change(const QString& name, const Feature& feature)
 {
-    // Such a name could not be told in a list of inputs.
-    if (feature.name.contains(QLatin1Char(',')) || feature.name != feature.name.trimmed())
+    // Such a new name could not be told in a list of inputs.
+    if (feature.name != name &&
+        (feature.name.contains(QLatin1Char(',')) || feature.name != feature.name.trimmed()))
         throw ModellingError(tr("%1 is no name: it has a comma, or a blank at its start or end")
                                  .arg(Quoted(feature.name)));
     FeatureList features = m_features;

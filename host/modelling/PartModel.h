@@ -48,8 +48,6 @@ public:
     /// Puts another part in place of this one, without a way back, and builds it.
     void Open(const FeatureList& features, const std::vector<Condition>& conditions,
               const QString& folder);
-    /// The project has moved; relative files of imports were settled by the caller.
-    void SetFolder(const QString& folder) { m_folder = folder; }
 
     /// Builds with the parameters as they are now.
     void Rebuild();

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void ArraysFollowTheirRules_data();
     void ArraysFollowTheirRules();
     void ALargeArraySharesItsBody();
+    void TooManyBodiesInOneCutAreRefused();
+    void TooManyBodiesInAllAreRefused();
     void OverlappingInstancesAreFusedAndCutRight();
     void ThePartIsWhatNoFeatureUses();
     void SuppressedFeaturesStandAside_data();
@@ -597,6 +599,35 @@ void tst_FeatureBuilder::ALargeArraySharesItsBody()
     more.Append(again);
     QCOMPARE(Reason(more),
              QString("c: the array would have 100000000 bodies; 10000 are the most."));
+}
+
+void tst_FeatureBuilder::TooManyBodiesInOneCutAreRefused()
+{
+    const EmptyDesignStores stores;
+    const QByteArray tools = A10 + R"(, {"name": "b", "kind": "rectangularArray", "inputs": ["a"],
+                    "fields": {"xNumber": 500, "yNumber": 1, "xDistance": 20}})";
+    for (const char* const kind : {"cut", "fuse"}) {
+        const QByteArray combined = QByteArray(R"({"name": "d", "kind": ")") + kind + "\", ";
+        QCOMPARE(Reason(List(tools + R"(, {"name": "c", "kind": "sphere"}, )" + combined +
+                             R"("inputs": ["c", "b"]})")),
+                 QString("d: 501 bodies would have to be combined; 500 are the most."));
+    }
+}
+
+void tst_FeatureBuilder::TooManyBodiesInAllAreRefused()
+{
+    const EmptyDesignStores stores;
+    FeatureList list = List(A10);
+    Feature array = FeatureKinds::MakeFeature(FeatureKind::RectangularArray);
+    array.inputs = QStringList("a");
+    array.fields = QStringList({"100", "100", "20", "20"});
+    for (int i = 0; i < 10; ++i) {
+        array.name = QString("array_%1").arg(i);
+        list.Append(array);
+    }
+    QCOMPARE(
+        Reason(list),
+        QString("array_9: with it, all features together would have more than 100000 bodies."));
 }
 
 void tst_FeatureBuilder::OverlappingInstancesAreFusedAndCutRight()

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void AnImportShowsItsFile();
     void ADeletedFeatureIsShownNoLonger();
     void EditingStartsInTheFirstField();
+    void AHalfTypedTextBelongsToItsOwnFeature();
 };
 
 namespace {
@@ -74,6 +75,14 @@ struct ShownFields
     // and Enter.
     void Type(const QString& label, const QString& text) const
     {
+        QLineEdit* const edit = StartTyping(label, text);
+        if (text.isEmpty())
+            QTest::keyClick(edit, Qt::Key_Delete);
+        QTest::keyClick(edit, Qt::Key_Return);
+        QCoreApplication::sendPostedEvents();
+    }
+    QLineEdit* StartTyping(const QString& label, const QString& text) const
+    {
         QTableWidgetItem& cell = Cell(label, FeatureFields::TextColumn);
         if (Table().currentItem() == &cell)
             QTest::keyClick(&Table(), Qt::Key_F2);
@@ -86,13 +95,11 @@ struct ShownFields
             if (child->isVisible())
                 edit = child;
         }
-        QVERIFY(edit != nullptr);
+        if (edit == nullptr)
+            qFatal("There is no editor for \"%s\"", qPrintable(label));
         edit->selectAll();
         QTest::keyClicks(edit, text);
-        if (text.isEmpty())
-            QTest::keyClick(edit, Qt::Key_Delete);
-        QTest::keyClick(edit, Qt::Key_Return);
-        QCoreApplication::sendPostedEvents();
+        return edit;
     }
 
     const Feature& Stored(const QString& name) const
@@ -342,6 +349,26 @@ void tst_FeatureFields::EditingStartsInTheFirstField()
     shown.dock.ShowFeature("body");
     shown.dock.StartEditing();
     QCOMPARE(shown.Table().currentItem()->text(), QString("plate, pin"));
+}
+
+void tst_FeatureFields::AHalfTypedTextBelongsToItsOwnFeature()
+{
+    // As when a menu adds a feature of the same kind, whose field has the very same text.
+    ShownFields shown;
+    shown.model.Add(NewFeature("other", FeatureKind::Cylinder, {}, {{"radius", "2"}}));
+    shown.dock.ShowFeature("pin");
+    shown.StartTyping("Radius", "3");
+    shown.dock.ShowFeature("other");
+    QCOMPARE(shown.Text("Radius"), QString("2"));
+    QCOMPARE(FieldText(shown.Stored("pin"), "radius"), QString("3"));
+    QCOMPARE(FieldText(shown.Stored("other"), "radius"), QString("2"));
+    // A feature that is gone takes its text with it.
+    shown.StartTyping("Radius", "4");
+    shown.model.UndoStack().undo();
+    shown.model.UndoStack().undo();
+    shown.dock.ShowFeature("pin");
+    QCOMPARE(shown.Text("Radius"), QString("2"));
+    QCOMPARE(shown.posted.count(), 0);
 }
 
 TARN_TEST_MAIN(tst_FeatureFields)

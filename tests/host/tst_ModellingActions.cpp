@@ -16,6 +16,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
@@ -63,6 +64,8 @@ private Q_SLOTS:
     void ThereIsNothingToExportWithoutAShape();
     void AFileThatCannotBeWrittenIsTold();
     void AFileBesideTheProjectIsNamedRelatively();
+    void TheSampleProjectHasNoFolderForFiles();
+    void AVanishedFileIsToldAndTheShapeStays();
 };
 
 namespace {
@@ -574,6 +577,45 @@ void tst_ModellingActions::AFileBesideTheProjectIsNamedRelatively()
     modelling.Trigger("action_EditFeature");
     QCOMPARE(modelling.Last().file, QString("other.step"));
     QVERIFY(modelling.user.IsDone());
+}
+
+void tst_ModellingActions::TheSampleProjectHasNoFolderForFiles()
+{
+    Modelling modelling;
+    modelling.model.Open(FeatureList(), {}, ":/samples");
+    modelling.Trigger("action_Add_box");
+    for (const char* const action : {"action_ExportStep", "action_ImportStep"}) {
+        QString folder;
+        modelling.user.Then([&folder](QDialog& dialog) {
+            folder = qobject_cast<QFileDialog*>(&dialog)->directory().path();
+            dialog.reject();
+        });
+        modelling.Trigger(action);
+        QVERIFY2(QDir(folder).exists() && !folder.startsWith(':'), qPrintable(folder));
+    }
+}
+
+void tst_ModellingActions::AVanishedFileIsToldAndTheShapeStays()
+{
+    const QString directory = EnterTemporaryDirectory();
+    Modelling modelling;
+    modelling.Trigger("action_Add_box");
+    ChooseFile(modelling.user, directory + "/part.step");
+    modelling.Trigger("action_ExportStep");
+    ChooseFile(modelling.user, directory + "/part.step");
+    modelling.Trigger("action_ImportStep");
+    const TopoDS_Shape shape = modelling.model.Shape();
+    QVERIFY(QFile::remove("part.step"));
+    modelling.model.Rebuild();
+    QCOMPARE(modelling.model.FailedFeature(), QString("import"));
+    QVERIFY(modelling.model.Failure().contains("part.step: it cannot be opened"));
+    QVERIFY(modelling.model.Shape().IsEqual(shape));
+    // It can be taken back, and then comes again as what cannot be built.
+    modelling.Trigger("action_Undo");
+    QVERIFY(!modelling.model.HasFailed());
+    modelling.Trigger("action_Redo");
+    QVERIFY(modelling.model.HasFailed());
+    QCOMPARE(modelling.Names(), QStringList({"box", "import"}));
 }
 
 TARN_TEST_MAIN(tst_ModellingActions, HostApplication)

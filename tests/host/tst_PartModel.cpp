@@ -18,6 +18,7 @@ private Q_SLOTS:
     void ARefusedChangeChangesNothing_data();
     void ARefusedChangeChangesNothing();
     void AChangeToTheSameIsNoChange();
+    void AnOldNameWithACommaMayStay();
     void ANewNameReachesTheUsers();
     void SeveralAreDeletedTogether();
     void AFailedBuildKeepsTheLastGoodShape();
@@ -205,6 +206,18 @@ void tst_PartModel::ARefusedChangeChangesNothing()
     QVERIFY(open.model.Features() == SampleList());
     QVERIFY(!open.model.UndoStack().canUndo());
     QCOMPARE(changed.count(), 0);
+}
+
+void tst_PartModel::AnOldNameWithACommaMayStay()
+{
+    // Files may have such names; their features can be changed all the same.
+    const EmptyDesignStores stores;
+    PartModel model;
+    FeatureList list;
+    list.Append(NewFeature("a, b", FeatureKind::Box));
+    model.Open(list, {}, {});
+    model.Change("a, b", NewFeature("a, b", FeatureKind::Box, {}, {{"x", "20"}}));
+    QCOMPARE(FieldText(model.Features().At(0), "x"), QString("20"));
 }
 
 void tst_PartModel::AChangeToTheSameIsNoChange()

@@ -11,6 +11,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <sys/stat.h>
+
 #include <limits>
 
 class tst_Project : public TestCase
@@ -34,6 +36,7 @@ private Q_SLOTS:
     void BadFilesAreToldInOneLine();
     void AMissingFileIsTold();
     void AFolderIsTold();
+    void APipeIsNotWaitedFor();
     void AHugeFileIsNotRead();
     void AnEndlessFileIsNotRead();
     void FeaturesAndConditionsAreRead();
@@ -370,6 +373,13 @@ void tst_Project::AFolderIsTold()
     EnterTemporaryDirectory();
     QVERIFY(QDir().mkdir("d.json"));
     QCOMPARE(Reason("d.json"), QString("d.json: is a folder, not a file"));
+}
+
+void tst_Project::APipeIsNotWaitedFor()
+{
+    EnterTemporaryDirectory();
+    QCOMPARE(mkfifo("pipe.json", 0600), 0);
+    QCOMPARE(Reason("pipe.json"), QString("pipe.json: is no ordinary file"));
 }
 
 void tst_Project::AHugeFileIsNotRead()

@@ -11,6 +11,7 @@
 #include <TopoDS_Shape.hxx>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cmath>
@@ -250,6 +251,9 @@ void tst_StepFile::FilesThatCannotBeReadAreTold()
              QString("none.step: it cannot be opened: No such file or directory."));
     QCOMPARE(reason("."), QString(".: it is a folder, not a file."));
     QCOMPARE(reason("/dev/zero"), QString("zero: it is no STEP file."));
+    // Which nobody writes into.
+    QCOMPARE(mkfifo("pipe.step", 0600), 0);
+    QCOMPARE(reason("pipe.step"), QString("pipe.step: it is no STEP file."));
 
     WriteStepFile(Box(10.0), "huge.step");
     QByteArray content = Content("huge.step");
