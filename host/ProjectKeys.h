@@ -7,26 +7,26 @@
 /// The words of project files.
 namespace ProjectKeys {
 
-inline constexpr QLatin1String VersionKey("version");
-inline constexpr QLatin1String TitleKey("title");
-inline constexpr QLatin1String DensityKey("density");
-inline constexpr QLatin1String ParametersKey("parameters");
-inline constexpr QLatin1String SamplesKey("samples");
-inline constexpr QLatin1String FeaturesKey("features");
-inline constexpr QLatin1String ConditionsKey("conditions");
-inline constexpr QLatin1String NameKey("name");
-inline constexpr QLatin1String TypeKey("type");
-inline constexpr QLatin1String ValueKey("value");
-inline constexpr QLatin1String ExpressionKey("expression");
-inline constexpr QLatin1String UsesKey("expressionParameters");
-inline constexpr QLatin1String DescriptionKey("description");
-inline constexpr QLatin1String ParameterKey("parameter");
-inline constexpr QLatin1String MinKey("min");
-inline constexpr QLatin1String MaxKey("max");
-inline constexpr QLatin1String DeltaKey("delta");
-inline constexpr QLatin1String SpacingKey("spacing");
-inline constexpr QLatin1String ValuesKey("values");
-inline constexpr QLatin1String TickedKey("ticked");
+inline const QLatin1String VersionKey("version");
+inline const QLatin1String TitleKey("title");
+inline const QLatin1String DensityKey("density");
+inline const QLatin1String ParametersKey("parameters");
+inline const QLatin1String SamplesKey("samples");
+inline const QLatin1String FeaturesKey("features");
+inline const QLatin1String ConditionsKey("conditions");
+inline const QLatin1String NameKey("name");
+inline const QLatin1String TypeKey("type");
+inline const QLatin1String ValueKey("value");
+inline const QLatin1String ExpressionKey("expression");
+inline const QLatin1String UsesKey("expressionParameters");
+inline const QLatin1String DescriptionKey("description");
+inline const QLatin1String ParameterKey("parameter");
+inline const QLatin1String MinKey("min");
+inline const QLatin1String MaxKey("max");
+inline const QLatin1String DeltaKey("delta");
+inline const QLatin1String SpacingKey("spacing");
+inline const QLatin1String ValuesKey("values");
+inline const QLatin1String TickedKey("ticked");
 
 /// In the order of ParameterType.
 inline constexpr std::array<QLatin1String, 4> TypeWords = {

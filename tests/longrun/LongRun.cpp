@@ -135,13 +135,32 @@ Window New(Dice&)
     return Window(create(nullptr));
 }
 
+/// As a host does: the record that OK allocated is its own.
+class PropertyEditor : public CQLTElePropertyEditor
+{
+public:
+    explicit PropertyEditor(CQLTElemPropDef* given)
+        : CQLTElePropertyEditor(nullptr)
+        , m_given(given)
+    {
+        if (given != nullptr)
+            SetPropData(given);
+    }
+    ~PropertyEditor() override
+    {
+        if (m_given == nullptr)
+            delete GetPropData();
+    }
+    Q_DISABLE_COPY(PropertyEditor)
+
+private:
+    CQLTElemPropDef* m_given;
+};
+
 Window NewPropertyEditor(Dice& dice)
 {
     static CQLTElemPropDef record;
-    auto editor = std::make_unique<CQLTElePropertyEditor>(nullptr);
-    if (dice.OneIn(2))
-        editor->SetPropData(&record);
-    return editor;
+    return std::make_unique<PropertyEditor>(dice.OneIn(2) ? &record : nullptr);
 }
 
 Window NewMaterialEditor(Dice& dice)
