@@ -24,11 +24,11 @@ QString WithValues(const QString& message, FieldValues& values)
     QRegularExpressionMatchIterator matches = placeholder.globalMatch(message);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
-        text += message.mid(end, match.capturedStart() - end);
+        text += message.midRef(end, match.capturedStart() - end);
         text += ShortText(values.Evaluate(match.captured(1)));
         end = match.capturedEnd();
     }
-    return text + message.mid(end);
+    return text + message.midRef(end);
 }
 
 } // namespace
