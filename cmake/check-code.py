@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Runs clang-tidy and clazy over every C++ file of a build tree, on all processors.
 
-    cmake/check-code.py [--all] <build folder> [<part of a file's path>...]
+    cmake/check-code.py [--all] <build folder> [<begin of a file's path>...]
 
 A file that has passed is not looked at again until it, a header it includes, its command line, the
 configuration or a tool changes; --all forgets that. Findings are errors.
@@ -92,7 +92,7 @@ def main(arguments):
     jobs = []
     for path, (directory, target, flags) in commands(build).items():
         name = str(path.relative_to(ROOT))
-        if arguments[1:] and not any(part in name for part in arguments[1:]):
+        if arguments[1:] and not name.startswith(tuple(arguments[1:])):
             continue
         for tool, version in zip((TIDY, CLAZY), versions):
             key = f"{tool[0]} {name}"

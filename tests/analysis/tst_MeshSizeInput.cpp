@@ -139,7 +139,7 @@ void tst_MeshSizeInput::WithoutASizeItOpensWithOne()
     QCOMPARE(dialog.GetMeshSize(), 1.0);
 
     // One argument is the parent, also when it is written as 0.
-    MeshSizeInput withoutParent(0);
+    MeshSizeInput withoutParent(nullptr);
     QCOMPARE(withoutParent.GetMeshSize(), 1.0);
 }
 
