@@ -1,3 +1,4 @@
+#include "BodyFormulas.h"
 #include "EmptyDesignStores.h"
 #include "FeatureBuilder.h"
 #include "FeatureKinds.h"
@@ -9,22 +10,13 @@
 #include "StepFile.h"
 #include "TestCase.h"
 
-#include <BRepGProp.hxx>
 #include <BRepPrimAPI_MakeBox.hxx>
-#include <BRepTools.hxx>
-#include <GProp_GProps.hxx>
 #include <QDir>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <TopExp.hxx>
-#include <TopTools_IndexedMapOfShape.hxx>
 #include <TopoDS_Iterator.hxx>
 #include <TopoDS_Shape.hxx>
 
 #include <array>
-#include <cmath>
 #include <random>
-#include <sstream>
 
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/lsan_interface.h>
@@ -42,8 +34,6 @@ private Q_SLOTS:
     void ArraysFollowTheirRules_data();
     void ArraysFollowTheirRules();
     void ALargeArraySharesItsBody();
-    void TooManyBodiesInOneCutAreRefused();
-    void TooManyBodiesInAllAreRefused();
     void OverlappingInstancesAreFusedAndCutRight();
     void ThePartIsWhatNoFeatureUses();
     void SuppressedFeaturesStandAside_data();
@@ -51,214 +41,8 @@ private Q_SLOTS:
     void EveryNumericFieldTakesAnExpression_data();
     void EveryNumericFieldTakesAnExpression();
     void ImportedBodiesAreUsedLikeOthers();
-    void WhatCannotBeBuiltNamesFeatureAndCause_data();
-    void WhatCannotBeBuiltNamesFeatureAndCause();
-    void AFailureChangesNothing();
     void RandomListsAreBuiltTheSameTwice();
 };
-
-namespace {
-
-const double Pi = std::acos(-1.0);
-
-/// Volume and centre of mass.
-struct Mass
-{
-    double volume = 0.0;
-    std::array<double, 3> centre{};
-};
-
-double Radians(double degrees)
-{
-    return degrees * Pi / 180.0;
-}
-
-// From the moments of the profile: V, z V, and the first moment about the axis per angle.
-Mass Turned(double volume, double zMoment, double radial, double degrees)
-{
-    const double angle = Radians(degrees);
-    return {volume,
-            {std::sin(angle) * radial / volume, (1.0 - std::cos(angle)) * radial / volume,
-             zMoment / volume}};
-}
-
-Mass Box(double x, double y, double z)
-{
-    return {x * y * z, {x / 2.0, y / 2.0, z / 2.0}};
-}
-
-// A truncated cone, and the cylinder where both radii are equal.
-Mass Cone(double a, double b, double h, double degrees)
-{
-    const double half = Radians(degrees) / 2.0;
-    return Turned(half * h / 3.0 * (a * a + a * b + b * b),
-                  half * h * h / 12.0 * (a * a + 2.0 * a * b + 3.0 * b * b),
-                  h / 12.0 * (a * a * a + a * a * b + a * b * b + b * b * b), degrees);
-}
-
-// The antiderivative of cos^n.
-double PowerIntegral(int n, double angle)
-{
-    if (n == 0)
-        return angle;
-    if (n == 1)
-        return std::sin(angle);
-    return std::pow(std::cos(angle), n - 1) * std::sin(angle) / n +
-           (n - 1.0) / n * PowerIntegral(n - 2, angle);
-}
-
-// What the arc from @p from to @p to of a circle of @p r at @p R from the axis encloses with the
-// axis: a torus, and for R = 0 a sphere.
-Mass Ring(double R, double r, double from, double to, double degrees)
-{
-    const auto c = [&](int n) {
-        return PowerIntegral(n, Radians(to)) - PowerIntegral(n, Radians(from));
-    };
-    const auto s = [&](int n) {
-        return (std::pow(std::cos(Radians(from)), n + 1) - std::pow(std::cos(Radians(to)), n + 1)) /
-               (n + 1);
-    };
-    const double half = Radians(degrees) / 2.0;
-    return Turned(
-        half * r * (R * R * c(1) + 2.0 * R * r * c(2) + r * r * c(3)),
-        half * r * r * (R * R * s(1) + 2.0 * R * r * s(2) + r * r * s(3)),
-        r / 3.0 *
-            (R * R * R * c(1) + 3.0 * R * R * r * c(2) + 3.0 * R * r * r * c(3) + r * r * r * c(4)),
-        degrees);
-}
-
-// Its sections are rectangles whose sides change linearly, so that Simpson's rule is exact.
-Mass Wedge(double x, double z, double h, double xmin, double xmax, double zmin, double zmax)
-{
-    Mass wedge;
-    for (const auto& [t, weight] :
-         {std::pair(0.0, 1.0), std::pair(0.5, 4.0), std::pair(1.0, 1.0)}) {
-        const double left = t * xmin;
-        const double right = x + t * (xmax - x);
-        const double back = t * zmin;
-        const double front = z + t * (zmax - z);
-        const double slice = weight * h / 6.0 * (right - left) * (front - back);
-        wedge.volume += slice;
-        wedge.centre[0] += slice * (left + right) / 2.0;
-        wedge.centre[1] += slice * t * h;
-        wedge.centre[2] += slice * (back + front) / 2.0;
-    }
-    for (double& coordinate : wedge.centre)
-        coordinate /= wedge.volume;
-    return wedge;
-}
-
-Mass Polygon(int edges, double radius, double length, double dx, double dy, double dz)
-{
-    const double norm = length / std::sqrt(dx * dx + dy * dy + dz * dz);
-    return {edges / 2.0 * radius * radius * std::sin(2.0 * Pi / edges) * std::abs(dz) * norm,
-            {dx * norm / 2.0, dy * norm / 2.0, dz * norm / 2.0}};
-}
-
-Mass Moved(Mass mass, double x, double y, double z)
-{
-    mass.centre = {mass.centre[0] + x, mass.centre[1] + y, mass.centre[2] + z};
-    return mass;
-}
-
-// Both together; a negative volume takes away.
-Mass Sum(const Mass& a, const Mass& b)
-{
-    Mass sum;
-    sum.volume = a.volume + b.volume;
-    for (std::size_t axis = 0; axis < 3; ++axis)
-        sum.centre[axis] = (a.volume * a.centre[axis] + b.volume * b.centre[axis]) / sum.volume;
-    return sum;
-}
-
-Mass Less(const Mass& a, Mass b)
-{
-    b.volume = -b.volume;
-    return Sum(a, b);
-}
-
-FeatureList List(const QByteArray& json)
-{
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson("[" + json + "]", &error);
-    if (error.error != QJsonParseError::NoError)
-        qFatal("The test's list is no JSON: %s", json.constData());
-    return FeatureList::FromJson(document.array());
-}
-
-Mass MassOf(const TopoDS_Shape& shape)
-{
-    // Adaptive: with the usual number of points a face that is bounded by a curve across its
-    // parameters is off by a few parts in 1e9.
-    constexpr double Accuracy = 1e-12;
-    GProp_GProps properties;
-    BRepGProp::VolumeProperties(shape, properties, Accuracy);
-    const gp_Pnt centre = properties.CentreOfMass();
-    return {properties.Mass(), {centre.X(), centre.Y(), centre.Z()}};
-}
-
-Mass Built(const QByteArray& json)
-{
-    return MassOf(FeatureBuilder::Build(List(json)).shape);
-}
-
-int Count(const TopoDS_Shape& shape, TopAbs_ShapeEnum type)
-{
-    TopTools_IndexedMapOfShape shapes;
-    TopExp::MapShapes(shape, type, shapes);
-    return shapes.Extent();
-}
-
-std::string Text(const TopoDS_Shape& shape)
-{
-    std::ostringstream text;
-    BRepTools::Write(shape, text);
-    return text.str();
-}
-
-QString Reason(const FeatureList& list)
-{
-    try {
-        FeatureBuilder::Build(list);
-    } catch (const FeatureError& error) {
-        return error.Reason();
-    }
-    return "it was built";
-}
-
-bool AreClose(const Mass& built, const Mass& expected)
-{
-    // A centre is told relative to the size of the body.
-    const double size = std::max(1.0, std::cbrt(expected.volume));
-    bool close = std::abs(built.volume - expected.volume) <= 1e-9 * expected.volume;
-    for (std::size_t axis = 0; axis < 3; ++axis)
-        close &= std::abs(built.centre[axis] - expected.centre[axis]) <= 1e-9 * size;
-    return close;
-}
-
-QByteArray Shown(const Mass& mass)
-{
-    return QString("%1 at (%2, %3, %4)")
-        .arg(mass.volume, 0, 'g', 15)
-        .arg(mass.centre[0], 0, 'g', 13)
-        .arg(mass.centre[1], 0, 'g', 13)
-        .arg(mass.centre[2], 0, 'g', 13)
-        .toUtf8();
-}
-
-void StoreScalar(const char* name, double value)
-{
-    ParametersDef record;
-    record.m_strName = name;
-    record.m_nType = 1;
-    record.m_dValue = value;
-    GlobalParaMeterMgr::AddParameter(name, record);
-}
-
-const QByteArray A10 = R"({"name": "a", "kind": "box"})";
-const QByteArray Brick = R"({"name": "a", "kind": "box", "fields": {"x": 10, "y": 20, "z": 30}})";
-
-} // namespace
 
 Q_DECLARE_METATYPE(Mass)
 
@@ -605,35 +389,6 @@ void tst_FeatureBuilder::ALargeArraySharesItsBody()
              QString("c: the array would have 100000000 bodies; 10000 are the most."));
 }
 
-void tst_FeatureBuilder::TooManyBodiesInOneCutAreRefused()
-{
-    const EmptyDesignStores stores;
-    const QByteArray tools = A10 + R"(, {"name": "b", "kind": "rectangularArray", "inputs": ["a"],
-                    "fields": {"xNumber": 500, "yNumber": 1, "xDistance": 20}})";
-    for (const char* const kind : {"cut", "fuse"}) {
-        const QByteArray combined = QByteArray(R"({"name": "d", "kind": ")") + kind + "\", ";
-        QCOMPARE(Reason(List(tools + R"(, {"name": "c", "kind": "sphere"}, )" + combined +
-                             R"("inputs": ["c", "b"]})")),
-                 QString("d: 501 bodies would have to be combined; 500 are the most."));
-    }
-}
-
-void tst_FeatureBuilder::TooManyBodiesInAllAreRefused()
-{
-    const EmptyDesignStores stores;
-    FeatureList list = List(A10);
-    Feature array = FeatureKinds::MakeFeature(FeatureKind::RectangularArray);
-    array.inputs = QStringList("a");
-    array.fields = QStringList({"100", "100", "20", "20"});
-    for (int i = 0; i < 10; ++i) {
-        array.name = QString("array_%1").arg(i);
-        list.Append(array);
-    }
-    QCOMPARE(
-        Reason(list),
-        QString("array_9: with it, all features together would have more than 100000 bodies."));
-}
-
 void tst_FeatureBuilder::OverlappingInstancesAreFusedAndCutRight()
 {
     const EmptyDesignStores stores;
@@ -808,136 +563,6 @@ void tst_FeatureBuilder::ImportedBodiesAreUsedLikeOthers()
                                          "directory."));
         QCOMPARE(error.FeatureName(), QString("a"));
     }
-}
-
-void tst_FeatureBuilder::WhatCannotBeBuiltNamesFeatureAndCause_data()
-{
-    QTest::addColumn<QByteArray>("list");
-    QTest::addColumn<QString>("reason");
-    const auto row = [](const char* name, const QByteArray& list, const char* reason) {
-        QTest::newRow(name) << list << QString(reason);
-    };
-    const auto one = [&](const char* name, const char* kind, const char* fields,
-                         const char* reason) {
-        row(name,
-            QByteArray(R"({"name": "a", "kind": ")") + kind + R"(", "fields": {)" + fields + "}}",
-            reason);
-    };
-    const auto on = [&](const char* name, const char* kind, const char* fields,
-                        const char* reason) {
-        row(name,
-            Brick + R"(, {"name": "b", "kind": ")" + kind + R"(", "inputs": ["a"], "fields": {)" +
-                fields + "}}",
-            reason);
-    };
-    one("length 0", "box", R"("y": 0)", "a: Size y is 0, but has to be from 0.0001 to 1000000 mm.");
-    one("negative length", "cylinder", R"("radius": -5)",
-        "a: Radius is -5, but has to be from 0.0001 to 1000000 mm.");
-    one("too small", "sphere", R"("radius": 1e-300)",
-        "a: Radius is 1e-300, but has to be from 0.0001 to 1000000 mm.");
-    one("too great", "box", R"("x": 1e300)",
-        "a: Size x is 1e+300, but has to be from 0.0001 to 1000000 mm.");
-    one("infinite", "box", R"("x": "1/0")",
-        "a: Size x (\"1/0\") has no value: Position 1: an operation has no finite result, "
-        "such as 1/0 or ln(0).");
-    one("empty text", "box", R"("x": "")",
-        "a: Size x (\"\") has no value: Position 1: the expression is empty.");
-    one("angle 0", "cylinder", R"("angle": 0)",
-        "a: Angle is 0, but has to be above 0 and at most 360 degrees.");
-    one("angle above 360", "cone", R"("angle": 360.1)",
-        "a: Angle is 360.1, but has to be above 0 and at most 360 degrees.");
-    one("sphere from the pole", "sphere", R"("angle1": 90)",
-        "a: Angle 1 is 90, but has to be at least -90 and below 90 degrees.");
-    one("sphere to the pole", "sphere", R"("angle2": -90)",
-        "a: Angle 2 is -90, but has to be above -90 and at most 90 degrees.");
-    one("sphere, angles crossed", "sphere", R"("angle1": 30, "angle2": 20)",
-        "a: angle 1 (30) has to be below angle 2 (20).");
-    one("sphere, angles equal", "sphere", R"("angle1": 30, "angle2": 30)",
-        "a: angle 1 (30) has to be below angle 2 (30).");
-    one("tube as wide as the ring", "torus", R"("radius": 3, "sweepRadius": 3)",
-        "a: the sweep radius (3) has to be below the radius (3).");
-    one("torus, angle 1 at 0", "torus", R"("angle1": 0)",
-        "a: Angle 1 is 0, but has to be at least -180 and below 0 degrees.");
-    one("torus, angle 2 at 0", "torus", R"("angle2": 0)",
-        "a: Angle 2 is 0, but has to be above 0 and at most 180 degrees.");
-    one("top radius below 0", "cone", R"("topRadius": -1)",
-        "a: Top radius is -1, but has to be 0 or from 0.0001 to 1000000 mm.");
-    one("base radius 0", "cone", R"("baseRadius": 0)",
-        "a: Base radius is 0, but has to be from 0.0001 to 1000000 mm.");
-    one("wedge, x crossed", "wedge", R"("xmin": 15, "xmax": 5)",
-        "a: X min (15) has to be below X max (5).");
-    one("wedge, z equal", "wedge", R"("zmin": 8, "zmax": 8)",
-        "a: Z min (8) has to be below Z max (8).");
-    one("two edges", "polygon", R"("edges": 2)",
-        "a: Number of edges is 2, but has to be a whole number from 3 to 1000.");
-    one("six and a half edges", "polygon", R"("edges": 6.5)",
-        "a: Number of edges is 6.5, but has to be a whole number from 3 to 1000.");
-    one("too many edges", "polygon", R"("edges": 1000, "radius": 0.001)",
-        "a: 1000 edges are too many for a radius of 0.001 mm.");
-    one("flat extrusion", "polygon", R"("dx": 1, "dz": 0)",
-        "a: its direction lies in the plane of the polygon.");
-    one("extrusion to nowhere", "polygon", R"("dz": 0)", "a: its direction is zero.");
-
-    on("rotation about nothing", "rotate", R"("dz": 0)", "b: its direction is zero.");
-    on("rotation of 400", "rotate", R"("angle": 400)",
-       "b: Angle is 400, but has to be from -360 to 360 degrees.");
-    on("too far away", "move", R"("dx": 1e7)",
-       "b: Distance x is 1e+07, but has to be from -1000000 to 1000000 mm.");
-    on("mirror at no axis", "mirrorAxis", R"("dz": 1e-200)", "b: its direction is zero.");
-    on("array about nothing", "polarArray", R"("dz": 0)", "b: its direction is zero.");
-    on("no face there", "mirrorFace", R"("x": 5, "y": 5, "z": 31)",
-       "b: there is no face at the point (5, 5, 31).");
-    on("a point beside the face, in its plane", "mirrorFace", R"("x": 50, "y": 5, "z": 30)",
-       "b: there is no face at the point (50, 5, 30).");
-    on("two faces there", "mirrorFace", R"("x": 5, "y": 0, "z": 0)",
-       "b: several faces meet at the point (5, 0, 0); choose a point on one of them alone.");
-    row("a round face",
-        R"({"name": "a", "kind": "cylinder"},
-           {"name": "b", "kind": "mirrorFace", "inputs": ["a"], "fields": {"x": 10, "z": 5}})",
-        "b: the face at the point is not flat.");
-    on("no edge there", "fillet", R"("x": 5, "y": 5, "z": 30)",
-       "b: there is no edge at the point (5, 5, 30).");
-    on("several edges there", "fillet", "",
-       "b: several edges meet at the point (0, 0, 0); choose a point on one of them alone.");
-    row("only a seam there",
-        R"({"name": "a", "kind": "cylinder"},
-           {"name": "b", "kind": "fillet", "inputs": ["a"], "fields": {"x": 10, "z": 5}})",
-        "b: there is no edge at the point (10, 0, 5).");
-    on("negative fillet", "fillet", R"("radius": -1)",
-       "b: Radius is -1, but has to be 0 or from 0.0001 to 1000000 mm.");
-    on("fillet that does not fit", "fillet", R"("radius": 25, "z": 15)",
-       "b: a fillet of 25 mm cannot be built there; it may be too large for the faces beside the "
-       "edge.");
-    row("nothing left",
-        Brick + R"(, {"name": "b", "kind": "box", "fields": {"x": 50, "y": 50, "z": 50}},
-                     {"name": "c", "kind": "cut", "inputs": ["a", "b"]})",
-        "c: nothing is left of the body.");
-}
-
-void tst_FeatureBuilder::WhatCannotBeBuiltNamesFeatureAndCause()
-{
-    const EmptyDesignStores stores;
-    QFETCH(QByteArray, list);
-    QTEST(Reason(List(list)), "reason");
-}
-
-void tst_FeatureBuilder::AFailureChangesNothing()
-{
-    const EmptyDesignStores stores;
-    StoreScalar("size", 10.0);
-    const FeatureList good = List(R"({"name": "a", "kind": "box", "fields": {"x": "size"}})");
-    BuiltPart part = FeatureBuilder::Build(good);
-    const std::string before = Text(part.shape);
-    FeatureList bad = good;
-    Feature sphere = FeatureKinds::MakeFeature(FeatureKind::Sphere);
-    sphere.name = "b";
-    sphere.fields[0] = "-size";
-    bad.Append(sphere);
-    QVERIFY_EXCEPTION_THROWN(part = FeatureBuilder::Build(bad), FeatureError);
-    QCOMPARE(Text(part.shape), before);
-    QCOMPARE(part.shapes.size(), std::size_t(1));
-    QCOMPARE(GlobalParaMeterMgr::GetAllParametersName(), std::vector<QString>({"size"}));
-    QCOMPARE(Text(FeatureBuilder::Build(good).shape), before);
 }
 
 // A list of primitives, placed at random and then combined.
