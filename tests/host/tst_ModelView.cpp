@@ -1,7 +1,7 @@
 #include "DrawerOutput.h"
 #include "HostApplication.h"
 #include "KernelText.h"
-#include "ModelView.h"
+#include "ShownView.h"
 #include "TestCase.h"
 
 #include <BRepGProp.hxx>
@@ -19,7 +19,6 @@
 #include <cmath>
 #include <optional>
 
-Q_DECLARE_METATYPE(ModelView::StandardView)
 Q_DECLARE_METATYPE(Qt::MouseButton)
 Q_DECLARE_METATYPE(Qt::KeyboardModifiers)
 
@@ -44,18 +43,6 @@ private Q_SLOTS:
     void StandardViewsLookFromTheirSide_data();
     void StandardViewsLookFromTheirSide();
     void AClickOnTheCubeTurnsTheView();
-    void TheFaceUnderTheCursorIsHighlighted();
-    void AClickedFaceStaysHighlighted();
-    void AnotherClickSelectsAnotherFace();
-    void PickingTellsTheClickedFace_data();
-    void PickingTellsTheClickedFace();
-    void PickingWaitsForAFace();
-    void EscapeEndsPicking();
-    void WithoutPickingNoFaceIsTold();
-    void ADragPicksNothing();
-    void ThePointUnderTheCursorIsOnTheSurface();
-    void ThePointIsLostBesideThePart();
-    void ThePointIsLostWithTheCursorOrTheShape();
     void ARebuildKeepsTheCamera();
     void ATypedPointIsMarked();
     void AFeatureWithinThePartIsHighlighted();
@@ -72,124 +59,6 @@ private Q_SLOTS:
 namespace {
 
 const char ChildArgument[] = "--show-a-view";
-
-TopoDS_Shape Block()
-{
-    return BRepPrimAPI_MakeBox(100.0, 60.0, 40.0).Shape();
-}
-
-QColor At(const QImage& image, const QPoint& point)
-{
-    return image.pixelColor(point * image.devicePixelRatio());
-}
-
-bool IsOrange(const QColor& colour)
-{
-    return colour.red() > colour.blue() + 60;
-}
-
-bool IsBlue(const QColor& colour)
-{
-    return colour.blue() > colour.red() + 60;
-}
-
-/// A view of the block in a window of its own.
-class ShownView
-{
-public:
-    ShownView()
-    {
-        QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
-        window.setCentralWidget(view = new ModelView);
-        window.resize(400, 300);
-        window.show();
-        window.activateWindow();
-        if (!QTest::qWaitForWindowActive(&window))
-            qFatal("The window does not become active");
-        view->ShowShape(Block());
-        QObject::connect(view, &ModelView::PointMoved, view,
-                         [this](const gp_Pnt& p) { point = p; });
-        QObject::connect(view, &ModelView::PointLost, view, [this] {
-            point.reset();
-            ++lost;
-        });
-        QObject::connect(view, &ModelView::FacePicked, view,
-                         [this](const TopoDS_Face& face, const gp_Pnt& p) {
-                             ++picked;
-                             pickedFace = face;
-                             pickedPoint = p;
-                         });
-    }
-
-    QImage Picture() const { return view->grab().toImage(); }
-    QPoint Middle() const { return view->rect().center(); }
-
-    // Not the framework's way, which moves the pointer of the screen and waits for what comes.
-    void MoveTo(const QPoint& to) const
-    {
-        QMouseEvent move(QEvent::MouseMove, to, view->mapToGlobal(to), Qt::NoButton, Qt::NoButton,
-                         Qt::NoModifier);
-        QCoreApplication::sendEvent(view, &move);
-    }
-    void Drag(Qt::MouseButton button, Qt::KeyboardModifiers keys, const QPoint& from,
-              const QPoint& by) const
-    {
-        QTest::mousePress(view, button, keys, from);
-        for (int i = 1; i <= 4; ++i) {
-            const QPointF at = from + by * i / 4;
-            QMouseEvent move(QEvent::MouseMove, at, view->mapToGlobal(at.toPoint()), Qt::NoButton,
-                             button, keys);
-            QCoreApplication::sendEvent(view, &move);
-        }
-        QTest::mouseRelease(view, button, keys, from + by);
-    }
-    void Scroll(const QPoint& at, int notches) const
-    {
-        for (int i = 0; i < std::abs(notches); ++i) {
-            QWheelEvent wheel(at, view->mapToGlobal(at), {}, {0, notches > 0 ? 120 : -120},
-                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-            QCoreApplication::sendEvent(view, &wheel);
-        }
-    }
-
-    QMainWindow window;
-    ModelView* view;
-    std::optional<gp_Pnt> point;
-    int lost = 0;
-    int picked = 0;
-    TopoDS_Face pickedFace;
-    gp_Pnt pickedPoint;
-};
-
-// Where the picture differs from one without the part.
-QRect PartRect(const ShownView& shown)
-{
-    const QImage with = shown.Picture();
-    shown.view->SetDisplayMode(ModelView::ShadedWithEdges);
-    const TopoDS_Shape none;
-    ModelView& view = *shown.view;
-    view.ShowShape(none);
-    const QImage without = shown.Picture();
-    view.ShowShape(Block(), false);
-    QRect part;
-    for (int y = 0; y < with.height(); ++y) {
-        for (int x = 0; x < with.width(); ++x) {
-            if (with.pixel(x, y) != without.pixel(x, y))
-                part |= QRect(x, y, 1, 1);
-        }
-    }
-    return part;
-}
-
-int BlackPixels(const QImage& image)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            count += image.pixelColor(x, y).lightness() < 40 ? 1 : 0;
-    }
-    return count;
-}
 
 } // namespace
 
@@ -368,21 +237,7 @@ void tst_ModelView::FitBringsTheWholeShapeBack()
 
 void tst_ModelView::StandardViewsLookFromTheirSide_data()
 {
-    QTest::addColumn<ModelView::StandardView>("view");
-    QTest::addColumn<QString>("middle"); // What is seen there of the block; * is not known exactly.
-    QTest::addColumn<QString>("right");  // The axis that points to the right.
-    QTest::newRow("front") << ModelView::FrontView << "* 0 *"
-                           << "+x";
-    QTest::newRow("back") << ModelView::BackView << "* 60 *"
-                          << "-x";
-    QTest::newRow("left") << ModelView::LeftView << "0 * *"
-                          << "-y";
-    QTest::newRow("right") << ModelView::RightView << "100 * *"
-                           << "+y";
-    QTest::newRow("top") << ModelView::TopView << "* * 40"
-                         << "+x";
-    QTest::newRow("bottom") << ModelView::BottomView << "* * 0"
-                            << "+x";
+    AddStandardViews();
 }
 
 void tst_ModelView::StandardViewsLookFromTheirSide()
@@ -424,165 +279,6 @@ void tst_ModelView::AClickOnTheCubeTurnsTheView()
     };
     QVERIFY(!topIsSeen());
     QTRY_VERIFY(topIsSeen());
-}
-
-void tst_ModelView::TheFaceUnderTheCursorIsHighlighted()
-{
-    const ShownView shown;
-    shown.view->SetStandardView(ModelView::FrontView);
-    const QPoint face = shown.Middle() + QPoint(30, 20);
-    shown.MoveTo({5, shown.view->height() - 5});
-    const QImage before = shown.Picture();
-    shown.MoveTo(shown.Middle());
-    QVERIFY(IsBlue(At(shown.Picture(), face)));
-    shown.MoveTo({5, shown.view->height() - 5});
-    QCOMPARE(shown.Picture(), before);
-}
-
-void tst_ModelView::AClickedFaceStaysHighlighted()
-{
-    const ShownView shown;
-    shown.view->SetStandardView(ModelView::FrontView);
-    const QPoint face = shown.Middle() + QPoint(30, 20);
-    QVERIFY(!IsOrange(At(shown.Picture(), face)));
-    QTest::mouseClick(shown.view, Qt::LeftButton, {}, shown.Middle());
-    shown.MoveTo({5, shown.view->height() - 5});
-    QVERIFY(IsOrange(At(shown.Picture(), face)));
-    shown.view->SetStandardView(ModelView::FrontView);
-    QVERIFY(IsOrange(At(shown.Picture(), face)));
-    QTest::mouseClick(shown.view, Qt::LeftButton, {}, {5, shown.view->height() - 5});
-    QVERIFY(!IsOrange(At(shown.Picture(), face)));
-}
-
-void tst_ModelView::AnotherClickSelectsAnotherFace()
-{
-    const ShownView shown;
-    const QPoint first = shown.Middle() + QPoint(-50, 30);
-    const QPoint second = shown.Middle() + QPoint(100, 50);
-    const QPoint beside(5, shown.view->height() - 5);
-    QTest::mouseClick(shown.view, Qt::LeftButton, {}, first);
-    QTest::mouseClick(shown.view, Qt::LeftButton, {}, second);
-    shown.MoveTo(beside);
-    QVERIFY(!IsOrange(At(shown.Picture(), first)));
-    QVERIFY(IsOrange(At(shown.Picture(), second)));
-}
-
-void tst_ModelView::PickingTellsTheClickedFace_data()
-{
-    StandardViewsLookFromTheirSide_data();
-}
-
-void tst_ModelView::PickingTellsTheClickedFace()
-{
-    QFETCH(ModelView::StandardView, view);
-    QFETCH(QString, middle);
-    const ShownView shown;
-    shown.view->SetStandardView(view);
-    shown.view->PickFace();
-    QVERIFY(shown.view->IsPicking());
-    QCOMPARE(shown.view->cursor().shape(), Qt::CrossCursor);
-    QTest::mouseClick(shown.view, Qt::LeftButton, {}, shown.Middle());
-    QCOMPARE(shown.picked, 1);
-    QVERIFY(!shown.view->IsPicking());
-    QCOMPARE(shown.view->cursor().shape(), Qt::ArrowCursor);
-
-    GProp_GProps properties;
-    BRepGProp::SurfaceProperties(shown.pickedFace, properties);
-    QString face = KernelText(properties.CentreOfMass());
-    const QStringList known = middle.split(' ');
-    const gp_Pnt centre(known[0] == "*" ? 50.0 : known[0].toDouble(),
-                        known[1] == "*" ? 30.0 : known[1].toDouble(),
-                        known[2] == "*" ? 20.0 : known[2].toDouble());
-    QCOMPARE(face, KernelText(centre));
-    QVERIFY(shown.pickedPoint.Distance(centre) < 2.0);
-    // The next click selects, no more.
-    QTest::mouseClick(shown.view, Qt::LeftButton, {}, shown.Middle());
-    QCOMPARE(shown.picked, 1);
-}
-
-void tst_ModelView::PickingWaitsForAFace()
-{
-    const ShownView shown;
-    shown.view->PickFace();
-    QTest::mouseClick(shown.view, Qt::LeftButton, {}, {5, shown.view->height() - 5});
-    QVERIFY(shown.view->IsPicking());
-    // Turning the view in between is fine.
-    shown.Drag(Qt::LeftButton, {}, shown.Middle(), {30, 0});
-    QVERIFY(shown.view->IsPicking());
-    QCOMPARE(shown.picked, 0);
-    QTest::mouseClick(shown.view, Qt::LeftButton, {}, shown.Middle() + QPoint(0, 40));
-    QCOMPARE(shown.picked, 1);
-}
-
-void tst_ModelView::EscapeEndsPicking()
-{
-    const ShownView shown;
-    QSignalSpy cancelled(shown.view, &ModelView::PickingCancelled);
-    QTest::keyClick(shown.view->window(), Qt::Key_Escape);
-    QCOMPARE(cancelled.size(), 0);
-    shown.view->PickFace();
-    QTest::keyClick(shown.view->window(), Qt::Key_Escape);
-    QCOMPARE(cancelled.size(), 1);
-    QVERIFY(!shown.view->IsPicking());
-    QCOMPARE(shown.view->cursor().shape(), Qt::ArrowCursor);
-    QTest::mouseClick(shown.view, Qt::LeftButton, {}, shown.Middle());
-    QCOMPARE(shown.picked, 0);
-}
-
-void tst_ModelView::WithoutPickingNoFaceIsTold()
-{
-    const ShownView shown;
-    QTest::mouseClick(shown.view, Qt::LeftButton, {}, shown.Middle());
-    QCOMPARE(shown.picked, 0);
-}
-
-void tst_ModelView::ADragPicksNothing()
-{
-    const ShownView shown;
-    shown.view->PickFace();
-    shown.Drag(Qt::LeftButton, {}, shown.Middle(), {40, 10});
-    QCOMPARE(shown.picked, 0);
-}
-
-void tst_ModelView::ThePointUnderTheCursorIsOnTheSurface()
-{
-    const ShownView shown;
-    shown.view->ShowShape(BRepPrimAPI_MakeCylinder(50.0, 80.0).Shape());
-    shown.view->SetStandardView(ModelView::FrontView);
-    for (int x = -60; x <= 60; x += 8) {
-        shown.MoveTo(shown.Middle() + QPoint(x, 5));
-        QVERIFY(shown.point.has_value());
-        QVERIFY(std::abs(std::hypot(shown.point->X(), shown.point->Y()) - 50.0) < 1e-9);
-        QVERIFY(shown.point->Y() < 0.0);
-    }
-}
-
-void tst_ModelView::ThePointIsLostBesideThePart()
-{
-    const ShownView shown;
-    shown.MoveTo(shown.Middle());
-    QVERIFY(shown.point.has_value());
-    QCOMPARE(shown.lost, 0);
-    shown.MoveTo({5, shown.view->height() - 5});
-    QCOMPARE(shown.lost, 1);
-    shown.MoveTo({8, shown.view->height() - 8});
-    QCOMPARE(shown.lost, 1);
-    shown.MoveTo(shown.Middle());
-    QVERIFY(shown.point.has_value());
-}
-
-void tst_ModelView::ThePointIsLostWithTheCursorOrTheShape()
-{
-    const ShownView shown;
-    shown.MoveTo(shown.Middle());
-    QVERIFY(shown.point.has_value());
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(shown.view, &leave);
-    QCOMPARE(shown.lost, 1);
-    shown.MoveTo(shown.Middle() + QPoint(1, 1));
-    QVERIFY(shown.point.has_value());
-    shown.view->ShowShape(TopoDS_Shape());
-    QCOMPARE(shown.lost, 2);
 }
 
 void tst_ModelView::ARebuildKeepsTheCamera()
