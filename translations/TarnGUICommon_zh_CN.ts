@@ -330,6 +330,109 @@
     </message>
 </context>
 <context>
+    <name>ExpressionError</name>
+    <message>
+        <source>the expression cannot be evaluated</source>
+        <translation>表达式无法计算</translation>
+    </message>
+    <message>
+        <source>Position %1: %2</source>
+        <translation>位置 %1：%2</translation>
+    </message>
+    <message>
+        <source>the character with code %1</source>
+        <translation>代码为 %1 的字符</translation>
+    </message>
+    <message>
+        <source>an operation has no real result, such as 0/0 or sqrt(-1)</source>
+        <translation>某个运算没有实数结果，例如 0/0 或 sqrt(-1)</translation>
+    </message>
+    <message>
+        <source>an operation has no finite result, such as 1/0 or ln(0)</source>
+        <translation>某个运算没有有限结果，例如 1/0 或 ln(0)</translation>
+    </message>
+    <message>
+        <source>a number becomes too large</source>
+        <translation>数值过大</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a variable here and no function</source>
+        <translation>&apos;%1&apos; 在此处是变量，不是函数</translation>
+    </message>
+    <message>
+        <source>the name %1 is unknown</source>
+        <translation>名称 %1 未知</translation>
+    </message>
+    <message>
+        <source>the value of %1 is not finite</source>
+        <translation>%1 的值不是有限数</translation>
+    </message>
+    <message>
+        <source>the expression has more than %1 characters</source>
+        <translation>表达式超过 %1 个字符</translation>
+    </message>
+    <message>
+        <source>the number is too large or too small</source>
+        <translation>数字过大或过小</translation>
+    </message>
+    <message>
+        <source>%1 is not allowed here</source>
+        <translation>此处不允许出现 %1</translation>
+    </message>
+    <message>
+        <source>a value is missing before %1</source>
+        <translation>%1 之前缺少值</translation>
+    </message>
+    <message>
+        <source>nothing can be assigned with &apos;=&apos;; two values are compared with &apos;==&apos;</source>
+        <translation>不能用 &apos;=&apos; 赋值；比较两个值请用 &apos;==&apos;</translation>
+    </message>
+    <message>
+        <source>an operator is missing before %1</source>
+        <translation>%1 之前缺少运算符</translation>
+    </message>
+    <message>
+        <source>there is no function %1</source>
+        <translation>没有函数 %1</translation>
+    </message>
+    <message>
+        <source>this &apos;:&apos; has no &apos;?&apos; before it</source>
+        <translation>此 &apos;:&apos; 之前没有 &apos;?&apos;</translation>
+    </message>
+    <message>
+        <source>more than one value; &apos;,&apos; stands only between the values of a function, and the decimal sign is the full stop</source>
+        <translation>有多个值；&apos;,&apos; 只能用在函数的各个值之间，小数点为句点</translation>
+    </message>
+    <message>
+        <source>this &apos;)&apos; has no &apos;(&apos; before it</source>
+        <translation>此 &apos;)&apos; 之前没有 &apos;(&apos;</translation>
+    </message>
+    <message>
+        <source>the expression is empty</source>
+        <translation>表达式为空</translation>
+    </message>
+    <message>
+        <source>the expression ends where a value must follow</source>
+        <translation>表达式在应有值的位置结束</translation>
+    </message>
+    <message>
+        <source>the function &apos;%1&apos; takes %2 value(s), not %3</source>
+        <translation>函数 &apos;%1&apos; 需要 %2 个值，而不是 %3 个</translation>
+    </message>
+    <message>
+        <source>this &apos;?&apos; has no &apos;:&apos; after it</source>
+        <translation>此 &apos;?&apos; 之后没有 &apos;:&apos;</translation>
+    </message>
+    <message>
+        <source>this &apos;(&apos; has no &apos;)&apos; after it</source>
+        <translation>此 &apos;(&apos; 之后没有 &apos;)&apos;</translation>
+    </message>
+    <message>
+        <source>the call of &apos;%1&apos; has no &apos;)&apos; at its end</source>
+        <translation>对 &apos;%1&apos; 的调用末尾缺少 &apos;)&apos;</translation>
+    </message>
+</context>
+<context>
     <name>ExternalSolverOption</name>
     <message>
         <source>ExternalSolverOption</source>

@@ -94,7 +94,7 @@ double ExpressionEngine::CalculateExpress(const std::string& expression,
         }
     } catch (...) {
         // The parser's own errors, which no formula should cause, and lack of memory.
-        error = {1, QStringLiteral("the expression cannot be evaluated")};
+        error = {1, ExpressionError::tr("the expression cannot be evaluated")};
     }
     ErrorText() = error.Text();
     return std::numeric_limits<double>::quiet_NaN();

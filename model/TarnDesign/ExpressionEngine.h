@@ -25,6 +25,6 @@ public:
                                    std::map<std::string, double>& variables);
 
     /// Why the last CalculateExpress() gave NaN, with the position in the text counted in
-    /// characters from 1; empty after a success.
+    /// characters from 1; empty after a success. In the language of the installed translators.
     static QString LastError();
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <string_view>
@@ -7,6 +8,9 @@
 /// Why an expression has no value.
 struct ExpressionError
 {
+    Q_DECLARE_TR_FUNCTIONS(ExpressionError)
+
+public:
     int position = 1; ///< In characters of the expression, from 1.
     QString reason;
 

@@ -43,13 +43,13 @@ public:
     static QString Problem(double result, bool compares)
     {
         if (std::fetestexcept(FE_INVALID) != 0)
-            return QStringLiteral("an operation has no real result, such as 0/0 or sqrt(-1)");
+            return ExpressionError::tr("an operation has no real result, such as 0/0 or sqrt(-1)");
         if (std::fetestexcept(FE_DIVBYZERO) != 0)
-            return QStringLiteral("an operation has no finite result, such as 1/0 or ln(0)");
+            return ExpressionError::tr("an operation has no finite result, such as 1/0 or ln(0)");
         // A step that is too large for a double counts as infinite, which leads to the right end,
         // as in 1/(1 + exp(1000)). Only two of them cannot be told apart in a comparison.
         if (!std::isfinite(result) || (compares && std::fetestexcept(FE_OVERFLOW) != 0))
-            return QStringLiteral("a number becomes too large");
+            return ExpressionError::tr("a number becomes too large");
         return QString();
     }
 
@@ -124,7 +124,7 @@ bool ExpressionProgram::Bind(const std::map<std::string, double>& variables, Exp
 {
     for (const ExpressionFormula::Call& call : m_formula.calls) {
         if (variables.count(call.function->name) != 0) {
-            error = {call.position, QStringLiteral("'%1' is a variable here and no function")
+            error = {call.position, ExpressionError::tr("'%1' is a variable here and no function")
                                         .arg(QLatin1String(call.function->name))};
             return false;
         }
@@ -132,13 +132,13 @@ bool ExpressionProgram::Bind(const std::map<std::string, double>& variables, Exp
     for (ExpressionFormula::Variable& variable : m_formula.variables) {
         const auto found = variables.find(variable.key);
         if (found == variables.end() && !variable.constant) {
-            error = {variable.position, QStringLiteral("the name %1 is unknown")
+            error = {variable.position, ExpressionError::tr("the name %1 is unknown")
                                             .arg(ExpressionError::Shown(variable.name))};
             return false;
         }
         variable.value = found != variables.end() ? found->second : *variable.constant;
         if (!std::isfinite(variable.value)) {
-            error = {variable.position, QStringLiteral("the value of %1 is not finite")
+            error = {variable.position, ExpressionError::tr("the value of %1 is not finite")
                                             .arg(ExpressionError::Shown(variable.name))};
             return false;
         }

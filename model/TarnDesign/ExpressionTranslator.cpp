@@ -59,7 +59,7 @@ std::optional<ExpressionFormula> ExpressionTranslator::Translate()
 ExpressionError ExpressionTranslator::TooLong()
 {
     return {MaxCharacters + 1,
-            QStringLiteral("the expression has more than %1 characters").arg(MaxCharacters)};
+            ExpressionError::tr("the expression has more than %1 characters").arg(MaxCharacters)};
 }
 
 // Where a value must begin: signs, a number, a name, a bracket.
@@ -84,13 +84,14 @@ bool ExpressionTranslator::TakeValue(const Token& token)
         return true;
     }
     case Kind::NumberOutOfRange:
-        return Refuse(token.begin, QStringLiteral("the number is too large or too small"));
+        return Refuse(token.begin, ExpressionError::tr("the number is too large or too small"));
     case Kind::Unknown:
-        return Refuse(token.begin, QStringLiteral("%1 is not allowed here").arg(Shown(token)));
+        return Refuse(token.begin, ExpressionError::tr("%1 is not allowed here").arg(Shown(token)));
     default:
         break;
     }
-    return Refuse(token.begin, QStringLiteral("a value is missing before %1").arg(Shown(token)));
+    return Refuse(token.begin,
+                  ExpressionError::tr("a value is missing before %1").arg(Shown(token)));
 }
 
 // Where a value has ended.
@@ -112,12 +113,12 @@ bool ExpressionTranslator::TakeOperator(const Token& token)
         return TakeClose(token);
     case Kind::Unknown:
         if (m_text.Utf8()[token.begin] == '=')
-            return Refuse(token.begin, QStringLiteral("nothing can be assigned with '='; two "
-                                                      "values are compared with '=='"));
-        return Refuse(token.begin, QStringLiteral("%1 is not allowed here").arg(Shown(token)));
+            return Refuse(token.begin, ExpressionError::tr("nothing can be assigned with '='; two "
+                                                           "values are compared with '=='"));
+        return Refuse(token.begin, ExpressionError::tr("%1 is not allowed here").arg(Shown(token)));
     default:
         return Refuse(token.begin,
-                      QStringLiteral("an operator is missing before %1").arg(Shown(token)));
+                      ExpressionError::tr("an operator is missing before %1").arg(Shown(token)));
     }
 }
 
@@ -141,7 +142,8 @@ bool ExpressionTranslator::TakeCall(const Token& token)
     const std::string_view name = m_scanner.TextOf(token);
     const ExpressionFunction* const function = ExpressionFunction::Find(name);
     if (function == nullptr)
-        return Refuse(token.begin, QStringLiteral("there is no function %1").arg(Shown(token)));
+        return Refuse(token.begin,
+                      ExpressionError::tr("there is no function %1").arg(Shown(token)));
     auto& calls = m_formula.calls;
     const auto isSame = [function](const auto& call) {
         return call.function == function;
@@ -157,7 +159,7 @@ bool ExpressionTranslator::TakeCall(const Token& token)
 bool ExpressionTranslator::TakeOtherwise(const Token& token)
 {
     if (m_open.empty() || m_open.back().kind != Kind::Condition)
-        return Refuse(token.begin, QStringLiteral("this ':' has no '?' before it"));
+        return Refuse(token.begin, ExpressionError::tr("this ':' has no '?' before it"));
     m_open.pop_back();
     Write(":");
     m_needsValue = true;
@@ -169,9 +171,10 @@ bool ExpressionTranslator::TakeComma(const Token& token)
     if (!m_open.empty() && m_open.back().kind == Kind::Condition)
         return RefuseUnclosed(m_open.back());
     if (m_open.empty() || m_open.back().function == nullptr)
-        return Refuse(token.begin,
-                      QStringLiteral("more than one value; ',' stands only between the values of a "
-                                     "function, and the decimal sign is the full stop"));
+        return Refuse(
+            token.begin,
+            ExpressionError::tr("more than one value; ',' stands only between the values of a "
+                                "function, and the decimal sign is the full stop"));
     ++m_open.back().arguments;
     Write(",");
     m_needsValue = true;
@@ -181,7 +184,7 @@ bool ExpressionTranslator::TakeComma(const Token& token)
 bool ExpressionTranslator::TakeClose(const Token& token)
 {
     if (m_open.empty())
-        return Refuse(token.begin, QStringLiteral("this ')' has no '(' before it"));
+        return Refuse(token.begin, ExpressionError::tr("this ')' has no '(' before it"));
     const Frame frame = m_open.back();
     if (frame.kind == Kind::Condition)
         return RefuseUnclosed(frame);
@@ -195,9 +198,10 @@ bool ExpressionTranslator::TakeClose(const Token& token)
 bool ExpressionTranslator::Finish(const Token& end)
 {
     if (m_isEmpty)
-        return Refuse(0, QStringLiteral("the expression is empty"));
+        return Refuse(0, ExpressionError::tr("the expression is empty"));
     if (m_needsValue)
-        return Refuse(end.begin, QStringLiteral("the expression ends where a value must follow"));
+        return Refuse(end.begin,
+                      ExpressionError::tr("the expression ends where a value must follow"));
     return m_open.empty() || RefuseUnclosed(m_open.back());
 }
 
@@ -206,7 +210,7 @@ bool ExpressionTranslator::CheckArguments(const Frame& call)
     const int wanted = call.function->Arguments();
     if (wanted == ExpressionFunction::AnyNumber || wanted == call.arguments)
         return true;
-    return Refuse(call.begin, QStringLiteral("the function '%1' takes %2 value(s), not %3")
+    return Refuse(call.begin, ExpressionError::tr("the function '%1' takes %2 value(s), not %3")
                                   .arg(QLatin1String(call.function->name))
                                   .arg(wanted)
                                   .arg(call.arguments));
@@ -237,10 +241,10 @@ bool ExpressionTranslator::Refuse(std::size_t offset, const QString& reason)
 bool ExpressionTranslator::RefuseUnclosed(const Frame& frame)
 {
     if (frame.kind == Kind::Condition)
-        return Refuse(frame.begin, QStringLiteral("this '?' has no ':' after it"));
+        return Refuse(frame.begin, ExpressionError::tr("this '?' has no ':' after it"));
     if (frame.function == nullptr)
-        return Refuse(frame.begin, QStringLiteral("this '(' has no ')' after it"));
-    return Refuse(frame.begin, QStringLiteral("the call of '%1' has no ')' at its end")
+        return Refuse(frame.begin, ExpressionError::tr("this '(' has no ')' after it"));
+    return Refuse(frame.begin, ExpressionError::tr("the call of '%1' has no ')' at its end")
                                    .arg(QLatin1String(frame.function->name)));
 }
 
