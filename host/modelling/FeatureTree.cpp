@@ -12,7 +12,7 @@
 
 namespace {
 
-// "radius = 10, height = thickness": what the feature is made from.
+// "Radius = 10, Height = thickness": what the feature is made from.
 QString FieldsText(const Feature& feature)
 {
     QStringList texts;
@@ -22,7 +22,8 @@ QString FieldsText(const Feature& feature)
         texts << QFileInfo(feature.file).fileName();
     const std::vector<FieldKind>& fields = FeatureKinds::Of(feature.kind).fields;
     for (int i = 0; i < feature.fields.size(); ++i)
-        texts << QStringLiteral("%1 = %2").arg(fields[std::size_t(i)].key, feature.fields[i]);
+        texts << QStringLiteral("%1 = %2").arg(FeatureKinds::Label(fields[std::size_t(i)]),
+                                               feature.fields[i]);
     return texts.join(QStringLiteral(", "));
 }
 

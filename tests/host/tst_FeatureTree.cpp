@@ -69,7 +69,8 @@ void tst_FeatureTree::AFeatureHasARowInItsOrder()
 void tst_FeatureTree::ARowTellsWhatTheFeatureIsMadeFrom()
 {
     ShownTree shown;
-    QCOMPARE(shown.Row(0).text(FeatureTree::FieldsColumn), QString("x = 4 * 5, y = 10, z = 10"));
+    QCOMPARE(shown.Row(0).text(FeatureTree::FieldsColumn),
+             QString("Size x = 4 * 5, Size y = 10, Size z = 10"));
     QCOMPARE(shown.Row(2).text(FeatureTree::FieldsColumn), QString("of plate, pin"));
     Feature import = NewFeature("import", FeatureKind::StepImport);
     import.file = "parts/nut.step";
