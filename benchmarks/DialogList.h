@@ -33,12 +33,10 @@
 /// dialog. The stores are to be empty and the working directory without files, so that it is the
 /// dialog itself that is measured.
 
-/// To be called before there is an application.
-inline void RunOffscreen()
+/// A bare dialog has none of the slots that a form may connect to; being told so is no part of the
+/// comparison.
+inline void SilenceForms()
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // A bare dialog has none of the slots that a form may connect to; being told so is no part of
-    // the comparison.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
 }
 

@@ -1,7 +1,7 @@
 #include "DOEDlg.h"
+#include "RunBenchmarks.h"
 #include "sParaArrayData.h"
 
-#include <QApplication>
 #include <QPushButton>
 #include <QTableWidget>
 
@@ -141,12 +141,5 @@ BENCHMARK(FillPlainTable<TextItem>)
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "*.debug=false");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return RunBenchmarks(argc, argv);
 }

@@ -1,6 +1,6 @@
 #include "DialogList.h"
+#include "RunBenchmarks.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -23,17 +23,13 @@ void Register(const std::string& name, void (*construct)())
 
 int main(int argc, char** argv)
 {
-    RunOffscreen();
-    QApplication application(argc, argv);
+    SilenceForms();
     const QTemporaryDir directory;
     QDir::setCurrent(directory.path());
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    ForEachDialog([](const std::string& name, void (*dialog)(), void (*form)()) {
-        Register(name + "/ours/1", dialog);
-        Register(name + "/reference/1", form);
+    return RunBenchmarks(argc, argv, [] {
+        ForEachDialog([](const std::string& name, void (*dialog)(), void (*form)()) {
+            Register(name + "/ours/1", dialog);
+            Register(name + "/reference/1", form);
+        });
     });
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
 }

@@ -2,6 +2,7 @@
 #include "GlobalParaMeterMgr.h"
 #include "ParameterSettler.h"
 #include "Project.h"
+#include "RunBenchmarks.h"
 
 #include <BRepAdaptor_Curve.hxx>
 #include <BRepAlgoAPI_Cut.hxx>
@@ -10,7 +11,6 @@
 #include <BRepFilletAPI_MakeFillet.hxx>
 #include <BRepPrimAPI_MakeCylinder.hxx>
 #include <GeomAbs_CurveType.hxx>
-#include <QApplication>
 #include <TopExp_Explorer.hxx>
 #include <TopTools_ListOfShape.hxx>
 #include <TopoDS.hxx>
@@ -112,21 +112,15 @@ void Regenerate(benchmark::State& state, const Project& project, const Builder& 
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "*.debug=false");
-    QApplication application(argc, argv);
-    const Project project = Project::Load(Project::SamplePath());
-    const auto add = [&](const char* name, auto build) {
-        benchmark::RegisterBenchmark(
-            name, [&project, build](benchmark::State& state) { Regenerate(state, project, build); })
-            ->Arg(100)
-            ->Unit(benchmark::kMillisecond);
-    };
-    add("Flange/ours", [&project] { return project.Build().shape; });
-    add("Flange/reference", [] { return BuildByHand(); });
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return RunBenchmarks(argc, argv, [] {
+        const auto add = [project = Project::Load(Project::SamplePath())](const char* name,
+                                                                          auto build) {
+            const auto regenerate = [project, build](benchmark::State& state) {
+                Regenerate(state, project, [&] { return build(project); });
+            };
+            benchmark::RegisterBenchmark(name, regenerate)->Arg(100)->Unit(benchmark::kMillisecond);
+        };
+        add("Flange/ours", [](const Project& project) { return project.Build().shape; });
+        add("Flange/reference", [](const Project&) { return BuildByHand(); });
+    });
 }

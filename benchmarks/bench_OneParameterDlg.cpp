@@ -1,7 +1,7 @@
 #include "OneParameterDlg.h"
+#include "RunBenchmarks.h"
 #include "sParaArrayData.h"
 
-#include <QApplication>
 #include <QTableWidget>
 
 #include <benchmark/benchmark.h>
@@ -65,12 +65,5 @@ BENCHMARK(InsertRows)
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "*.debug=false");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return RunBenchmarks(argc, argv);
 }

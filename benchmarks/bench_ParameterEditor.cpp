@@ -1,8 +1,8 @@
 #include "GlobalParaMeterMgr.h"
 #include "LocalText.h"
 #include "ParameterEditor.h"
+#include "RunBenchmarks.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -114,12 +114,5 @@ BENCHMARK(RefillBareTable)
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "*.debug=false");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return RunBenchmarks(argc, argv);
 }

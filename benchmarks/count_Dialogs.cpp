@@ -25,8 +25,9 @@ void Count(const std::string& name, void (*construct)())
 
 int main(int argc, char** argv)
 {
-    RunOffscreen();
-    QApplication application(argc, argv);
+    SilenceForms();
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
     const QTemporaryDir directory;
     QDir::setCurrent(directory.path());
     ForEachDialog([](const std::string& name, void (*dialog)(), void (*form)()) {
