@@ -16,6 +16,11 @@ QProcess::ExitStatus tarn::RunToEnd(const QString& command)
     static auto& processes = *new QVector<QProcess*>;
     auto* const process = new QProcess;
     processes.append(process);
+    // Nobody reads the output: kept as well, that of a talkative program would fill the memory.
+    QObject::connect(process, &QProcess::readyReadStandardOutput, process,
+                     &QProcess::readAllStandardOutput);
+    QObject::connect(process, &QProcess::readyReadStandardError, process,
+                     &QProcess::readAllStandardError);
 
     QStringList arguments = QProcess::splitCommand(command);
     const QString program = arguments.takeFirst();

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void TheCaptionReachesAHiddenDialogOnly();
     void ThePathIsShownWithoutQuotes();
     void CancellingTheFileDialogEmptiesThePath();
+    void TheHostMayDestroyTheDialogBehindTheFileDialog();
     void APathWithBlanksRuns();
     void NoEndIsReported_data();
     void NoEndIsReported();
@@ -127,6 +128,18 @@ void tst_ResultSetting::CancellingTheFileDialogEmptiesThePath()
     QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_Path").text(), QString());
     QCOMPARE(PressRun(dialog), QVector<ShownBox>());
     QCOMPARE(RunRecord(), QString());
+}
+
+void tst_ResultSetting::TheHostMayDestroyTheDialogBehindTheFileDialog()
+{
+    auto* const dialog = new ResultSetting(nullptr);
+    ModalDriver user;
+    user.Then([dialog](QDialog& picker) {
+        delete dialog;
+        picker.reject();
+    });
+    QMetaObject::invokeMethod(dialog, "SelectExecuteHyper");
+    QVERIFY(user.IsDone());
 }
 
 void tst_ResultSetting::APathWithBlanksRuns()

@@ -1,5 +1,6 @@
 #include "DialogChecks.h"
 #include "DialogFacts.h"
+#include "Heap.h"
 #include "ModalDriver.h"
 #include "OutsideRun.h"
 #include "SolverSetting.h"
@@ -34,6 +35,8 @@ private Q_SLOTS:
     void TheRunLastsUntilTheProgramEnds_data();
     void TheRunLastsUntilTheProgramEnds();
     void MuchOutputDoesNotBlockTheProgram();
+    void TheOutputIsNotKept();
+    void TheNoticeIsNotTranslated();
 };
 
 namespace {
@@ -278,6 +281,31 @@ void tst_SolverSetting::MuchOutputDoesNotBlockTheProgram()
     Browse(dialog, OUTSIDE_PROGRAM);
     QCOMPARE(PressRun(dialog), QVector<ShownBox>({Done}));
     QVERIFY(RunRecord().endsWith("ended\n"));
+}
+
+void tst_SolverSetting::TheOutputIsNotKept()
+{
+    EnterTemporaryDirectory();
+    const OutsideAction playing("write"); // 20 MB each
+    SolverSetting dialog(nullptr);
+    dialog.show();
+    Browse(dialog, OUTSIDE_PROGRAM);
+    PressRun(dialog); // makes what the toolkit makes once
+    const std::size_t before = HeapInUse();
+    PressRun(dialog);
+    QCOMPARE(RunRecord().count("ended"), 2);
+    const auto growth = std::ptrdiff_t(HeapInUse()) - std::ptrdiff_t(before);
+    QVERIFY2(growth < (1 << 20), qPrintable(QString::number(growth)));
+}
+
+void tst_SolverSetting::TheNoticeIsNotTranslated()
+{
+    EnterTemporaryDirectory();
+    SolverSetting dialog(nullptr);
+    dialog.show();
+    const TextRecorder recorder;
+    QCOMPARE(PressRun(dialog), QVector<ShownBox>({Done}));
+    QCOMPARE(recorder.TextsOf("SolverSetting"), QStringList());
 }
 
 TARN_TEST_MAIN(tst_SolverSetting)
