@@ -1,27 +1,20 @@
-#include "DialogChecks.h"
-#include "DialogFacts.h"
 #include "ExtrudInputDlg.h"
+#include "InputFormTest.h"
 #include "KernelText.h"
-#include "TestCase.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <Standard_ConstructionError.hxx>
 
-class tst_ExtrudInputDlg : public TestCase
+class tst_ExtrudInputDlg : public InputFormTest<ExtrudInputDlg>
 {
     Q_OBJECT
 
+public:
+    tst_ExtrudInputDlg();
+
 private Q_SLOTS:
     void TheFormIsAsGiven();
-    void TheFontIsSetOnTheDialog();
-    void TabFollowsTheReadingOrder();
-    void EnterConfirmsAndEscapeLeaves();
-    void TheSlotsAreAsGiven();
-    void OKStoresTheDefaults();
-    void OKStoresTheFields();
-    void CancelStoresNothing();
     void TextIsConverted_data() { AddConversionRows(); }
     void TextIsConverted();
     void TheGroupBoxHasTenPoints();
@@ -30,10 +23,22 @@ private Q_SLOTS:
     void AZeroDirectionRaisesTheKernelsError();
 
 private:
-    static QString Values(const ExtrudInputDlg& dialog);
+    QString Values(const ExtrudInputDlg& dialog) const override;
 };
 
-QString tst_ExtrudInputDlg::Values(const ExtrudInputDlg& dialog)
+tst_ExtrudInputDlg::tst_ExtrudInputDlg()
+    : InputFormTest({"m_Slot_OK_Pushed()",
+                     "0 along (1, 0, 0)",
+                     "10 along (0, 0, 1)",
+                     {{"lineEdit_XDir", "3"},
+                      {"lineEdit_YDir", "0"},
+                      {"lineEdit_ZDir", "-4"},
+                      {"lineEdit_Height", "-2.5"}},
+                     "-2.5 along (0.6, 0, -0.8)"})
+{
+}
+
+QString tst_ExtrudInputDlg::Values(const ExtrudInputDlg& dialog) const
 {
     return QStringLiteral("%1 along %2")
         .arg(AllDigits(dialog.GetHeightValue()), KernelText(dialog.GetExtrudeDirection()));
@@ -58,69 +63,6 @@ void tst_ExtrudInputDlg::TheFormIsAsGiven()
                  "QPushButton pushButton_Cancel in ExtrudInputDlg: Cancel",
                  "QPushButton pushButton_OK in ExtrudInputDlg: OK",
              }));
-}
-
-void tst_ExtrudInputDlg::TheFontIsSetOnTheDialog()
-{
-    const ExtrudInputDlg dialog(nullptr);
-    QCOMPARE(dialog.font().family(), QString("微软雅黑"));
-    QCOMPARE(dialog.font().pointSize(), QApplication::font().pointSize());
-}
-
-void tst_ExtrudInputDlg::TabFollowsTheReadingOrder()
-{
-    ExtrudInputDlg dialog(nullptr);
-    QCOMPARE(TabOrder(dialog),
-             QStringList({"lineEdit_XDir", "lineEdit_YDir", "lineEdit_ZDir", "lineEdit_Height",
-                          "pushButton_OK", "pushButton_Cancel"}));
-}
-
-void tst_ExtrudInputDlg::EnterConfirmsAndEscapeLeaves()
-{
-    ExtrudInputDlg dialog(nullptr);
-    QCOMPARE(EnterButtons(dialog), QStringList({"pushButton_OK*"}));
-    QCOMPARE(PressKey(dialog, "lineEdit_XDir", Qt::Key_Escape), int(QDialog::Rejected));
-    QCOMPARE(Values(dialog), QString("0 along (1, 0, 0)"));
-    QCOMPARE(PressKey(dialog, "lineEdit_XDir", Qt::Key_Return), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("10 along (0, 0, 1)"));
-}
-
-void tst_ExtrudInputDlg::TheSlotsAreAsGiven()
-{
-    QCOMPARE(OwnMethods(ExtrudInputDlg::staticMetaObject),
-             QStringList({"private slot m_Slot_OK_Pushed()"}));
-    QCOMPARE(ExtrudInputDlg::staticMetaObject.superClass(), &QDialog::staticMetaObject);
-}
-
-void tst_ExtrudInputDlg::OKStoresTheDefaults()
-{
-    ExtrudInputDlg dialog(nullptr);
-    QCOMPARE(Values(dialog), QString("0 along (1, 0, 0)"));
-    QCOMPARE(FillAndPress(dialog, {}, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("10 along (0, 0, 1)"));
-}
-
-void tst_ExtrudInputDlg::OKStoresTheFields()
-{
-    ExtrudInputDlg dialog(nullptr);
-    const FieldTexts fields = {{"lineEdit_XDir", "3"},
-                               {"lineEdit_YDir", "0"},
-                               {"lineEdit_ZDir", "-4"},
-                               {"lineEdit_Height", "-2.5"}};
-    QCOMPARE(FillAndPress(dialog, fields, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("-2.5 along (0.6, 0, -0.8)"));
-}
-
-void tst_ExtrudInputDlg::CancelStoresNothing()
-{
-    ExtrudInputDlg dialog(nullptr);
-    FillAndPress(dialog, {}, "pushButton_OK");
-    const FieldTexts fields = {{"lineEdit_XDir", "3"},
-                               {"lineEdit_YDir", "0"},
-                               {"lineEdit_ZDir", "-4"},
-                               {"lineEdit_Height", "-2.5"}};
-    QCOMPARE(FillAndPress(dialog, fields, "pushButton_Cancel"), int(QDialog::Rejected));
-    QCOMPARE(Values(dialog), QString("10 along (0, 0, 1)"));
 }
 
 void tst_ExtrudInputDlg::TextIsConverted()

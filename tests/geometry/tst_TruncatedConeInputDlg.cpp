@@ -1,34 +1,37 @@
-#include "DialogChecks.h"
-#include "DialogFacts.h"
-#include "TestCase.h"
+#include "InputFormTest.h"
 #include "TruncatedConeInputDlg.h"
 
-#include <QApplication>
 #include <QLineEdit>
 
-class tst_TruncatedConeInputDlg : public TestCase
+class tst_TruncatedConeInputDlg : public InputFormTest<TruncatedConeInputDlg>
 {
     Q_OBJECT
 
+public:
+    tst_TruncatedConeInputDlg();
+
 private Q_SLOTS:
     void TheFormIsAsGiven();
-    void TheFontIsSetOnTheDialog();
-    void TabFollowsTheReadingOrder();
-    void EnterConfirmsAndEscapeLeaves();
-    void TheSlotsAreAsGiven();
-    void OKStoresTheDefaults();
-    void OKStoresTheFields();
-    void CancelStoresNothing();
     void TextIsConverted_data() { AddConversionRows(); }
     void TextIsConverted();
     void AConeCanBeFullOnly();
     void CollectDataReadsTheFieldsAndLeavesTheDialogOpen();
 
 private:
-    static QString Values(const TruncatedConeInputDlg& dialog);
+    QString Values(const TruncatedConeInputDlg& dialog) const override;
 };
 
-QString tst_TruncatedConeInputDlg::Values(const TruncatedConeInputDlg& dialog)
+tst_TruncatedConeInputDlg::tst_TruncatedConeInputDlg()
+    : InputFormTest(
+          {"m_Slot_OK()",
+           "0 0 0",
+           "10 5 360",
+           {{"lineEdit_Height", "-2.5"}, {"lineEdit_TopRadius", "0"}, {"lineEdit_Angle", "1000"}},
+           "-2.5 0 1000"})
+{
+}
+
+QString tst_TruncatedConeInputDlg::Values(const TruncatedConeInputDlg& dialog) const
 {
     return QStringLiteral("%1 %2 %3")
         .arg(AllDigits(dialog.GetHeightValue()), AllDigits(dialog.GetTopRadius()),
@@ -52,65 +55,6 @@ void tst_TruncatedConeInputDlg::TheFormIsAsGiven()
                  "QPushButton pushButton_Cancel in TruncatedConeInputDlg: Cancel",
                  "QPushButton pushButton_OK in TruncatedConeInputDlg: OK",
              }));
-}
-
-void tst_TruncatedConeInputDlg::TheFontIsSetOnTheDialog()
-{
-    const TruncatedConeInputDlg dialog(nullptr);
-    QCOMPARE(dialog.font().family(), QString("微软雅黑"));
-    QCOMPARE(dialog.font().pointSize(), QApplication::font().pointSize());
-}
-
-void tst_TruncatedConeInputDlg::TabFollowsTheReadingOrder()
-{
-    TruncatedConeInputDlg dialog(nullptr);
-    QCOMPARE(TabOrder(dialog),
-             QStringList({"lineEdit_Height", "lineEdit_TopRadius", "lineEdit_Angle",
-                          "pushButton_OK", "pushButton_Cancel"}));
-}
-
-void tst_TruncatedConeInputDlg::EnterConfirmsAndEscapeLeaves()
-{
-    TruncatedConeInputDlg dialog(nullptr);
-    QCOMPARE(EnterButtons(dialog), QStringList({"pushButton_OK*"}));
-    QCOMPARE(PressKey(dialog, "lineEdit_Height", Qt::Key_Escape), int(QDialog::Rejected));
-    QCOMPARE(Values(dialog), QString("0 0 0"));
-    QCOMPARE(PressKey(dialog, "lineEdit_Height", Qt::Key_Return), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("10 5 360"));
-}
-
-void tst_TruncatedConeInputDlg::TheSlotsAreAsGiven()
-{
-    QCOMPARE(OwnMethods(TruncatedConeInputDlg::staticMetaObject),
-             QStringList({"private slot m_Slot_OK()"}));
-    QCOMPARE(TruncatedConeInputDlg::staticMetaObject.superClass(), &QDialog::staticMetaObject);
-}
-
-void tst_TruncatedConeInputDlg::OKStoresTheDefaults()
-{
-    TruncatedConeInputDlg dialog(nullptr);
-    QCOMPARE(Values(dialog), QString("0 0 0"));
-    QCOMPARE(FillAndPress(dialog, {}, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("10 5 360"));
-}
-
-void tst_TruncatedConeInputDlg::OKStoresTheFields()
-{
-    TruncatedConeInputDlg dialog(nullptr);
-    const FieldTexts fields = {
-        {"lineEdit_Height", "-2.5"}, {"lineEdit_TopRadius", "0"}, {"lineEdit_Angle", "1000"}};
-    QCOMPARE(FillAndPress(dialog, fields, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("-2.5 0 1000"));
-}
-
-void tst_TruncatedConeInputDlg::CancelStoresNothing()
-{
-    TruncatedConeInputDlg dialog(nullptr);
-    FillAndPress(dialog, {}, "pushButton_OK");
-    const FieldTexts fields = {
-        {"lineEdit_Height", "-2.5"}, {"lineEdit_TopRadius", "0"}, {"lineEdit_Angle", "1000"}};
-    QCOMPARE(FillAndPress(dialog, fields, "pushButton_Cancel"), int(QDialog::Rejected));
-    QCOMPARE(Values(dialog), QString("10 5 360"));
 }
 
 void tst_TruncatedConeInputDlg::TextIsConverted()

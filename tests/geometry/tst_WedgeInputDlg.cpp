@@ -1,31 +1,36 @@
-#include "DialogChecks.h"
-#include "DialogFacts.h"
-#include "TestCase.h"
+#include "InputFormTest.h"
 #include "WedgeInputDlg.h"
 
-#include <QApplication>
-
-class tst_WedgeInputDlg : public TestCase
+class tst_WedgeInputDlg : public InputFormTest<WedgeInputDlg>
 {
     Q_OBJECT
 
+public:
+    tst_WedgeInputDlg();
+
 private Q_SLOTS:
     void TheFormIsAsGiven();
-    void TheFontIsSetOnTheDialog();
-    void TabFollowsTheReadingOrder();
-    void EnterConfirmsAndEscapeLeaves();
-    void TheSlotsAreAsGiven();
-    void OKStoresTheDefaults();
-    void OKStoresTheFields();
-    void CancelStoresNothing();
     void TextIsConverted_data() { AddConversionRows(); }
     void TextIsConverted();
 
 private:
-    static QString Values(const WedgeInputDlg& dialog);
+    QString Values(const WedgeInputDlg& dialog) const override;
 };
 
-QString tst_WedgeInputDlg::Values(const WedgeInputDlg& dialog)
+tst_WedgeInputDlg::tst_WedgeInputDlg()
+    : InputFormTest({"m_Slot_OK()",
+                     "0 0 0 0 0",
+                     "30 5 15 8 20",
+                     {{"lineEdit_Height", "1"},
+                      {"lineEdit_xmin", "-2"},
+                      {"lineEdit_xmax", "3.5"},
+                      {"lineEdit_zmin", "-4"},
+                      {"lineEdit_zmax", "5"}},
+                     "1 -2 3.5 -4 5"})
+{
+}
+
+QString tst_WedgeInputDlg::Values(const WedgeInputDlg& dialog) const
 {
     double values[5] = {-1.0, -1.0, -1.0, -1.0, -1.0};
     dialog.GetWedgeParameter(values[0], values[1], values[2], values[3], values[4]);
@@ -56,71 +61,6 @@ void tst_WedgeInputDlg::TheFormIsAsGiven()
                  "QPushButton pushButton_Cancel in WedgeInputDlg: Cancel",
                  "QPushButton pushButton_OK in WedgeInputDlg: OK",
              }));
-}
-
-void tst_WedgeInputDlg::TheFontIsSetOnTheDialog()
-{
-    const WedgeInputDlg dialog(nullptr);
-    QCOMPARE(dialog.font().family(), QString("微软雅黑"));
-    QCOMPARE(dialog.font().pointSize(), QApplication::font().pointSize());
-}
-
-void tst_WedgeInputDlg::TabFollowsTheReadingOrder()
-{
-    WedgeInputDlg dialog(nullptr);
-    QCOMPARE(TabOrder(dialog),
-             QStringList({"lineEdit_Height", "lineEdit_xmin", "lineEdit_xmax", "lineEdit_zmin",
-                          "lineEdit_zmax", "pushButton_OK", "pushButton_Cancel"}));
-}
-
-void tst_WedgeInputDlg::EnterConfirmsAndEscapeLeaves()
-{
-    WedgeInputDlg dialog(nullptr);
-    QCOMPARE(EnterButtons(dialog), QStringList({"pushButton_OK*"}));
-    QCOMPARE(PressKey(dialog, "lineEdit_Height", Qt::Key_Escape), int(QDialog::Rejected));
-    QCOMPARE(Values(dialog), QString("0 0 0 0 0"));
-    QCOMPARE(PressKey(dialog, "lineEdit_Height", Qt::Key_Return), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("30 5 15 8 20"));
-}
-
-void tst_WedgeInputDlg::TheSlotsAreAsGiven()
-{
-    QCOMPARE(OwnMethods(WedgeInputDlg::staticMetaObject),
-             QStringList({"private slot m_Slot_OK()"}));
-    QCOMPARE(WedgeInputDlg::staticMetaObject.superClass(), &QDialog::staticMetaObject);
-}
-
-void tst_WedgeInputDlg::OKStoresTheDefaults()
-{
-    WedgeInputDlg dialog(nullptr);
-    QCOMPARE(Values(dialog), QString("0 0 0 0 0"));
-    QCOMPARE(FillAndPress(dialog, {}, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("30 5 15 8 20"));
-}
-
-void tst_WedgeInputDlg::OKStoresTheFields()
-{
-    WedgeInputDlg dialog(nullptr);
-    const FieldTexts fields = {{"lineEdit_Height", "1"},
-                               {"lineEdit_xmin", "-2"},
-                               {"lineEdit_xmax", "3.5"},
-                               {"lineEdit_zmin", "-4"},
-                               {"lineEdit_zmax", "5"}};
-    QCOMPARE(FillAndPress(dialog, fields, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("1 -2 3.5 -4 5"));
-}
-
-void tst_WedgeInputDlg::CancelStoresNothing()
-{
-    WedgeInputDlg dialog(nullptr);
-    FillAndPress(dialog, {}, "pushButton_OK");
-    const FieldTexts fields = {{"lineEdit_Height", "1"},
-                               {"lineEdit_xmin", "-2"},
-                               {"lineEdit_xmax", "3.5"},
-                               {"lineEdit_zmin", "-4"},
-                               {"lineEdit_zmax", "5"}};
-    QCOMPARE(FillAndPress(dialog, fields, "pushButton_Cancel"), int(QDialog::Rejected));
-    QCOMPARE(Values(dialog), QString("30 5 15 8 20"));
 }
 
 void tst_WedgeInputDlg::TextIsConverted()

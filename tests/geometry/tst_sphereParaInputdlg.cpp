@@ -1,25 +1,18 @@
-#include "DialogChecks.h"
-#include "DialogFacts.h"
-#include "TestCase.h"
+#include "InputFormTest.h"
 #include "sphereParaInputdlg.h"
 
-#include <QApplication>
 #include <QDoubleValidator>
 #include <QLineEdit>
 
-class tst_sphereParaInputdlg : public TestCase
+class tst_sphereParaInputdlg : public InputFormTest<sphereParaInputdlg>
 {
     Q_OBJECT
 
+public:
+    tst_sphereParaInputdlg();
+
 private Q_SLOTS:
     void TheFormIsAsGiven();
-    void TheFontIsSetOnTheDialog();
-    void TabFollowsTheReadingOrder();
-    void EnterConfirmsAndEscapeLeaves();
-    void TheSlotsAreAsGiven();
-    void OKStoresTheDefaults();
-    void OKStoresTheFields();
-    void CancelStoresNothing();
     void TextIsConverted_data() { AddConversionRows(); }
     void TextIsConverted();
     void TheFirstAngleHasTheOnlyValidator();
@@ -28,10 +21,20 @@ private Q_SLOTS:
     void TheFirstAngleRefusesTyping();
 
 private:
-    static QString Values(const sphereParaInputdlg& dialog);
+    QString Values(const sphereParaInputdlg& dialog) const override;
 };
 
-QString tst_sphereParaInputdlg::Values(const sphereParaInputdlg& dialog)
+tst_sphereParaInputdlg::tst_sphereParaInputdlg()
+    : InputFormTest(
+          {"m_Slot_OKPushed()",
+           "0 0 0",
+           "-90 90 360",
+           {{"lineEdit_Angle1", "-45.5"}, {"lineEdit_Angle2", "400"}, {"lineEdit_Angle3", "-7"}},
+           "-45.5 400 -7"})
+{
+}
+
+QString tst_sphereParaInputdlg::Values(const sphereParaInputdlg& dialog) const
 {
     return QStringLiteral("%1 %2 %3")
         .arg(AllDigits(dialog.GetAngle1()), AllDigits(dialog.GetAngle2()),
@@ -58,64 +61,6 @@ void tst_sphereParaInputdlg::TheFormIsAsGiven()
                  "QPushButton pushButton_Cancel in sphereParaInputdlg: Cancel",
                  "QPushButton pushButton_OK in sphereParaInputdlg: OK",
              }));
-}
-
-void tst_sphereParaInputdlg::TheFontIsSetOnTheDialog()
-{
-    const sphereParaInputdlg dialog(nullptr);
-    QCOMPARE(dialog.font().family(), QString("微软雅黑"));
-    QCOMPARE(dialog.font().pointSize(), QApplication::font().pointSize());
-}
-
-void tst_sphereParaInputdlg::TabFollowsTheReadingOrder()
-{
-    sphereParaInputdlg dialog(nullptr);
-    QCOMPARE(TabOrder(dialog), QStringList({"lineEdit_Angle1", "lineEdit_Angle2", "lineEdit_Angle3",
-                                            "pushButton_OK", "pushButton_Cancel"}));
-}
-
-void tst_sphereParaInputdlg::EnterConfirmsAndEscapeLeaves()
-{
-    sphereParaInputdlg dialog(nullptr);
-    QCOMPARE(EnterButtons(dialog), QStringList({"pushButton_OK*"}));
-    QCOMPARE(PressKey(dialog, "lineEdit_Angle1", Qt::Key_Escape), int(QDialog::Rejected));
-    QCOMPARE(Values(dialog), QString("0 0 0"));
-    QCOMPARE(PressKey(dialog, "lineEdit_Angle1", Qt::Key_Return), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("-90 90 360"));
-}
-
-void tst_sphereParaInputdlg::TheSlotsAreAsGiven()
-{
-    QCOMPARE(OwnMethods(sphereParaInputdlg::staticMetaObject),
-             QStringList({"private slot m_Slot_OKPushed()"}));
-    QCOMPARE(sphereParaInputdlg::staticMetaObject.superClass(), &QDialog::staticMetaObject);
-}
-
-void tst_sphereParaInputdlg::OKStoresTheDefaults()
-{
-    sphereParaInputdlg dialog(nullptr);
-    QCOMPARE(Values(dialog), QString("0 0 0"));
-    QCOMPARE(FillAndPress(dialog, {}, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("-90 90 360"));
-}
-
-void tst_sphereParaInputdlg::OKStoresTheFields()
-{
-    sphereParaInputdlg dialog(nullptr);
-    const FieldTexts fields = {
-        {"lineEdit_Angle1", "-45.5"}, {"lineEdit_Angle2", "400"}, {"lineEdit_Angle3", "-7"}};
-    QCOMPARE(FillAndPress(dialog, fields, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("-45.5 400 -7"));
-}
-
-void tst_sphereParaInputdlg::CancelStoresNothing()
-{
-    sphereParaInputdlg dialog(nullptr);
-    FillAndPress(dialog, {}, "pushButton_OK");
-    const FieldTexts fields = {
-        {"lineEdit_Angle1", "-45.5"}, {"lineEdit_Angle2", "400"}, {"lineEdit_Angle3", "-7"}};
-    QCOMPARE(FillAndPress(dialog, fields, "pushButton_Cancel"), int(QDialog::Rejected));
-    QCOMPARE(Values(dialog), QString("-90 90 360"));
 }
 
 void tst_sphereParaInputdlg::TextIsConverted()

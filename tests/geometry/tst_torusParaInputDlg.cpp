@@ -1,33 +1,38 @@
-#include "DialogChecks.h"
-#include "DialogFacts.h"
-#include "TestCase.h"
+#include "InputFormTest.h"
 #include "torusParaInputDlg.h"
 
-#include <QApplication>
 #include <QLineEdit>
 
-class tst_torusParaInputDlg : public TestCase
+class tst_torusParaInputDlg : public InputFormTest<torusParaInputDlg>
 {
     Q_OBJECT
 
+public:
+    tst_torusParaInputDlg();
+
 private Q_SLOTS:
     void TheFormIsAsGiven();
-    void TheFontIsSetOnTheDialog();
-    void TabFollowsTheReadingOrder();
-    void EnterConfirmsAndEscapeLeaves();
-    void TheSlotsAreAsGiven();
-    void OKStoresTheDefaults();
-    void OKStoresTheFields();
-    void CancelStoresNothing();
     void TextIsConverted_data() { AddConversionRows(); }
     void TextIsConverted();
     void ATorusCanBeFullOnly();
 
 private:
-    static QString Values(const torusParaInputDlg& dialog);
+    QString Values(const torusParaInputDlg& dialog) const override;
 };
 
-QString tst_torusParaInputDlg::Values(const torusParaInputDlg& dialog)
+tst_torusParaInputDlg::tst_torusParaInputDlg()
+    : InputFormTest({"m_OK_Pushed()",
+                     "0 | 0 0 0",
+                     "3 | -180 180 360",
+                     {{"lineEdit_RadiusSweep", "-2.5"},
+                      {"lineEdit_Angle1", "190"},
+                      {"lineEdit_Angle2", "-200"},
+                      {"lineEdit_Angle3", "720"}},
+                     "-2.5 | 190 -200 720"})
+{
+}
+
+QString tst_torusParaInputDlg::Values(const torusParaInputDlg& dialog) const
 {
     return QStringLiteral("%1 | %2 %3 %4")
         .arg(AllDigits(dialog.GetSweepRadius()), AllDigits(dialog.GetAngle1()),
@@ -56,69 +61,6 @@ void tst_torusParaInputDlg::TheFormIsAsGiven()
                  "QPushButton pushButton_Cancel in torusParaInputDlg: Cancel",
                  "QPushButton pushButton_OK in torusParaInputDlg: OK",
              }));
-}
-
-void tst_torusParaInputDlg::TheFontIsSetOnTheDialog()
-{
-    const torusParaInputDlg dialog(nullptr);
-    QCOMPARE(dialog.font().family(), QString("微软雅黑"));
-    QCOMPARE(dialog.font().pointSize(), QApplication::font().pointSize());
-}
-
-void tst_torusParaInputDlg::TabFollowsTheReadingOrder()
-{
-    torusParaInputDlg dialog(nullptr);
-    QCOMPARE(TabOrder(dialog),
-             QStringList({"lineEdit_RadiusSweep", "lineEdit_Angle1", "lineEdit_Angle2",
-                          "lineEdit_Angle3", "pushButton_OK", "pushButton_Cancel"}));
-}
-
-void tst_torusParaInputDlg::EnterConfirmsAndEscapeLeaves()
-{
-    torusParaInputDlg dialog(nullptr);
-    QCOMPARE(EnterButtons(dialog), QStringList({"pushButton_OK*"}));
-    QCOMPARE(PressKey(dialog, "lineEdit_RadiusSweep", Qt::Key_Escape), int(QDialog::Rejected));
-    QCOMPARE(Values(dialog), QString("0 | 0 0 0"));
-    QCOMPARE(PressKey(dialog, "lineEdit_RadiusSweep", Qt::Key_Return), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("3 | -180 180 360"));
-}
-
-void tst_torusParaInputDlg::TheSlotsAreAsGiven()
-{
-    QCOMPARE(OwnMethods(torusParaInputDlg::staticMetaObject),
-             QStringList({"private slot m_OK_Pushed()"}));
-    QCOMPARE(torusParaInputDlg::staticMetaObject.superClass(), &QDialog::staticMetaObject);
-}
-
-void tst_torusParaInputDlg::OKStoresTheDefaults()
-{
-    torusParaInputDlg dialog(nullptr);
-    QCOMPARE(Values(dialog), QString("0 | 0 0 0"));
-    QCOMPARE(FillAndPress(dialog, {}, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("3 | -180 180 360"));
-}
-
-void tst_torusParaInputDlg::OKStoresTheFields()
-{
-    torusParaInputDlg dialog(nullptr);
-    const FieldTexts fields = {{"lineEdit_RadiusSweep", "-2.5"},
-                               {"lineEdit_Angle1", "190"},
-                               {"lineEdit_Angle2", "-200"},
-                               {"lineEdit_Angle3", "720"}};
-    QCOMPARE(FillAndPress(dialog, fields, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(Values(dialog), QString("-2.5 | 190 -200 720"));
-}
-
-void tst_torusParaInputDlg::CancelStoresNothing()
-{
-    torusParaInputDlg dialog(nullptr);
-    FillAndPress(dialog, {}, "pushButton_OK");
-    const FieldTexts fields = {{"lineEdit_RadiusSweep", "-2.5"},
-                               {"lineEdit_Angle1", "190"},
-                               {"lineEdit_Angle2", "-200"},
-                               {"lineEdit_Angle3", "720"}};
-    QCOMPARE(FillAndPress(dialog, fields, "pushButton_Cancel"), int(QDialog::Rejected));
-    QCOMPARE(Values(dialog), QString("3 | -180 180 360"));
 }
 
 void tst_torusParaInputDlg::TextIsConverted()
