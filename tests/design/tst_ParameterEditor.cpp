@@ -5,6 +5,7 @@
 #include "ParameterEditorTable.h"
 
 #include <QGridLayout>
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void OkAppliesAndAcceptsAlsoAfterARefusal();
     void CancelWritesNothingAndRejects_data();
     void CancelWritesNothingAndRejects();
+    void TheHostMayDestroyTheEditorWhenItIsTold_data();
+    void TheHostMayDestroyTheEditorWhenItIsTold();
     void PressingACellOpensNothingAndChangesNothing();
     void EnterInACellPressesNoButton();
     void EscapeLeaves();
@@ -366,6 +369,28 @@ void tst_ParameterEditor::CancelWritesNothingAndRejects()
     QTEST(rejected.count(), "times");
     QCOMPARE(applied.count(), 0);
     QCOMPARE(Stored("a").m_strValue, "1");
+}
+
+void tst_ParameterEditor::TheHostMayDestroyTheEditorWhenItIsTold_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    for (const char* const button : {"pushButton_Apply", "pushButton_OK", "pushButton_Cancel"})
+        QTest::newRow(button) << QByteArray(button);
+}
+
+void tst_ParameterEditor::TheHostMayDestroyTheEditorWhenItIsTold()
+{
+    const EmptyDesignStores stores;
+    QFETCH(QByteArray, button);
+    const QPointer<ParameterEditor> editor = new ParameterEditor(nullptr);
+    const auto destroy = [editor] {
+        delete editor.data();
+    };
+    connect(editor, &ParameterEditor::m_Signal_Apply, destroy);
+    connect(editor, &ParameterEditor::rejected, destroy);
+    editor->show();
+    Click(*editor, button);
+    QVERIFY(editor == nullptr);
 }
 
 void tst_ParameterEditor::PressingACellOpensNothingAndChangesNothing()
