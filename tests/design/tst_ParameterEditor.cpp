@@ -53,6 +53,7 @@ void tst_ParameterEditor::TheWindowIsAsDesigned()
     QCOMPARE(editor.windowTitle(), "ParameterEditor");
     QCOMPARE(editor.size(), QSize(651, 300));
     QCOMPARE(editor.font().family(), QStringLiteral("微软雅黑"));
+    QCOMPARE(editor.font().pointSize(), QApplication::font().pointSize());
     QVERIFY(!editor.isModal());
     QVERIFY(!editor.testAttribute(Qt::WA_DeleteOnClose));
     const auto* const layout = qobject_cast<QGridLayout*>(editor.layout());
@@ -261,18 +262,20 @@ void tst_ParameterEditor::DeleteRemovesTheCurrentRowOfTheTableOnly()
     const EmptyDesignStores stores;
     for (const char* const name : {"a", "b", "c"})
         Store(name, "1");
+    Stored("c").m_nType = 0;
     ParameterEditor editor(nullptr);
     editor.m_Slot_RefreshGUI();
     editor.show();
     Table(editor).setCurrentCell(1, NameColumn);
     Click(editor, "pushButton_Del");
     QCOMPARE(Table(editor).rowCount(), 2);
-    QCOMPARE(RowTexts(editor, 1).constFirst(), "c");
+    QCOMPARE(RowTexts(editor, 1), QStringList({"c", "1", "Bool", "", "", ""}));
     QCOMPARE(int(GlobalParaMeterMgr::m_nameMapParameters.count("b")), 1);
 
     Click(editor, "pushButton_Apply");
     QCOMPARE(Table(editor).rowCount(), 3);
     QCOMPARE(RowTexts(editor, 1).constFirst(), "b");
+    QCOMPARE(Stored("c").m_nType, 0);
 }
 
 void tst_ParameterEditor::DeleteWithoutACurrentRowRemovesNothing()
@@ -322,6 +325,8 @@ void tst_ParameterEditor::OkAppliesAndAcceptsAlsoAfterARefusal()
     ModalDriver user;
     ParameterEditor editor(nullptr);
     QSignalSpy spy(&editor, SIGNAL(m_Signal_Apply()));
+    bool openWhenTold = false;
+    connect(&editor, &ParameterEditor::m_Signal_Apply, [&] { openWhenTold = editor.isVisible(); });
     user.Then([](QDialog& shown) {
         Click(shown, "pushButton_Add");
         Combo(shown, 0).setCurrentText("Vector");
@@ -332,6 +337,7 @@ void tst_ParameterEditor::OkAppliesAndAcceptsAlsoAfterARefusal()
     QCOMPARE(user.Boxes(),
              QVector<ShownBox>({ShownBox::Notice("Error", "invalid coordinate type")}));
     QCOMPARE(spy.count(), 1);
+    QVERIFY(openWhenTold);
     QCOMPARE(Table(editor).rowCount(), 0);
 }
 

@@ -384,6 +384,7 @@ void tst_ExpressionEngine::WhatIsNoExpressionGivesNaNAndAReason_data()
     QTest::newRow("text")                    << "\"a\""        << 1 << notAllowed.arg("\"");
     QTest::newRow("other brackets")          << "[1]"          << 1 << notAllowed.arg("[");
     QTest::newRow("control character")       << "1+\x01"       << 3 << "the character with code 1 is not allowed here";
+    QTest::newRow("zero byte")               << QString("1+") + QChar(0) << 3 << "the character with code 0 is not allowed here";
     QTest::newRow("full-width operator")     << "1＋2"         << 2 << noOperator.arg("＋2");
     QTest::newRow("division by zero")        << "1/0"          << 1 << "an operation has no finite result";
     QTest::newRow("division in between")     << "1/(1/0)"      << 1 << "an operation has no finite result";
@@ -393,6 +394,8 @@ void tst_ExpressionEngine::WhatIsNoExpressionGivesNaNAndAReason_data()
     QTest::newRow("hidden in a comparison")  << "sqrt(-1)==1"  << 1 << "an operation has no real result";
     QTest::newRow("hidden in a choice")      << "sqrt(-1)>0?1:2" << 1 << "an operation has no real result";
     QTest::newRow("hidden in a function")    << "min(1,0/0)"   << 1 << "an operation has no real result";
+    QTest::newRow("and calculates both sides") << "0&&1/0"     << 1 << "an operation has no finite result";
+    QTest::newRow("or calculates both sides") << "1||1/0"      << 1 << "an operation has no finite result";
     QTest::newRow("arc sine of 2")           << "asin(2)"      << 1 << "an operation has no real result";
     QTest::newRow("negative base")           << "(-8)^(1/3)"   << 1 << "an operation has no real result";
     QTest::newRow("remainder by zero")       << "mod(1,0)"     << 1 << "an operation has no real result";
