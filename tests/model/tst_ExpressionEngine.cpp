@@ -16,12 +16,13 @@ using Variables = std::map<std::string, double>;
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
-QStringList Functions()
+const QStringList& Functions()
 {
-    return QString(
-               "sin cos tan asin acos atan atan2 sinh cosh tanh asinh acosh atanh exp ln log log2 "
-               "log10 sqrt cbrt abs sign floor ceil round rint mod pow hypot min max sum avg")
-        .split(' ');
+    static const QStringList functions =
+        QString("sin cos tan asin acos atan atan2 sinh cosh tanh asinh acosh atanh exp ln log log2 "
+                "log10 sqrt cbrt abs sign floor ceil round rint mod pow hypot min max sum avg")
+            .split(' ');
+    return functions;
 }
 
 double Calculate(const std::string& expression, Variables variables = {})
