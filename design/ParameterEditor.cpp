@@ -196,8 +196,10 @@ void ParameterEditor::m_Slot_OK()
 
 void ParameterEditor::m_Slot_Cancel()
 {
+    const QPointer<ParameterEditor> self = this;
     Q_EMIT rejected();
-    close();
+    if (self != nullptr)
+        close();
 }
 
 void ParameterEditor::m_Slot_ProcessExp() {}

@@ -17,7 +17,7 @@ public:
     /// Position and reason in one line.
     QString Text() const;
 
-    /// A part of an expression, in UTF-8, as messages quote it: shortened, and without control
-    /// characters.
+    /// A part of an expression, in UTF-8, as messages quote it: shortened; a single character that
+    /// cannot be printed is named by its code.
     static QString Shown(std::string_view part);
 };

@@ -4,6 +4,8 @@
 #include <QMetaMethod>
 #include <QSignalSpy>
 
+#include <type_traits>
+
 class tst_DrawerOutput : public TestCase
 {
     Q_OBJECT
@@ -30,6 +32,8 @@ private Q_SLOTS:
 
 void tst_DrawerOutput::EveryCallOfGetInstanceGivesTheOneObject()
 {
+    static_assert(!std::is_default_constructible_v<DrawerOutput>);
+    static_assert(!std::is_copy_constructible_v<DrawerOutput>);
     DrawerOutput* const first = DrawerOutput::GetInstance();
     QVERIFY(first != nullptr);
     QCOMPARE(DrawerOutput::GetInstance(), first);

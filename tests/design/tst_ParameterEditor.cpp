@@ -5,6 +5,7 @@
 #include "ParameterEditorTable.h"
 
 #include <QGridLayout>
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void OkAppliesAndAcceptsAlsoAfterARefusal();
     void CancelWritesNothingAndRejects_data();
     void CancelWritesNothingAndRejects();
+    void TheHostMayDestroyTheEditorWhenItIsTold_data();
+    void TheHostMayDestroyTheEditorWhenItIsTold();
     void PressingACellOpensNothingAndChangesNothing();
     void EnterInACellPressesNoButton();
     void EscapeLeaves();
@@ -50,6 +53,7 @@ void tst_ParameterEditor::TheWindowIsAsDesigned()
     QCOMPARE(editor.windowTitle(), "ParameterEditor");
     QCOMPARE(editor.size(), QSize(651, 300));
     QCOMPARE(editor.font().family(), QStringLiteral("微软雅黑"));
+    QCOMPARE(editor.font().pointSize(), QApplication::font().pointSize());
     QVERIFY(!editor.isModal());
     QVERIFY(!editor.testAttribute(Qt::WA_DeleteOnClose));
     const auto* const layout = qobject_cast<QGridLayout*>(editor.layout());
@@ -258,18 +262,20 @@ void tst_ParameterEditor::DeleteRemovesTheCurrentRowOfTheTableOnly()
     const EmptyDesignStores stores;
     for (const char* const name : {"a", "b", "c"})
         Store(name, "1");
+    Stored("c").m_nType = 0;
     ParameterEditor editor(nullptr);
     editor.m_Slot_RefreshGUI();
     editor.show();
     Table(editor).setCurrentCell(1, NameColumn);
     Click(editor, "pushButton_Del");
     QCOMPARE(Table(editor).rowCount(), 2);
-    QCOMPARE(RowTexts(editor, 1).constFirst(), "c");
+    QCOMPARE(RowTexts(editor, 1), QStringList({"c", "1", "Bool", "", "", ""}));
     QCOMPARE(int(GlobalParaMeterMgr::m_nameMapParameters.count("b")), 1);
 
     Click(editor, "pushButton_Apply");
     QCOMPARE(Table(editor).rowCount(), 3);
     QCOMPARE(RowTexts(editor, 1).constFirst(), "b");
+    QCOMPARE(Stored("c").m_nType, 0);
 }
 
 void tst_ParameterEditor::DeleteWithoutACurrentRowRemovesNothing()
@@ -319,6 +325,8 @@ void tst_ParameterEditor::OkAppliesAndAcceptsAlsoAfterARefusal()
     ModalDriver user;
     ParameterEditor editor(nullptr);
     QSignalSpy spy(&editor, SIGNAL(m_Signal_Apply()));
+    bool openWhenTold = false;
+    connect(&editor, &ParameterEditor::m_Signal_Apply, [&] { openWhenTold = editor.isVisible(); });
     user.Then([](QDialog& shown) {
         Click(shown, "pushButton_Add");
         Combo(shown, 0).setCurrentText("Vector");
@@ -329,6 +337,7 @@ void tst_ParameterEditor::OkAppliesAndAcceptsAlsoAfterARefusal()
     QCOMPARE(user.Boxes(),
              QVector<ShownBox>({ShownBox::Notice("Error", "invalid coordinate type")}));
     QCOMPARE(spy.count(), 1);
+    QVERIFY(openWhenTold);
     QCOMPARE(Table(editor).rowCount(), 0);
 }
 
@@ -366,6 +375,28 @@ void tst_ParameterEditor::CancelWritesNothingAndRejects()
     QTEST(rejected.count(), "times");
     QCOMPARE(applied.count(), 0);
     QCOMPARE(Stored("a").m_strValue, "1");
+}
+
+void tst_ParameterEditor::TheHostMayDestroyTheEditorWhenItIsTold_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    for (const char* const button : {"pushButton_Apply", "pushButton_OK", "pushButton_Cancel"})
+        QTest::newRow(button) << QByteArray(button);
+}
+
+void tst_ParameterEditor::TheHostMayDestroyTheEditorWhenItIsTold()
+{
+    const EmptyDesignStores stores;
+    QFETCH(QByteArray, button);
+    const QPointer<ParameterEditor> editor = new ParameterEditor(nullptr);
+    const auto destroy = [editor] {
+        delete editor.data();
+    };
+    connect(editor, &ParameterEditor::m_Signal_Apply, destroy);
+    connect(editor, &ParameterEditor::rejected, destroy);
+    editor->show();
+    Click(*editor, button);
+    QVERIFY(editor == nullptr);
 }
 
 void tst_ParameterEditor::PressingACellOpensNothingAndChangesNothing()

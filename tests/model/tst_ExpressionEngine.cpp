@@ -16,12 +16,13 @@ using Variables = std::map<std::string, double>;
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
-QStringList Functions()
+const QStringList& Functions()
 {
-    return QString(
-               "sin cos tan asin acos atan atan2 sinh cosh tanh asinh acosh atanh exp ln log log2 "
-               "log10 sqrt cbrt abs sign floor ceil round rint mod pow hypot min max sum avg")
-        .split(' ');
+    static const QStringList functions =
+        QString("sin cos tan asin acos atan atan2 sinh cosh tanh asinh acosh atanh exp ln log log2 "
+                "log10 sqrt cbrt abs sign floor ceil round rint mod pow hypot min max sum avg")
+            .split(' ');
+    return functions;
 }
 
 double Calculate(const std::string& expression, Variables variables = {})
@@ -384,6 +385,7 @@ void tst_ExpressionEngine::WhatIsNoExpressionGivesNaNAndAReason_data()
     QTest::newRow("text")                    << "\"a\""        << 1 << notAllowed.arg("\"");
     QTest::newRow("other brackets")          << "[1]"          << 1 << notAllowed.arg("[");
     QTest::newRow("control character")       << "1+\x01"       << 3 << "the character with code 1 is not allowed here";
+    QTest::newRow("zero byte")               << QString("1+") + QChar(0) << 3 << "the character with code 0 is not allowed here";
     QTest::newRow("full-width operator")     << "1＋2"         << 2 << noOperator.arg("＋2");
     QTest::newRow("division by zero")        << "1/0"          << 1 << "an operation has no finite result";
     QTest::newRow("division in between")     << "1/(1/0)"      << 1 << "an operation has no finite result";
@@ -393,6 +395,8 @@ void tst_ExpressionEngine::WhatIsNoExpressionGivesNaNAndAReason_data()
     QTest::newRow("hidden in a comparison")  << "sqrt(-1)==1"  << 1 << "an operation has no real result";
     QTest::newRow("hidden in a choice")      << "sqrt(-1)>0?1:2" << 1 << "an operation has no real result";
     QTest::newRow("hidden in a function")    << "min(1,0/0)"   << 1 << "an operation has no real result";
+    QTest::newRow("and calculates both sides") << "0&&1/0"     << 1 << "an operation has no finite result";
+    QTest::newRow("or calculates both sides") << "1||1/0"      << 1 << "an operation has no finite result";
     QTest::newRow("arc sine of 2")           << "asin(2)"      << 1 << "an operation has no real result";
     QTest::newRow("negative base")           << "(-8)^(1/3)"   << 1 << "an operation has no real result";
     QTest::newRow("remainder by zero")       << "mod(1,0)"     << 1 << "an operation has no real result";
