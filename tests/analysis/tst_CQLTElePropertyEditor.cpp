@@ -157,6 +157,9 @@ private Q_SLOTS:
     void BrowseCancelledChangesNothing();
     void BrowseWithoutARowEmptiesTheMaterial();
     void BrowseReadsBothFilesAnew();
+    void TheHostMayDestroyTheEditorBehindTheLibrary_data();
+    void TheHostMayDestroyTheEditorBehindTheLibrary();
+    void TheHostMayDestroyTheEditorBehindTheBox();
     void OkTellsTheTypedMaterial();
     void TabFollowsReadingOrder();
     void EnterConfirms_data();
@@ -804,6 +807,47 @@ void tst_CQLTElePropertyEditor::BrowseReadsBothFilesAnew()
     editor.exec();
     QVERIFY(user.IsDone());
     QVERIFY(KVMaterialData::GetInstance()->GetMaterialInfo("not written yet") == nullptr);
+}
+
+void tst_CQLTElePropertyEditor::TheHostMayDestroyTheEditorBehindTheLibrary_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("accepted") << QByteArray("pushButton_6");
+    QTest::newRow("cancelled") << QByteArray("pushButton_8");
+}
+
+void tst_CQLTElePropertyEditor::TheHostMayDestroyTheEditorBehindTheLibrary()
+{
+    QFETCH(QByteArray, button);
+    EnterTemporaryDirectory();
+    const EmptyAnalysisStores stores;
+    WriteMaterials("./UserMaterial.xml", {{"Bronze", "1", "2", "3"}});
+    ModalDriver user;
+    auto* const editor = new CQLTElePropertyEditor(nullptr);
+    user.Then([](QDialog& shown) { Click(shown, "pshbuton_Material"); });
+    user.Then([&](QDialog& library) {
+        delete editor;
+        ClickRow(Find<QTableWidget>(library, "tableWidget"), 0);
+        Click(library, button);
+    });
+    QCOMPARE(editor->exec(), int(QDialog::Rejected));
+    QVERIFY(user.IsDone());
+}
+
+void tst_CQLTElePropertyEditor::TheHostMayDestroyTheEditorBehindTheBox()
+{
+    ModalDriver user;
+    auto* const editor = new CQLTElePropertyEditor(nullptr);
+    CQLTElemPropDef record = Record(2);
+    editor->SetPropData(&record);
+    user.Then([](QDialog& shown) {
+        Type(shown, "lineEdit_PropName", "");
+        Click(shown, "pushbu_OK");
+    });
+    user.WhileBoxOpen([&](QMessageBox&) { delete editor; });
+    QCOMPARE(editor->exec(), int(QDialog::Rejected));
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({EmptyName()}));
 }
 
 void tst_CQLTElePropertyEditor::OkTellsTheTypedMaterial()
