@@ -160,6 +160,7 @@ private Q_SLOTS:
     void TheHostMayDestroyTheEditorBehindTheLibrary_data();
     void TheHostMayDestroyTheEditorBehindTheLibrary();
     void TheHostMayDestroyTheEditorBehindTheBox();
+    void OkTellsTheTypedMaterial_data();
     void OkTellsTheTypedMaterial();
     void TabFollowsReadingOrder();
     void EnterConfirms_data();
@@ -850,15 +851,23 @@ void tst_CQLTElePropertyEditor::TheHostMayDestroyTheEditorBehindTheBox()
     QCOMPARE(user.Boxes(), QVector<ShownBox>({EmptyName()}));
 }
 
+void tst_CQLTElePropertyEditor::OkTellsTheTypedMaterial_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("a name") << "nowhere to be found";
+    QTest::newRow("emptied") << "";
+}
+
 void tst_CQLTElePropertyEditor::OkTellsTheTypedMaterial()
 {
+    QFETCH(QString, typed);
     CQLTElePropertyEditor editor(nullptr);
     CQLTElemPropDef record = Record(2);
     editor.SetPropData(&record);
-    Find<QLineEdit>(editor, "lineEdit_mat").setText("nowhere to be found");
+    Find<QLineEdit>(editor, "lineEdit_mat").setText(typed);
     QCOMPARE(editor.ApplyOk(), 0);
-    QCOMPARE(editor.selectedPropName(), "nowhere to be found");
-    QCOMPARE(record.m_strMaterialName, "nowhere to be found");
+    QCOMPARE(editor.selectedPropName(), typed);
+    QCOMPARE(record.m_strMaterialName, typed);
 }
 
 void tst_CQLTElePropertyEditor::TabFollowsReadingOrder()
