@@ -7,6 +7,7 @@
 
 #include <QButtonGroup>
 #include <QDebug>
+#include <QPointer>
 
 namespace {
 
@@ -109,7 +110,9 @@ void CQLTElePropertyEditor::on_getMat_brower()
 {
     KVMaterialLibrary library;
     library.Reset();
-    if (library.exec() != QDialog::Accepted)
+    // The host may destroy the editor behind the library, which has no parent.
+    const QPointer<CQLTElePropertyEditor> self = this;
+    if (library.exec() != QDialog::Accepted || self == nullptr)
         return;
     m_strMaterialName = library.selectedMaterialName();
     m_ui.lineEdit_mat->setText(m_strMaterialName);

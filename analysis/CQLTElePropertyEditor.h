@@ -20,7 +20,7 @@ struct CQLTElemPropDef;
 ///         Use(editor.GetPropData());
 ///
 /// The caller owns the record, also one that OK allocated. A refused OK has already written the
-/// record's type and name, and a later Cancel does not undo that.
+/// record's type, thickness and name, and a later Cancel does not undo that.
 class TARNGUICOMMON_EXPORT CQLTElePropertyEditor : public QDialog
 {
     Q_OBJECT

@@ -34,6 +34,19 @@ QString CheckedButton(const QWidget& dialog)
     return names.join(QLatin1Char(' '));
 }
 
+/// Counts the requests to close that reach what it watches.
+class CloseEvents : public QObject
+{
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Close ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
 } // namespace
 
 class tst_CAnalysisTypeGUI : public TestCase
@@ -65,6 +78,7 @@ private Q_SLOTS:
     void OkAfterInitData();
     void TheUserMayGoBackToVibration();
     void OkHidesWithoutAcceptingOrRejecting();
+    void CancelClosesTheDialog();
     void LeavingKeepsThePair_data();
     void LeavingKeepsThePair();
     void TheDialogCanRunAgain();
@@ -365,6 +379,17 @@ void tst_CAnalysisTypeGUI::OkHidesWithoutAcceptingOrRejecting()
     QVERIFY(!dialog.isVisible());
     QCOMPARE(accepted.count() + rejected.count() + finished.count(), 0);
     QCOMPARE(SolverType(dialog), Pair(1, 2));
+}
+
+void tst_CAnalysisTypeGUI::CancelClosesTheDialog()
+{
+    CAnalysisTypeGUI dialog(nullptr);
+    CloseEvents closed;
+    dialog.installEventFilter(&closed);
+    dialog.show();
+    Click(dialog, "cancael_push_button");
+    QCOMPARE(closed.count, 1);
+    QVERIFY(!dialog.isVisible());
 }
 
 void tst_CAnalysisTypeGUI::LeavingKeepsThePair_data()

@@ -157,6 +157,10 @@ private Q_SLOTS:
     void BrowseCancelledChangesNothing();
     void BrowseWithoutARowEmptiesTheMaterial();
     void BrowseReadsBothFilesAnew();
+    void TheHostMayDestroyTheEditorBehindTheLibrary_data();
+    void TheHostMayDestroyTheEditorBehindTheLibrary();
+    void TheHostMayDestroyTheEditorBehindTheBox();
+    void OkTellsTheTypedMaterial_data();
     void OkTellsTheTypedMaterial();
     void TabFollowsReadingOrder();
     void EnterConfirms_data();
@@ -806,15 +810,64 @@ void tst_CQLTElePropertyEditor::BrowseReadsBothFilesAnew()
     QVERIFY(KVMaterialData::GetInstance()->GetMaterialInfo("not written yet") == nullptr);
 }
 
+void tst_CQLTElePropertyEditor::TheHostMayDestroyTheEditorBehindTheLibrary_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("accepted") << QByteArray("pushButton_6");
+    QTest::newRow("cancelled") << QByteArray("pushButton_8");
+}
+
+void tst_CQLTElePropertyEditor::TheHostMayDestroyTheEditorBehindTheLibrary()
+{
+    QFETCH(QByteArray, button);
+    EnterTemporaryDirectory();
+    const EmptyAnalysisStores stores;
+    WriteMaterials("./UserMaterial.xml", {{"Bronze", "1", "2", "3"}});
+    ModalDriver user;
+    auto* const editor = new CQLTElePropertyEditor(nullptr);
+    user.Then([](QDialog& shown) { Click(shown, "pshbuton_Material"); });
+    user.Then([&](QDialog& library) {
+        delete editor;
+        ClickRow(Find<QTableWidget>(library, "tableWidget"), 0);
+        Click(library, button);
+    });
+    QCOMPARE(editor->exec(), int(QDialog::Rejected));
+    QVERIFY(user.IsDone());
+}
+
+void tst_CQLTElePropertyEditor::TheHostMayDestroyTheEditorBehindTheBox()
+{
+    ModalDriver user;
+    auto* const editor = new CQLTElePropertyEditor(nullptr);
+    CQLTElemPropDef record = Record(2);
+    editor->SetPropData(&record);
+    user.Then([](QDialog& shown) {
+        Type(shown, "lineEdit_PropName", "");
+        Click(shown, "pushbu_OK");
+    });
+    user.WhileBoxOpen([&](QMessageBox&) { delete editor; });
+    QCOMPARE(editor->exec(), int(QDialog::Rejected));
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes(), QVector<ShownBox>({EmptyName()}));
+}
+
+void tst_CQLTElePropertyEditor::OkTellsTheTypedMaterial_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("a name") << "nowhere to be found";
+    QTest::newRow("emptied") << "";
+}
+
 void tst_CQLTElePropertyEditor::OkTellsTheTypedMaterial()
 {
+    QFETCH(QString, typed);
     CQLTElePropertyEditor editor(nullptr);
     CQLTElemPropDef record = Record(2);
     editor.SetPropData(&record);
-    Find<QLineEdit>(editor, "lineEdit_mat").setText("nowhere to be found");
+    Find<QLineEdit>(editor, "lineEdit_mat").setText(typed);
     QCOMPARE(editor.ApplyOk(), 0);
-    QCOMPARE(editor.selectedPropName(), "nowhere to be found");
-    QCOMPARE(record.m_strMaterialName, "nowhere to be found");
+    QCOMPARE(editor.selectedPropName(), typed);
+    QCOMPARE(record.m_strMaterialName, typed);
 }
 
 void tst_CQLTElePropertyEditor::TabFollowsReadingOrder()

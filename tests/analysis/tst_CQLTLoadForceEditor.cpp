@@ -89,6 +89,7 @@ private Q_SLOTS:
     void InitDataShowsTheKind();
     void AnotherRecordReplacesTheShownOne();
     void ALoadNormalToTheSurfaceKeepsItsComponents();
+    void AKindThatTheHostLetsChooseIsStored();
     void AnUnknownKindBecomesComponents();
     void ShownDigitsAreStored();
     void ForcesAreConvertedWithoutReport_data();
@@ -422,6 +423,23 @@ void tst_CQLTLoadForceEditor::ALoadNormalToTheSurfaceKeepsItsComponents()
     QCOMPARE(editor.exec(), int(QDialog::Accepted));
     QVERIFY(user.IsDone());
     CompareRecord(editor.GetLoadForceData(), {"Pressure", 2, 1.0 / 3.0, 2.0, 3.0});
+}
+
+void tst_CQLTLoadForceEditor::AKindThatTheHostLetsChooseIsStored()
+{
+    const EmptyAttributeNames names;
+    ModalDriver user;
+    CQLTLoadForceEditor editor(nullptr);
+    editor.InitData({"Load", 1, 1.0 / 3.0, 2.0, 3.0});
+    Find<QRadioButton>(editor, "rab_Normal2Face").setEnabled(true);
+    user.Then([](QDialog& shown) {
+        Click(shown, "rab_Normal2Face");
+        Type(shown, "lied_FX", "77");
+        Click(shown, "okButton");
+    });
+    QCOMPARE(editor.exec(), int(QDialog::Accepted));
+    QVERIFY(user.IsDone());
+    CompareRecord(editor.GetLoadForceData(), {"Load", 2, 1.0 / 3.0, 2.0, 3.0});
 }
 
 void tst_CQLTLoadForceEditor::AnUnknownKindBecomesComponents()
