@@ -111,10 +111,9 @@ void tst_OneParameterDlgSamples::TheRangeGeneratesTheSamples_data()
     QTest::newRow("Ln of 0") << "0"
                              << "1"
                              << "1" << int(Ln) << QStringList({"-inf", "0"});
-    QTest::newRow("Ln of a negative number")
-        << "-1"
-        << "1"
-        << "1" << int(Ln) << QStringList({"nan", "-inf", "0"});
+    QTest::newRow("Ln of a negative number") << "-1"
+                                             << "1"
+                                             << "1" << int(Ln) << QStringList({"nan", "-inf", "0"});
 }
 
 void tst_OneParameterDlgSamples::TheRangeGeneratesTheSamples()
