@@ -427,6 +427,9 @@ void tst_DOEDlg::TicksAreShownByPosition()
     QCOMPARE(Ticks(dialog), QStringLiteral("x-x"));
     QCOMPARE(EnabledButtons(dialog), QStringLiteral("x-x"));
     QCOMPARE(Names(dialog), QStringList({"c", "a", "b"}));
+    // Showing them changes no record.
+    QCOMPARE(g_mapParaArrays.at("b").bChecked, 0);
+    QCOMPARE(RunTableSize(dialog), QSize(2, 1));
 
     g_mapParaArrays.erase("a");
     DOEDlg other(nullptr);

@@ -142,6 +142,7 @@ private Q_SLOTS:
     void FewerColumnsThanBeforeAreRefusedUntilReopened();
     void FewerColumnsWithoutARowAskForTheRowFirst();
     void MoreColumnsThanBeforeAreTaken();
+    void OtherColumnsThanBeforeAreTaken();
     void AHandMadeColumnIsRefused();
     void TheLastOfTwoColumnsOfOneNameCounts();
     void AParameterAddedSinceIsSetToZero();
@@ -698,6 +699,28 @@ void tst_DOEDlgRuns::MoreColumnsThanBeforeAreTaken()
     QCOMPARE(user.Boxes(), Boxes());
     QCOMPARE(Stored("a").m_dValue, 3.0);
     QCOMPARE(Stored("b").m_dValue, 1.0);
+}
+
+void tst_DOEDlgRuns::OtherColumnsThanBeforeAreTaken()
+{
+    // As many as before; nothing is left of the parameter that was a column then.
+    const EmptyDesignStores stores;
+    AddParameter("a");
+    AddParameter("b");
+    Tick("a", {1});
+    Tick("b", {2}, false);
+    ModalDriver user;
+    const DOEDlg dialog(nullptr);
+    Generate(dialog, 0);
+    QCOMPARE(Stored("a").m_dValue, 1.0);
+    QCOMPARE(Stored("b").m_dValue, 0.0);
+    g_mapParaArrays["a"].bChecked = 0;
+    g_mapParaArrays["b"].bChecked = 1;
+    Refresh(dialog);
+    Generate(dialog, 0);
+    QCOMPARE(user.Boxes(), Boxes());
+    QCOMPARE(Stored("a").m_dValue, 0.0);
+    QCOMPARE(Stored("b").m_dValue, 2.0);
 }
 
 void tst_DOEDlgRuns::AHandMadeColumnIsRefused()

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void DeleteWithoutACurrentRowIsRefused();
 
     void OkStoresTheRecord();
+    void TheNextOkReplacesTheSamples();
     void OkChecksNothing_data();
     void OkChecksNothing();
     void OkStoresEditedRows();
@@ -460,6 +461,23 @@ void tst_OneParameterDlg::OkStoresTheRecord()
     QCOMPARE(record.nSampleType, int(Linear));
     QCOMPARE(g_mapParaArrays.at("b").bChecked, 0);
     QCOMPARE(g_mapParaArrays.size(), std::size_t(2));
+}
+
+void tst_OneParameterDlg::TheNextOkReplacesTheSamples()
+{
+    // The same dialog, run twice.
+    const EmptyDesignStores stores;
+    ModalDriver user;
+    OneParameterDlg dialog(nullptr, "a");
+    user.Then([](QDialog& shown) { Click(shown, "pushButton_OK"); });
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QCOMPARE(g_mapParaArrays.at("a").vecValues, Values({0, 1}));
+    Table(dialog).item(1, 0)->setText("5");
+    user.Then([](QDialog& shown) { Click(shown, "pushButton_OK"); });
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QCOMPARE(g_mapParaArrays.at("a").vecValues, Values({0, 5}));
+    QVERIFY(user.IsDone());
+    QCOMPARE(user.Boxes(), Boxes());
 }
 
 void tst_OneParameterDlg::OkChecksNothing_data()

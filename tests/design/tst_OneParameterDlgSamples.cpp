@@ -101,12 +101,19 @@ void tst_OneParameterDlgSamples::TheRangeGeneratesTheSamples_data()
     QTest::newRow("Log10 of 0") << "0"
                                 << "1"
                                 << "1" << int(Log10) << QStringList({"-inf", "0"});
+    QTest::newRow("Log10 of a negative number")
+        << "-1"
+        << "1"
+        << "1" << int(Log10) << QStringList({"nan", "-inf", "0"});
     QTest::newRow("Ln") << "1"
                         << "2"
                         << "1" << int(Ln) << QStringList({"0", "0.693147"});
     QTest::newRow("Ln of 0") << "0"
                              << "1"
                              << "1" << int(Ln) << QStringList({"-inf", "0"});
+    QTest::newRow("Ln of a negative number") << "-1"
+                                             << "1"
+                                             << "1" << int(Ln) << QStringList({"nan", "-inf", "0"});
 }
 
 void tst_OneParameterDlgSamples::TheRangeGeneratesTheSamples()
