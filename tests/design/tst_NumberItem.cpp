@@ -191,6 +191,7 @@ void tst_NumberItem::ManyItemsComeAndGo()
     constexpr int Count = 20000;
     for (int round = 0; round < 3; ++round) {
         std::vector<std::unique_ptr<QTableWidgetItem>> items;
+        items.reserve(Count);
         for (int i = 0; i < Count; ++i)
             items.push_back(std::make_unique<NumberItem>(i));
         for (std::size_t i = 0; i < items.size(); i += 2)
