@@ -82,6 +82,7 @@ private Q_SLOTS:
     void ThePreSelectionIsKept();
     void ResetSelectsByPosition_data();
     void ResetSelectsByPosition();
+    void ARowFarDownIsInViewWhenTheDialogOpens();
     void ThePositionIsThatOfTheFullList();
     void TheBoxesFilter_data();
     void TheBoxesFilter();
@@ -434,6 +435,27 @@ void tst_KVMaterialLibrary::ResetSelectsByPosition()
     QCOMPARE(SelectedRows(Table(library)), row < 0 ? QVector<int>() : QVector<int>({row}));
     QCOMPARE(library.selectedMaterialName(), row < 0 ? QString() : name);
     QCOMPARE(Table(library).styleSheet(), Cyan);
+}
+
+void tst_KVMaterialLibrary::ARowFarDownIsInViewWhenTheDialogOpens()
+{
+    EnterTemporaryDirectory();
+    const EmptyAnalysisStores stores;
+    QVector<QStringList> materials;
+    for (int i = 0; i < 100; ++i)
+        materials << QStringList({QStringLiteral("m%1").arg(i), "1", "2", "3"});
+    WriteMaterials(UserFile, materials);
+    ModalDriver user;
+    KVMaterialLibrary library;
+    library.SetComToItemData("m70");
+    library.Reset();
+    user.Then([](QDialog& shown) {
+        QTableWidget& table = Table(shown);
+        QVERIFY(table.viewport()->rect().contains(table.visualItemRect(table.item(70, 0))));
+        shown.reject();
+    });
+    library.exec();
+    QVERIFY(user.IsDone());
 }
 
 void tst_KVMaterialLibrary::ThePositionIsThatOfTheFullList()
