@@ -38,6 +38,7 @@ public:
     CQLTElemPropDef* GetSelectedProp();
 
     /// Replaces @p properties by those added with Add while this dialog lives; the store owns them.
+    /// A null pointer stands under each name that GetSelectedProp() looked for in vain.
     void GetPropData(std::map<QString, CQLTElemPropDef*>& properties) const;
 
 public Q_SLOTS:

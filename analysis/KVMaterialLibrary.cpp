@@ -192,8 +192,6 @@ void KVMaterialLibrary::RemoveMaterial()
     const int row = cell.row();
     table.removeRow(row);
     tarn::SelectRow(table, row);
-    // While the row went, its material was still the current one.
-    setCurrentMaterialName();
 }
 
 void KVMaterialLibrary::RecTableItemData()

@@ -8,7 +8,6 @@
 #include <QString>
 
 class MaterialEditer;
-struct KVMaterialInfo;
 
 /// Asks for a material, out of those of the system library and the user's own.
 ///

@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTimer>
 
 namespace {
@@ -88,6 +89,25 @@ void BeRefusedAndCancel(QDialog& editor)
     Click(editor, "pubut_Cancel");
 }
 
+/// Looks for the file at the moment when the dialog is hidden.
+class FileAtHiding : public QObject
+{
+public:
+    explicit FileAtHiding(QDialog& dialog) { dialog.installEventFilter(this); }
+
+    bool WasThere() const { return m_wasThere; }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::Hide)
+            m_wasThere = QFile::exists(File);
+        return false;
+    }
+
+private:
+    bool m_wasThere = false;
+};
+
 QStringList Headers(const QTableWidget& table)
 {
     QStringList texts;
@@ -114,6 +134,7 @@ private Q_SLOTS:
     void AnEmptyStoreGivesAnEmptyTable();
     void OpeningReadsTheFile();
     void OpeningKeepsWhatMemoryHolds();
+    void ARenameNotWrittenComesBackBesideTheOldName();
     void AFileThatCannotBeReadIsPassedOver_data();
     void AFileThatCannotBeReadIsPassedOver();
     void RowsFollowTheNamesInOrder();
@@ -124,6 +145,7 @@ private Q_SLOTS:
     void ShowingAgainFillsTheTableAnew();
     void TheSelectedNameIsThatOfTheCurrentRow();
     void AddEntersARowAndARecord();
+    void TheFirstRowAddedIsSelectedOnCyan();
     void AddOfANameThatIsHeldEntersASecondRow();
     void AddCancelledChangesNothing_data();
     void AddCancelledChangesNothing();
@@ -294,6 +316,25 @@ void tst_ELementPropGUI::OpeningKeepsWhatMemoryHolds()
     QCOMPARE(Names(Table(manager)), QStringList({"A", "B"}));
 }
 
+void tst_ELementPropGUI::ARenameNotWrittenComesBackBesideTheOldName()
+{
+    EnterTemporaryDirectory();
+    const EmptyAnalysisStores stores;
+    WriteProperties({"A"});
+    ModalDriver user;
+    ELementPropGUI manager(nullptr);
+    user.Then([&](QDialog& shown) {
+        user.Then(Confirm("Z"));
+        Click(shown, "pushButton__edit");
+        Click(shown, "pushButton_Cancel");
+    });
+    manager.exec();
+    QVERIFY(user.IsDone());
+    QCOMPARE(Names(Table(manager)), QStringList({"Z"}));
+    const ELementPropGUI next(nullptr);
+    QCOMPARE(Names(Table(next)), QStringList({"A", "Z"}));
+}
+
 void tst_ELementPropGUI::AFileThatCannotBeReadIsPassedOver_data()
 {
     QTest::addColumn<QByteArray>("content");
@@ -433,6 +474,20 @@ void tst_ELementPropGUI::AddEntersARowAndARecord()
     QVERIFY((added == Properties{{"A", Store().GetProptyDataMap()["A"]}}));
     manager.ShowProperty();
     QCOMPARE(Names(Table(manager)), QStringList({"A", "M"}));
+}
+
+void tst_ELementPropGUI::TheFirstRowAddedIsSelectedOnCyan()
+{
+    EnterTemporaryDirectory();
+    const EmptyAnalysisStores stores;
+    ModalDriver user;
+    ELementPropGUI manager(nullptr);
+    user.Then(Confirm("A"));
+    manager.InsertProperty();
+    QVERIFY(user.IsDone());
+    QCOMPARE(SelectedRows(Table(manager)), QVector<int>({0}));
+    QCOMPARE(Table(manager).currentRow(), 0);
+    QCOMPARE(Table(manager).styleSheet(), "selection-background-color:cyan");
 }
 
 void tst_ELementPropGUI::AddOfANameThatIsHeldEntersASecondRow()
@@ -833,6 +888,7 @@ void tst_ELementPropGUI::ATableRefilledBehindTheQuestionKeepsItsRows()
     manager.DeleteProperty();
     QVERIFY(user.IsDone());
     QCOMPARE(Names(Table(manager)), QStringList({"A", "B"}));
+    QCOMPARE(SelectedRows(Table(manager)), QVector<int>({1}));
 }
 
 void tst_ELementPropGUI::OkWritesAndCancelDoesNot_data()
@@ -864,11 +920,14 @@ void tst_ELementPropGUI::OkWritesAndCancelDoesNot()
         else
             shown.close();
     });
+    const QSignalSpy finished(&manager, SIGNAL(finished(int)));
+    const FileAtHiding file(manager);
     // Hidden, not accepted: the code says rejected in every case.
     QCOMPARE(manager.exec(), int(QDialog::Rejected));
     QVERIFY(user.IsDone());
     QVERIFY(!manager.isVisible());
-    QCOMPARE(QFile::exists(File), written);
+    QCOMPARE(finished.count(), way == "OK" || way == "Cancel" ? 0 : 1);
+    QCOMPARE(file.WasThere(), written);
     QCOMPARE(StoredNames(), QStringList({"A"}));
 }
 

@@ -82,6 +82,7 @@ private Q_SLOTS:
     void ThePreSelectionIsKept();
     void ResetSelectsByPosition_data();
     void ResetSelectsByPosition();
+    void ARowFarDownIsInViewWhenTheDialogOpens();
     void ThePositionIsThatOfTheFullList();
     void TheBoxesFilter_data();
     void TheBoxesFilter();
@@ -436,6 +437,27 @@ void tst_KVMaterialLibrary::ResetSelectsByPosition()
     QCOMPARE(Table(library).styleSheet(), Cyan);
 }
 
+void tst_KVMaterialLibrary::ARowFarDownIsInViewWhenTheDialogOpens()
+{
+    EnterTemporaryDirectory();
+    const EmptyAnalysisStores stores;
+    QVector<QStringList> materials;
+    for (int i = 0; i < 100; ++i)
+        materials << QStringList({QStringLiteral("m%1").arg(i), "1", "2", "3"});
+    WriteMaterials(UserFile, materials);
+    ModalDriver user;
+    KVMaterialLibrary library;
+    library.SetComToItemData("m70");
+    library.Reset();
+    user.Then([](QDialog& shown) {
+        QTableWidget& table = Table(shown);
+        QVERIFY(table.viewport()->rect().contains(table.visualItemRect(table.item(70, 0))));
+        shown.reject();
+    });
+    library.exec();
+    QVERIFY(user.IsDone());
+}
+
 void tst_KVMaterialLibrary::ThePositionIsThatOfTheFullList()
 {
     EnterTemporaryDirectory();
@@ -626,9 +648,12 @@ void tst_KVMaterialLibrary::OkWritesAndAccepts()
         ClickRow(Table(shown), 1);
         Click(shown, "pushButton_6");
     });
+    bool isWritten = false;
+    connect(&library, &QDialog::accepted, [&] { isWritten = QFile::exists(UserFile); });
     QCOMPARE(library.exec(), int(QDialog::Accepted));
     QVERIFY(user.IsDone());
-    QVERIFY(QFile::exists(UserFile));
+    // The host may read the file as soon as the dialog tells of its end.
+    QVERIFY(isWritten);
     QCOMPARE(library.selectedMaterialName(), "Steel");
 }
 

@@ -375,8 +375,13 @@ void tst_MaterialEditer::ANameThatTheStoreHoldsIsRefused()
     MaterialEditer editor(nullptr);
     user.Then([&](QDialog& shown) {
         Type(shown, "lineEditName", name);
+        auto& field = Find<QLineEdit>(shown, "lineEditName");
+        QStringList texts;
+        connect(&field, &QLineEdit::textChanged, [&](const QString& text) { texts << text; });
         Click(shown, "pushButton");
-        QCOMPARE(Find<QLineEdit>(shown, "lineEditName").text(), name);
+        // Cleared and set again.
+        QCOMPARE(texts, name.isEmpty() ? QStringList() : QStringList({"", name}));
+        QCOMPARE(field.text(), name);
         if (refused) {
             QVERIFY(shown.isVisible());
             Click(shown, "pushButton_2");

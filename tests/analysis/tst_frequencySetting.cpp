@@ -343,10 +343,12 @@ void tst_frequencySetting::OkStoresValidValues()
         TypeSweep(shown, minText, maxText, countText);
         Click(shown, "pushButton_OK");
     });
+    Sweep atTheEnd;
+    connect(&dialog, &QDialog::accepted, [&atTheEnd] { atTheEnd = Stored(); });
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     QVERIFY(user.IsDone());
     QCOMPARE(user.Boxes(), QVector<ShownBox>());
-    CompareSweep(Stored(), {min, max, count});
+    CompareSweep(atTheEnd, {min, max, count});
     CompareSweep(Told(dialog), {min, max, count});
 }
 

@@ -558,10 +558,13 @@ void tst_KVMaterialData::AFileNotReadIsKeptAsACopy_data()
     QTest::newRow("another root") << QByteArray("<Other/>") << 1;
     QTest::newRow("only as system") << File(Line("a", "1")) << 0;
     QTest::newRow("unknown element") << File("<Colour/>") << 1;
+    QTest::newRow("element in a material")
+        << File("<Material name=\"a\"><Colour/></Material>") << 1;
     QTest::newRow("unknown attribute") << File("<Material name=\"a\" colour=\"grey\"/>") << 1;
     QTest::newRow("unknown root attribute")
         << QByteArray("<Materials version=\"1\" units=\"SI\" by=\"me\"/>") << 1;
     QTest::newRow("comment") << File("<!-- mine -->") << 1;
+    QTest::newRow("processing instruction") << File("<?mine?>") << 1;
     QTest::newRow("text") << File("mine") << 1;
     QTest::newRow("a name twice") << File(Line("a", "1") + Line("a", "2")) << 1;
 }
