@@ -2,6 +2,7 @@
 
 #include "CQLTElePropertyEditor.h"
 #include "CQLTElemPropDef.h"
+#include "ChildDialog.h"
 #include "KVPropertyData.h"
 #include "Notice.h"
 #include "TableSelection.h"
@@ -76,13 +77,14 @@ void ELementPropGUI::ShowProperty()
 
 void ELementPropGUI::InsertProperty()
 {
-    CQLTElePropertyEditor editor(this);
-    if (editor.exec() != QDialog::Accepted) {
+    tarn::ChildDialog<CQLTElePropertyEditor> editor(this);
+    if (!editor.RunToAccept()) {
         // An OK that was refused before has allocated a record that nobody else knows.
-        delete editor.GetPropData();
+        if (editor.Get() != nullptr)
+            delete editor->GetPropData();
         return;
     }
-    CQLTElemPropDef* const property = editor.GetPropData();
+    CQLTElemPropDef* const property = editor->GetPropData();
     m_mapAddedProps[property->m_strName] = property;
     m_ui.tabwidget_Prop->insertRow(m_nRow);
     FillRow(m_nRow++, *property);
@@ -104,11 +106,11 @@ void ELementPropGUI::EditProperty()
         return;
     }
 
-    CQLTElePropertyEditor editor(this);
-    editor.SetPropData(property);
-    if (editor.exec() != QDialog::Accepted)
+    tarn::ChildDialog<CQLTElePropertyEditor> editor(this);
+    editor->SetPropData(property);
+    if (!editor.RunToAccept())
         return;
-    KVPropertyData::GetInstance()->AddPropInfo(editor.GetPropData());
+    KVPropertyData::GetInstance()->AddPropInfo(editor->GetPropData());
     // Clears the header labels, too: after an edit the columns are numbered.
     m_ui.tabwidget_Prop->clear();
     ShowProperty();

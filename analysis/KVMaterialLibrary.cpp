@@ -1,5 +1,6 @@
 #include "KVMaterialLibrary.h"
 
+#include "ChildDialog.h"
 #include "KVMaterialData.h"
 #include "MaterialEditer.h"
 #include "Notice.h"
@@ -148,9 +149,9 @@ void KVMaterialLibrary::EditMaterial()
 
 void KVMaterialLibrary::InsertMaterial()
 {
-    MaterialEditer editor(this);
-    if (editor.exec() == QDialog::Accepted)
-        AppendNewMaterial(editor);
+    tarn::ChildDialog<MaterialEditer> editor(this);
+    if (editor.RunToAccept())
+        AppendNewMaterial(*editor.Get());
 }
 
 void KVMaterialLibrary::ClonMaterial()
@@ -163,11 +164,11 @@ void KVMaterialLibrary::ClonMaterial()
     }
 
     const int row = m_ui.tableWidget->currentRow();
-    MaterialEditer editor(this);
-    editor.SetMaterialData(CloneName(CellText(row, NameColumn), s_nCloneCount), ValuesOfRow(row));
-    if (editor.exec() != QDialog::Accepted)
+    tarn::ChildDialog<MaterialEditer> editor(this);
+    editor->SetMaterialData(CloneName(CellText(row, NameColumn), s_nCloneCount), ValuesOfRow(row));
+    if (!editor.RunToAccept())
         return;
-    AppendNewMaterial(editor);
+    AppendNewMaterial(*editor.Get());
     ++s_nCloneCount;
 }
 
@@ -199,12 +200,12 @@ void KVMaterialLibrary::RecTableItemData()
     QTableWidget& table = *m_ui.tableWidget;
     const int row = table.currentRow();
     const QPersistentModelIndex cell = table.model()->index(row, NameColumn);
-    MaterialEditer editor(this);
-    editor.SetMaterialData(CellText(row, NameColumn), ValuesOfRow(row));
-    if (editor.exec() != QDialog::Accepted)
+    tarn::ChildDialog<MaterialEditer> editor(this);
+    editor->SetMaterialData(CellText(row, NameColumn), ValuesOfRow(row));
+    if (!editor.RunToAccept())
         return;
 
-    KVMaterialInfo* const material = editor.CreateMaterialInfo();
+    KVMaterialInfo* const material = editor->CreateMaterialInfo();
     const RowTexts texts = UserTexts(*material);
     KVMaterialData::GetInstance()->AddMaterialInfo(material);
     if (cell.isValid())

@@ -1,5 +1,6 @@
 #include "DOEDlg.h"
 
+#include "ChildDialog.h"
 #include "GlobalParaMeterMgr.h"
 #include "Notice.h"
 #include "NumberItem.h"
@@ -9,7 +10,6 @@
 
 #include <QCheckBox>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTableWidgetItem>
@@ -290,12 +290,9 @@ void DOEDlg::m_Slot_UpdateGeoemtry()
     const QTableWidget& table = *m_ui.tableWidget_Final;
     const int row = table.currentRow();
     if (row < 0) {
-        // Not on the stack: the host may destroy the dialog, and with it the box, behind the box.
-        const QPointer<QMessageBox> box =
-            new QMessageBox(QMessageBox::Information, tr("Warning"), tr("Select one row first"),
-                            QMessageBox::Ok, this);
+        const tarn::ChildDialog<QMessageBox> box(QMessageBox::Information, tr("Warning"),
+                                                 tr("Select one row first"), QMessageBox::Ok, this);
         box->exec();
-        delete box;
         return;
     }
 

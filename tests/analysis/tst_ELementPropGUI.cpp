@@ -178,6 +178,8 @@ private Q_SLOTS:
     void EnterPressesNothing_data();
     void EnterPressesNothing();
     void OpeningAndClosingKeepsTheHeap();
+    void TheHostMayDestroyTheManagerBehindTheEditor_data();
+    void TheHostMayDestroyTheManagerBehindTheEditor();
 };
 
 void tst_ELementPropGUI::TheFormIsAsGiven_data()
@@ -1070,6 +1072,28 @@ void tst_ELementPropGUI::OpeningAndClosingKeepsTheHeap()
         manager.exec();
     });
     QVERIFY2(growth < 50000, qPrintable(QString::number(growth)));
+}
+
+void tst_ELementPropGUI::TheHostMayDestroyTheManagerBehindTheEditor_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("Add") << QByteArray("pushButton_add");
+    QTest::newRow("Edit") << QByteArray("pushButton__edit");
+}
+
+void tst_ELementPropGUI::TheHostMayDestroyTheManagerBehindTheEditor()
+{
+    QFETCH(QByteArray, button);
+    EnterTemporaryDirectory();
+    const EmptyAnalysisStores stores;
+    Hold("A");
+    auto* const manager = new ELementPropGUI(nullptr);
+    ModalDriver user;
+    user.Then([&](QDialog& shown) { Click(shown, button); });
+    user.Then([manager](QDialog&) { delete manager; });
+    QCOMPARE(manager->exec(), int(QDialog::Rejected));
+    QVERIFY(user.IsDone());
+    QCOMPARE(StoredNames(), QStringList({"A"}));
 }
 
 TARN_TEST_MAIN(tst_ELementPropGUI)

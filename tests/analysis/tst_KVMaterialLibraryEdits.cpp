@@ -119,6 +119,8 @@ private Q_SLOTS:
     void TheMessagesAreTranslatedSaveOne();
     void CancelKeepsChangesInMemoryOnly();
     void OkWritesTheChanges();
+    void TheHostMayDestroyTheLibraryBehindTheEditor_data();
+    void TheHostMayDestroyTheLibraryBehindTheEditor();
 };
 
 void tst_KVMaterialLibraryEdits::EachActionNeedsARow_data()
@@ -582,6 +584,33 @@ void tst_KVMaterialLibraryEdits::OkWritesTheChanges()
     Store().ClearInfo();
     QCOMPARE(Store().ReadXML(UserFile, MATERIAL_USER), 0);
     QCOMPARE(Store().GetMaterialNameList(), QStringList({"Copper", "Lead"}));
+}
+
+void tst_KVMaterialLibraryEdits::TheHostMayDestroyTheLibraryBehindTheEditor_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("View/Edit") << QByteArray("pushButton");
+    QTest::newRow("Add") << QByteArray("pushButton_2");
+    QTest::newRow("Clone") << QByteArray("pushButton_3");
+}
+
+void tst_KVMaterialLibraryEdits::TheHostMayDestroyTheLibraryBehindTheEditor()
+{
+    QFETCH(QByteArray, button);
+    EnterTemporaryDirectory();
+    const EmptyAnalysisStores stores;
+    WriteBothFiles();
+    auto* const library = new KVMaterialLibrary;
+    library->Reset();
+    ModalDriver user;
+    user.Then([&](QDialog& shown) {
+        ClickRow(Table(shown), 0);
+        Click(shown, button);
+    });
+    user.Then([library](QDialog&) { delete library; });
+    QCOMPARE(library->exec(), int(QDialog::Rejected));
+    QVERIFY(user.IsDone());
+    QCOMPARE(Store().MapDataRow(), AllNames.size());
 }
 
 TARN_TEST_MAIN(tst_KVMaterialLibraryEdits)
