@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 class tst_FeatureKinds : public TestCase
 {
@@ -152,7 +153,7 @@ void tst_FeatureKinds::ARuleTellsWhatItAllows()
         QVERIFY2(rule.Allows(value), QByteArray::number(value));
     refused << std::numeric_limits<double>::quiet_NaN() << std::numeric_limits<double>::infinity()
             << -std::numeric_limits<double>::infinity();
-    for (const double value : refused)
+    for (const double value : std::as_const(refused))
         QVERIFY2(!rule.Allows(value), QByteArray::number(value));
     QTEST(rule.Text(), "text");
 }

@@ -160,7 +160,7 @@ void tst_PositionDock::AFieldWithTheFocusIsLeftAlone()
     // A click into the view gives it the focus, and the fields follow again.
     QTest::mouseClick(shown.view, Qt::LeftButton, {}, shown.view->rect().center());
     shown.MoveTo(shown.view->rect().center() + QPoint(1, 0));
-    QCOMPARE(shown.Texts()[1], QStringLiteral("0"));
+    QCOMPARE(shown.Texts().at(1), QStringLiteral("0"));
 }
 
 void tst_PositionDock::EnterTellsAndMarksThePoint()

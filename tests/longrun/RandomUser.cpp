@@ -140,7 +140,8 @@ void RandomUser::Leave(QWidget& window)
     // Half the time through a button, as long as that helps; Escape and the frame's cross always
     // do.
     QVector<QWidget*> buttons;
-    for (QWidget* const widget : UsableWidgets(window)) {
+    const QVector<QWidget*> usable = UsableWidgets(window);
+    for (QWidget* const widget : usable) {
         if (qobject_cast<QAbstractButton*>(widget) != nullptr)
             buttons << widget;
     }
@@ -201,7 +202,8 @@ void RandomUser::TypeInto(QWidget& widget)
     const QPointer<QWidget> guard = &widget;
     if (m_dice.OneIn(2))
         PressKey(widget, Qt::Key_A, Qt::ControlModifier);
-    for (const QChar letter : SomeText()) {
+    const QString text = SomeText();
+    for (const QChar letter : text) {
         if (!guard)
             return;
         QTest::sendKeyEvent(QTest::Click, guard, Qt::Key_unknown, QString(letter), Qt::NoModifier);

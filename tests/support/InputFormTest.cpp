@@ -19,7 +19,7 @@ void InputFormChecks::TheFontIsSetOnTheDialog()
 void InputFormChecks::TabFollowsTheReadingOrder()
 {
     QStringList names;
-    for (const auto& field : m_facts.typed)
+    for (const auto& field : std::as_const(m_facts.typed))
         names << field.first;
     QCOMPARE(TabOrder(*NewDialog()), names + QStringList({"pushButton_OK", "pushButton_Cancel"}));
 }
