@@ -264,7 +264,7 @@ public:
         const double heap = double(AllocatedBytes());
         const double resident = double(ResidentBytes());
         if (g_step % std::max(1, m_steps / 20) == 0) {
-            std::printf("%6d dialogs: heap %6.1f MB, resident %6.1f MB\n", g_step, heap / 1e6,
+            std::printf("%6d dialogs: heap %4.0f MB, resident %4.0f MB\n", g_step, heap / 1e6,
                         resident / 1e6);
             std::fflush(stdout);
         }
