@@ -3,6 +3,13 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
+# logged <log> <command...> shows what the command says only when it fails.
+logged() {
+  local log=build/$1.log
+  mkdir -p build
+  "${@:2}" >"$log" 2>&1 || { cat "$log" >&2; return 1; }
+}
+
 install_packages() {
   local missing=()
   while read -r package; do
@@ -13,17 +20,13 @@ install_packages() {
   local root=()
   [ "$(id -u)" -eq 0 ] || root=(sudo)
   "${root[@]}" apt-get update -qq
-  "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+  logged packages "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -q --no-install-recommends "${missing[@]}"
 }
 
 build() {
-  cmake --preset "$1" >"$(log_of "$1")" 2>&1 || { cat "$(log_of "$1")"; return 1; }
+  logged "configure-$1" cmake --preset "$1"
   cmake --build --preset "$1" "${@:2}"
-}
-
-log_of() {
-  mkdir -p build
-  echo "build/configure-$1.log"
 }
 
 install_packages
