@@ -28,6 +28,42 @@ private Q_SLOTS:
 
 namespace {
 
+// A new dialog gets a line here.
+QStringList WindowNames()
+{
+    return {
+        "ArcArrayDlg",
+        "CAnalysisTypeGUI",
+        "CQLTConstrainEditor",
+        "CQLTElePropertyEditor",
+        "CQLTLoadForceEditor",
+        "DOEDlg",
+        "ELementPropGUI",
+        "ExternalSolverOption",
+        "ExtrudInputDlg",
+        "KVMaterialLibrary",
+        "MainWindow",
+        "MaterialEditer",
+        "MatrixArrayDlg",
+        "MeshSizeInput",
+        "MirrorDialog",
+        "MoveInput",
+        "OneParameterDlg",
+        "ParameterEditor",
+        "PolygonNumInputDlg",
+        "PosInputDlg",
+        "ResultSetting",
+        "SolverSetting",
+        "SubShapeMeshParameterDlg",
+        "TruncatedConeInputDlg",
+        "WedgeInputDlg",
+        "frequencySetting",
+        "rotateInputDlg",
+        "sphereParaInputdlg",
+        "torusParaInputDlg",
+    };
+}
+
 QString ReasonNotWritten(const QString& directory)
 {
     const EmptyDesignStores stores;
@@ -51,37 +87,9 @@ void tst_Screenshots::EveryWindowHasAPicture()
 
     QStringList names = QDir("a/b").entryList(QDir::Files);
     names.sort();
-    QCOMPARE(names, QStringList({"ArcArrayDlg.png",
-                                 "CAnalysisTypeGUI.png",
-                                 "CQLTConstrainEditor.png",
-                                 "CQLTElePropertyEditor.png",
-                                 "CQLTLoadForceEditor.png",
-                                 "DOEDlg.png",
-                                 "ELementPropGUI.png",
-                                 "ExternalSolverOption.png",
-                                 "ExtrudInputDlg.png",
-                                 "KVMaterialLibrary.png",
-                                 "MainWindow.png",
-                                 "MaterialEditer.png",
-                                 "MatrixArrayDlg.png",
-                                 "MeshSizeInput.png",
-                                 "MirrorDialog.png",
-                                 "MoveInput.png",
-                                 "OneParameterDlg.png",
-                                 "ParameterEditor.png",
-                                 "PolygonNumInputDlg.png",
-                                 "PosInputDlg.png",
-                                 "ResultSetting.png",
-                                 "SolverSetting.png",
-                                 "SubShapeMeshParameterDlg.png",
-                                 "TruncatedConeInputDlg.png",
-                                 "WedgeInputDlg.png",
-                                 "frequencySetting.png",
-                                 "rotateInputDlg.png",
-                                 "sphereParaInputdlg.png",
-                                 "torusParaInputDlg.png"}));
+    QCOMPARE(names.replaceInStrings(".png", ""), WindowNames());
     for (const QString& name : qAsConst(names)) {
-        QFile file("a/b/" + name);
+        QFile file("a/b/" + name + ".png");
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.peek(8), QByteArray("\x89PNG\r\n\x1a\n"));
         const QImage image = QImage::fromData(file.readAll());
@@ -113,8 +121,9 @@ void tst_Screenshots::EveryWindowCanBeVisited()
                      QVERIFY(!window.isVisible());
                      names << name;
                  });
-    QCOMPARE(names.size(), 29);
     QCOMPARE(names.first(), QString("MainWindow"));
+    names.sort();
+    QCOMPARE(names, WindowNames());
     QCOMPARE(KVMaterialData::GetInstance()->MapDataRow(), 0);
 }
 
