@@ -153,7 +153,10 @@ void tst_ClippedTexts::WhatFitsAsGivenFitsInEveryLanguage()
                 cut << QString("%1: %2 \"%3\"").arg(window.key(), place.key(), place.value());
         }
     }
-    QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));
+    QVERIFY2(cut.isEmpty(),
+             qPrintable("Too wide or too high for its widget; make the text shorter or "
+                        "the widget larger in its form:\n" +
+                        cut.join('\n')));
 }
 
 TARN_TEST_MAIN(tst_ClippedTexts, HostApplication)
