@@ -18,5 +18,11 @@ install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommon.pc" DESTINATION ${CMAKE_INSTA
 
 # The manual as web pages, where the build made them, stands in html/ of the same folder.
 set(TARN_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/libtarnguicommon-dev)
-install(DIRECTORY docs/ DESTINATION ${TARN_DOC_DIR} COMPONENT development)
+install(
+  DIRECTORY docs/
+  DESTINATION ${TARN_DOC_DIR}
+  COMPONENT development
+  PATTERN docs/CMakeLists.txt EXCLUDE
+  PATTERN Doxyfile.in EXCLUDE
+  PATTERN doxygen.sed EXCLUDE)
 install(DIRECTORY "${PROJECT_BINARY_DIR}/manual/" DESTINATION ${TARN_DOC_DIR}/html COMPONENT development OPTIONAL)
