@@ -16,9 +16,13 @@ install_packages() {
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
   done < <(grep -v '^#' packages.txt)
   [ ${#missing[@]} -gt 0 ] || return 0
-  echo "Installing ${missing[*]}"
   local root=()
   [ "$(id -u)" -eq 0 ] || root=(sudo)
+  if [ ${#root[@]} -gt 0 ] && ! command -v sudo >/dev/null; then
+    echo "There is no sudo. As root: apt-get install --no-install-recommends ${missing[*]}" >&2
+    return 1
+  fi
+  echo "Installing ${missing[*]}"
   "${root[@]}" apt-get update -qq
   logged packages "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
     apt-get install -y -q --no-install-recommends "${missing[@]}"
