@@ -33,13 +33,6 @@
 /// dialog. The stores are to be empty and the working directory without files, so that it is the
 /// dialog itself that is measured.
 
-/// A bare dialog has none of the slots that a form may connect to; being told so is no part of the
-/// comparison.
-inline void SilenceForms()
-{
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-}
-
 template<class Dialog>
 struct WholeDialog
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Offscreen.h"
+
 #include <QApplication>
 
 #include <benchmark/benchmark.h>
@@ -11,8 +13,7 @@
 inline int RunBenchmarks(
     int argc, char** argv, const std::function<void()>& prepare = [] {})
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "*.debug=false");
+    RunOffscreen();
     const QApplication application(argc, argv);
     prepare();
     benchmark::Initialize(&argc, argv);

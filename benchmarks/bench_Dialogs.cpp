@@ -23,7 +23,6 @@ void Register(const std::string& name, void (*construct)())
 
 int main(int argc, char** argv)
 {
-    SilenceForms();
     const QTemporaryDir directory;
     QDir::setCurrent(directory.path());
     return RunBenchmarks(argc, argv, [] {

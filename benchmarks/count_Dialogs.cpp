@@ -1,4 +1,5 @@
 #include "DialogList.h"
+#include "Offscreen.h"
 
 #include <QApplication>
 #include <QDir>
@@ -25,8 +26,7 @@ void Count(const std::string& name, void (*construct)())
 
 int main(int argc, char** argv)
 {
-    SilenceForms();
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    RunOffscreen();
     const QApplication application(argc, argv);
     const QTemporaryDir directory;
     QDir::setCurrent(directory.path());

@@ -16,13 +16,7 @@ configure_file(cmake/TarnGUICommon.pc.in "${PROJECT_BINARY_DIR}/TarnGUICommon.pc
 install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommon.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
         COMPONENT development)
 
-# The manual as web pages, where the build made them, stands in html/ of the same folder.
+# The manual is installed as web pages, where the build made them: the links of its sources lead into the repository.
 set(TARN_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/libtarnguicommon-dev)
-install(
-  DIRECTORY docs/
-  DESTINATION ${TARN_DOC_DIR}
-  COMPONENT development
-  PATTERN docs/CMakeLists.txt EXCLUDE
-  PATTERN Doxyfile.in EXCLUDE
-  PATTERN doxygen.sed EXCLUDE)
+install(DIRECTORY docs/examples docs/schemas DESTINATION ${TARN_DOC_DIR} COMPONENT development)
 install(DIRECTORY "${PROJECT_BINARY_DIR}/manual/" DESTINATION ${TARN_DOC_DIR}/html COMPONENT development OPTIONAL)

@@ -69,8 +69,12 @@ file(STRINGS "${entry}" icon REGEX "^Icon=tarnhost$")
 expect(icon)
 foreach(
   file
-  icons/hicolor/scalable/apps/tarnhost.svg man/man1/tarnhost.1.gz TarnGUICommon/SysMaterial.xml
-  TarnGUICommon/samples/flange.json doc/libtarnguicommon-dev/file-formats.md
+  icons/hicolor/scalable/apps/tarnhost.svg
+  man/man1/tarnhost.1.gz
+  TarnGUICommon/SysMaterial.xml
+  TarnGUICommon/samples/flange.json
+  doc/libtarnguicommon-dev/examples/small_host/main.cpp
+  doc/libtarnguicommon-dev/html/index.html
   doc/libtarnguicommon-dev/schemas/Materials.xsd)
   expect(EXISTS "${root}/usr/share/${file}")
 endforeach()
