@@ -34,7 +34,7 @@ constexpr int NoSelection = -1;
 // In pixels of a screen with a ratio of 1.
 constexpr double CubeSize = 34.0;
 constexpr int CubeMargin = 66; // From both sides of the corner to the cube's middle.
-constexpr double CubeFontHeight = 8.0;
+constexpr double CubeFontHeight = 7.0;
 constexpr double AxisLetterHeight = 14.0;
 constexpr unsigned int DotsPerInch = 96;
 
@@ -205,7 +205,7 @@ void ModelScene::Resize(int width, int height, double pixelRatio)
     m_view->ChangeRenderingParams().Resolution =
         static_cast<unsigned int>(qRound(DotsPerInch * pixelRatio));
     m_cube->SetSize(CubeSize * pixelRatio);
-    m_cube->SetFontHeight(CubeFontHeight * pixelRatio);
+    m_cube->SetFontHeight(CubeFontHeight); // The resolution makes it as large as the cube.
     const int margin = qRound(CubeMargin * pixelRatio);
     m_cube->SetTransformPersistence(new Graphic3d_TransformPers(
         Graphic3d_TMF_TriedronPers, Aspect_TOTP_RIGHT_UPPER, Graphic3d_Vec2i(margin, margin)));

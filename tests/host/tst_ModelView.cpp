@@ -459,6 +459,23 @@ void tst_ModelView::NothingIsWrittenToTheConsole()
     QCOMPARE(child.exitCode(), isShown ? 0 : 1);
 }
 
+// In the front view, where the front of the cube reaches from 88 to 49 pixels from the right side.
+static bool LettersFitTheCube(const QImage& picture)
+{
+    const double ratio = picture.devicePixelRatio();
+    int letters = 0;
+    for (int y = qRound(55 * ratio); y < qRound(72 * ratio); ++y) {
+        for (int x = qRound(12 * ratio); x < qRound(120 * ratio); ++x) {
+            if (picture.pixelColor(picture.width() - x, y).lightness() > 80)
+                continue;
+            ++letters;
+            if (x < 49 * ratio || x > 88 * ratio)
+                return false;
+        }
+    }
+    return letters > 0;
+}
+
 // 0: the view shows a part, is turned, and finds a point on it. 1: there can be no view.
 static int ShowAView()
 {
@@ -471,6 +488,8 @@ static int ShowAView()
     shown.MoveTo(shown.Middle());
     const bool isScaled = picture.size() == shown.view->size() * shown.view->devicePixelRatioF();
     const bool isFound = shown.point.has_value() && std::abs(shown.point->X() - 50.0) < 1.0;
+    if (!LettersFitTheCube(picture))
+        return 3;
     return isScaled && isFound && BlackPixels(picture) > 300 ? 0 : 2;
 }
 
