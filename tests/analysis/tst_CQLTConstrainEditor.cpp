@@ -2,9 +2,7 @@
 #include "CQLTConstrainEditor.h"
 #include "DialogFacts.h"
 #include "EmptyAttributeNames.h"
-#include "Heap.h"
-#include "ModalDriver.h"
-#include "TestCase.h"
+#include "NamedRecordTest.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -19,11 +17,6 @@ namespace {
 constexpr std::array<const char*, 6> Boxes = {"chb_XD", "chb_YD", "chb_ZD",
                                               "chb_XR", "chb_YR", "chb_ZR"};
 
-ShownBox Duplicate()
-{
-    return ShownBox::Notice("Warning", "CQLTConstrainEditor: Duplicated Attribute Name");
-}
-
 std::array<bool, 6> Flags(const sConstrainData& data)
 {
     return {data.m_bXD, data.m_bYD, data.m_bZD, data.m_bXR, data.m_bYR, data.m_bZR};
@@ -36,9 +29,12 @@ sConstrainData Record(const std::string& name, const std::array<bool, 6>& flags)
 
 } // namespace
 
-class tst_CQLTConstrainEditor : public TestCase
+class tst_CQLTConstrainEditor : public NamedRecordTest<CQLTConstrainEditor>
 {
     Q_OBJECT
+
+public:
+    tst_CQLTConstrainEditor();
 
 private Q_SLOTS:
     void TheFormIsAsGiven_data();
@@ -61,19 +57,23 @@ private Q_SLOTS:
     void LeavingKeepsTheRecord();
     void ATakenNameIsRefusedEveryTime();
     void ARefusalKeepsTheRecordOfInitData();
-    void TheRegistryIsNotWritten();
-    void TheNameIsTakenAsTyped_data();
-    void TheNameIsTakenAsTyped();
-    void TheNameEndsAtTheFirstZero();
-    void NamesAreBytesOfTheLocalCodePage_data();
-    void NamesAreBytesOfTheLocalCodePage();
-    void ATakenNameIsFoundByItsBytes();
     void TabFollowsReadingOrder();
-    void EnterConfirmsFromEverywhere_data();
-    void EnterConfirmsFromEverywhere();
     void SpaceTurnsABoxAndPressesCancel();
-    void OpeningAThousandTimesTakesNoMemory();
+
+private:
+    std::string NameIn(const CQLTConstrainEditor& editor) const override;
 };
+
+tst_CQLTConstrainEditor::tst_CQLTConstrainEditor()
+    : NamedRecordTest("defaultBC",
+                      ShownBox::Notice("Warning", "CQLTConstrainEditor: Duplicated Attribute Name"))
+{
+}
+
+std::string tst_CQLTConstrainEditor::NameIn(const CQLTConstrainEditor& editor) const
+{
+    return editor.GetConstrainData().m_strName;
+}
 
 void tst_CQLTConstrainEditor::TheFormIsAsGiven_data()
 {
@@ -336,144 +336,11 @@ void tst_CQLTConstrainEditor::ARefusalKeepsTheRecordOfInitData()
     QVERIFY(Flags(editor.GetConstrainData()) == flags);
 }
 
-void tst_CQLTConstrainEditor::TheRegistryIsNotWritten()
-{
-    const EmptyAttributeNames names;
-    CQLTConstrainEditor editor(nullptr);
-    editor.m_OK_ButtonPushed();
-    std::string name = "defaultBC";
-    QVERIFY(!AttributeCommonMgr::GetInstance()->FindName(name));
-}
-
-void tst_CQLTConstrainEditor::TheNameIsTakenAsTyped_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QByteArray>("registered");
-    QTest::addColumn<int>("boxes");
-    QTest::newRow("blanks stay") << " wall " << QByteArray("wall") << 0;
-    QTest::newRow("case counts") << "Wall" << QByteArray("wall") << 0;
-    QTest::newRow("empty") << "" << QByteArray("wall") << 0;
-    QTest::newRow("blank") << " " << QByteArray("") << 0;
-    QTest::newRow("empty and taken") << "" << QByteArray("") << 1;
-    QTest::newRow("exactly taken") << "wall" << QByteArray("wall") << 1;
-    QTest::newRow("begins like a taken one") << "wall" << QByteArray("wall2") << 0;
-}
-
-void tst_CQLTConstrainEditor::TheNameIsTakenAsTyped()
-{
-    QFETCH(QString, typed);
-    QFETCH(QByteArray, registered);
-    QFETCH(int, boxes);
-    const EmptyAttributeNames names;
-    AttributeCommonMgr::GetInstance()->AddName(registered.toStdString());
-    ModalDriver user;
-    CQLTConstrainEditor editor(nullptr);
-    user.Then([&](QDialog& shown) {
-        Type(shown, "lied_Name", typed);
-        Click(shown, "okButton");
-        if (boxes > 0)
-            Click(shown, "cancelButton");
-    });
-    QCOMPARE(editor.exec(), int(boxes > 0 ? QDialog::Rejected : QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>(boxes, Duplicate()));
-    QCOMPARE(editor.GetConstrainData().m_strName, boxes > 0 ? std::string() : typed.toStdString());
-}
-
-void tst_CQLTConstrainEditor::TheNameEndsAtTheFirstZero()
-{
-    const EmptyAttributeNames names;
-    CQLTConstrainEditor editor(nullptr);
-    Find<QLineEdit>(editor, "lied_Name").setText(QString("ab") + QChar(0) + "cd");
-    editor.m_OK_ButtonPushed();
-    QCOMPARE(editor.result(), int(QDialog::Accepted));
-    QCOMPARE(editor.GetConstrainData().m_strName, std::string("ab"));
-
-    AttributeCommonMgr::GetInstance()->AddName("ab");
-    ModalDriver user;
-    editor.m_OK_ButtonPushed();
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate()}));
-}
-
-void tst_CQLTConstrainEditor::NamesAreBytesOfTheLocalCodePage_data()
-{
-    QTest::addColumn<QByteArray>("codePage");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("UTF-8") << QByteArray("UTF-8") << "固定"
-                           << QByteArray("\xE5\x9B\xBA\xE5\xAE\x9A");
-    QTest::newRow("GB18030") << QByteArray("GB18030") << "固定" << QByteArray("\xB9\xCC\xB6\xA8");
-    QTest::newRow("GB18030, four bytes")
-        << QByteArray("GB18030") << "😀" << QByteArray("\x94\x39\xFC\x36");
-    QTest::newRow("Latin-1") << QByteArray("ISO 8859-1") << "Träger" << QByteArray("Tr\xE4ger");
-    QTest::newRow("Latin-1 lacks the characters")
-        << QByteArray("ISO 8859-1") << "固定" << QByteArray("??");
-}
-
-void tst_CQLTConstrainEditor::NamesAreBytesOfTheLocalCodePage()
-{
-    QFETCH(QByteArray, codePage);
-    QFETCH(QString, typed);
-    QFETCH(QByteArray, bytes);
-    UseCodePage(codePage);
-    const EmptyAttributeNames names;
-    ModalDriver user;
-    CQLTConstrainEditor editor(nullptr);
-    Find<QLineEdit>(editor, "lied_Name").setText(typed);
-    user.Then([](QDialog& shown) { Click(shown, "okButton"); });
-    QCOMPARE(editor.exec(), int(QDialog::Accepted));
-    QCOMPARE(QByteArray::fromStdString(editor.GetConstrainData().m_strName), bytes);
-
-    AttributeCommonMgr::GetInstance()->AddName(bytes.toStdString());
-    user.Then([](QDialog& shown) {
-        Click(shown, "okButton");
-        Click(shown, "cancelButton");
-    });
-    QCOMPARE(editor.exec(), int(QDialog::Rejected));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate()}));
-}
-
-void tst_CQLTConstrainEditor::ATakenNameIsFoundByItsBytes()
-{
-    const EmptyAttributeNames names;
-    // The same text in another code page is another name.
-    AttributeCommonMgr::GetInstance()->AddName("\xB9\xCC\xB6\xA8");
-    CQLTConstrainEditor editor(nullptr);
-    Find<QLineEdit>(editor, "lied_Name").setText("固定");
-    editor.m_OK_ButtonPushed();
-    QCOMPARE(editor.result(), int(QDialog::Accepted));
-}
-
 void tst_CQLTConstrainEditor::TabFollowsReadingOrder()
 {
     CQLTConstrainEditor editor(nullptr);
     QCOMPARE(TabOrder(editor), QStringList({"lied_Name", "chb_XD", "chb_YD", "chb_ZD", "chb_XR",
                                             "chb_YR", "chb_ZR", "okButton", "cancelButton"}));
-}
-
-void tst_CQLTConstrainEditor::EnterConfirmsFromEverywhere_data()
-{
-    QTest::addColumn<QByteArray>("focus");
-    for (const char* const name : {"lied_Name", "chb_XD", "chb_YD", "chb_ZD", "chb_XR", "chb_YR",
-                                   "chb_ZR", "okButton", "cancelButton"})
-        QTest::newRow(name) << QByteArray(name);
-}
-
-void tst_CQLTConstrainEditor::EnterConfirmsFromEverywhere()
-{
-    QFETCH(QByteArray, focus);
-    const EmptyAttributeNames names;
-    ModalDriver user;
-    CQLTConstrainEditor editor(nullptr);
-    user.Then([&](QDialog& shown) {
-        auto& widget = Find<QWidget>(shown, focus);
-        widget.setFocus();
-        QTest::keyClick(&widget, Qt::Key_Return);
-    });
-    QCOMPARE(editor.exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    QCOMPARE(editor.GetConstrainData().m_strName, std::string("defaultBC"));
 }
 
 void tst_CQLTConstrainEditor::SpaceTurnsABoxAndPressesCancel()
@@ -488,16 +355,6 @@ void tst_CQLTConstrainEditor::SpaceTurnsABoxAndPressesCancel()
     });
     QCOMPARE(editor.exec(), int(QDialog::Rejected));
     QVERIFY(user.IsDone());
-}
-
-void tst_CQLTConstrainEditor::OpeningAThousandTimesTakesNoMemory()
-{
-    const std::ptrdiff_t growth = HeapGrowth([] {
-        CQLTConstrainEditor editor(nullptr);
-        editor.show();
-        editor.close();
-    });
-    QVERIFY2(growth < 16 * 1000, qPrintable(QString::number(growth)));
 }
 
 TARN_TEST_MAIN(tst_CQLTConstrainEditor)

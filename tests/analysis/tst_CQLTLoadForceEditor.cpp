@@ -2,9 +2,7 @@
 #include "CQLTLoadForceEditor.h"
 #include "DialogFacts.h"
 #include "EmptyAttributeNames.h"
-#include "Heap.h"
-#include "ModalDriver.h"
-#include "TestCase.h"
+#include "NamedRecordTest.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -16,11 +14,6 @@
 #include <limits>
 
 namespace {
-
-ShownBox Duplicate()
-{
-    return ShownBox::Notice("Warning", "Duplicated Attribute Name");
-}
 
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 
@@ -60,9 +53,12 @@ QString FieldBeside(const QWidget& editor, const QString& labelText)
 
 } // namespace
 
-class tst_CQLTLoadForceEditor : public TestCase
+class tst_CQLTLoadForceEditor : public NamedRecordTest<CQLTLoadForceEditor>
 {
     Q_OBJECT
+
+public:
+    tst_CQLTLoadForceEditor();
 
 private Q_SLOTS:
     void TheFormIsAsGiven_data();
@@ -97,20 +93,24 @@ private Q_SLOTS:
     void LeavingKeepsTheRecord_data();
     void LeavingKeepsTheRecord();
     void ATakenNameIsRefusedEveryTime();
-    void OnePressOfOkAsksOnce();
     void ARefusalKeepsTheRecordOfInitData();
-    void TheRegistryIsNotWritten();
-    void TheNameIsTakenAsTyped_data();
-    void TheNameIsTakenAsTyped();
-    void TheNameEndsAtTheFirstZero();
-    void NamesAreBytesOfTheLocalCodePage_data();
-    void NamesAreBytesOfTheLocalCodePage();
-    void ATakenNameIsFoundByItsBytes();
+    void AGivenNameEndsAtTheFirstZero();
+    void AGivenNameIsInTheLocalCodePage();
     void TabFollowsReadingOrder();
-    void EnterConfirmsFromEverywhere_data();
-    void EnterConfirmsFromEverywhere();
-    void OpeningAThousandTimesTakesNoMemory();
+
+private:
+    std::string NameIn(const CQLTLoadForceEditor& editor) const override;
 };
+
+tst_CQLTLoadForceEditor::tst_CQLTLoadForceEditor()
+    : NamedRecordTest("Default", ShownBox::Notice("Warning", "Duplicated Attribute Name"))
+{
+}
+
+std::string tst_CQLTLoadForceEditor::NameIn(const CQLTLoadForceEditor& editor) const
+{
+    return editor.GetLoadForceData().m_strName;
+}
 
 void tst_CQLTLoadForceEditor::TheFormIsAsGiven_data()
 {
@@ -573,22 +573,6 @@ void tst_CQLTLoadForceEditor::ATakenNameIsRefusedEveryTime()
     CompareRecord(editor.GetLoadForceData(), {"Other", 1, 6.0, 0.0, 0.0});
 }
 
-void tst_CQLTLoadForceEditor::OnePressOfOkAsksOnce()
-{
-    const EmptyAttributeNames names;
-    AttributeCommonMgr::GetInstance()->AddName("Default");
-    ModalDriver user;
-    CQLTLoadForceEditor editor(nullptr);
-    user.Then([&](QDialog& shown) {
-        Click(shown, "okButton");
-        QCOMPARE(user.Boxes().size(), 1);
-        Click(shown, "cancelButton");
-    });
-    QCOMPARE(editor.exec(), int(QDialog::Rejected));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate()}));
-}
-
 void tst_CQLTLoadForceEditor::ARefusalKeepsTheRecordOfInitData()
 {
     const EmptyAttributeNames names;
@@ -607,111 +591,21 @@ void tst_CQLTLoadForceEditor::ARefusalKeepsTheRecordOfInitData()
     CompareRecord(editor.GetLoadForceData(), {"Load", 1, 1.0, 2.0, 3.0});
 }
 
-void tst_CQLTLoadForceEditor::TheRegistryIsNotWritten()
+void tst_CQLTLoadForceEditor::AGivenNameEndsAtTheFirstZero()
 {
-    const EmptyAttributeNames names;
-    CQLTLoadForceEditor editor(nullptr);
-    editor.on_okButton_clicked();
-    std::string name = "Default";
-    QVERIFY(!AttributeCommonMgr::GetInstance()->FindName(name));
-}
-
-void tst_CQLTLoadForceEditor::TheNameIsTakenAsTyped_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QByteArray>("registered");
-    QTest::addColumn<int>("boxes");
-    QTest::newRow("blanks stay") << " push " << QByteArray("push") << 0;
-    QTest::newRow("case counts") << "Push" << QByteArray("push") << 0;
-    QTest::newRow("empty") << "" << QByteArray("push") << 0;
-    QTest::newRow("empty and taken") << "" << QByteArray("") << 1;
-    QTest::newRow("exactly taken") << "push" << QByteArray("push") << 1;
-}
-
-void tst_CQLTLoadForceEditor::TheNameIsTakenAsTyped()
-{
-    QFETCH(QString, typed);
-    QFETCH(QByteArray, registered);
-    QFETCH(int, boxes);
-    const EmptyAttributeNames names;
-    AttributeCommonMgr::GetInstance()->AddName(registered.toStdString());
-    ModalDriver user;
-    CQLTLoadForceEditor editor(nullptr);
-    user.Then([&](QDialog& shown) {
-        Type(shown, "lied_Name", typed);
-        Click(shown, "okButton");
-        if (boxes > 0)
-            Click(shown, "cancelButton");
-    });
-    QCOMPARE(editor.exec(), int(boxes > 0 ? QDialog::Rejected : QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>(boxes, Duplicate()));
-    QCOMPARE(editor.GetLoadForceData().m_strName, boxes > 0 ? std::string() : typed.toStdString());
-}
-
-void tst_CQLTLoadForceEditor::TheNameEndsAtTheFirstZero()
-{
-    const EmptyAttributeNames names;
     CQLTLoadForceEditor editor(nullptr);
     const std::string given("ab\0cd", 5);
     editor.InitData({given, 1, 1.0, 2.0, 3.0});
     QCOMPARE(Text(editor, "lied_Name"), "ab");
     QCOMPARE(editor.GetLoadForceData().m_strName, given);
-
-    Find<QLineEdit>(editor, "lied_Name").setText(QString("ef") + QChar(0) + "gh");
-    editor.on_okButton_clicked();
-    QCOMPARE(editor.result(), int(QDialog::Accepted));
-    QCOMPARE(editor.GetLoadForceData().m_strName, std::string("ef"));
 }
 
-void tst_CQLTLoadForceEditor::NamesAreBytesOfTheLocalCodePage_data()
+void tst_CQLTLoadForceEditor::AGivenNameIsInTheLocalCodePage()
 {
-    QTest::addColumn<QByteArray>("codePage");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("UTF-8") << QByteArray("UTF-8") << "固定"
-                           << QByteArray("\xE5\x9B\xBA\xE5\xAE\x9A");
-    QTest::newRow("GB18030") << QByteArray("GB18030") << "固定" << QByteArray("\xB9\xCC\xB6\xA8");
-    QTest::newRow("GB18030, four bytes")
-        << QByteArray("GB18030") << "😀" << QByteArray("\x94\x39\xFC\x36");
-    QTest::newRow("Latin-1") << QByteArray("ISO 8859-1") << "Träger" << QByteArray("Tr\xE4ger");
-}
-
-void tst_CQLTLoadForceEditor::NamesAreBytesOfTheLocalCodePage()
-{
-    QFETCH(QByteArray, codePage);
-    QFETCH(QString, text);
-    QFETCH(QByteArray, bytes);
-    UseCodePage(codePage);
-    const EmptyAttributeNames names;
-    ModalDriver user;
+    UseCodePage("GB18030");
     CQLTLoadForceEditor editor(nullptr);
-    editor.InitData({bytes.toStdString(), 1, 1.0, 2.0, 3.0});
-    QCOMPARE(Text(editor, "lied_Name"), text);
-    Find<QLineEdit>(editor, "lied_Name").setText("a" + text);
-    user.Then([](QDialog& shown) { Click(shown, "okButton"); });
-    QCOMPARE(editor.exec(), int(QDialog::Accepted));
-    QCOMPARE(QByteArray::fromStdString(editor.GetLoadForceData().m_strName), "a" + bytes);
-
-    AttributeCommonMgr::GetInstance()->AddName("a" + bytes.toStdString());
-    user.Then([](QDialog& shown) {
-        Click(shown, "okButton");
-        Click(shown, "cancelButton");
-    });
-    QCOMPARE(editor.exec(), int(QDialog::Rejected));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Duplicate()}));
-}
-
-void tst_CQLTLoadForceEditor::ATakenNameIsFoundByItsBytes()
-{
-    const EmptyAttributeNames names;
-    // The same text in another code page is another name.
-    AttributeCommonMgr::GetInstance()->AddName("\xB9\xCC\xB6\xA8");
-    CQLTLoadForceEditor editor(nullptr);
-    Find<QLineEdit>(editor, "lied_Name").setText("固定");
-    editor.on_okButton_clicked();
-    QCOMPARE(editor.result(), int(QDialog::Accepted));
+    editor.InitData({"\xB9\xCC\xB6\xA8", 1, 1.0, 2.0, 3.0});
+    QCOMPARE(Text(editor, "lied_Name"), "固定");
 }
 
 void tst_CQLTLoadForceEditor::TabFollowsReadingOrder()
@@ -724,40 +618,6 @@ void tst_CQLTLoadForceEditor::TabFollowsReadingOrder()
                                "okButton",
                                "cancelButton"};
     QCOMPARE(TabOrder(editor), order);
-}
-
-void tst_CQLTLoadForceEditor::EnterConfirmsFromEverywhere_data()
-{
-    QTest::addColumn<QByteArray>("focus");
-    for (const char* const name :
-         {"lied_Name", "lied_FX", "lied_FY", "lied_FZ", "okButton", "cancelButton"})
-        QTest::newRow(name) << QByteArray(name);
-}
-
-void tst_CQLTLoadForceEditor::EnterConfirmsFromEverywhere()
-{
-    QFETCH(QByteArray, focus);
-    const EmptyAttributeNames names;
-    ModalDriver user;
-    CQLTLoadForceEditor editor(nullptr);
-    user.Then([&](QDialog& shown) {
-        auto& widget = Find<QWidget>(shown, focus);
-        widget.setFocus();
-        QTest::keyClick(&widget, Qt::Key_Return);
-    });
-    QCOMPARE(editor.exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    CompareRecord(editor.GetLoadForceData(), {"Default", 1, 1000.0, 0.0, 0.0});
-}
-
-void tst_CQLTLoadForceEditor::OpeningAThousandTimesTakesNoMemory()
-{
-    const std::ptrdiff_t growth = HeapGrowth([] {
-        CQLTLoadForceEditor editor(nullptr);
-        editor.show();
-        editor.close();
-    });
-    QVERIFY2(growth < 16 * 1000, qPrintable(QString::number(growth)));
 }
 
 TARN_TEST_MAIN(tst_CQLTLoadForceEditor)
