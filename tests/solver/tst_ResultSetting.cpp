@@ -1,29 +1,20 @@
 #include "DialogChecks.h"
-#include "DialogFacts.h"
-#include "ModalDriver.h"
 #include "OutsideRun.h"
+#include "ProgramFormTest.h"
 #include "ResultSetting.h"
-#include "TestCase.h"
 
-#include <QApplication>
-#include <QFileDialog>
 #include <QLineEdit>
 
-class tst_ResultSetting : public TestCase
+class tst_ResultSetting : public ProgramFormTest<ResultSetting>
 {
     Q_OBJECT
 
+public:
+    tst_ResultSetting();
+
 private Q_SLOTS:
-    void TheFormHasAPathAndThreeButtons();
-    void TabFollowsTheReadingOrder();
     void TheKeyboardRunsAndLeaves();
-    void CloseRejects();
-    void TheSlotsAreAsGiven();
-    void TheFileDialogIsPlain();
-    void TheCaptionReachesAHiddenDialogOnly();
-    void ThePathIsShownWithoutQuotes();
     void CancellingTheFileDialogEmptiesThePath();
-    void TheHostMayDestroyTheDialogBehindTheFileDialog();
     void APathWithBlanksRuns();
     void NoEndIsReported_data();
     void NoEndIsReported();
@@ -31,28 +22,10 @@ private Q_SLOTS:
     void TheRunLastsUntilTheProgramEnds();
 };
 
-void tst_ResultSetting::TheFormHasAPathAndThreeButtons()
+tst_ResultSetting::tst_ResultSetting()
+    : ProgramFormTest({"ResultSetting", "HyperView Result Viewer", "HyperView",
+                       "SelectExecuteHyper", "Open HyperView.exe"})
 {
-    CompareForm<ResultSetting>("ResultSetting");
-    const ResultSetting dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QString("HyperView Result Viewer"));
-    QCOMPARE(DescribeForm(dialog, false),
-             QStringList({
-                 "QLabel label in ResultSetting: HyperView",
-                 "QLineEdit lineEdit_Path in ResultSetting: ",
-                 "QPushButton pushButton_Browse in ResultSetting: Browse",
-                 "QPushButton pushButton_Close in ResultSetting: Close",
-                 "QPushButton pushButton_Run in ResultSetting: Run",
-             }));
-    QCOMPARE(dialog.font(), QApplication::font());
-    QVERIFY(Find<QLineEdit>(dialog, "lineEdit_Path").isReadOnly());
-}
-
-void tst_ResultSetting::TabFollowsTheReadingOrder()
-{
-    ResultSetting dialog(nullptr);
-    QCOMPARE(TabOrder(dialog), QStringList({"lineEdit_Path", "pushButton_Browse", "pushButton_Run",
-                                            "pushButton_Close"}));
 }
 
 void tst_ResultSetting::TheKeyboardRunsAndLeaves()
@@ -68,56 +41,6 @@ void tst_ResultSetting::TheKeyboardRunsAndLeaves()
     QVERIFY(!dialog.isVisible());
 }
 
-void tst_ResultSetting::CloseRejects()
-{
-    ResultSetting dialog(nullptr);
-    QCOMPARE(FillAndPress(dialog, {}, "pushButton_Close"), int(QDialog::Rejected));
-}
-
-void tst_ResultSetting::TheSlotsAreAsGiven()
-{
-    QCOMPARE(OwnMethods(ResultSetting::staticMetaObject),
-             QStringList({"public slot SelectExecuteHyper()", "public slot RunCommand()"}));
-    QCOMPARE(ResultSetting::staticMetaObject.superClass(), &QDialog::staticMetaObject);
-}
-
-void tst_ResultSetting::TheFileDialogIsPlain()
-{
-    ResultSetting dialog(nullptr);
-    dialog.show();
-    ModalDriver user;
-    user.Then([](QDialog& shown) {
-        auto* const picker = qobject_cast<QFileDialog*>(&shown);
-        QVERIFY(picker != nullptr);
-        QVERIFY(picker->parentWidget() == nullptr);
-        QVERIFY(picker->windowTitle() != QString("Open HyperView.exe"));
-        QCOMPARE(picker->nameFilters(), QFileDialog().nameFilters());
-        picker->reject();
-    });
-    Click(dialog, "pushButton_Browse");
-    QVERIFY(user.IsDone());
-}
-
-void tst_ResultSetting::TheCaptionReachesAHiddenDialogOnly()
-{
-    ResultSetting dialog(nullptr);
-    dialog.show();
-    Browse(dialog, QString());
-    const auto kept = dialog.findChildren<QFileDialog*>(QString(), Qt::FindDirectChildrenOnly);
-    QCOMPARE(kept.size(), 1);
-    QCOMPARE(kept[0]->windowTitle(), QString("Open HyperView.exe"));
-    QVERIFY(!kept[0]->isVisible());
-}
-
-void tst_ResultSetting::ThePathIsShownWithoutQuotes()
-{
-    ResultSetting dialog(nullptr);
-    dialog.show();
-    Browse(dialog, OUTSIDE_PROGRAM);
-    QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_Path").text(), QString(OUTSIDE_PROGRAM));
-    QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_Path").toolTip(), QString(OUTSIDE_PROGRAM));
-}
-
 void tst_ResultSetting::CancellingTheFileDialogEmptiesThePath()
 {
     EnterTemporaryDirectory();
@@ -128,18 +51,6 @@ void tst_ResultSetting::CancellingTheFileDialogEmptiesThePath()
     QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_Path").text(), QString());
     QCOMPARE(PressRun(dialog), QVector<ShownBox>());
     QCOMPARE(RunRecord(), QString());
-}
-
-void tst_ResultSetting::TheHostMayDestroyTheDialogBehindTheFileDialog()
-{
-    auto* const dialog = new ResultSetting(nullptr);
-    ModalDriver user;
-    user.Then([dialog](QDialog& picker) {
-        delete dialog;
-        picker.reject();
-    });
-    QMetaObject::invokeMethod(dialog, "SelectExecuteHyper");
-    QVERIFY(user.IsDone());
 }
 
 void tst_ResultSetting::APathWithBlanksRuns()

@@ -1,30 +1,21 @@
 #include "DialogChecks.h"
-#include "DialogFacts.h"
 #include "Heap.h"
-#include "ModalDriver.h"
 #include "OutsideRun.h"
+#include "ProgramFormTest.h"
 #include "SolverSetting.h"
-#include "TestCase.h"
 
-#include <QApplication>
-#include <QFileDialog>
 #include <QLineEdit>
 
-class tst_SolverSetting : public TestCase
+class tst_SolverSetting : public ProgramFormTest<SolverSetting>
 {
     Q_OBJECT
 
+public:
+    tst_SolverSetting();
+
 private Q_SLOTS:
-    void TheFormHasAPathAndThreeButtons();
-    void TabFollowsTheReadingOrder();
     void TheKeyboardRunsAndLeaves();
-    void CloseRejects();
-    void TheSlotsAreAsGiven();
-    void TheFileDialogIsPlain();
-    void TheCaptionReachesAHiddenDialogOnly();
-    void TheChosenPathIsShown();
     void CancellingTheFileDialogEmptiesThePath();
-    void TheHostMayDestroyTheDialogBehindTheFileDialog();
     void TheProgramRunsOnTheModelInTheWorkingDirectory();
     void BlanksSplitThePath();
     void EveryNormalEndIsReported_data();
@@ -45,28 +36,10 @@ const ShownBox Done = ShownBox::Notice("Title", "Solver is Done");
 
 } // namespace
 
-void tst_SolverSetting::TheFormHasAPathAndThreeButtons()
+tst_SolverSetting::tst_SolverSetting()
+    : ProgramFormTest(
+          {"SolverSetting", "Nastran Solver", "Nastran", "SelectExecuteNas", "Open Nastran.exe"})
 {
-    CompareForm<SolverSetting>("SolverSetting");
-    const SolverSetting dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QString("Nastran Solver"));
-    QCOMPARE(DescribeForm(dialog, false),
-             QStringList({
-                 "QLabel label in SolverSetting: Nastran",
-                 "QLineEdit lineEdit_Path in SolverSetting: ",
-                 "QPushButton pushButton_Browse in SolverSetting: Browse",
-                 "QPushButton pushButton_Close in SolverSetting: Close",
-                 "QPushButton pushButton_Run in SolverSetting: Run",
-             }));
-    QCOMPARE(dialog.font(), QApplication::font());
-    QVERIFY(Find<QLineEdit>(dialog, "lineEdit_Path").isReadOnly());
-}
-
-void tst_SolverSetting::TabFollowsTheReadingOrder()
-{
-    SolverSetting dialog(nullptr);
-    QCOMPARE(TabOrder(dialog), QStringList({"lineEdit_Path", "pushButton_Browse", "pushButton_Run",
-                                            "pushButton_Close"}));
 }
 
 void tst_SolverSetting::TheKeyboardRunsAndLeaves()
@@ -83,67 +56,6 @@ void tst_SolverSetting::TheKeyboardRunsAndLeaves()
     QCOMPARE(user.Boxes(), QVector<ShownBox>({Done}));
 }
 
-void tst_SolverSetting::CloseRejects()
-{
-    SolverSetting dialog(nullptr);
-    QCOMPARE(FillAndPress(dialog, {}, "pushButton_Close"), int(QDialog::Rejected));
-}
-
-void tst_SolverSetting::TheSlotsAreAsGiven()
-{
-    QCOMPARE(OwnMethods(SolverSetting::staticMetaObject),
-             QStringList({"public slot SelectExecuteNas()", "public slot RunCommand()"}));
-    QCOMPARE(SolverSetting::staticMetaObject.superClass(), &QDialog::staticMetaObject);
-}
-
-void tst_SolverSetting::TheFileDialogIsPlain()
-{
-    EnterTemporaryDirectory();
-    SolverSetting dialog(nullptr);
-    dialog.show();
-    ModalDriver user;
-    user.Then([](QDialog& shown) {
-        auto* const picker = qobject_cast<QFileDialog*>(&shown);
-        QVERIFY(picker != nullptr);
-        QVERIFY(picker->parentWidget() == nullptr);
-        QVERIFY(picker->windowTitle() != QString("Open Nastran.exe"));
-        QCOMPARE(picker->acceptMode(), QFileDialog::AcceptOpen);
-        QCOMPARE(picker->fileMode(), QFileDialog::ExistingFile);
-        QCOMPARE(picker->directory().canonicalPath(), QDir().canonicalPath());
-        QCOMPARE(picker->nameFilters(), QFileDialog().nameFilters());
-        QCOMPARE(picker->options(), QFileDialog().options());
-        picker->reject();
-    });
-    Click(dialog, "pushButton_Browse");
-    QVERIFY(user.IsDone());
-}
-
-void tst_SolverSetting::TheCaptionReachesAHiddenDialogOnly()
-{
-    SolverSetting dialog(nullptr);
-    dialog.show();
-    for (int selections = 1; selections <= 2; ++selections) {
-        Browse(dialog, QString());
-        const auto kept = dialog.findChildren<QFileDialog*>(QString(), Qt::FindDirectChildrenOnly);
-        QCOMPARE(kept.size(), selections);
-        for (const QFileDialog* const hidden : kept) {
-            QCOMPARE(hidden->windowTitle(), QString("Open Nastran.exe"));
-            QVERIFY(!hidden->isVisible());
-            QVERIFY(!hidden->testAttribute(Qt::WA_WState_ExplicitShowHide));
-        }
-    }
-}
-
-void tst_SolverSetting::TheChosenPathIsShown()
-{
-    SolverSetting dialog(nullptr);
-    dialog.show();
-    Browse(dialog, OUTSIDE_PROGRAM);
-    const auto& path = Find<QLineEdit>(dialog, "lineEdit_Path");
-    QCOMPARE(path.text(), QString(OUTSIDE_PROGRAM));
-    QCOMPARE(path.toolTip(), QString(OUTSIDE_PROGRAM));
-}
-
 void tst_SolverSetting::CancellingTheFileDialogEmptiesThePath()
 {
     EnterTemporaryDirectory();
@@ -155,18 +67,6 @@ void tst_SolverSetting::CancellingTheFileDialogEmptiesThePath()
     QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_Path").toolTip(), QString());
     QCOMPARE(PressRun(dialog), QVector<ShownBox>({Done}));
     QCOMPARE(RunRecord(), QString());
-}
-
-void tst_SolverSetting::TheHostMayDestroyTheDialogBehindTheFileDialog()
-{
-    auto* const dialog = new SolverSetting(nullptr);
-    ModalDriver user;
-    user.Then([dialog](QDialog& picker) {
-        delete dialog;
-        picker.reject();
-    });
-    QMetaObject::invokeMethod(dialog, "SelectExecuteNas");
-    QVERIFY(user.IsDone());
 }
 
 void tst_SolverSetting::TheProgramRunsOnTheModelInTheWorkingDirectory()
