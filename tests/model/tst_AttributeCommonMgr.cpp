@@ -19,7 +19,7 @@ private Q_SLOTS:
     void OnlyRegisteredNamesAreTaken();
     void NamesCompareByteForByte();
     void TheEmptyNameCanBeRegistered();
-    void LookingUpLeavesTheNameAsItIs();
+    void LookingUpRegistersNothing();
     void ARemovedNameIsFree();
     void ANameRegisteredTwiceIsFreedAtOnce();
     void ClearingFreesAll();
@@ -59,13 +59,11 @@ void tst_AttributeCommonMgr::TheEmptyNameCanBeRegistered()
     QVERIFY(IsTaken(""));
 }
 
-void tst_AttributeCommonMgr::LookingUpLeavesTheNameAsItIs()
+void tst_AttributeCommonMgr::LookingUpRegistersNothing()
 {
     AttributeCommonMgr::GetInstance()->Clear();
-    std::string name = "a";
-    QVERIFY(!AttributeCommonMgr::GetInstance()->FindName(name));
-    QVERIFY(!AttributeCommonMgr::GetInstance()->FindName(name));
-    QVERIFY(name == "a");
+    QVERIFY(!AttributeCommonMgr::GetInstance()->FindName("a"));
+    QVERIFY(!AttributeCommonMgr::GetInstance()->FindName("a"));
 }
 
 void tst_AttributeCommonMgr::ARemovedNameIsFree()
