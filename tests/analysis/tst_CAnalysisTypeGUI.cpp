@@ -182,7 +182,7 @@ void tst_CAnalysisTypeGUI::TheWindowIconIsReadFromBesideTheWorkingDirectory()
     const QDir directory(EnterTemporaryDirectory());
     QVERIFY(directory.mkpath("Varnhollow/images") && directory.mkpath("run"));
     const QString image = directory.filePath("Varnhollow/images/TopTitle.png");
-    QVERIFY(QFile::copy(TARN_SOURCE_DIR "/common/images/TopTitle.png", image));
+    QVERIFY(QFile::copy(SourcePath("common/images/TopTitle.png"), image));
     QVERIFY(QDir::setCurrent(directory.filePath("run")));
 
     const CAnalysisTypeGUI dialog(nullptr);

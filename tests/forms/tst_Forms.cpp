@@ -31,7 +31,7 @@ private:
 void tst_Forms::AddForms()
 {
     QTest::addColumn<QString>("form");
-    const QDir directory(TARN_SOURCE_DIR "/forms");
+    const QDir directory(SourcePath("forms"));
     const QStringList files = directory.entryList({"*.ui"});
     QVERIFY(!files.isEmpty());
     for (const QString& file : files)
@@ -40,7 +40,7 @@ void tst_Forms::AddForms()
 
 QDomElement tst_Forms::Root(const QString& form)
 {
-    QFile file(QStringLiteral(TARN_SOURCE_DIR "/forms/%1.ui").arg(form));
+    QFile file(SourcePath("forms/%1.ui").arg(form));
     QDomDocument document;
     if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file))
         qFatal("%s cannot be read", qPrintable(file.fileName()));
@@ -71,7 +71,7 @@ void tst_Forms::EveryFormIsHeldByOneDialog()
     const QByteArray include = "#include \"ui_" + form.toLatin1() + ".h\"";
     QStringList holders;
     for (const char* const folder : {"common", "design", "analysis", "geometry", "solver"}) {
-        const QDir directory(QStringLiteral(TARN_SOURCE_DIR "/") + folder);
+        const QDir directory(SourcePath(folder));
         const QStringList headers = directory.entryList({"*.h"});
         for (const QString& header : headers) {
             QFile file(directory.filePath(header));

@@ -34,7 +34,7 @@ struct Message
 
 QString SourceFile(const QString& name)
 {
-    return QStringLiteral(TARN_SOURCE_DIR "/translations/%1.ts").arg(name);
+    return SourcePath("translations/%1.ts").arg(name);
 }
 
 QVector<Message> Read(const QString& path)
@@ -63,7 +63,7 @@ QVector<Message> Updated(const QString& name, const QString& folders)
         !QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner))
         qFatal("%s cannot be copied", qPrintable(name));
     QProcess update;
-    update.setWorkingDirectory(TARN_SOURCE_DIR);
+    update.setWorkingDirectory(SourcePath({}));
     update.start(TARN_LUPDATE, QStringList({"-silent", "-locations", "none"}) + folders.split(',') +
                                    QStringList({"-ts", copy}));
     if (!update.waitForFinished() || update.exitCode() != 0)

@@ -50,7 +50,7 @@ void WriteAll(const QString& path, const QByteArray& content)
 
 QByteArray Shipped()
 {
-    return ReadAll(TARN_SOURCE_DIR "/model/TarnFEMData/SysMaterial.xml");
+    return ReadAll(SourcePath("model/TarnFEMData/SysMaterial.xml"));
 }
 
 KVMaterialInfo* NewUserMaterial(const QString& name)

@@ -100,7 +100,7 @@ void tst_Project::TheSampleProjectIsAWholeFlange()
 void tst_Project::TheSampleInTheProgramIsTheFileOfTheSources()
 {
     QFile built(Project::SamplePath());
-    QFile source(TARN_SOURCE_DIR "/host/samples/flange.json");
+    QFile source(SourcePath("host/samples/flange.json"));
     QVERIFY(built.open(QIODevice::ReadOnly));
     QVERIFY(source.open(QIODevice::ReadOnly));
     QCOMPARE(built.readAll(), source.readAll());

@@ -245,7 +245,7 @@ void FillStores(Dice& dice)
     for (const char* const file : {"SysMaterial.xml", "UserMaterial.xml", "ElementProperty.xml"})
         QFile::remove(QString::fromLatin1(file));
     if (!dice.OneIn(4))
-        QFile::copy(QStringLiteral(TARN_SOURCE_DIR "/model/TarnFEMData/SysMaterial.xml"),
+        QFile::copy(SourcePath("model/TarnFEMData/SysMaterial.xml"),
                     QStringLiteral("SysMaterial.xml"));
     std::setlocale(LC_ALL, dice.OneIn(2) ? "C.UTF-8" : "de_DE.UTF-8");
 }

@@ -40,7 +40,7 @@ inline QString Complaints(const QString& file, const QString& schema)
     xmllint.setProcessChannelMode(QProcess::MergedChannels);
     xmllint.start(QStringLiteral("xmllint"),
                   {QStringLiteral("--noout"), QStringLiteral("--nonet"), QStringLiteral("--schema"),
-                   QStringLiteral(TARN_SOURCE_DIR "/docs/schemas/") + schema, file});
+                   SourcePath("docs/schemas/") + schema, file});
     if (!xmllint.waitForFinished())
         return xmllint.errorString();
     return xmllint.exitCode() == 0 ? QString() : QString::fromUtf8(xmllint.readAll());
@@ -240,7 +240,7 @@ inline void AddRefusedRows(const QByteArray& root, const QByteArray& units,
 inline void AddCorpusRows(const QString& target)
 {
     QTest::addColumn<QString>("file");
-    const QDir corpus(QStringLiteral(TARN_SOURCE_DIR "/tests/fuzz/corpus/") + target);
+    const QDir corpus(SourcePath("tests/fuzz/corpus/") + target);
     const QFileInfoList files = corpus.entryInfoList(QDir::Files, QDir::Name);
     QVERIFY(!files.isEmpty());
     for (const QFileInfo& file : files)

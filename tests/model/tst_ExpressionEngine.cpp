@@ -68,7 +68,7 @@ struct Example
 
 QString UserDocument()
 {
-    QFile file(TARN_SOURCE_DIR "/docs/expressions.md");
+    QFile file(SourcePath("docs/expressions.md"));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 

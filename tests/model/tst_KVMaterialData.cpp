@@ -712,7 +712,7 @@ void tst_KVMaterialData::TheCorpusIsReadOrRefused()
 void tst_KVMaterialData::TheSystemLibraryIsComplete()
 {
     Start();
-    QCOMPARE(Store().ReadXML(TARN_SOURCE_DIR "/model/TarnFEMData/SysMaterial.xml", MATERIAL_SYSTEM),
+    QCOMPARE(Store().ReadXML(SourcePath("model/TarnFEMData/SysMaterial.xml").toStdString(), MATERIAL_SYSTEM),
              0);
     QVERIFY(Store().MapDataRow() >= 40);
     const QStringList names = Store().GetMaterialNameList();
@@ -731,7 +731,7 @@ void tst_KVMaterialData::TheSystemLibraryIsComplete()
         QVERIFY2(density >= 100.0 && density <= 20000.0, qPrintable(name));
     }
 
-    QFile file(TARN_SOURCE_DIR "/model/TarnFEMData/SysMaterial.xml");
+    QFile file(SourcePath("model/TarnFEMData/SysMaterial.xml"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QXmlStreamReader xml(&file);
     int sources = 0;
@@ -745,7 +745,7 @@ void tst_KVMaterialData::TheSystemLibraryIsComplete()
 void tst_KVMaterialData::TheSystemLibraryFitsItsSchema()
 {
     Start();
-    QCOMPARE(Complaints(TARN_SOURCE_DIR "/model/TarnFEMData/SysMaterial.xml", "Materials.xsd"),
+    QCOMPARE(Complaints(SourcePath("model/TarnFEMData/SysMaterial.xml"), "Materials.xsd"),
              QString());
 }
 

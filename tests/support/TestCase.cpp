@@ -174,6 +174,11 @@ QStringList TabOrder(QWidget& window)
     return names;
 }
 
+QString SourcePath(const QString& place)
+{
+    return QStringLiteral(TARN_SOURCE_DIR "/") + place;
+}
+
 void PrepareTestProgram()
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))

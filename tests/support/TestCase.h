@@ -61,6 +61,9 @@ void Type(const QWidget& parent, const char* name, const QString& text);
 /// The visible widgets that Tab goes through, by object name, from the first of the window.
 QStringList TabOrder(QWidget& window);
 
+/// The path of a file or folder of the project, from its @p place relative to the top folder.
+QString SourcePath(const QString& place);
+
 /// What a test program does before it makes its application object.
 void PrepareTestProgram();
 
