@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# logged <log> <command...> shows what the command says only when it fails.
+# logged <log> <command...>: runs the command and shows its output only if it fails.
 logged() {
   local log=build/$1.log
   mkdir -p build
@@ -19,7 +19,7 @@ install_packages() {
   local root=()
   [ "$(id -u)" -eq 0 ] || root=(sudo)
   if [ ${#root[@]} -gt 0 ] && ! command -v sudo >/dev/null; then
-    echo "There is no sudo. As root: apt-get install --no-install-recommends ${missing[*]}" >&2
+    echo "sudo not found. Run as root: apt-get install --no-install-recommends ${missing[*]}" >&2
     return 1
   fi
   echo "Installing ${missing[*]}"

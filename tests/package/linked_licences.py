@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every library that the given files link is named in the README's table of licences, and nothing else is."""
+"""Checks that the README's licence table names exactly the libraries that the given files link."""
 import fnmatch
 import pathlib
 import re
@@ -7,7 +7,7 @@ import subprocess
 import sys
 
 readme = pathlib.Path(sys.argv[1]).read_text()
-licences = readme.partition("## Licences of what is linked")[2]
+licences = readme.partition("## Licences of linked libraries")[2]
 table = [line for line in licences.splitlines() if line.startswith("| `lib")]
 patterns = {pattern for line in table for pattern in re.findall(r"`(.+?)`", line)}
 linked = set()
