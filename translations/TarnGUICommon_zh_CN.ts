@@ -1433,6 +1433,29 @@
     </message>
 </context>
 <context>
+    <name>WholeFile</name>
+    <message>
+        <source>exceeds the limit of %1</source>
+        <translation>超过上限 %1</translation>
+    </message>
+    <message>
+        <source>cannot be opened: %1</source>
+        <translation>无法打开：%1</translation>
+    </message>
+    <message>
+        <source>is a folder, not a file</source>
+        <translation>是文件夹，不是文件</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+</context>
+<context>
     <name>frequencySetting</name>
     <message>
         <source>frequencySetting</source>

@@ -712,7 +712,8 @@ void tst_KVMaterialData::TheCorpusIsReadOrRefused()
 void tst_KVMaterialData::TheSystemLibraryIsComplete()
 {
     Start();
-    QCOMPARE(Store().ReadXML(SourcePath("model/TarnFEMData/SysMaterial.xml").toStdString(), MATERIAL_SYSTEM),
+    QCOMPARE(Store().ReadXML(SourcePath("model/TarnFEMData/SysMaterial.xml").toStdString(),
+                             MATERIAL_SYSTEM),
              0);
     QVERIFY(Store().MapDataRow() >= 40);
     const QStringList names = Store().GetMaterialNameList();
