@@ -90,7 +90,7 @@ void tst_SmallHost::ItEditsParametersAndSurvivesTheKernel()
 
     QVERIFY(g_isDone);
     QCOMPARE(g_messages, QStringLiteral("0: The part is 2.5 long\n"
-                                        "1: The kernel refused that: Standard_ConstructionError\n"
+                                        "1: The kernel reported an error: Standard_ConstructionError\n"
                                         "0: Extruding by 10 along (0, 0, -1)"));
 }
 

@@ -19,7 +19,7 @@ enum Level
     ErrorLevel
 };
 
-// Lets no error of the kernel leave an event: the dialog that it came from stays open.
+// Catches kernel errors from event handlers: the dialog that caused one stays open.
 class Application : public QApplication
 {
 public:
@@ -29,9 +29,9 @@ public:
     {
         try {
             return QApplication::notify(receiver, event);
-        } catch (const Standard_Failure& failure) { // which is no std::exception
+        } catch (const Standard_Failure& failure) { // not a std::exception
             DrawerOutput::GetInstance()->EmitMessage2MessageWidget(
-                ErrorLevel, "The kernel refused that: %s", failure.DynamicType()->Name());
+                ErrorLevel, "The kernel reported an error: %s", failure.DynamicType()->Name());
             return true;
         }
     }
@@ -89,7 +89,7 @@ private:
 int main(int argc, char** argv)
 {
     Application application(argc, argv);
-    std::setlocale(LC_NUMERIC, "C"); // Only now: the line above has taken the user's locale.
+    std::setlocale(LC_NUMERIC, "C"); // Not earlier: the constructor above sets the user's locale.
 
     ParametersDef length;
     length.m_strName = QStringLiteral("length");
