@@ -89,9 +89,10 @@ void tst_SmallHost::ItEditsParametersAndSurvivesTheKernel()
     QCOMPARE(RunSmallHost(1, arguments), 0);
 
     QVERIFY(g_isDone);
-    QCOMPARE(g_messages, QStringLiteral("0: The part is 2.5 long\n"
-                                        "1: The kernel reported an error: Standard_ConstructionError\n"
-                                        "0: Extruding by 10 along (0, 0, -1)"));
+    QCOMPARE(g_messages,
+             QStringLiteral("0: The part is 2.5 long\n"
+                            "1: The kernel reported an error: Standard_ConstructionError\n"
+                            "0: Extruding by 10 along (0, 0, -1)"));
 }
 
 int main(int argc, char** argv)
