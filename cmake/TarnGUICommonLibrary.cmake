@@ -17,7 +17,7 @@ set(TARN_DIALOG_LIBRARIES
 add_library(TarnGUICommonObjects OBJECT ${TARN_DIALOG_SOURCES} "${PROJECT_SOURCE_DIR}/common/images.qrc")
 set_target_properties(TarnGUICommonObjects PROPERTIES DEFINE_SYMBOL "" AUTOMOC ON AUTORCC ON)
 target_compile_definitions(TarnGUICommonObjects PRIVATE TarnGUICommon_EXPORTS)
-target_link_libraries(TarnGUICommonObjects PUBLIC ${TARN_DIALOG_LIBRARIES} PRIVATE TarnStrict)
+target_link_libraries(TarnGUICommonObjects PUBLIC ${TARN_DIALOG_LIBRARIES} TarnModelSupport PRIVATE TarnStrict)
 set(TARN_DIALOG_INCLUDES "${PROJECT_BINARY_DIR}/forms" "${PROJECT_BINARY_DIR}/exports")
 foreach(folder common design analysis geometry solver)
   list(APPEND TARN_DIALOG_INCLUDES "${PROJECT_SOURCE_DIR}/${folder}")
@@ -30,7 +30,8 @@ target_include_directories(TarnGUICommonObjects SYSTEM PUBLIC "${OpenCASCADE_INC
 add_dependencies(TarnGUICommonObjects TarnForms)
 
 add_library(TarnGUICommon SHARED $<TARGET_OBJECTS:TarnGUICommonObjects>)
-target_link_libraries(TarnGUICommon PUBLIC ${TARN_DIALOG_LIBRARIES} PRIVATE $<BUILD_INTERFACE:TarnStrict>)
+target_link_libraries(TarnGUICommon PUBLIC ${TARN_DIALOG_LIBRARIES} PRIVATE $<BUILD_INTERFACE:TarnModelSupport>
+                                                                            $<BUILD_INTERFACE:TarnStrict>)
 target_include_directories(TarnGUICommon PUBLIC "$<BUILD_INTERFACE:${TARN_DIALOG_INCLUDES}>")
 # The kernel's targets do not carry its include folder; the package adds it where it finds the kernel.
 target_include_directories(TarnGUICommon SYSTEM PUBLIC "$<BUILD_INTERFACE:${OpenCASCADE_INCLUDE_DIR}>")

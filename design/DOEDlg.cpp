@@ -1,6 +1,7 @@
 #include "DOEDlg.h"
 
 #include "ChildDialog.h"
+#include "FullFactorial.h"
 #include "GlobalParaMeterMgr.h"
 #include "Notice.h"
 #include "NumberItem.h"
@@ -15,8 +16,8 @@
 #include <QTableWidgetItem>
 #include <QVariant>
 
-#include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -30,51 +31,40 @@ enum Column
 // The row of a cell widget, kept on the widget itself.
 const char* const RowProperty = "Line";
 
-// What the enumeration of the runs works on. One for the library is enough: all of it runs on the
-// GUI thread, and every build starts by filling it anew.
-std::map<int, std::vector<double>> g_mapLevelValues;
-std::vector<double> g_vecCurrentRun;
-int g_nRunCounter = 1;
+static_assert(DOEDlg::MaximumRuns == FullFactorial::MaximumRuns);
 
-// Keeps the run table at some 2 GB at most. Only parameters with a single sample can bring so many
-// columns that this limit is reached before that of the runs.
-constexpr std::size_t MaximumCells = 20 * std::size_t(DOEDlg::MaximumRuns);
-
-// Whether the product of the lists' lengths is more than can be built; it may fit no number.
-bool IsTooMany(const std::map<int, std::vector<double>>& levels)
-{
-    if (std::any_of(levels.begin(), levels.end(), [](const auto& l) { return l.second.empty(); }))
-        return false;
-    std::size_t runs = 1;
-    for (const auto& level : levels) {
-        if (level.second.size() > DOEDlg::MaximumRuns / runs)
-            return true;
-        runs *= level.second.size();
-    }
-    return runs * levels.size() > MaximumCells;
-}
-
-// Checked access: data that do not fit together end in these faults.
-double& At(std::vector<double>& values, std::size_t index)
-{
-    if (index >= values.size())
-        throw std::out_of_range("invalid vector<T> subscript");
-    return values[index];
-}
-
-double At(const std::vector<double>& values, std::size_t index)
-{
-    if (index >= values.size())
-        throw std::out_of_range("invalid vector<T> subscript");
-    return values[index];
-}
-
+// Checked access: data that do not fit together end in this fault.
 const QString& At(const std::map<int, QString>& names, int key)
 {
     const auto entry = names.find(key);
     if (entry == names.end())
         throw std::out_of_range("invalid map<K, T> key");
     return entry->second;
+}
+
+void ShowRuns(QTableWidget& table, const FullFactorial& design, const std::map<int, QString>& names)
+{
+    table.clearContents();
+    table.setRowCount(0);
+    table.setColumnCount(0);
+    table.reset();
+    if (design.IsTooLarge() || design.RunCount() == 0)
+        return;
+
+    const int columns = int(design.ListCount());
+    const int runs = int(design.RunCount());
+    table.setColumnCount(columns);
+    table.setRowCount(runs);
+    for (int column = 0; column < columns; ++column)
+        table.setHorizontalHeaderItem(column, new QTableWidgetItem(At(names, column + 1)));
+
+    // The views know the new size by now; a signal for each cell would only cost time.
+    const QSignalBlocker silence(table.model());
+    for (int row = 0; row < runs; ++row) {
+        int column = 0;
+        for (const double value : design.Run(std::size_t(row)))
+            table.setItem(row, column++, new NumberItem(value));
+    }
 }
 
 } // namespace
@@ -203,86 +193,19 @@ void DOEDlg::m_Refresh_Final_Table()
 
 void DOEDlg::CollectAllRecord()
 {
-    g_mapLevelValues.clear();
-    const std::map<QString, sParaArrayData> registry = g_mapParaArrays;
-    m_nCheckedCount = 0;
-    int level = 1;
-    for (const auto& entry : registry) {
+    std::vector<std::vector<double>> lists;
+    for (const auto& entry : g_mapParaArrays) {
         const sParaArrayData& record = entry.second;
         if (record.bChecked == 0)
             continue;
-        ++m_nCheckedCount;
-        g_mapLevelValues[level] = record.vecValues;
+        lists.push_back(record.vecValues);
         // Names of an earlier, wider build stay: "Generate" compares their count with the columns.
-        m_mapColumnNames[level] = record.strName;
-        ++level;
+        m_mapColumnNames[int(lists.size())] = record.strName;
     }
-
-    g_nRunCounter = 1;
-    g_vecCurrentRun.resize(std::size_t(m_nCheckedCount));
-    m_mapRuns.clear();
-    const bool tooMany = IsTooMany(g_mapLevelValues);
-    if (!tooMany)
-        CollectData(1, g_mapLevelValues[1]);
-    FillFinalTable();
-    if (tooMany)
+    const FullFactorial design(std::move(lists));
+    ShowRuns(*m_ui.tableWidget_Final, design, m_mapColumnNames);
+    if (design.IsTooLarge())
         tarn::ShowNotice(tr("Notify"), tr("Too many runs"));
-}
-
-void DOEDlg::CollectData(int level, const std::vector<double>& values)
-{
-    // An odometer with a wheel per level. A recursion would be as deep as there are ticked
-    // parameters, and nothing bounds their number.
-    std::vector<const std::vector<double>*> wheels = {&values};
-    for (int next = level + 1; next <= m_nCheckedCount; ++next)
-        wheels.push_back(&g_mapLevelValues[next]);
-    if (std::any_of(wheels.begin(), wheels.end(), [](const auto* w) { return w->empty(); }))
-        return;
-
-    const std::size_t offset = std::size_t(level) - 1;
-    std::vector<std::size_t> positions(wheels.size(), 0);
-    std::size_t turned = 0;
-    for (;;) {
-        for (std::size_t wheel = turned; wheel < wheels.size(); ++wheel)
-            At(g_vecCurrentRun, offset + wheel) = (*wheels[wheel])[positions[wheel]];
-        m_mapRuns.emplace_hint(m_mapRuns.end(), g_nRunCounter++, g_vecCurrentRun);
-
-        // The last wheel turns on; each one that comes full circle takes along the one before it.
-        std::size_t wheel = wheels.size();
-        while (wheel > 0 && ++positions[wheel - 1] == wheels[wheel - 1]->size())
-            positions[--wheel] = 0;
-        if (wheel == 0)
-            return;
-        turned = wheel - 1;
-    }
-}
-
-void DOEDlg::FillFinalTable()
-{
-    QTableWidget& table = *m_ui.tableWidget_Final;
-    table.clearContents();
-    table.setRowCount(0);
-    table.setColumnCount(0);
-    table.reset();
-    if (m_mapRuns.empty())
-        return;
-
-    const int columns = int(m_mapRuns.begin()->second.size());
-    table.setColumnCount(columns);
-    table.setRowCount(int(m_mapRuns.size()));
-    for (int column = 0; column < columns; ++column)
-        table.setHorizontalHeaderItem(column, new QTableWidgetItem(m_mapColumnNames[column + 1]));
-
-    // The views know the new size by now; a signal for each cell would only cost time.
-    const QSignalBlocker silence(table.model());
-    int row = 0;
-    for (const auto& run : m_mapRuns) {
-        for (int column = 0; column < columns; ++column)
-            table.setItem(row, column, new NumberItem(At(run.second, std::size_t(column))));
-        ++row;
-    }
-    // From here on the items hold the numbers.
-    m_mapRuns.clear();
 }
 
 void DOEDlg::m_Slot_UpdateGeoemtry()

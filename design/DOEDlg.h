@@ -8,7 +8,6 @@
 #include <QString>
 
 #include <map>
-#include <vector>
 
 class QCheckBox;
 class QPushButton;
@@ -59,12 +58,8 @@ private:
     QPushButton* GetCurrentButton(int row) const;
     QCheckBox* GetCurrentCheck(int row) const;
     void CollectAllRecord();
-    void CollectData(int level, const std::vector<double>& values);
-    void FillFinalTable();
 
     Ui::DOEDlg m_ui;
-    int m_nCheckedCount = 0;
-    std::map<int, std::vector<double>> m_mapRuns;
     std::map<int, QString> m_mapColumnNames;
     std::map<QString, double> m_mapChosenValues;
 };

@@ -3,6 +3,7 @@
 #include "Notice.h"
 #include "NumberItem.h"
 #include "NumberText.h"
+#include "SampleRange.h"
 #include "sParaArrayData.h"
 
 #include <QPointer>
@@ -10,51 +11,35 @@
 #include <QSignalBlocker>
 #include <QTableWidgetItem>
 
-#include <cmath>
+#include <optional>
 #include <utility>
 
 namespace {
 
-enum SampleType
+QRadioButton* SpacingButton(const Ui::OneParameterDlg& form, int spacing)
 {
-    LinearType,
-    Log10Type,
-    LnType,
-    GaussType
-};
-
-// The most rows that a range may generate.
-constexpr std::size_t MaximumSamples = 1000000;
-
-double SampleValue(int type, double x)
-{
-    switch (type) {
-    case Log10Type:
-        return std::log10(x);
-    case LnType:
-        return std::log(x);
+    switch (spacing) {
+    case SampleSpacing::Linear:
+        return form.radioButton_Linear;
+    case SampleSpacing::Log10:
+        return form.radioButton_Log;
+    case SampleSpacing::Ln:
+        return form.radioButton_Ln;
+    case SampleSpacing::Gauss:
+        return form.radioButton_Gauss;
     default:
-        return x;
+        return nullptr;
     }
 }
 
-// The samples of a range, or nothing when the range is refused.
-std::vector<double> Samples(double min, double max, double step)
+std::optional<int> CheckedSpacing(const Ui::OneParameterDlg& form)
 {
-    if (!std::isfinite(min) || !std::isfinite(max) || !std::isfinite(step))
-        return {};
-    if (step > max - min || min >= max || step <= 0.0)
-        return {};
-
-    // Repeated addition decides whether the end is reached. The limit also stops a step that is
-    // too small to move x.
-    std::vector<double> samples;
-    for (double x = min; x <= max; x += step) {
-        if (samples.size() == MaximumSamples)
-            return {};
-        samples.push_back(x);
+    for (const int spacing :
+         {SampleSpacing::Linear, SampleSpacing::Log10, SampleSpacing::Ln, SampleSpacing::Gauss}) {
+        if (SpacingButton(form, spacing)->isChecked())
+            return spacing;
     }
-    return samples;
+    return std::nullopt;
 }
 
 } // namespace
@@ -100,36 +85,31 @@ void OneParameterDlg::RefreshTableData()
     m_ui.tableWidget->setRowCount(0);
     m_ui.tableWidget->clearContents();
 
-    const double step = m_ui.lineEdit_Deta->text().toDouble();
-    const double min = m_ui.lineEdit_Min->text().toDouble();
-    const double max = m_ui.lineEdit_Max->text().toDouble();
-    const std::vector<double> samples = Samples(min, max, step);
-    if (samples.empty()) {
+    const std::optional<int> spacing = CheckedSpacing(m_ui);
+    const SampleRange range = {
+        m_ui.lineEdit_Min->text().toDouble(), m_ui.lineEdit_Max->text().toDouble(),
+        m_ui.lineEdit_Deta->text().toDouble(), spacing.value_or(m_nSampleType)};
+    const SampleRange::Fault fault = range.FindFault();
+    if (fault != SampleRange::Fault::None && fault != SampleRange::Fault::SpacingNotImplemented) {
         Refuse(tr("Check input data!"));
         return;
     }
-
-    if (m_ui.radioButton_Linear->isChecked()) {
-        m_nSampleType = LinearType;
-    } else if (m_ui.radioButton_Log->isChecked()) {
-        m_nSampleType = Log10Type;
-    } else if (m_ui.radioButton_Ln->isChecked()) {
-        m_nSampleType = LnType;
-    } else if (m_ui.radioButton_Gauss->isChecked()) {
-        m_nSampleType = GaussType;
-        Refuse(tr("Not implement yet"));
+    if (!spacing)
         return;
-    } else {
+    m_nSampleType = *spacing;
+    if (fault == SampleRange::Fault::SpacingNotImplemented) {
+        Refuse(tr("Not implement yet"));
         return;
     }
 
+    const std::vector<double> samples = range.Samples();
     QTableWidget& table = *m_ui.tableWidget;
     table.setRowCount(int(samples.size()));
     // The views know the new size by now; a signal for each cell would only cost time.
     const QSignalBlocker silence(table.model());
     int row = 0;
-    for (const double x : samples)
-        table.setItem(row++, 0, new NumberItem(SampleValue(m_nSampleType, x)));
+    for (const double sample : samples)
+        table.setItem(row++, 0, new NumberItem(sample));
 }
 
 void OneParameterDlg::Refuse(const QString& text)
@@ -179,22 +159,8 @@ void OneParameterDlg::InitGUIData()
     m_ui.lineEdit_Deta->setText(tarn::NumberText(record.dDelta));
     m_ui.lineEdit_Max->setText(tarn::NumberText(record.dMax));
     m_ui.lineEdit_Min->setText(tarn::NumberText(record.dMin));
-    switch (record.nSampleType) {
-    case LinearType:
-        m_ui.radioButton_Linear->setChecked(true);
-        break;
-    case Log10Type:
-        m_ui.radioButton_Log->setChecked(true);
-        break;
-    case LnType:
-        m_ui.radioButton_Ln->setChecked(true);
-        break;
-    case GaussType:
-        m_ui.radioButton_Gauss->setChecked(true);
-        break;
-    default:
-        break;
-    }
+    if (QRadioButton* const button = SpacingButton(m_ui, record.nSampleType))
+        button->setChecked(true);
     RefreshTableData();
 }
 

@@ -53,6 +53,6 @@ private:
     Ui::OneParameterDlg m_ui;
     QString m_strName;
     std::vector<double> m_vecValues;
-    int m_nSampleType = 0;
+    int m_nSampleType = 0;     // A SampleSpacing::Code, of the last generation.
     bool m_bKeepTable = false; // true while no regeneration may start
 };

@@ -3,6 +3,7 @@
 /// @file
 /// The samples of parameters, and the registry that holds them.
 
+#include "SampleSpacing.h"
 #include "tarnguicommon_export.h"
 
 #include <QString>
@@ -13,13 +14,13 @@
 /// The samples that one parameter takes in a design-of-experiments study.
 struct sParaArrayData
 {
-    int bChecked = 0;              ///< 1 when the parameter takes part in the study.
-    QString strName;               ///< The parameter's name.
-    std::vector<double> vecValues; ///< The sample values, in table order.
-    double dMin = 0.0;             ///< Range minimum.
-    double dMax = 1.0;             ///< Range maximum.
-    double dDelta = 1.0;           ///< Step.
-    int nSampleType = 0;           ///< Spacing: 0 Linear, 1 Log10, 2 Ln, 3 Gauss.
+    int bChecked = 0;                        ///< 1 when the parameter takes part in the study.
+    QString strName;                         ///< The parameter's name.
+    std::vector<double> vecValues;           ///< The sample values, in table order.
+    double dMin = 0.0;                       ///< Range minimum.
+    double dMax = 1.0;                       ///< Range maximum.
+    double dDelta = 1.0;                     ///< Step.
+    int nSampleType = SampleSpacing::Linear; ///< A SampleSpacing::Code.
 };
 
 /// The process-wide registry of samples, by parameter name. It outlives every dialog, so ticks and
