@@ -6,7 +6,7 @@
 
 #include <QDialog>
 
-/// Asks for the kind of analysis, which a host knows as a pair of numbers: family and kind.
+/// Asks for the kind of analysis, a pair of numbers: family and kind.
 ///
 ///     CAnalysisTypeGUI dialog(window);
 ///     dialog.InitData(family, kind);
@@ -20,21 +20,22 @@ class TARNGUICOMMON_EXPORT CAnalysisTypeGUI : public QDialog
     Q_OBJECT
 
 public:
-    /// Opens with Vibration checked. @p parent may be null.
+    /// Opens with "Vibration" checked. @p parent may be null.
     explicit CAnalysisTypeGUI(QWidget* parent);
     ~CAnalysisTypeGUI() override;
 
-    /// Stores the pair and checks its button, also one that the user cannot choose. Family 1 only,
-    /// where kind 7 is Complex EigenValue; a pair without a button leaves the checked one.
+    /// Stores the pair and checks its button, even one that the user cannot select. Only family 1
+    /// has buttons, with kind 7 for Complex EigenValue. A pair without a button leaves the checked
+    /// button unchanged.
     void InitData(int family, int kind);
 
     /// The pair of the last InitData() or OK; (0, 0) before both.
     void getSolverType(int& family, int& kind) const;
 
 public Q_SLOTS:
-    /// Takes the pair of the checked button, if it has one, and hides the dialog.
+    /// Stores the pair of the checked button, if it has one, and hides the dialog.
     void OnOKButtonPush();
-    /// Closes the dialog; the pair is kept.
+    /// Closes the dialog and keeps the pair.
     void OnCloseButtonPush();
 
 private:

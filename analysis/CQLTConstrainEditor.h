@@ -7,30 +7,30 @@
 
 #include <QDialog>
 
-/// Asks for one fixed support: its name and the degrees of freedom that it holds.
+/// Asks for one fixed support: its name and the degrees of freedom that it fixes.
 ///
 ///     CQLTConstrainEditor editor(window);
 ///     if (editor.exec() == QDialog::Accepted)
 ///         Add(editor.GetConstrainData());
 ///
-/// A name that AttributeCommonMgr knows already is refused. The host registers what it accepted.
+/// Refuses a name that AttributeCommonMgr already holds. The host must register the accepted name.
 class TARNGUICOMMON_EXPORT CQLTConstrainEditor : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Opens with the name "defaultBC" and all six degrees of freedom held. @p parent may be null.
+    /// Opens with the name "defaultBC" and all six degrees of freedom fixed. @p parent may be null.
     explicit CQLTConstrainEditor(QWidget* parent);
     ~CQLTConstrainEditor() override;
 
     /// Stores the record for GetConstrainData(); the widgets deliberately do not show it.
     void InitData(sConstrainData data);
 
-    /// The record of the last OK; before one, the record of InitData() or a default one.
+    /// The record of the last OK or InitData(), whichever came later; initially a default record.
     sConstrainData GetConstrainData() const;
 
 public Q_SLOTS:
-    /// Refuses a name that is taken; otherwise stores the name and the boxes, and accepts.
+    /// Refuses a name that is taken. Otherwise stores the name and the check boxes, and accepts.
     void m_OK_ButtonPushed();
 
 private:

@@ -20,7 +20,7 @@ enum Page
     SolidPage
 };
 
-// Not the page numbers: the model has its own.
+// The model's codes, which differ from the page numbers.
 enum TypeCode
 {
     SolidType = 1,
@@ -110,7 +110,7 @@ void CQLTElePropertyEditor::on_getMat_brower()
 {
     KVMaterialLibrary library;
     library.Reset();
-    // The host may destroy the editor behind the library, which has no parent.
+    // The host may destroy the editor while the library, which has no parent, is open.
     const QPointer<CQLTElePropertyEditor> self = this;
     if (library.exec() != QDialog::Accepted || self == nullptr)
         return;

@@ -20,7 +20,7 @@ enum LoadKind
 CQLTLoadForceEditor::CQLTLoadForceEditor(QWidget* parent)
     : QDialog(parent)
 {
-    // The form also connects okButton, by the name of on_okButton_clicked().
+    // The form connects okButton by the name of on_okButton_clicked().
     m_ui.setupUi(this);
 }
 

@@ -14,8 +14,8 @@
 ///     if (editor.exec() == QDialog::Accepted)
 ///         load = editor.GetLoadForceData();
 ///
-/// The row labelled "FY" deliberately holds FZ, and the row labelled "FZ" holds FY. A name that
-/// AttributeCommonMgr knows already is refused. The host registers what it accepted.
+/// The row labelled "FY" deliberately holds FZ, and the row labelled "FZ" holds FY. Refuses a name
+/// that AttributeCommonMgr already holds. The host must register the accepted name.
 class TARNGUICOMMON_EXPORT CQLTLoadForceEditor : public QDialog
 {
     Q_OBJECT
@@ -25,16 +25,16 @@ public:
     explicit CQLTLoadForceEditor(QWidget* parent);
     ~CQLTLoadForceEditor() override;
 
-    /// Stores the record and shows its name and kind, and for kind 1 its components; a kind that
-    /// is neither 1 nor 2 is shown as 1. Only here can the kind be chosen.
+    /// Stores the record and shows its name and kind, and for kind 1 its components. A kind other
+    /// than 1 and 2 is shown as 1. The user cannot change the kind.
     void InitData(sLoadForceData data);
 
-    /// The record of the last OK; before one, the record of InitData() or a default one.
+    /// The record of the last OK or InitData(), whichever came later; initially a default record.
     sLoadForceData GetLoadForceData() const;
 
 public Q_SLOTS:
-    /// Refuses a name that is taken; otherwise stores name and kind, and for kind 1 the components
-    /// (a text that is no number counts as 0), and accepts.
+    /// Refuses a name that is taken. Otherwise stores name and kind, and for kind 1 the components
+    /// (non-numeric text counts as 0), and accepts.
     void on_okButton_clicked(); // clazy:exclude=connect-by-name
 
 private:

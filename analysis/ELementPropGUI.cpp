@@ -67,7 +67,7 @@ void ELementPropGUI::ShowProperty()
     const auto properties = KVPropertyData::GetInstance()->GetProptyDataMap();
     m_nRow = 0;
     m_ui.tabwidget_Prop->setRowCount(0);
-    // All at once: a table that grows row by row is laid out again for each.
+    // All rows at once: a table that grows row by row is laid out again for each row.
     m_ui.tabwidget_Prop->setRowCount(int(properties.size()));
     for (const auto& entry : properties)
         FillRow(m_nRow++, *entry.second);
@@ -79,7 +79,7 @@ void ELementPropGUI::InsertProperty()
 {
     tarn::ChildDialog<CQLTElePropertyEditor> editor(this);
     if (!editor.RunToAccept()) {
-        // An OK that was refused before has allocated a record that nobody else knows.
+        // An earlier, refused OK has allocated a record that nobody else owns.
         if (editor.Get() != nullptr)
             delete editor->GetPropData();
         return;
@@ -111,7 +111,7 @@ void ELementPropGUI::EditProperty()
     if (!editor.RunToAccept())
         return;
     KVPropertyData::GetInstance()->AddPropInfo(editor->GetPropData());
-    // Clears the header labels, too: after an edit the columns are numbered.
+    // This also clears the header labels: after an edit the columns are numbered.
     m_ui.tabwidget_Prop->clear();
     ShowProperty();
 }
@@ -122,7 +122,7 @@ void ELementPropGUI::DeleteProperty()
     if (table.currentRow() < 0)
         return;
     const QString name = GetSelectedPropName();
-    // The host may change the table behind the box.
+    // The host may change the table while the box is open.
     const QPersistentModelIndex cell = table.model()->index(table.currentRow(), NameColumn);
     const auto answer = QMessageBox::information(
         nullptr, tr("Warning"),
@@ -138,7 +138,7 @@ void ELementPropGUI::DeleteProperty()
         return;
     const int row = cell.row();
     table.removeRow(row);
-    // By itself the table would move on to the next row.
+    // The table itself would select the next row.
     if (row > 0)
         tarn::SelectRow(table, row - 1);
     else
@@ -159,7 +159,7 @@ void ELementPropGUI::on_Cancel_Button()
 void ELementPropGUI::FillRow(int row, const CQLTElemPropDef& property)
 {
     QTableWidget& table = *m_ui.tabwidget_Prop;
-    // After a delete the next row would stand past the end, where the table refused it.
+    // After a delete, m_nRow is past the end of the table.
     if (row >= table.rowCount())
         return;
     table.setItem(row, NameColumn, tarn::NewTextItem(property.m_strName));

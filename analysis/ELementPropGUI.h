@@ -12,52 +12,54 @@
 
 struct CQLTElemPropDef;
 
-/// Asks for the element properties of the model: lists, adds, edits and deletes them.
+/// Lists, adds, edits and deletes the element properties of the model.
 ///
 ///     ELementPropGUI manager(window);
-///     manager.exec(); // ends as rejected after OK, too: both buttons hide the dialog
+///     manager.exec(); // always Rejected: both buttons hide the dialog
 ///     std::map<QString, CQLTElemPropDef*> added;
 ///     manager.GetPropData(added);
 ///
-/// Works on KVPropertyData, which owns the records, and on "./ElementProperty.xml": opening reads
-/// it, OK writes it. Delete acts on the table only; the store and the file keep the property.
+/// Works on KVPropertyData, which owns the records, and on "./ElementProperty.xml": the constructor
+/// reads the file, OK writes it. Delete only removes the table row; the store and the file keep the
+/// property.
 class TARNGUICOMMON_EXPORT ELementPropGUI : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Reads the file and lists the store, with the last row selected. @p parent may be null.
+    /// Reads the file, lists the store and selects the last row. @p parent may be null.
     explicit ELementPropGUI(QWidget* parent);
     ~ELementPropGUI() override;
 
     /// The name in the current row; empty without one.
     QString GetSelectedPropName() const;
 
-    /// The property of the current row if it was added with Add while this dialog lives, else null.
-    /// The store owns it.
+    /// The property of the current row if Add has added it since this dialog was created, otherwise
+    /// null. The store owns it.
     CQLTElemPropDef* GetSelectedProp();
 
-    /// Replaces @p properties by those added with Add while this dialog lives; the store owns them.
-    /// A null pointer stands under each name that GetSelectedProp() looked for in vain.
+    /// Replaces @p properties with those added with Add since this dialog was created. The store
+    /// owns them. Each name that GetSelectedProp() did not find has a null pointer.
     void GetPropData(std::map<QString, CQLTElemPropDef*>& properties) const;
 
 public Q_SLOTS:
-    /// Reads the file again; the table stays as it is.
+    /// Reads the file again without changing the table.
     void LoadBuildinProperty();
     /// Fills the table from the store and selects the last row.
     void ShowProperty();
-    /// Runs the property editor for a new property, and enters what was accepted in table and
-    /// store, also in place of a property of the same name.
+    /// Runs the property editor for a new property. If accepted, adds the property to the table and
+    /// to the store, where it replaces a property with the same name.
     void InsertProperty();
-    /// Runs the property editor for the current row and fills the table anew, whose columns are
-    /// numbered from then on. Without a row, or where the store lacks the property, it says so.
+    /// Runs the property editor for the current row and refills the table; from then on its column
+    /// headers are numbers. Without a current row, or if the store lacks the property, shows a
+    /// notice.
     void EditProperty();
-    /// Removes the current row after a question; the store keeps the property. Without a row it
-    /// does nothing.
+    /// Removes the current row after confirmation; the store keeps the property. Without a current
+    /// row, does nothing.
     void DeleteProperty();
     /// Writes the file and hides the dialog.
     void on_OK_Button();
-    /// Hides the dialog; what was added or edited stays in the store.
+    /// Hides the dialog; additions and edits stay in the store.
     void on_Cancel_Button();
 
 private:

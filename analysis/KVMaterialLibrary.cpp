@@ -29,7 +29,7 @@ const char* const SystemFile = "SysMaterial.xml";
 const char* const SystemFileHere = "./SysMaterial.xml";
 const char* const UserFile = "./UserMaterial.xml";
 
-// The clones made in this process; one count for all materials and all dialogs.
+// The number of clones made in this process, by all dialogs and of all materials.
 int s_nCloneCount = 0;
 constexpr int LastCloneCount = 100;
 
@@ -55,7 +55,8 @@ void FillRow(QTableWidget& table, int row, const RowTexts& texts)
         table.setItem(row, column, tarn::NewTextItem(texts[std::size_t(column)]));
 }
 
-// The name with its last characters replaced by the count: Steel, Steel0, Steel1, ..., Steel10.
+// Replaces the end of the name with the count. If each clone is cloned again, this gives Steel,
+// Steel0, Steel1, ..., Steel10.
 QString CloneName(const QString& name, int count)
 {
     const QString digits = QString::number(count);
@@ -107,7 +108,7 @@ void KVMaterialLibrary::Reset()
     const bool systemRead = store.ReadXML(SystemFileHere, MATERIAL_SYSTEM) == 0;
     if (userRead || systemRead)
         ShowMaterial();
-    // A position among all names of the store, also when the table shows fewer.
+    // The position among all names of the store, even if the table shows fewer.
     tarn::SelectRow(*m_ui.tableWidget, ItemRow(GetComData()));
 }
 
@@ -183,7 +184,8 @@ void KVMaterialLibrary::RemoveMaterial()
         return;
     }
 
-    // The host may change the table behind the box. Its answer is not asked for: it is a notice.
+    // The host may change the table while the box is open. The box only informs: its answer is
+    // ignored.
     const QPersistentModelIndex cell = table.model()->index(table.currentRow(), NameColumn);
     QMessageBox::information(nullptr, tr("Warning"), tr("Confirm to delete current material?"),
                              QMessageBox::Yes | QMessageBox::Abort);
@@ -237,7 +239,7 @@ void KVMaterialLibrary::ShowMaterial()
             shown.push_back(SystemTexts(*material));
     }
 
-    // All at once: a table that grows row by row is laid out again for each.
+    // All rows at once: a table that grows row by row is laid out again for each row.
     table.setRowCount(int(shown.size()));
     for (int row = 0; row < table.rowCount(); ++row)
         FillRow(table, row, shown[std::size_t(row)]);
@@ -270,7 +272,7 @@ void KVMaterialLibrary::GetSearchValue()
     }
 }
 
-// An older way to fill the table: every material from its first triple.
+// An older way to fill the table: it shows the first triple of every material.
 void KVMaterialLibrary::SetDataToItem()
 {
     const KVMaterialData& store = *KVMaterialData::GetInstance();
@@ -309,7 +311,7 @@ int KVMaterialLibrary::ItemRow(QString name) const
     return KVMaterialData::GetInstance()->GetMaterialNameList().indexOf(name);
 }
 
-// Without a current row the user is told so.
+// Shows a notice if there is no current row.
 bool KVMaterialLibrary::HasCurrentRow()
 {
     if (m_ui.tableWidget->currentRow() >= 0)
@@ -340,7 +342,7 @@ void KVMaterialLibrary::AppendNewMaterial(const MaterialEditer& editor)
     KVMaterialInfo* const material = editor.CreateMaterialInfo();
     const RowTexts texts = UserTexts(*material);
     store.AddMaterialInfo(material);
-    // A filtered table is shorter than the store and refuses the row.
+    // A filtered table is shorter than the store and rejects the row.
     table.insertRow(row);
     FillRow(table, row, texts);
     tarn::SelectRow(table, row);

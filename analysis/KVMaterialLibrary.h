@@ -9,7 +9,7 @@
 
 class MaterialEditer;
 
-/// Asks for a material, out of those of the system library and the user's own.
+/// Asks for a material from the system library or from the user's own materials.
 ///
 ///     KVMaterialLibrary library;
 ///     library.SetComToItemData(nameToSelect);
@@ -17,19 +17,19 @@ class MaterialEditer;
 ///     if (library.exec() == QDialog::Accepted)
 ///         Use(library.selectedMaterialName());
 ///
-/// Works on KVMaterialData: materials can be viewed, added, cloned and removed. OK writes
-/// "./UserMaterial.xml"; Cancel does not, but leaves the store as it has become.
+/// Works on KVMaterialData: the user can view, add, clone and remove materials. OK writes
+/// "./UserMaterial.xml"; Cancel does not, but does not undo changes in the store either.
 class TARNGUICOMMON_EXPORT KVMaterialLibrary : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Reads "SysMaterial.xml" and lists it; the user's materials come with Reset().
+    /// Adds "SysMaterial.xml" to the store and lists the store; Reset() also reads the user's file.
     explicit KVMaterialLibrary(QWidget* parent = nullptr);
     ~KVMaterialLibrary() override;
 
-    /// Fills the store anew from both files, lists it, and selects the pre-selected material.
-    /// Materials that were not written yet are lost, and pointers to records end.
+    /// Refills the store from both files, lists it, and selects the pre-selected material. Unsaved
+    /// materials are lost, and pointers to records become invalid.
     void Reset();
 
     /// Writes the user's materials to "./UserMaterial.xml".
@@ -41,7 +41,7 @@ public:
     /// Sets the name that Reset() selects.
     void SetComToItemData(QString name);
 
-    /// The name that Reset() selects; empty at first.
+    /// The name that Reset() selects; initially empty.
     QString GetComData() const;
 
 private Q_SLOTS:

@@ -72,7 +72,7 @@ void MaterialEditer::InitDefaultValues()
 
 void MaterialEditer::SetMaterialData(const QString& name, const QStringList& values)
 {
-    // In release builds the list itself no longer asserts; reading past its end must not go on.
+    // In release builds the list does not assert, and reading past its end is undefined.
     if (values.size() < RowCount)
         qFatal("MaterialEditer::SetMaterialData: index out of range");
     m_ui.lineEditName->setText(name);

@@ -6,11 +6,11 @@
 
 struct KVMaterialInfo;
 
-/// Asks for one material: its name, elastic modulus, Poisson ratio and density.
+/// Asks for one material: its name, elastic modulus, Poisson's ratio and density.
 ///
-/// Private to the library: the material library runs it to view, add and clone, and builds the
-/// record when it was accepted. A name that the material store holds is refused; values are not
-/// checked. The store is never written here.
+/// Private to the library: the material library runs it to view, add and clone, and stores the
+/// record if it is accepted. Refuses a name that the material store already holds; does not check
+/// values. Never writes to the store.
 class MaterialEditer : public QDialog
 {
     Q_OBJECT
@@ -19,10 +19,10 @@ public:
     explicit MaterialEditer(QWidget* parent);
     ~MaterialEditer() override;
 
-    /// Shows @p name and the first three of @p values; fewer than three end the program.
+    /// Shows @p name and the first three of @p values. With fewer than three, the program aborts.
     void SetMaterialData(const QString& name, const QStringList& values);
 
-    /// A new user material of what the fields hold; the caller owns it.
+    /// Creates a user material from the fields; the caller owns it.
     KVMaterialInfo* CreateMaterialInfo() const;
 
 private Q_SLOTS:

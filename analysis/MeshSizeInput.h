@@ -12,19 +12,19 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         Mesh(dialog.GetMeshSize());
 ///
-/// Nothing is checked: the size may be 0 or negative.
+/// The size is not checked: it may be 0 or negative.
 class TARNGUICOMMON_EXPORT MeshSizeInput : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Opens with the size 1.
+    /// Opens with the size 1. @p parent may be null.
     explicit MeshSizeInput(QWidget* parent);
     /// Opens with @p meshSize, shown with 6 significant digits.
     MeshSizeInput(double meshSize, QWidget* parent);
     ~MeshSizeInput() override;
 
-    /// The number that stands in the field, however the dialog ended; 0 for a text that is none.
+    /// The number in the field when called, even after Cancel; 0 if the text is not a number.
     double GetMeshSize();
 
 private:

@@ -13,13 +13,13 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         Mesh(dialog.ui.lineEdit_MeshSize->text(), dialog.ui.lineEdit_MeshNumber->text());
 ///
-/// The buttons are deliberately connected to nothing: the host works with the widgets of the form.
+/// The buttons are deliberately not connected: the host works with the widgets of the form.
 class TARNGUICOMMON_EXPORT SubShapeMeshParameterDlg : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Both fields are empty. @p parent may be null.
+    /// Opens with empty fields. @p parent may be null.
     explicit SubShapeMeshParameterDlg(QWidget* parent);
     ~SubShapeMeshParameterDlg() override;
 

@@ -13,18 +13,18 @@
 ///         Use(FrequencyPref::m_MinFreq, FrequencyPref::m_MaxFreq, FrequencyPref::m_NumFreq);
 ///
 /// Opens with the values of FrequencyPref and writes them back on OK. Both frequencies must be
-/// above 0 and the count at least 2; a minimum above the maximum is taken as it stands.
+/// above 0 and the count at least 2; a minimum above the maximum is accepted.
 class TARNGUICOMMON_EXPORT frequencySetting : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Opens with the values of FrequencyPref, in six significant digits. @p parent may be null.
+    /// Opens with the values of FrequencyPref, with six significant digits. @p parent may be null.
     explicit frequencySetting(QWidget* parent);
     ~frequencySetting() override;
 
-    /// The values of the last OK, also of one that was refused; before one, those of FrequencyPref
-    /// when the dialog was made.
+    /// The values of the last OK, even a refused one; before that, the values of FrequencyPref when
+    /// the dialog was created.
     void GetFreqParameter(double& min, double& max, int& count) const;
 
 private Q_SLOTS:

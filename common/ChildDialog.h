@@ -7,14 +7,15 @@
 
 namespace tarn {
 
-/// A dialog that another one runs over itself, and that ends with it.
+/// A dialog that another dialog runs modally and owns.
 ///
-/// Not on the stack: the host may destroy the parent, and with it the dialog, while it runs.
+/// It is on the heap because the host may destroy the parent, and with it this dialog, while it
+/// runs.
 template<class Dialog>
 class ChildDialog
 {
 public:
-    /// Makes the dialog; one of the arguments is its parent.
+    /// Constructs the dialog from @p arguments, one of which is its parent.
     template<class... Arguments>
     explicit ChildDialog(Arguments&&... arguments)
         : m_dialog(new Dialog(std::forward<Arguments>(arguments)...))
@@ -24,10 +25,11 @@ public:
     ChildDialog(const ChildDialog&) = delete;
     ChildDialog& operator=(const ChildDialog&) = delete;
 
-    /// Whether the user accepted. After false the dialog may be gone, and its parent with it.
+    /// Runs the dialog and returns whether the user accepted it. After false, the dialog and its
+    /// parent may have been destroyed.
     bool RunToAccept() { return m_dialog->exec() == QDialog::Accepted && m_dialog != nullptr; }
 
-    /// Null when the dialog is gone.
+    /// The dialog; null if it has been destroyed.
     Dialog* Get() const { return m_dialog; }
     Dialog* operator->() const { return m_dialog; }
 

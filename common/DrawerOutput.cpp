@@ -13,8 +13,8 @@ DrawerOutput* DrawerOutput::m_ConnectorInstance = nullptr;
 
 namespace {
 
-/// Puts LC_NUMERIC of this thread at "C" while it lives: printf follows the locale that the
-/// application object has set, and a decimal comma is not wanted in messages.
+/// Sets LC_NUMERIC of this thread to "C" for its lifetime. Otherwise printf would use the locale
+/// that the application object has set, and messages could contain decimal commas.
 class CNumericLocale
 {
 public:
@@ -46,7 +46,7 @@ QString FormatText(const char* format, va_list arguments)
     if (length < int(sizeof buffer))
         return QString::fromLocal8Bit(buffer);
 
-    // The cut may have split a character: a decoder with a state keeps such a rest to itself.
+    // Truncation may have split a character: a stateful decoder holds back such a fragment.
     QTextCodec::ConverterState state;
     return QTextCodec::codecForLocale()->toUnicode(buffer, int(std::strlen(buffer)), &state);
 }

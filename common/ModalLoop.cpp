@@ -7,7 +7,8 @@
 
 namespace {
 
-// What a dialog must remember from one run to the next; its child, made by the first run.
+// The state of a dialog that must survive from one run to the next. The first run creates it as a
+// child of the dialog.
 class ModalRun : public QObject
 {
     Q_OBJECT
@@ -61,7 +62,7 @@ int ModalRun::Exec()
         if (dialog) {
             m_loop = nullptr;
             dialog->setAttribute(Qt::WA_DeleteOnClose, deleteOnClose);
-            // A window that stops being modal while it is visible blocks the others for good.
+            // A window that stops being modal while visible blocks the other windows forever.
             m_isUnwound = dialog->isVisible();
             if (!m_isUnwound)
                 RestoreModality();
@@ -81,7 +82,7 @@ int ModalRun::Exec()
 
 bool ModalRun::eventFilter(QObject* watched, QEvent* event)
 {
-    // Sent by every hide() and close(), but not when the window system hides the window.
+    // Every hide() and close() sends this, but the window system's hiding does not.
     if (watched == &m_dialog && event->type() == QEvent::HideToParent) {
         if (m_loop != nullptr) {
             m_loop->exit();
@@ -96,7 +97,7 @@ bool ModalRun::eventFilter(QObject* watched, QEvent* event)
 void ModalRun::TakeModality()
 {
     m_dialog.setAttribute(Qt::WA_ShowModal, true);
-    // An open() before blocks the parent only. done() undoes it, unless the attribute is set.
+    // An earlier open() blocks only the parent. done() undoes it unless the attribute is set.
     if (m_dialog.windowModality() == Qt::WindowModal &&
         !m_dialog.testAttribute(Qt::WA_SetWindowModality)) {
         m_dialog.setWindowModality(Qt::ApplicationModal);
@@ -106,7 +107,7 @@ void ModalRun::TakeModality()
 
 void ModalRun::RestoreModality()
 {
-    // The attribute, which this sets, keeps done() from undoing an open() of the meantime.
+    // This sets the attribute that keeps done() from undoing an open() called in between.
     if (!m_wasModal)
         m_dialog.setWindowModality(Qt::NonModal);
 }

@@ -4,12 +4,12 @@ class QDialog;
 
 namespace tarn {
 
-/// Runs @p dialog as QDialog::exec() does, with a loop that an exception may leave; for the
-/// exec() of dialogs whose slots let an error of the kernel pass.
+/// Runs @p dialog like QDialog::exec(), but is exception-safe: for dialogs whose slots let kernel
+/// exceptions pass.
 ///
-/// After an exception the dialog stands as the slot left it: open and modal. The host may read
-/// it, run it again, hide it or destroy it. QDialog::exec() itself would keep a pointer to the
-/// loop that is gone.
+/// After an exception the dialog is still open and modal, as the slot left it. The host may read
+/// it, run it again, hide it or destroy it. QDialog::exec() would keep a dangling pointer to its
+/// event loop.
 int RunModalLoop(QDialog& dialog);
 
 } // namespace tarn

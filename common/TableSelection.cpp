@@ -6,9 +6,9 @@
 void tarn::SelectRow(QTableWidget& table, int row)
 {
     const QString sheet = QStringLiteral("selection-background-color:cyan");
-    // A sheet that is set already would be parsed again.
+    // Setting the same sheet again would parse it again.
     if (table.styleSheet() != sheet) {
-        // The sheet colours the ground only; no palette's own text colour is sure to be seen on it.
+        // The sheet only sets the background; a palette's text colour may be illegible on it.
         QPalette palette;
         palette.setColor(QPalette::HighlightedText, Qt::black);
         table.setPalette(palette);
@@ -18,8 +18,8 @@ void tarn::SelectRow(QTableWidget& table, int row)
     const QModelIndex cell = table.model()->index(row, 0);
     if (!cell.isValid())
         return;
-    // Not through the view, which would extend the selection while the user holds Shift or Control.
-    // The row is current before the selection tells of it.
+    // The view would extend the selection while the user holds Shift or Control, so bypass it.
+    // Make the row current before the selection signals the change.
     QItemSelectionModel& selection = *table.selectionModel();
     selection.setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
     selection.select(cell, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);

@@ -7,13 +7,12 @@ class QTableWidgetItem;
 
 namespace tarn {
 
-/// Selects @p row of @p table, and no other, and gives the selection a cyan ground with black text,
-/// which is seen while the table has no focus and under every palette. A row that is not there
-/// leaves the selection as it is.
+/// Selects only @p row of @p table and shows the selection as black text on cyan, which is visible
+/// without focus and under every palette. A row that does not exist leaves the selection unchanged.
 void SelectRow(QTableWidget& table, int row);
 
-/// A new cell of @p text that shows in full in its tool tip what the column cuts off. The table
-/// owns it as soon as it is set.
+/// A new cell with @p text, whose tool tip shows the full text in case the column truncates it. The
+/// caller owns it until it is set in a table.
 QTableWidgetItem* NewTextItem(const QString& text);
 
 } // namespace tarn

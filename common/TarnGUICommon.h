@@ -2,15 +2,15 @@
 
 #include "tarnguicommon_export.h"
 
-/// Stands for the library: it exists so that the library exports a class of its own name.
+/// Has no function: it exists so that the library exports a class of its own name.
 class TARNGUICOMMON_EXPORT TarnGUICommon
 {
 public:
-    /// There is nothing to make.
+    /// Does nothing.
     TarnGUICommon();
     ~TarnGUICommon();
-    /// There is nothing to copy.
+    /// Does nothing: there are no members.
     TarnGUICommon(const TarnGUICommon& other) = default;
-    /// There is nothing to copy.
+    /// Does nothing: there are no members.
     TarnGUICommon& operator=(const TarnGUICommon& other);
 };

@@ -58,8 +58,8 @@ int ComboOfTypeCode(int code)
     return 0;
 }
 
-// The table goes on with a cell's field after its text was taken over. The notice about that text
-// may stand open meanwhile, and a table that is refilled behind it must not destroy the field.
+// The table uses a cell's field until setModelData() returns. If this opens a notice and the host
+// refills the table meanwhile, the field must not be destroyed.
 class CellDelegate : public QStyledItemDelegate
 {
 public:
@@ -89,8 +89,8 @@ private:
     mutable bool m_isDropped = false;
 };
 
-// Born in the table: a combo box that inherits another font later builds its drop-down list at
-// once.
+// Created as a child of the table: a combo box that inherits another font later builds its
+// drop-down list immediately.
 QComboBox* NewTypeCombo(const QTableWidget& table, int index)
 {
     auto* const combo = new QComboBox(table.viewport());
@@ -100,7 +100,7 @@ QComboBox* NewTypeCombo(const QTableWidget& table, int index)
     combo->addItem(ParameterEditor::tr("Bool"));
     combo->setCurrentIndex(index);
     combo->setAccessibleName(ParameterEditor::tr("Type"));
-    // With a size of its own it is not measured when shown; the table's layout sets the real one.
+    // With an explicit size it is not measured when shown; the table's layout sets the real size.
     combo->resize(table.columnWidth(TypeColumn), table.verticalHeader()->defaultSectionSize());
     return combo;
 }
@@ -116,14 +116,14 @@ double StoredNumber(const QString& name)
     return GlobalParaMeterMgr::GetParameterRawValue(name).toDouble();
 }
 
-// A vector component: a number, or else the name of a parameter.
+// A vector component: a number or the name of a parameter.
 double ComponentValue(const QString& text)
 {
     return tarn::IsNumberText(text) ? text.toDouble() : StoredNumber(text);
 }
 
-// Whether the record and the parameters it names are still what was checked before a box stood
-// open.
+// Whether the record is still as it was checked before a box opened, and the parameters that it
+// names still exist.
 bool StandsAsChecked(const ParametersDef& record, const ParametersDef& checked)
 {
     if (record.m_strExpression != checked.m_strExpression ||
@@ -158,7 +158,7 @@ ParameterEditor::~ParameterEditor() = default;
 
 void ParameterEditor::m_Slot_Apply()
 {
-    // The host may destroy the editor behind a box.
+    // The host may destroy the editor while a box is open.
     const QPointer<ParameterEditor> self = this;
     UpdateAllParameterDef();
     if (self != nullptr)
@@ -177,7 +177,7 @@ void ParameterEditor::m_Slot_Delete()
 void ParameterEditor::m_Slot_Add()
 {
     QTableWidget& table = *m_ui.tableWidget;
-    const QSignalBlocker quiet(table); // filling is no change that m_Slot_NoNumber should test
+    const QSignalBlocker quiet(table); // filling must not reach m_Slot_NoNumber()
     const int row = table.rowCount();
     table.setRowCount(row + 1);
     for (const int column :
@@ -207,7 +207,7 @@ void ParameterEditor::m_Slot_ProcessExp() {}
 void ParameterEditor::m_Slot_RefreshGUI()
 {
     QTableWidget& table = *m_ui.tableWidget;
-    const QSignalBlocker quiet(table); // filling is no change that m_Slot_NoNumber should test
+    const QSignalBlocker quiet(table); // filling must not reach m_Slot_NoNumber()
     table.clearContents();
     const ParameterMap parameters = GlobalParaMeterMgr::m_nameMapParameters;
     table.setRowCount(int(parameters.size()));
@@ -223,7 +223,7 @@ void ParameterEditor::m_Slot_RefreshGUI()
         table.setItem(row, DescriptionColumn, new QTableWidgetItem(record.m_strDescription));
         ++row;
     }
-    // Until they are laid out, the new combo boxes lie upon each other and are slow to paint.
+    // Until they are laid out, the new combo boxes overlap and are slow to paint.
     table.doItemsLayout();
 }
 
@@ -233,7 +233,7 @@ void ParameterEditor::m_Slot_NoNumber(QTableWidgetItem* item)
     if (item == nullptr || table.currentColumn() != ValueColumn || tarn::IsNumberText(item->text()))
         return;
 
-    // The host may rebuild the table behind the box: the cell is looked up again after it.
+    // The host may rebuild the table while the box is open, so look up the cell again afterwards.
     const QPersistentModelIndex cell = table.model()->index(item->row(), item->column());
     tarn::ShowNotice(tr("Notify"), tr("Please Input a digital number"));
     if (!cell.isValid())
@@ -278,7 +278,7 @@ void ParameterEditor::UpdateAllParameterDef()
 
 void ParameterEditor::RefreshParameterData()
 {
-    // By name and not by iterator: the host may change the store behind a box.
+    // By name, not by iterator: the host may change the store while a box is open.
     const std::vector<QString> names = GlobalParaMeterMgr::GetAllParametersName();
     ParameterMap& store = GlobalParaMeterMgr::m_nameMapParameters;
     for (const QString& name : names) {
@@ -302,7 +302,7 @@ void ParameterEditor::RefreshParameterData()
 
 bool ParameterEditor::IsValidExpressPara(QString names)
 {
-    // These texts stand as they are in every language.
+    // Deliberately not translated.
     const QString error = QStringLiteral("Error");
     const QStringList parts = names.split(Separator);
     for (const QString& name : parts) {

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The samples of parameters, and the registry that holds them.
+/// The samples of the parameters and their registry.
 
 #include "SampleSpacing.h"
 #include "tarnguicommon_export.h"
@@ -11,10 +11,10 @@
 #include <map>
 #include <vector>
 
-/// The samples that one parameter takes in a design-of-experiments study.
+/// The samples of one parameter for a design-of-experiments study.
 struct sParaArrayData
 {
-    int bChecked = 0;                        ///< 1 when the parameter takes part in the study.
+    int bChecked = 0;                        ///< 1 if the parameter takes part in the study.
     QString strName;                         ///< The parameter's name.
     std::vector<double> vecValues;           ///< The sample values, in table order.
     double dMin = 0.0;                       ///< Range minimum.
@@ -23,6 +23,6 @@ struct sParaArrayData
     int nSampleType = SampleSpacing::Linear; ///< A SampleSpacing::Code.
 };
 
-/// The process-wide registry of samples, by parameter name. It outlives every dialog, so ticks and
-/// sample lists are there again when a dialog is opened the next time. GUI thread only.
+/// The process-wide registry of samples, by parameter name. It outlives every dialog, so the next
+/// dialog shows the same ticks and samples. GUI thread only.
 extern TARNGUICOMMON_EXPORT std::map<QString, sParaArrayData> g_mapParaArrays;

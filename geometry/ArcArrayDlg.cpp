@@ -34,7 +34,7 @@ void ArcArrayDlg::m_slot_OkPushed()
     m_data.m_nNumber = m_ui.lineEdit_Num->text().toInt();
     const gp_Pnt point(
         tarn::Coordinates(*m_ui.lineEdit_AxisPtx, *m_ui.lineEdit_AxisPty, *m_ui.lineEdit_AxisPtz));
-    // The kernel refuses a zero vector here: nothing after this line runs then.
+    // The kernel throws here for a zero vector, so the rest is skipped.
     const gp_Dir direction(
         tarn::Coordinates(*m_ui.lineEdit_Dirx, *m_ui.lineEdit_Diry, *m_ui.lineEdit_Dirz));
     m_data.m_axis = gp_Ax1(point, direction);

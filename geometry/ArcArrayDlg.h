@@ -13,9 +13,9 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         CopyAround(dialog.GetArrayParameter());
 ///
-/// No range is checked; text that is no number counts as 0. OK with a zero direction lets the
-/// kernel's Standard_ConstructionError pass, out of exec() to the host, and the dialog stays open:
-/// angle and number are then those entered, the axis is as before.
+/// Ranges are not checked; non-numeric text counts as 0. With a zero direction, OK lets the
+/// kernel's Standard_ConstructionError propagate out of exec(), and the dialog stays open. Angle
+/// and number are then those entered, but the axis is unchanged.
 class TARNGUICOMMON_EXPORT ArcArrayDlg : public QDialog
 {
     Q_OBJECT
@@ -25,10 +25,10 @@ public:
     explicit ArcArrayDlg(QDialog* parent);
     ~ArcArrayDlg() override;
 
-    /// The record of the last OK; before, only its axis (the z axis) has a meaning.
+    /// The record of the last OK; before OK, only its axis (the z axis) is meaningful.
     sMatrixArcdata GetArrayParameter() const;
 
-    /// As QDialog::exec(), and an exception from OK may leave it.
+    /// Like QDialog::exec(), but lets an exception from OK propagate to the caller.
     int exec() override;
 
 private Q_SLOTS:

@@ -32,7 +32,7 @@ int ExtrudInputDlg::exec()
 void ExtrudInputDlg::m_Slot_OK_Pushed()
 {
     m_dHeight = m_ui.lineEdit_Height->text().toDouble();
-    // The kernel refuses a zero vector here: nothing after this line runs then.
+    // The kernel throws here for a zero vector, so the rest is skipped.
     m_direction =
         gp_Dir(tarn::Coordinates(*m_ui.lineEdit_XDir, *m_ui.lineEdit_YDir, *m_ui.lineEdit_ZDir));
     accept();

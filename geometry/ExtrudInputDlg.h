@@ -13,9 +13,9 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         Extrude(dialog.GetExtrudeDirection(), dialog.GetHeightValue());
 ///
-/// Text that is no number counts as 0. OK with a zero direction lets the kernel's
-/// Standard_ConstructionError pass, out of exec() to the host, and the dialog stays open: the
-/// length is then the one entered, the direction as before.
+/// Non-numeric text counts as 0. With a zero direction, OK lets the kernel's
+/// Standard_ConstructionError propagate out of exec(), and the dialog stays open. The length is
+/// then the one entered, but the direction is unchanged.
 class TARNGUICOMMON_EXPORT ExtrudInputDlg : public QDialog
 {
     Q_OBJECT
@@ -25,12 +25,12 @@ public:
     explicit ExtrudInputDlg(QWidget* parent);
     ~ExtrudInputDlg() override;
 
-    /// The length, in the model's unit; valid after OK.
+    /// The length in the model's length unit; 0 before OK.
     double GetHeightValue() const;
     /// The direction entered; (1, 0, 0) before OK.
     gp_Dir GetExtrudeDirection() const;
 
-    /// As QDialog::exec(), and an exception from OK may leave it.
+    /// Like QDialog::exec(), but lets an exception from OK propagate to the caller.
     int exec() override;
 
 private Q_SLOTS:

@@ -7,14 +7,14 @@
 
 #include <QDialog>
 
-/// Asks for a rectangular array along X and Y: numbers and distances.
+/// Asks for a rectangular array along X and Y: numbers of instances and distances.
 ///
 ///     MatrixArrayDlg dialog(parentDialog);
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         CopyAlong(dialog.GetArrayParameter());
 ///
-/// The number fields take up to four digits; an empty one counts as 0, as does a distance that is
-/// no number.
+/// The number fields accept up to four digits. An empty number and a non-numeric distance count as
+/// 0.
 class TARNGUICOMMON_EXPORT MatrixArrayDlg : public QDialog
 {
     Q_OBJECT
@@ -24,12 +24,12 @@ public:
     explicit MatrixArrayDlg(QDialog* parent);
     ~MatrixArrayDlg() override;
 
-    /// The record of the last OK; without meaning before.
+    /// The record of the last OK; meaningless before OK.
     sMatrixArraydata GetArrayParameter() const;
 
 private Q_SLOTS:
     void m_slot_OkPushed();
-    /// Does nothing: Cancel closes the dialog.
+    /// Does nothing: another connection of Cancel closes the dialog.
     void m_slot_CancelPushed();
 
 private:

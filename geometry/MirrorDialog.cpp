@@ -31,7 +31,7 @@ int MirrorDialog::exec()
 void MirrorDialog::m_Slot_OK_Pushed()
 {
     if (m_ui.radioButton->isChecked()) {
-        // Hosts rely on the origin: the fields of this mode are not used.
+        // Hosts rely on the origin, so the fields of this mode are not used.
         m_transform = GC_MakeMirror(gp_Pnt(0.0, 0.0, 0.0)).Value()->Trsf();
     } else if (m_ui.radioButton_2->isChecked()) {
         const gp_Dir direction(

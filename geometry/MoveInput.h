@@ -13,7 +13,7 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         dialog.GetMoveData(dx, dy, dz);
 ///
-/// Nothing is checked; text that is no number counts as 0.
+/// Nothing is checked; non-numeric text counts as 0.
 class TARNGUICOMMON_EXPORT MoveInput : public QDialog
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     explicit MoveInput(QWidget* parent);
     ~MoveInput() override;
 
-    /// The components as the fields stand at this moment, also after Cancel.
+    /// Reads the components from the fields when called, even after Cancel.
     void GetMoveData(double& dx, double& dy, double& dz) const;
 
 private Q_SLOTS:

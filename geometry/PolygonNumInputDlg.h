@@ -12,7 +12,7 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         MakePolygon(dialog.GetEdgeNumber());
 ///
-/// No range is checked: the host refuses fewer than three edges.
+/// The range is not checked: the host must refuse fewer than three edges.
 class TARNGUICOMMON_EXPORT PolygonNumInputDlg : public QDialog
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     explicit PolygonNumInputDlg(QWidget* parent);
     ~PolygonNumInputDlg() override;
 
-    /// 0 where the text is no decimal integer; valid after OK.
+    /// The number of edges at the last OK; 0 if the text was not a decimal integer, and before OK.
     int GetEdgeNumber() const;
 
 private Q_SLOTS:

@@ -12,18 +12,18 @@
 ///     input->ui.lineEdit->setText(x);
 ///     input->show();
 ///
-/// It has no logic: the host reads and writes the fields, which take any text. The shared instance
-/// lives until the process ends; a widget with a parent is an ordinary child of it.
+/// It has no logic: the host reads and writes the fields, which accept any text. The shared
+/// instance lives until the process ends; a widget with a parent belongs to that parent.
 class TARNGUICOMMON_EXPORT PosInputDlg : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The shared instance, made hidden and without parent by the first call. The library never
-    /// deletes it; a host that does must not call GetInstance() again.
+    /// The shared instance. The first call creates it, hidden and without parent. The library never
+    /// deletes it. If the host deletes it, it must not call GetInstance() again.
     static PosInputDlg* GetInstance();
 
-    /// A widget of its own, apart from the shared instance.
+    /// Creates a widget independent of the shared instance. @p parent may be null.
     explicit PosInputDlg(QWidget* parent);
     ~PosInputDlg() override;
 

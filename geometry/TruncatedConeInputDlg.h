@@ -13,7 +13,7 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         MakeCone(dialog.GetTopRadius(), dialog.GetHeightValue(), dialog.GetAngle());
 ///
-/// No range is checked; text that is no number counts as 0.
+/// Ranges are not checked; non-numeric text counts as 0.
 class TARNGUICOMMON_EXPORT TruncatedConeInputDlg : public QDialog
 {
     Q_OBJECT
@@ -23,16 +23,16 @@ public:
     explicit TruncatedConeInputDlg(QWidget* parent);
     ~TruncatedConeInputDlg() override;
 
-    /// In the model's length unit; valid after OK or CollectData().
+    /// The height in the model's length unit; valid after OK or CollectData().
     double GetHeightValue() const;
-    /// In the model's length unit; valid after OK or CollectData().
+    /// The top radius in the model's length unit; valid after OK or CollectData().
     double GetTopRadius() const;
-    /// Sweep about the axis in degrees, as typed; valid after OK or CollectData().
+    /// The sweep about the axis in degrees, as typed; valid after OK or CollectData().
     double GetAngle() const;
 
-    /// Disables the angle field; OK reads it all the same.
+    /// Disables the angle field; OK still reads it.
     void DisableAngleInput();
-    /// Takes the fields over, as OK does, without closing the dialog.
+    /// Reads the fields like OK, without closing the dialog.
     void CollectData();
 
 private Q_SLOTS:

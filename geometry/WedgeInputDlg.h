@@ -13,7 +13,7 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         dialog.GetWedgeParameter(height, xMin, xMax, zMin, zMax);
 ///
-/// No range is checked; text that is no number counts as 0.
+/// Ranges are not checked; non-numeric text counts as 0.
 class TARNGUICOMMON_EXPORT WedgeInputDlg : public QDialog
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     explicit WedgeInputDlg(QWidget* parent);
     ~WedgeInputDlg() override;
 
-    /// In the model's length unit; valid after OK.
+    /// The values of the last OK in the model's length unit; 0 before OK.
     void GetWedgeParameter(double& height, double& xMin, double& xMax, double& zMin,
                            double& zMax) const;
 

@@ -53,7 +53,7 @@ void rotateInputDlg::m_Slot_OK()
     const gp_XYZ direction =
         tarn::Coordinates(*m_ui.lineEdit_xDir, *m_ui.lineEdit_yDir, *m_ui.lineEdit_zDir);
     m_basePoint = tarn::Coordinates(*m_ui.lineEdit_xPt, *m_ui.lineEdit_yPt, *m_ui.lineEdit_zPt);
-    // The kernel refuses a zero vector here: nothing after this line runs then.
+    // The kernel throws here for a zero vector, so the rest is skipped.
     m_direction = gp_Dir(direction);
     m_axis = gp_Ax1(m_basePoint, m_direction);
     accept();

@@ -15,9 +15,9 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         rotation.SetRotation(dialog.GetRotateAxis(), dialog.GetAngle());
 ///
-/// Text that is no number counts as 0. OK with a zero direction lets the kernel's
-/// Standard_ConstructionError pass, out of exec() to the host, and the dialog stays open: the
-/// angle and the base point are then those entered, direction and axis as before.
+/// Non-numeric text counts as 0. With a zero direction, OK lets the kernel's
+/// Standard_ConstructionError propagate out of exec(), and the dialog stays open. Angle and base
+/// point are then those entered, but direction and axis are unchanged.
 class TARNGUICOMMON_EXPORT rotateInputDlg : public QDialog
 {
     Q_OBJECT
@@ -33,10 +33,10 @@ public:
     gp_Dir GetRotateDir() const;
     /// Axis point and direction; the z axis before OK.
     gp_Ax1 GetRotateAxis() const;
-    /// The angle in radians; without meaning before OK.
+    /// The angle in radians; 0 before OK.
     double GetAngle() const;
 
-    /// As QDialog::exec(), and an exception from OK may leave it.
+    /// Like QDialog::exec(), but lets an exception from OK propagate to the caller.
     int exec() override;
 
 private Q_SLOTS:

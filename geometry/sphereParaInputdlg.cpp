@@ -8,7 +8,7 @@ sphereParaInputdlg::sphereParaInputdlg(QWidget* parent)
     m_ui.setupUi(this);
     auto* const latitude = new QDoubleValidator(-90.0, 0.0, 2, m_ui.lineEdit_Angle1);
     latitude->setNotation(QDoubleValidator::StandardNotation);
-    // With a decimal comma it would let pass what then reads as 0.
+    // With a decimal comma it would accept numbers that later read as 0.
     latitude->setLocale(QLocale::c());
     m_ui.lineEdit_Angle1->setValidator(latitude);
 

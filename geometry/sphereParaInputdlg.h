@@ -12,8 +12,8 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         MakeSphere(dialog.GetAngle1(), dialog.GetAngle2(), dialog.GetAngle3());
 ///
-/// The ranges beside the fields are labels: the host checks them. Only the first field has a
-/// validator. Text that is no number counts as 0.
+/// The ranges beside the fields are only labels: the host must check them. Only the first field has
+/// a validator. Non-numeric text counts as 0.
 class TARNGUICOMMON_EXPORT sphereParaInputdlg : public QDialog
 {
     Q_OBJECT
@@ -23,11 +23,11 @@ public:
     explicit sphereParaInputdlg(QWidget* parent);
     ~sphereParaInputdlg() override;
 
-    /// Lower latitude in degrees, as typed; valid after OK.
+    /// The lower latitude in degrees, as typed; valid after OK.
     double GetAngle1() const;
-    /// Upper latitude in degrees, as typed; valid after OK.
+    /// The upper latitude in degrees, as typed; valid after OK.
     double GetAngle2() const;
-    /// Longitude in degrees, as typed; valid after OK.
+    /// The longitude in degrees, as typed; valid after OK.
     double GetAngle3() const;
 
 private Q_SLOTS:

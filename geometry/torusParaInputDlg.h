@@ -13,27 +13,27 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         MakeTorus(dialog.GetSweepRadius(), dialog.GetAngle1(), ...);
 ///
-/// The ranges beside the fields are labels: the host checks them. Text that is no number counts
+/// The ranges beside the fields are only labels: the host must check them. Non-numeric text counts
 /// as 0.
 class TARNGUICOMMON_EXPORT torusParaInputDlg : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Opens with the radius 3 and -180, 180 and 360 degrees. @p parent may be null.
+    /// Opens with the sweep radius 3 and -180, 180 and 360 degrees. @p parent may be null.
     explicit torusParaInputDlg(QWidget* parent);
     ~torusParaInputDlg() override;
 
-    /// In the model's length unit; valid after OK.
+    /// The radius of the tube in the model's length unit; valid after OK.
     double GetSweepRadius() const;
-    /// Start of the tube's section in degrees, as typed; valid after OK.
+    /// The start of the tube section in degrees, as typed; valid after OK.
     double GetAngle1() const;
-    /// End of the tube's section in degrees, as typed; valid after OK.
+    /// The end of the tube section in degrees, as typed; valid after OK.
     double GetAngle2() const;
-    /// Sweep about the axis in degrees, as typed; valid after OK.
+    /// The sweep about the axis in degrees, as typed; valid after OK.
     double GetAngle3() const;
 
-    /// Disables the three angle fields; OK reads them all the same.
+    /// Disables the three angle fields; OK still reads them.
     void DisableAngleUI();
 
 private Q_SLOTS:

@@ -6,20 +6,20 @@
 
 #include <QDialog>
 
-/// Lists outside solvers with a field for the path of each.
+/// A form with a path field for each of several external solvers.
 ///
 ///     ExternalSolverOption dialog(window);
 ///     dialog.ui.lineEdit_Nastran->setText(path);
 ///     dialog.exec();
 ///
-/// The form is inert: its buttons do nothing and its paths are stored nowhere. It is closed by its
-/// window frame; the host works with the widgets directly.
+/// The form is inert: its buttons do nothing and its paths are not stored. The host works with the
+/// widgets directly. Without connections, only Escape and the window's close button leave it.
 class TARNGUICOMMON_EXPORT ExternalSolverOption : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// All paths are empty. @p parent may be null.
+    /// Opens with empty paths. @p parent may be null.
     explicit ExternalSolverOption(QWidget* parent);
     ~ExternalSolverOption() override;
 

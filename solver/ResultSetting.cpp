@@ -17,7 +17,7 @@ ResultSetting::~ResultSetting() = default;
 
 void ResultSetting::SelectExecuteHyper()
 {
-    // The host lives on behind the file dialog and may close this one.
+    // The host's event loop keeps running and may destroy this dialog meanwhile.
     const QPointer<ResultSetting> self = this;
     const QString path = tarn::PickExecutable(*this, tr("Open HyperView.exe"));
     if (!self)

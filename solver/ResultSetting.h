@@ -4,8 +4,8 @@
 
 #include <QDialog>
 
-/// Picks the HyperView executable and opens the active model's results with it. Made by
-/// CreateResultSetting().
+/// Lets the user pick the HyperView executable and opens the results of the active model with it.
+/// Created by CreateResultSetting().
 class ResultSetting : public QDialog
 {
     Q_OBJECT
@@ -15,9 +15,9 @@ public:
     ~ResultSetting() override;
 
 public Q_SLOTS:
-    /// Asks for the executable; cancelling empties the path.
+    /// Asks for the executable; cancelling clears the path.
     void SelectExecuteHyper();
-    /// Runs it and reports nothing. The path is quoted: it may hold blanks.
+    /// Runs the executable and reports nothing. The path is quoted, so it may contain blanks.
     void RunCommand();
 
 private:

@@ -5,18 +5,18 @@
 
 QString tarn::PickExecutable(QDialog& owner, const QString& caption)
 {
-    // Never shown: the picker itself is the static one, with no caption.
+    // Never shown: the static function below shows the dialog, without a caption.
     new QFileDialog(&owner, caption, QString(), QString());
     return QFileDialog::getOpenFileName(nullptr, QString(), QString(), QString());
 }
 
 QProcess::ExitStatus tarn::RunToEnd(const QString& command)
 {
-    // Processes are never deleted; they stay reachable here.
+    // Processes are never deleted; this keeps them reachable.
     static auto& processes = *new QVector<QProcess*>;
     auto* const process = new QProcess;
     processes.append(process);
-    // Nobody reads the output: kept as well, that of a talkative program would fill the memory.
+    // Discard the output: buffering that of a verbose program would exhaust the memory.
     QObject::connect(process, &QProcess::readyReadStandardOutput, process,
                      &QProcess::readAllStandardOutput);
     QObject::connect(process, &QProcess::readyReadStandardError, process,
@@ -26,6 +26,6 @@ QProcess::ExitStatus tarn::RunToEnd(const QString& command)
     const QString program = arguments.takeFirst();
     process->setReadChannel(QProcess::StandardError);
     process->start(program, arguments, QIODevice::ReadWrite);
-    process->waitForFinished(-1); // By default it gives up after half a minute.
+    process->waitForFinished(-1); // The default is to give up after 30 seconds.
     return process->exitStatus();
 }

@@ -18,7 +18,7 @@ SolverSetting::~SolverSetting() = default;
 
 void SolverSetting::SelectExecuteNas()
 {
-    // The host lives on behind the file dialog and may close this one.
+    // The host's event loop keeps running and may destroy this dialog meanwhile.
     const QPointer<SolverSetting> self = this;
     const QString path = tarn::PickExecutable(*this, tr("Open Nastran.exe"));
     if (!self)

@@ -4,7 +4,8 @@
 
 #include <QDialog>
 
-/// Picks the Nastran executable and runs it on the active model. Made by CreateSolverSetting().
+/// Lets the user pick the Nastran executable and runs it on the active model. Created by
+/// CreateSolverSetting().
 class SolverSetting : public QDialog
 {
     Q_OBJECT
@@ -14,9 +15,10 @@ public:
     ~SolverSetting() override;
 
 public Q_SLOTS:
-    /// Asks for the executable; cancelling empties the path.
+    /// Asks for the executable; cancelling clears the path.
     void SelectExecuteNas();
-    /// Runs it and reports every end but a crash. The path is not quoted: blanks split it.
+    /// Runs the executable and shows a notice when it ends, unless it crashes. The path is not
+    /// quoted, so blanks split it.
     void RunCommand();
 
 private:

@@ -7,25 +7,25 @@
 
 /// The names of the current model's attributes: boundary conditions, loads, properties.
 ///
-/// The dialogs only ask whether a name is taken; the host enters the name of what it accepts and
-/// takes it out again when the attribute is deleted. Names are byte strings in the local 8-bit code
-/// page and compare byte for byte.
+/// The dialogs only check whether a name is taken. The host adds the name of an attribute that it
+/// accepts and removes it when the attribute is deleted. Names are in the local 8-bit code page and
+/// are compared byte for byte.
 class TARNCOREGEOMETRY_EXPORT AttributeCommonMgr
 {
 public:
-    /// The registry of the process; created on first use and never freed.
+    /// The registry of the process, created on first use and never freed.
     static AttributeCommonMgr* GetInstance();
 
-    /// True when an attribute of exactly this name is registered.
+    /// True if an attribute with exactly this name is registered.
     bool FindName(std::string name) const;
 
-    /// Registers @p name; a name that is registered already stays so.
+    /// Registers @p name; does nothing if it is already registered.
     void AddName(const std::string& name);
 
-    /// Frees @p name; a name that is not registered is passed over.
+    /// Removes @p name; ignores a name that is not registered.
     void RemoveName(const std::string& name);
 
-    /// Frees all names.
+    /// Removes all names.
     void Clear();
 
 private:

@@ -10,18 +10,18 @@
 
 /// The process-wide store of the global design parameters.
 ///
-/// Host and dialogs read and change the records in place; there is no lock, everything runs on the
-/// GUI thread. Nothing is loaded or saved here.
+/// Host and dialogs read and change the records in place. There is no lock: everything runs on the
+/// GUI thread. The store does not load or save anything.
 class TARNDESIGN_EXPORT GlobalParaMeterMgr
 {
 public:
     GlobalParaMeterMgr() = delete;
 
-    /// Enters @p record under @p name; a record of that name is replaced and keeps its place.
+    /// Adds @p record under @p name. If there is one already, replaces it in its place.
     static void AddParameter(QString name, ParametersDef record);
 
-    /// What expressions see of @p name: the raw value, or the numeric value of a record whose raw
-    /// value is not set. An unknown name gives 0.0 and is not entered.
+    /// The value that expressions use for @p name: the raw value, or the numeric value if the raw
+    /// value is not set. Returns 0.0 for an unknown name, without adding it.
     static QVariant GetParameterRawValue(QString name);
 
     /// All names, in the order in which they were first added.

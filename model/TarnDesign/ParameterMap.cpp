@@ -10,7 +10,7 @@ ParameterMap::ParameterMap(const ParameterMap& other)
         m_index.emplace(it->first, it);
 }
 
-// A moved or swapped list keeps its nodes, so the index goes with it as it stands.
+// A moved or swapped list keeps its nodes, so its index stays valid.
 ParameterMap::ParameterMap(ParameterMap&& other) noexcept
 {
     *this = std::move(other);

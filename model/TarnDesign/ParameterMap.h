@@ -11,12 +11,12 @@
 #include <unordered_map>
 #include <utility>
 
-/// A hash map from parameter name to record that keeps the order of insertion.
+/// A hash map from parameter name to record that preserves the order of insertion.
 ///
-/// Iterating gives the records in the order in which their names were first added, and replacing a
-/// record keeps its place, so that the rows of a table filled from the map do not jump. The
-/// operations mean what they mean in std::unordered_map; look-up, insertion and erasure take
-/// constant time. Iterators and references stay valid until their own entry is erased.
+/// Iteration follows the order in which the names were first added. Replacing a record keeps its
+/// place, so the rows of a table filled from the map do not move. The operations behave as in
+/// std::unordered_map; look-up, insertion and erasure take constant time. Iterators and references
+/// stay valid until their entry is erased.
 class TARNDESIGN_EXPORT ParameterMap
 {
 public:
@@ -26,28 +26,28 @@ public:
     using mapped_type = ParametersDef;
     /// An entry: name and record.
     using value_type = std::pair<const QString, ParametersDef>;
-    /// Counts entries.
+    /// The number of entries.
     using size_type = std::size_t;
-    /// Goes through the entries in the order of insertion, either way.
+    /// A bidirectional iterator in the order of insertion.
     using iterator = std::list<value_type>::iterator;
-    /// As iterator, for entries that are only read.
+    /// Like iterator, for read-only access.
     using const_iterator = std::list<value_type>::const_iterator;
 
     /// An empty map.
     ParameterMap() = default;
     /// A copy of all records, in the same order.
     ParameterMap(const ParameterMap& other);
-    /// Takes the records over and leaves @p other empty; iterators stay valid.
+    /// Moves the records from @p other and leaves it empty; iterators stay valid.
     ParameterMap(ParameterMap&& other) noexcept;
-    /// Replaces all records by copies of those of @p other.
+    /// Replaces all records with copies of those of @p other.
     ParameterMap& operator=(const ParameterMap& other);
-    /// Replaces all records by those of @p other, which is left empty.
+    /// Replaces all records with those of @p other, and leaves it empty.
     ParameterMap& operator=(ParameterMap&& other) noexcept;
     ~ParameterMap() = default;
 
     /// The number of records.
     size_type size() const { return m_entries.size(); }
-    /// True when there is no record.
+    /// True if there are no records.
     bool empty() const { return m_entries.empty(); }
     /// Removes all records.
     void clear();
@@ -65,18 +65,18 @@ public:
     iterator find(const QString& name);
     /// The entry of @p name, or end().
     const_iterator find(const QString& name) const;
-    /// How many records bear @p name: 0 or 1.
+    /// The number of records with this name: 0 or 1.
     size_type count(const QString& name) const { return m_index.count(name); }
 
-    /// The record of @p name. @throws std::out_of_range when there is none.
+    /// The record of @p name. @throws std::out_of_range if there is none.
     ParametersDef& at(const QString& name);
-    /// The record of @p name. @throws std::out_of_range when there is none.
+    /// The record of @p name. @throws std::out_of_range if there is none.
     const ParametersDef& at(const QString& name) const;
 
-    /// The record of @p name; a default record is added at the end when there is none.
+    /// The record of @p name. If there is none, appends a default record.
     ParametersDef& operator[](const QString& name);
 
-    /// Removes the record of @p name and returns how many were removed: 0 or 1.
+    /// Removes the record of @p name and returns the number of removed records: 0 or 1.
     size_type erase(const QString& name);
 
 private:
