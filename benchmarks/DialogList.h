@@ -29,9 +29,9 @@
 
 #include <type_traits>
 
-/// What is measured of a dialog: constructing and destroying it, against its form set up in a bare
-/// dialog. The stores are to be empty and the working directory without files, so that it is the
-/// dialog itself that is measured.
+/// The two measurements for a dialog: constructing and destroying it, and the same for a bare
+/// dialog with its form as the reference. The stores must be empty and the working directory must
+/// contain no files, so that only the dialog itself is measured.
 
 template<class Dialog>
 struct WholeDialog
@@ -56,8 +56,8 @@ struct BareForm
     }
 };
 
-/// Calls @p visit with a dialog's name and the functions that construct it and its bare form, for
-/// every dialog.
+/// Calls @p visit for every dialog, with its name and the functions that construct the dialog and
+/// its bare form.
 template<class Visit>
 void ForEachDialog(const Visit& visit)
 {

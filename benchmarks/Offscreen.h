@@ -3,10 +3,11 @@
 #include <QByteArray>
 #include <QtGlobal>
 
-/// Lets the program show nothing and say nothing; to be called before there is an application.
+/// Makes the program run without a display and without Qt's warnings. Call this before constructing
+/// the application.
 ///
-/// The toolkit warns of what it cannot do without a screen, and of slots that a form's connections
-/// do not find in a bare dialog.
+/// Qt would warn about what it cannot do without a screen, and about slots that a form's
+/// connections do not find in a bare dialog.
 inline void RunOffscreen()
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");

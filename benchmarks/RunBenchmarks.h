@@ -8,8 +8,8 @@
 
 #include <functional>
 
-/// main() of a benchmark of windows: runs what the program has registered, and what @p prepare
-/// registers when there is an application, which shows nothing.
+/// main() of a benchmark that needs windows: constructs an offscreen application, calls @p prepare,
+/// which may register more benchmarks, and runs all registered benchmarks.
 inline int RunBenchmarks(
     int argc, char** argv, const std::function<void()>& prepare = [] {})
 {

@@ -13,11 +13,11 @@
 #include <vector>
 
 /// What the benchmarks of the two XML files share: reading and writing them through the store, bare
-/// passes of Qt's stream classes over the same file as the measure of that, and looking up all
-/// records. A store is told by a struct of static members: File, its name; Clear(), Add(i), Read(),
+/// passes of Qt's stream classes over the same file as the reference, and looking up all records. A
+/// struct with static members describes the store: File, the file name; Clear(), Add(i), Read(),
 /// Write() and LookUpAll().
 
-/// A temporary working directory, while it lives.
+/// Changes to a temporary working directory for its lifetime.
 class Directory
 {
 public:
@@ -51,7 +51,7 @@ inline void ReadBare(const QString& path)
         benchmark::DoNotOptimize(xml.readNext());
 }
 
-/// The elements of the file: the root, then what is in it.
+/// The elements of the file: the root, then its children.
 inline BareTokens LoadTokens(const QString& path)
 {
     QFile file(path);
@@ -102,8 +102,8 @@ void Read(benchmark::State& state)
     for (auto _ : state) {
         state.PauseTiming();
         Store::Clear();
-        // The allocator joins what was freed only when it is next asked for a large piece. That
-        // belongs to the clearing, and the reading would be charged with it.
+        // The allocator merges freed memory only at the next request for a large block. This cost
+        // belongs to the clearing, not to the reading that is measured.
         QByteArray(LargePiece, Qt::Uninitialized);
         state.ResumeTiming();
         if (!Store::Read())

@@ -11,15 +11,15 @@
 #include <array>
 #include <cmath>
 
-// "Refresh Data" with five ticked parameters, against a plain table that is filled with the same
-// texts. Both tables are visible and empty when the time starts. "bytes" is what a full table
-// holds on the heap.
+// "Refresh Data" with five ticked parameters, compared with filling a plain table with the same
+// texts. Both tables are visible and empty when the timer starts. "bytes" is the heap memory of a
+// full table.
 
 namespace {
 
 constexpr int Columns = 5;
 
-// Five lists of the same length, whose combinations are the runs.
+// Five sample lists of the same length; their combinations are the runs.
 std::array<std::vector<double>, Columns> SampleLists(int runs)
 {
     const int length = int(std::lround(std::pow(runs, 1.0 / Columns)));
@@ -72,7 +72,7 @@ void RefreshData(benchmark::State& state)
     g_mapParaArrays.clear();
 }
 
-// A bare item in each cell: what a table of real items takes before it holds any text.
+// A bare item in each cell: the memory of a table of items before they hold any text.
 QTableWidgetItem* BareItem(double /*value*/)
 {
     return new QTableWidgetItem;

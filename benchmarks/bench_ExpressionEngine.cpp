@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-// Expressions as a parameter table holds them, and with each the variables that the parameter
-// editor hands over for it. The reference is what one would write without the engine: a fresh
-// parser for every expression.
+// Expressions as in a parameter table, each with the variables that the parameter editor passes for
+// it. The reference is the straightforward code without the engine: a new parser for every
+// expression.
 
 namespace {
 
@@ -20,7 +20,7 @@ struct Sample
     std::map<std::string, double> variables;
 };
 
-// The number makes every text a different one.
+// The number makes every text distinct.
 Sample MakeSample(int number)
 {
     const std::string n = std::to_string(number);
@@ -65,7 +65,7 @@ bool IsSame(double ours, double reference)
     return std::abs(ours - reference) <= 1e-9 * (1.0 + std::abs(reference));
 }
 
-// A comparison of speed is worth nothing unless both calculate the same.
+// Comparing speed makes sense only if both calculate the same values.
 bool ResultsAgree(benchmark::State& state, std::vector<Sample> samples)
 {
     for (Sample& sample : samples) {
@@ -78,7 +78,7 @@ bool ResultsAgree(benchmark::State& state, std::vector<Sample> samples)
     return true;
 }
 
-// Every text is new to the engine: each round has numbers of its own.
+// Every text is new to the engine, because each round uses its own numbers.
 void DistinctOurs(benchmark::State& state)
 {
     const int count = int(state.range(0));

@@ -21,8 +21,8 @@
 
 #include <cmath>
 
-// The sample flange, rebuilt for the runs of a study from its features and conditions, against the
-// same kernel calls written by hand for this one part.
+// Rebuilding the sample flange for the runs of a study from its features and conditions, compared
+// with the same kernel calls written by hand for this part.
 
 namespace {
 
@@ -38,7 +38,7 @@ double Stored(const char* name)
     return GlobalParaMeterMgr::GetParameterRawValue(QLatin1String(name)).toDouble();
 }
 
-// Run by run another bore and thickness, as in a study.
+// Each run has another bore and thickness, as in a study.
 void ChooseRun(int run)
 {
     Store("bore_diameter", 60.0 + 2.0 * (run % 10));
@@ -46,7 +46,8 @@ void ChooseRun(int run)
     SettleParameters();
 }
 
-// Moved like the features, which are made at the origin: the kernel takes longer over such bodies.
+// Moved like the features, which are built at the origin: the kernel needs more time for moved
+// bodies.
 TopoDS_Shape Cylinder(double x, double z, double radius, double height)
 {
     gp_Trsf translation;

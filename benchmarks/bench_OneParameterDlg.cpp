@@ -8,8 +8,8 @@
 
 #include <cmath>
 
-// The regeneration of the samples, against a loop that inserts a row and sets its item. Both tables
-// are visible, and both are emptied within the measured time.
+// Regenerating the samples, compared with a loop that inserts a row and sets its item. Both tables
+// are visible, and emptying them is part of the measured time.
 
 namespace {
 

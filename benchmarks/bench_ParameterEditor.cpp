@@ -9,9 +9,9 @@
 
 #include <benchmark/benchmark.h>
 
-// Apply with half of the parameters expressions, against a bare table of the same size, full
-// already, that is cleared and refilled with the same items and combo boxes. Both windows are
-// shown, and in both the cells' old combo boxes are destroyed within the measured time.
+// Apply, where half of the parameters have expressions, compared with clearing and refilling a full
+// bare table of the same size with the same items and combo boxes. Both windows are visible, and
+// destroying the old combo boxes is part of the measured time.
 
 namespace {
 

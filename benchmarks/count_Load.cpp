@@ -4,9 +4,9 @@
 #include <chrono>
 #include <cstdio>
 
-// Loads the libraries that are named as pairs of a label and a path, one after the other, as a
-// program that is linked to them would. Prints the microseconds of each; under callgrind, dumps its
-// instructions.
+// Loads libraries one after the other, as a program linked with them would. The arguments are pairs
+// of a label and a path. Prints the time of each in microseconds; under callgrind, dumps its
+// instruction count.
 int main(int argc, char** argv)
 {
     for (int i = 1; i + 1 < argc; i += 2) {
