@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>90</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>90</translation>
     </message>
     <message>
@@ -22,7 +22,7 @@
     </message>
     <message>
         <source>4</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>4</translation>
     </message>
     <message>
@@ -39,7 +39,7 @@
     </message>
     <message>
         <source>0</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>0</translation>
     </message>
     <message>
@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>1</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>1</translation>
     </message>
     <message>
@@ -499,7 +499,7 @@
     </message>
     <message>
         <source>0</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>0</translation>
     </message>
     <message>
@@ -512,7 +512,7 @@
     </message>
     <message>
         <source>1</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>1</translation>
     </message>
     <message>
@@ -521,7 +521,7 @@
     </message>
     <message>
         <source>10</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>10</translation>
     </message>
     <message>
@@ -644,7 +644,7 @@
     </message>
     <message>
         <source>5</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>5</translation>
     </message>
     <message>
@@ -657,7 +657,7 @@
     </message>
     <message>
         <source>50</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>50</translation>
     </message>
     <message>
@@ -670,7 +670,7 @@
     </message>
     <message>
         <source>4</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>4</translation>
     </message>
     <message>
@@ -679,7 +679,7 @@
     </message>
     <message>
         <source>100</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>100</translation>
     </message>
     <message>
@@ -703,7 +703,7 @@
     </message>
     <message>
         <source>1</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>1</translation>
     </message>
     <message>
@@ -731,7 +731,7 @@
     </message>
     <message>
         <source>0</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>0</translation>
     </message>
     <message>
@@ -764,7 +764,7 @@
     </message>
     <message>
         <source>1</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>1</translation>
     </message>
     <message>
@@ -808,7 +808,7 @@
     </message>
     <message>
         <source>0.0</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>0.0</translation>
     </message>
     <message>
@@ -864,7 +864,7 @@
     </message>
     <message>
         <source>0</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>0</translation>
     </message>
     <message>
@@ -873,7 +873,7 @@
     </message>
     <message>
         <source>1</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>1</translation>
     </message>
     <message>
@@ -1062,7 +1062,7 @@
     </message>
     <message>
         <source>defaultBC</source>
-        <translatorcomment>A name that is stored: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>This name is stored: leave it unchanged in every language.</translatorcomment>
         <translation>defaultBC</translation>
     </message>
     <message>
@@ -1134,12 +1134,12 @@
     </message>
     <message>
         <source>Shell</source>
-        <translatorcomment>The word is looked up and stored: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program looks up and stores this word: leave it unchanged in every language.</translatorcomment>
         <translation>Shell</translation>
     </message>
     <message>
         <source>Membrane</source>
-        <translatorcomment>The word is looked up and stored: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program looks up and stores this word: leave it unchanged in every language.</translatorcomment>
         <translation>Membrane</translation>
     </message>
     <message>
@@ -1148,12 +1148,12 @@
     </message>
     <message>
         <source>Bar</source>
-        <translatorcomment>The word is looked up and stored: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program looks up and stores this word: leave it unchanged in every language.</translatorcomment>
         <translation>Bar</translation>
     </message>
     <message>
         <source>Beam</source>
-        <translatorcomment>The word is looked up and stored: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program looks up and stores this word: leave it unchanged in every language.</translatorcomment>
         <translation>Beam</translation>
     </message>
     <message>
@@ -1162,7 +1162,7 @@
     </message>
     <message>
         <source>Solid</source>
-        <translatorcomment>The word is looked up and stored: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program looks up and stores this word: leave it unchanged in every language.</translatorcomment>
         <translation>Solid</translation>
     </message>
     <message>
@@ -1175,7 +1175,7 @@
     </message>
     <message>
         <source>1</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>1</translation>
     </message>
     <message>
@@ -1203,7 +1203,7 @@
     </message>
     <message>
         <source>Default</source>
-        <translatorcomment>A name that is stored: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>This name is stored: leave it unchanged in every language.</translatorcomment>
         <translation>Default</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
     </message>
     <message>
         <source>1000</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>1000</translation>
     </message>
     <message>
@@ -1237,7 +1237,7 @@
     </message>
     <message>
         <source>0</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>0</translation>
     </message>
     <message>
@@ -1342,7 +1342,7 @@
     </message>
     <message>
         <source>10</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>10</translation>
     </message>
     <message>
@@ -1351,7 +1351,7 @@
     </message>
     <message>
         <source>5</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>5</translation>
     </message>
     <message>
@@ -1360,7 +1360,7 @@
     </message>
     <message>
         <source>360</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>360</translation>
     </message>
     <message>
@@ -1384,7 +1384,7 @@
     </message>
     <message>
         <source>30</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>30</translation>
     </message>
     <message>
@@ -1393,7 +1393,7 @@
     </message>
     <message>
         <source>5</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>5</translation>
     </message>
     <message>
@@ -1402,7 +1402,7 @@
     </message>
     <message>
         <source>15</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>15</translation>
     </message>
     <message>
@@ -1411,7 +1411,7 @@
     </message>
     <message>
         <source>8</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>8</translation>
     </message>
     <message>
@@ -1420,7 +1420,7 @@
     </message>
     <message>
         <source>20</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>20</translation>
     </message>
     <message>
@@ -1471,7 +1471,7 @@
     </message>
     <message>
         <source>1.0</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>1.0</translation>
     </message>
     <message>
@@ -1480,7 +1480,7 @@
     </message>
     <message>
         <source>1000000.0</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>1000000.0</translation>
     </message>
     <message>
@@ -1489,7 +1489,7 @@
     </message>
     <message>
         <source>10</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>10</translation>
     </message>
     <message>
@@ -1529,7 +1529,7 @@
     </message>
     <message>
         <source>0</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>0</translation>
     </message>
     <message>
@@ -1558,7 +1558,7 @@
     </message>
     <message>
         <source>1</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>1</translation>
     </message>
     <message>
@@ -1567,7 +1567,7 @@
     </message>
     <message>
         <source>90</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>90</translation>
     </message>
     <message>
@@ -1595,7 +1595,7 @@
     </message>
     <message>
         <source>-90</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>-90</translation>
     </message>
     <message>
@@ -1608,7 +1608,7 @@
     </message>
     <message>
         <source>90</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>90</translation>
     </message>
     <message>
@@ -1621,7 +1621,7 @@
     </message>
     <message>
         <source>360</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>360</translation>
     </message>
     <message>
@@ -1649,7 +1649,7 @@
     </message>
     <message>
         <source>3</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>3</translation>
     </message>
     <message>
@@ -1658,7 +1658,7 @@
     </message>
     <message>
         <source>-180</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>-180</translation>
     </message>
     <message>
@@ -1671,7 +1671,7 @@
     </message>
     <message>
         <source>180</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>180</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
     </message>
     <message>
         <source>360</source>
-        <translatorcomment>A number that is read back: it stays as it is in every language.</translatorcomment>
+        <translatorcomment>The program reads this number back: leave it unchanged in every language.</translatorcomment>
         <translation>360</translation>
     </message>
     <message>
