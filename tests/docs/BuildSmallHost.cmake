@@ -1,4 +1,4 @@
-# Installs the build into an empty prefix and builds the manual's small host against it.
+# Installs the build into an empty prefix and builds the small host of the manual against it.
 function(run)
   execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
   if(NOT result EQUAL 0)

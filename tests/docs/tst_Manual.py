@@ -1,4 +1,4 @@
-"""The manual: its pages as they stand in docs/, and as Doxygen makes them."""
+"""Tests the manual: its Markdown sources in docs/, and the pages that Doxygen generates."""
 
 import os
 import re
@@ -13,7 +13,7 @@ SOURCE = Path(os.environ["TARN_SOURCE_DIR"]).resolve()
 MANUAL = SOURCE / "docs" / "manual"
 IMAGES = SOURCE / "docs" / "images"
 EXAMPLE = SOURCE / "docs" / "examples" / "small_host"
-MAIN_WINDOW = "MainWindow"  # The one picture that is of no dialog.
+MAIN_WINDOW = "MainWindow"  # The only picture that does not show a dialog.
 ELSEWHERE = re.compile(r"^(https?|mailto|javascript):")
 
 
@@ -26,12 +26,12 @@ def WithoutCode(text):
 
 
 def Links(page):
-    """What a Markdown page leads to and shows."""
+    """Returns the link and picture targets of a Markdown page."""
     return re.findall(r"\]\(([^)\s]+)\)", WithoutCode(page.read_text()))
 
 
 def Headings(page):
-    """The anchors that the headings of a Markdown page make."""
+    """Returns the anchors of the headings of a Markdown page."""
     titles = re.findall(r"^#+ (.*)$", re.sub(r"^```.*?^```", "", page.read_text(), flags=re.M | re.S), flags=re.M)
     return {re.sub(r"[^\w\- ]", "", title).lower().replace(" ", "-") for title in titles}
 
@@ -68,7 +68,7 @@ class BuiltPage(HTMLParser):
         self.anchors.update(values[name] for name in ("id", "name") if values.get(name))
 
 
-class PagesAsTheyStand(unittest.TestCase):
+class MarkdownPages(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         with tempfile.TemporaryDirectory() as folder:
@@ -80,11 +80,11 @@ class PagesAsTheyStand(unittest.TestCase):
                   if not ELSEWHERE.match(link) and IsBroken(page, link)]
         self.assertEqual(broken, [])
 
-    def test_EveryWindowHasItsPictureAndNothingElseHasOne(self):
+    def test_ThereIsExactlyOnePictureForEachWindow(self):
         self.assertGreater(len(self.pictured), 20)
         self.assertEqual({picture.stem for picture in IMAGES.iterdir()}, self.pictured)
 
-    def test_EveryDialogHasAPageThatShowsItAndTellsTheSame(self):
+    def test_EveryDialogHasAPageWithItsPictureAndTheSameSections(self):
         for dialog in sorted(self.pictured - {MAIN_WINDOW}):
             with self.subTest(dialog):
                 page = MANUAL / f"{dialog}.md"
@@ -94,10 +94,10 @@ class PagesAsTheyStand(unittest.TestCase):
                 chapters = re.findall(r"^## (.*)$", page.read_text(), flags=re.M)
                 self.assertEqual(chapters, ["What it asks", "What the host gets back", "Good to know"])
 
-    def test_EveryPageCanBeReachedFromTheFirst(self):
+    def test_EveryPageIsReachableFromTheFirst(self):
         self.assertEqual(set(MANUAL.glob("*.md")) - ReachableFrom(MANUAL / "README.md"), set())
 
-    def test_TheSmallHostOnItsPageIsTheOneThatIsBuilt(self):
+    def test_ThePageShowsTheSmallHostThatIsBuilt(self):
         page = (MANUAL / "host-programmers.md").read_text()
         for name, language in (("CMakeLists.txt", "cmake"), ("main.cpp", "cpp")):
             with self.subTest(name):
@@ -105,7 +105,7 @@ class PagesAsTheyStand(unittest.TestCase):
                 self.assertTrue(shown, "copy the example into the page")
 
 
-class PagesAsDoxygenMakesThem(unittest.TestCase):
+class GeneratedPages(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         folder = tempfile.TemporaryDirectory()
@@ -119,7 +119,7 @@ class PagesAsDoxygenMakesThem(unittest.TestCase):
     def test_EveryPublicNameIsDocumentedAndDoxygenIsSilent(self):
         self.assertEqual((self.doxygen.stdout, self.doxygen.returncode), ("", 0))
 
-    def test_EveryPageOfTheManualIsBuilt(self):
+    def test_EveryPageOfTheManualIsGenerated(self):
         self.assertIn("index.html", self.pages)
         for page in MANUAL.glob("*.md"):
             if page.name != "README.md":

@@ -10,7 +10,7 @@
 #include <QTableWidget>
 #include <QTimer>
 
-// The example is a whole program; here it is a function.
+// The example is a complete program; here its main() is an ordinary function.
 #define main RunSmallHost
 #include "main.cpp" // NOLINT(bugprone-suspicious-include)
 #undef main
@@ -32,7 +32,7 @@ void SetLength(QDialog& dialog, const char* length)
     QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(field, QString::fromLatin1(length));
     QTest::keyClick(field, Qt::Key_Enter);
-    QCoreApplication::processEvents(); // The table takes the text over when its turn comes.
+    QCoreApplication::processEvents(); // The table commits the text in a queued event.
 }
 
 void ExtrudeAlong(QDialog& dialog, const char* z)
@@ -41,7 +41,7 @@ void ExtrudeAlong(QDialog& dialog, const char* z)
     Click(dialog, "pushButton_OK");
 }
 
-// What a user does from the moment the window is there.
+// What a user does once the window is visible.
 void UseTheHost()
 {
     QMainWindow* window = nullptr;
@@ -62,7 +62,7 @@ void UseTheHost()
     actions[0]->trigger();
 
     user.Then([](QDialog& dialog) { ExtrudeAlong(dialog, "0"); });
-    // The refused dialog is still there for a second try.
+    // The dialog is still open for a second attempt.
     user.Then([](QDialog& dialog) { ExtrudeAlong(dialog, "-3"); });
     actions[1]->trigger();
 
@@ -97,7 +97,7 @@ void tst_SmallHost::ItEditsParametersAndSurvivesTheKernel()
 
 int main(int argc, char** argv)
 {
-    PrepareTestProgram(); // No application object: the small host makes its own.
+    PrepareTestProgram(); // Without an application object: the small host creates its own.
     tst_SmallHost test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -15,7 +15,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-// What a screen reader says of a field is its label or its accessible name.
+// The name that a screen reader reads for a field: its label or its accessible name.
 class tst_AccessibleNames : public TestCase
 {
     Q_OBJECT
@@ -47,14 +47,14 @@ bool IsWithin(const QWidget& widget)
     return false;
 }
 
-// What the toolkit puts into a field of its own is part of that field.
+// Widgets that Qt creates inside a field are part of that field.
 bool IsInside(const QWidget& widget)
 {
     return widget.objectName().startsWith("qt_") || qobject_cast<const QHeaderView*>(&widget) ||
            IsWithin<QComboBox>(widget) || IsWithin<QAbstractSpinBox>(widget);
 }
 
-/// The fields without a name, and those with the name of another one.
+/// The fields without a name, and those with the same name as another field.
 QStringList BadFields(const QWidget& window, int* count = nullptr)
 {
     QStringList bad;
@@ -73,7 +73,7 @@ QStringList BadFields(const QWidget& window, int* count = nullptr)
             bad << place + " has no name";
         else if (named.contains(name))
             bad << QString("%1 and %2 are both named \"%3\"").arg(named[name], place, name);
-        // In a table the row tells the fields of a column apart.
+        // In a table, the row distinguishes the fields of a column.
         if (!IsWithin<QAbstractItemView>(*widget))
             named[name] = place;
     }

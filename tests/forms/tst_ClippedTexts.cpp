@@ -14,7 +14,7 @@
 #include <QRadioButton>
 #include <QTableWidget>
 
-// Several forms cut texts as they are given; a translation must not cut more.
+// Several forms cut off texts in English; a translation must not cut off more.
 class tst_ClippedTexts : public TestCase
 {
     Q_OBJECT
@@ -53,7 +53,7 @@ private:
     QFont m_before = QApplication::font();
 };
 
-/// By window, in the language that is spoken.
+/// The truncated texts by window, in the current language.
 QMap<QString, Places> ClippedNow()
 {
     const EmptyDesignStores stores;
@@ -117,7 +117,7 @@ void tst_ClippedTexts::ATextWithoutRoomIsFound()
     sections(40);
     QCOMPARE(ClippedTexts(window), Places({{place, text}}));
 
-    // Nor is there room where the window ends.
+    // Nor is there room beyond the edge of the window.
     if (type == "QTableWidget")
         return;
     sections(300);

@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QSet>
 
-// What holds for all forms together; what a single form holds is tested with its dialog.
+// What all forms have in common; the test of each dialog covers its own form.
 class tst_Forms : public TestCase
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 
-// The files of translations against the texts of the sources.
+// Compares the translation files with the texts of the sources.
 class tst_Translations : public TestCase
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ struct Message
     QString context;
     QString source;
     QString translation;
-    QString type; ///< Empty when finished; "unfinished", "vanished" or "obsolete".
+    QString type; ///< Empty if finished; otherwise "unfinished", "vanished" or "obsolete".
 
     QString Place() const { return QString("%1: \"%2\"").arg(context, source); }
 };
@@ -55,7 +55,7 @@ QVector<Message> Read(const QString& path)
     return messages;
 }
 
-/// The file as it is after the sources were read again; the file itself stays as it is.
+/// The file as lupdate would write it for the current sources; the file itself is not changed.
 QVector<Message> Updated(const QString& name, const QString& folders)
 {
     const QString copy = QDir::current().filePath(name + ".ts");
@@ -90,7 +90,7 @@ void AddChineseFiles()
     QTest::newRow("tarnhost_zh_CN") << "host";
 }
 
-// In order of their names: a translation may need another order in the text.
+// Sorted, because a translation may need them in another order.
 QStringList Placeholders(const QString& text)
 {
     QStringList found;
@@ -166,7 +166,7 @@ void tst_Translations::ATranslationKeepsItsPlaceholders()
 
 void tst_Translations::WhatIsReadBackOrStoredStaysAsItIs()
 {
-    // Words of the element types are keys and are written to files; names are registered.
+    // The names of the element types are keys and are written to files; the other names are stored.
     const QStringList words = {"Bar", "Beam", "Shell", "Membrane", "Solid", "defaultBC", "Default"};
     QStringList found;
     QStringList bad;

@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <string>
 
-/// A file in memory that holds the fuzzer's input: the readers are fuzzed as they are, from the
-/// path on, and the disk stays out of it.
+/// A file in memory with the fuzzer's input, so that the readers can open it by path without
+/// accessing the disk.
 class InputFile
 {
 public:

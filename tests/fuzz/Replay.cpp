@@ -1,5 +1,4 @@
-// Gives each file of the folders named on the command line to a fuzz target, in place of the
-// fuzzer.
+// Replaces the fuzzer: passes each file in the folders given on the command line to a fuzz target.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -17,7 +16,7 @@ int main(int argc, char** argv)
         for (const auto& entry : std::filesystem::recursive_directory_iterator(argv[i])) {
             if (!entry.is_regular_file())
                 continue;
-            // Said first: a target that finds something wrong ends the program.
+            // Print the name first: a target that finds a fault aborts the program.
             std::printf("%s\n", entry.path().c_str());
             std::fflush(stdout);
             std::ifstream file(entry.path(), std::ios::binary);

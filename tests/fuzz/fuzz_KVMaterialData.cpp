@@ -1,7 +1,7 @@
 #include "InputFile.h"
 #include "KVMaterialData.h"
 
-// A file is taken whole or not at all, as whichever type it is read.
+// Whatever its type, a file is read completely or not at all.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const InputFile input(data, size);

@@ -1,7 +1,7 @@
 #include "InputFile.h"
 #include "KVPropertyData.h"
 
-// A file is taken whole or not at all, and reading it again changes nothing.
+// A file is read completely or not at all, and reading it again changes nothing.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const InputFile input(data, size);

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Fuzzes both file readers, each for the given number of seconds (60 by default). Inputs that reach
-# something new go to out/fuzz; what crashes, hangs or exhausts memory is named on the console and
-# belongs into the corpus once it is mended. Needs clang 14.
+# Fuzzes both file readers, each for the given number of seconds (default: 60). Inputs that reach new
+# code go to out/fuzz. The console shows inputs that crash, hang or exhaust memory; add them to the
+# corpus once the fault is fixed. Requires clang 14.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 seconds=${1:-60}

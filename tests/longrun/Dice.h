@@ -4,7 +4,7 @@
 
 #include <random>
 
-/// All chance of a long run: the same seed gives the same run.
+/// The random numbers of a long run: the same seed gives the same run.
 class Dice
 {
 public:
@@ -13,10 +13,10 @@ public:
     {
     }
 
-    /// One of 0 ... @p count - 1.
+    /// A number from 0 to @p count - 1.
     int Below(int count) { return int(m_engine() % quint64(count)); }
 
-    /// True once in @p count throws.
+    /// True once in @p count calls on average.
     bool OneIn(int count) { return Below(count) == 0; }
 
     template<class List>

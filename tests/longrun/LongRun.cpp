@@ -1,5 +1,5 @@
-// Opens, fills, accepts and cancels every dialog in random order: see run. What goes wrong (a
-// warning, a crash, a hang, growing memory) is named with the seed and the step, and ends the run.
+// Opens, fills, accepts and cancels every dialog in random order; see run. A warning, a crash, a
+// hang or growing memory ends the run, which then prints the seed and the step.
 #include "ArcArrayDlg.h"
 #include "CAnalysisTypeGUI.h"
 #include "CQLTConstrainEditor.h"
@@ -47,7 +47,7 @@
 #include <memory>
 
 #ifdef __SANITIZE_ADDRESS__
-// Of the sanitizer's library; the compiler does not bring its header.
+// Part of the sanitizer library; the compiler does not provide its header.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #else
 #include "Heap.h"
@@ -57,9 +57,9 @@ namespace {
 
 constexpr int StepsBetweenFreshStores = 50;
 constexpr unsigned SecondsForOneStep = 120;
-constexpr double WarmUp = 0.2; // Until then whatever is made once has been made.
-// Bytes after that. The heap is what is in use; resident memory keeps the peaks, which the largest
-// tables set, and what the sanitizer holds back.
+constexpr double WarmUp = 0.2; // By then, all one-time allocations have been made.
+// Allowed growth in bytes after that. The heap is the memory in use; resident memory includes the
+// peaks of the largest tables and the memory that the sanitizer holds back.
 constexpr double MostHeapGrowth = 16e6;
 constexpr double MostResidentGrowth = 128e6;
 
@@ -81,7 +81,7 @@ void PrintPlace(const char* what)
 
 void FailOnWarning(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
-    // The offscreen platform says so of size hints, and of the lists of combo boxes.
+    // The offscreen platform warns about size hints and about the lists of combo boxes.
     const bool isPlatformNoise = text.startsWith(QLatin1String("This plugin does not support"));
     if (type == QtDebugMsg || type == QtInfoMsg || isPlatformNoise)
         return;
@@ -105,7 +105,7 @@ std::size_t ResidentBytes()
     return file.readAll().split(' ').at(1).toULong() * std::size_t(sysconf(_SC_PAGESIZE));
 }
 
-// The geometry dialogs let the kernel's error pass; a host catches it here.
+// The geometry dialogs let kernel errors propagate; a host catches them here.
 class Application : public QApplication
 {
 public:
@@ -135,7 +135,7 @@ Window New(Dice&)
     return Window(create(nullptr));
 }
 
-/// As a host does: the record that OK allocated is its own.
+/// Like a host, it owns the record that OK allocated.
 class PropertyEditor : public CQLTElePropertyEditor
 {
 public:
@@ -226,7 +226,7 @@ const std::vector<Subject>& Subjects()
     return subjects;
 }
 
-// What users entered until now is forgotten: that memory grows with it says nothing.
+// Clears what users have entered so far: memory that it takes is not a leak.
 void FillStores(Dice& dice)
 {
     {
@@ -250,7 +250,7 @@ void FillStores(Dice& dice)
     std::setlocale(LC_ALL, dice.OneIn(2) ? "C.UTF-8" : "de_DE.UTF-8");
 }
 
-// The most memory seen after the warm-up, against what there was at its end.
+// The maximum memory after the warm-up, compared with the memory at its end.
 class Memory
 {
 public:
@@ -313,8 +313,8 @@ void Run(int steps)
 } // namespace
 
 #ifdef __SANITIZE_ADDRESS__
-// Freed memory is kept from reuse for a while, but not so long that it passes for growth; giving it
-// back to the system over and over would take most of the time.
+// The sanitizer holds back freed memory for a while, but not so much that it looks like growth.
+// Returning it to the system again and again would take most of the time.
 extern "C" Q_DECL_EXPORT const char* __asan_default_options()
 {
     return "quarantine_size_mb=32:allocator_release_to_os_interval_ms=-1";
@@ -340,11 +340,12 @@ int main(int argc, char** argv)
     std::signal(SIGSEGV, [](int) { Fail("a crash"); });
 #endif
     PrepareTestProgram();
-    qputenv("PATH", ""); // A text that is run by chance starts nothing.
+    qputenv("PATH", ""); // So that running a random text starts nothing.
     QTemporaryDir directory;
     QDir::setCurrent(directory.path());
     Application application(argc, argv);
-    qInstallMessageHandler(FailOnWarning); // Now: the system's own shortcomings are said above.
+    // Not earlier: the lines above warn about limits of the system.
+    qInstallMessageHandler(FailOnWarning);
     std::printf("seed %llu, %d dialogs\n", static_cast<unsigned long long>(g_seed), steps);
     Run(steps);
     std::printf("passed\n");

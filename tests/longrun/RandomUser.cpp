@@ -17,7 +17,7 @@ namespace {
 
 constexpr int MostActions = 16;
 
-// Every action may close or destroy what it is done to, hence one guard for each half.
+// Every action may close or destroy its target, so each half has its own guard.
 void ClickAt(QWidget& widget, const QPoint& point, Qt::KeyboardModifiers modifiers = {})
 {
     const QPointer<QWidget> guard = &widget;
@@ -105,7 +105,7 @@ void RandomUser::PollLater()
 
 void RandomUser::Poll()
 {
-    // Asked for anew before anything is done: that may run a modal loop of its own.
+    // Schedule the next action first: this one may run a modal loop.
     PollLater();
     QWidget* window = QApplication::activePopupWidget();
     if (window == nullptr)
@@ -137,8 +137,7 @@ void RandomUser::ActIn(QWidget& window)
 
 void RandomUser::Leave(QWidget& window)
 {
-    // Half the time through a button, as long as that helps; Escape and the frame's cross always
-    // do.
+    // Half the time with a button, as long as that works; Escape and the close button always work.
     QVector<QWidget*> buttons;
     const QVector<QWidget*> usable = UsableWidgets(window);
     for (QWidget* const widget : usable) {

@@ -9,15 +9,15 @@
 
 class QFileDialog;
 
-/// A user without a plan: while it lives and a modal window is open, it presses, types and chooses
-/// at random in that and in whatever comes out of it, and in the end gets rid of it.
+/// A random user: while it exists and a modal window is open, it presses, types and selects at
+/// random in that window and in any window that this opens, and finally closes them.
 class RandomUser : public QObject
 {
 public:
-    /// @p files are what it picks in file dialogs; an empty one stands for giving up.
+    /// @p files are the paths to pick in file dialogs; an empty path means cancelling.
     RandomUser(Dice& dice, QStringList files);
 
-    /// Opens @p window as a modal one, works in it and returns when it has gone from the screen.
+    /// Opens @p window modally, uses it, and returns when it is no longer visible.
     void Use(QWidget& window);
 
 private:
@@ -33,5 +33,5 @@ private:
 
     Dice& m_dice;
     const QStringList m_files;
-    int m_patience = 0; ///< Actions until the user wants to be done.
+    int m_patience = 0; ///< The number of actions until the user tries to leave.
 };

@@ -1,9 +1,9 @@
-# Builds the consumer against what is installed in a prefix, and runs it.
+# Builds the consumer against the library installed in a prefix, and runs it.
 include("${CMAKE_CURRENT_LIST_DIR}/Run.cmake")
 file(REMOVE_RECURSE "${WORK_DIR}")
 file(MAKE_DIRECTORY "${WORK_DIR}/build")
 
-# One file for each public header, so that none depends on what its users include before it.
+# One file for each public header, so that no header depends on other includes.
 if(EVERY_HEADER)
   file(GLOB headers RELATIVE "${PREFIX}/include/TarnGUICommon" "${PREFIX}/include/TarnGUICommon/*.h")
   list(LENGTH headers count)
@@ -50,7 +50,7 @@ else()
       ${flags})
 endif()
 
-# As the loader's cache has it where the package is installed for good.
+# A real installation is in the loader's cache instead.
 set(ENV{LD_LIBRARY_PATH} "${PREFIX}/${LIBDIR}")
 run(${WORK_DIR}/build/consumer)
 expect(output STREQUAL "a = 2\n")

@@ -1,9 +1,9 @@
-# Compares what runs when a library is loaded with the list beside this file, so that nothing comes
-# to it unseen: NAME and FILE are the library, NM and READELF the tools.
+# Compares the initialisers of a library with the list beside this file, so that additions do not go
+# unnoticed. NAME and FILE are the library, NM and READELF the tools.
 function(run variable)
   execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
   if(NOT result EQUAL 0)
-    message(FATAL_ERROR "${ARGN}\nended with ${result}:\n${output}${errors}")
+    message(FATAL_ERROR "${ARGN}\nfailed with ${result}:\n${output}${errors}")
   endif()
   set(${variable} "${output}" PARENT_SCOPE)
 endfunction()
@@ -17,10 +17,10 @@ string(REGEX MATCHALL "_GLOBAL__sub_I_[^\n]+" actual "${symbols}")
 list(TRANSFORM actual REPLACE "^_GLOBAL__sub_I_" "")
 list(SORT actual)
 if(NOT "${actual}" STREQUAL "${expected}")
-  message(FATAL_ERROR "${NAME} initialises at load:\n  ${actual}\nand not, as listed:\n  ${expected}")
+  message(FATAL_ERROR "${NAME} has the initialisers:\n  ${actual}\nbut the list has:\n  ${expected}")
 endif()
 
-# Those and frame_dummy, and none of another name.
+# There must be no others except frame_dummy.
 run(sections ${READELF} --wide --sections ${FILE})
 if(NOT "${sections}" MATCHES " \\.init_array +INIT_ARRAY +[0-9a-f]+ [0-9a-f]+ ([0-9a-f]+) ")
   message(FATAL_ERROR "${FILE} has no .init_array")

@@ -1,4 +1,4 @@
-# run(<command>...): must succeed; what it printed is in `output`.
+# run(<command>...): the command must succeed; `output` holds what it printed.
 function(run)
   execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
   if(NOT result EQUAL 0)

@@ -1,4 +1,4 @@
-# Runs the unpacked reference host with nothing but what is unpacked.
+# Runs the unpacked reference host with unpacked files only.
 include("${CMAKE_CURRENT_LIST_DIR}/Run.cmake")
 file(REMOVE_RECURSE "${WORK_DIR}")
 file(MAKE_DIRECTORY "${WORK_DIR}")

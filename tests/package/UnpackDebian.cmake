@@ -1,4 +1,4 @@
-# Makes the Debian packages of the build, unpacks them into an empty root and looks at them.
+# Builds the Debian packages, unpacks them into an empty root and checks them.
 include("${CMAKE_CURRENT_LIST_DIR}/Run.cmake")
 file(REMOVE_RECURSE "${WORK_DIR}")
 set(root "${WORK_DIR}/root")
@@ -28,7 +28,7 @@ foreach(name IN LISTS names)
   expect(EXISTS "${root}/usr/share/doc/${name}/changelog.gz")
 endforeach()
 
-# The headers and the host need this very version; the rest of the host's needs was read from its program.
+# The headers and the host need exactly this version; dpkg-shlibdeps finds the host's other dependencies.
 foreach(name libtarnguicommon-dev tarnhost)
   string(FIND "${depends_${name}}" ", libtarnguicommon${major} (= ${VERSION})," position)
   expect(NOT position EQUAL -1)
@@ -42,7 +42,7 @@ file(GLOB package "${WORK_DIR}/packages/libtarnguicommon${major}_*.deb")
 run(dpkg-deb --info ${package} triggers)
 expect(output MATCHES "^activate-noawait ldconfig\n$")
 
-# Every library bears the major version, and nothing looks for the others where it was built.
+# Every library has the major version, and none searches for the others in the build folder.
 foreach(library TarnCoreGeometry TarnDesign TarnFEMData TarnGUICommon)
   set(file "${root}/usr/${LIBDIR}/lib${library}.so")
   file(READ_SYMLINK "${file}.${major}" target)
@@ -55,7 +55,7 @@ endforeach()
 run(readelf --dynamic ${root}/usr/bin/tarnhost)
 expect(NOT output MATCHES "RPATH|RUNPATH")
 
-# What is installed by hand is in one of the packages.
+# Every file that `cmake --install` installs is in one of the packages.
 file(GLOB_RECURSE installed RELATIVE "${PREFIX}" "${PREFIX}/*")
 expect(installed)
 foreach(file IN LISTS installed)

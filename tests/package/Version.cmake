@@ -1,4 +1,4 @@
-# The version stands in project() alone; the top entry of the changelog speaks of it.
+# Only project() sets the version; the first entry of the changelog must be for this version.
 include("${CMAKE_CURRENT_LIST_DIR}/Run.cmake")
 file(STRINGS "${SOURCE_DIR}/CHANGELOG.md" entries REGEX "^## ")
 list(GET entries 0 top)

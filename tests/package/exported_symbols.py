@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Compares the dynamic symbol tables of the libraries with the lists kept beside this file, or writes the lists anew.
+"""Compares the dynamic symbol tables of the libraries with the lists beside this file, or regenerates the lists.
 
-Every symbol must belong to a class that has a public header of its name, or be one of the few free names.
+Every symbol must belong to a class with a public header of the same name, or be one of the few free names.
 """
 import argparse
 import pathlib
@@ -15,7 +15,7 @@ STRING = "std::__cxx11::basic_string<char, std::char_traits<char>, std::allocato
 
 
 def exported(library):
-    """The sorted, demangled symbols; what comes with each typeinfo or virtual function is left out."""
+    """Returns the sorted, demangled symbols, without those implied by a typeinfo or virtual function."""
     table = subprocess.run(["nm", "--dynamic", "--defined-only", "--demangle", "--format=just-symbols", library],
                            check=True, capture_output=True, text=True).stdout
     names = {line.replace(STRING, "std::string") for line in table.splitlines()}
@@ -45,7 +45,7 @@ def main():
         symbols = exported(library)
         strangers = [symbol for symbol in symbols if not is_public(symbol, classes)]
         if strangers:
-            print(f"{name} exports what no public header declares:", *strangers, sep="\n  ")
+            print(f"{name} exports symbols that no public header declares:", *strangers, sep="\n  ")
             failed = True
             continue
         if arguments.update:
@@ -54,8 +54,8 @@ def main():
         changes = [f"+ {symbol}" for symbol in symbols if symbol not in listed]
         changes += [f"- {symbol}" for symbol in listed if symbol not in symbols]
         if changes:
-            print(f"{name} does not export what {file.name} lists:", *changes, sep="\n  ")
-            print(f"Where this is meant: {UPDATE}")
+            print(f"{name} differs from {file.name}:", *changes, sep="\n  ")
+            print(f"If this is intended: {UPDATE}")
             failed = True
     return failed
 
