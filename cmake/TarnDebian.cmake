@@ -1,5 +1,5 @@
-# The Debian packages: the libraries, what hosts are developed with, the reference host.
-# `cmake --build --preset release --target package` makes all three.
+# The Debian packages: the libraries, the development files, and the reference host.
+# `cmake --build --preset release --target package` builds all three.
 set(debian_runtime libtarnguicommon${PROJECT_VERSION_MAJOR})
 set(debian_development libtarnguicommon-dev)
 set(debian_host tarnhost)
@@ -9,7 +9,7 @@ function(tarn_install_gzip file name component folder)
   set(zipped "${PROJECT_BINARY_DIR}/gzip/${component}/${name}.gz")
   get_filename_component(zipped_folder "${zipped}" DIRECTORY)
   file(MAKE_DIRECTORY "${zipped_folder}")
-  # No name and no time in it: the same source gives the same package.
+  # Without name and time, so that builds are reproducible.
   add_custom_command(OUTPUT "${zipped}" COMMAND sh -c "gzip -9nc \"$1\" >\"$2\"" gzip "${file}" "${zipped}"
                      DEPENDS "${file}" VERBATIM)
   set_property(GLOBAL APPEND PROPERTY TARN_ZIPPED "${zipped}")
@@ -33,7 +33,7 @@ add_custom_target(TarnZipped ALL DEPENDS ${zipped})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "TarnGUICommon project <packages@tarnguicommon.invalid>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # It would stand above each package's own.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # It would precede the summary of each package.
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/debian/RemoveRunPath.cmake")
@@ -41,7 +41,7 @@ set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 
-# What a package depends on is read from its programs and libraries, where the tool for it is there.
+# If available, dpkg-shlibdeps determines the dependencies from programs and libraries.
 find_program(TARN_SHLIBDEPS dpkg-shlibdeps)
 mark_as_advanced(TARN_SHLIBDEPS)
 if(TARN_SHLIBDEPS)
@@ -50,7 +50,7 @@ if(TARN_SHLIBDEPS)
       "${PROJECT_BINARY_DIR}" "${PROJECT_BINARY_DIR}/model/TarnCoreGeometry" "${PROJECT_BINARY_DIR}/model/TarnDesign"
       "${PROJECT_BINARY_DIR}/model/TarnFEMData")
 endif()
-# While the major version is 0 every version may change the interface, so all ask for this very one.
+# While the major version is 0, any version may change the interface, so require exactly this one.
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY "=")
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
@@ -62,22 +62,22 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_SOURCE_DIR}/cmake/debi
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
     "dialog library of a desktop CAD/CAE application
 Dialogs for parameters and expressions, sampling and design of experiments,
-analysis set-up, geometry input and external solvers, and the stores that they
-share with the application.")
+analysis set-up, geometry input and external solvers, and the data stores that
+the dialogs share with the application.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-# What the CMake package and the headers of ours name.
+# The packages that our CMake package and headers use.
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "qtbase5-dev (>= 5.15), libocct-foundation-dev, libocct-modeling-data-dev, libtbb-dev")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
     "dialog library of a desktop CAD/CAE application - development files
 Headers, CMake package, pkg-config file and documentation for applications that
-show the dialogs.")
+use the dialogs.")
 set(CPACK_DEBIAN_HOST_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_HOST_PACKAGE_RECOMMENDS "fonts-noto-cjk, qttranslations5-l10n")
 set(CPACK_COMPONENT_HOST_DESCRIPTION
     "reference application of the TarnGUICommon dialog library
-Edits the parameters of a sample flange, runs design studies, with a window or
-without, and shows every dialog of the library. Brings the sample project and
-the system library of materials.")
+Edits the parameters of a part, runs design studies with or without a window,
+and shows every dialog of the library. Includes a sample project and the system
+library of materials.")
 
 include(CPack)

@@ -1,11 +1,11 @@
-# Language level, warnings and instrumentation: every target of ours links TarnOptions.
-# TarnStrict adds the Qt switches for what we ship; tests and benchmarks do without them.
+# Language level, warnings and instrumentation: all our targets link TarnOptions. TarnStrict adds
+# the stricter Qt switches for shipped code; tests and benchmarks do not use them.
 add_library(TarnOptions INTERFACE)
 target_compile_features(TarnOptions INTERFACE cxx_std_17)
 target_compile_options(TarnOptions INTERFACE -Wall -Wextra -Wpedantic $<$<BOOL:${TARN_WERROR}>:-Werror>)
 target_compile_definitions(TarnOptions INTERFACE QT_NO_KEYWORDS QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
 
-# No silent casts between text and bytes.
+# No implicit conversions between text and bytes.
 add_library(TarnStrict INTERFACE)
 target_link_libraries(TarnStrict INTERFACE TarnOptions)
 target_compile_definitions(TarnStrict INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)

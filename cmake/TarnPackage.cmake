@@ -1,4 +1,4 @@
-# What is installed beside libraries, headers and host: the CMake package, the pkg-config file, the documents.
+# Installs the CMake package, the pkg-config file and the documentation.
 include(CMakePackageConfigHelpers)
 set(translations_dir ${CMAKE_INSTALL_DATADIR}/TarnGUICommon/translations)
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/TarnGUICommon)
@@ -10,13 +10,13 @@ install(EXPORT TarnGUICommonTargets NAMESPACE TarnGUICommon:: DESTINATION ${pack
 install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommonConfig.cmake" "${PROJECT_BINARY_DIR}/TarnGUICommonConfigVersion.cmake"
         DESTINATION ${package_dir} COMPONENT development)
 
-# The prefix is told relative to the file, so the package can be moved.
+# The prefix is relative to the file, so that the package is relocatable.
 file(RELATIVE_PATH pc_prefix "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/prefix")
 configure_file(cmake/TarnGUICommon.pc.in "${PROJECT_BINARY_DIR}/TarnGUICommon.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommon.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
         COMPONENT development)
 
-# The manual is installed as web pages, where the build made them: the links of its sources lead into the repository.
+# The manual is installed as web pages, if the build has made them: its sources link into the repository.
 set(TARN_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/libtarnguicommon-dev)
 install(DIRECTORY docs/examples docs/schemas DESTINATION ${TARN_DOC_DIR} COMPONENT development)
 install(DIRECTORY "${PROJECT_BINARY_DIR}/manual/" DESTINATION ${TARN_DOC_DIR}/html COMPONENT development OPTIONAL)

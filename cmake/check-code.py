@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Runs clang-tidy and clazy over every C++ file of a build tree, on all processors.
+"""Runs clang-tidy and clazy on every C++ file of a build tree, on all processors.
 
-    cmake/check-code.py [--all] <build folder> [<begin of a file's path>...]
+    cmake/check-code.py [--all] <build folder> [<path prefix>...]
 
-A file that has passed is not looked at again until it, a header it includes, its command line, the
-configuration or a tool changes; --all forgets that. Findings are errors.
+Skips a file that has passed until the file, one of its headers, its command line, the configuration
+or a tool changes; --all checks all files again. Findings are errors.
 """
 import concurrent.futures
 import hashlib
@@ -21,7 +21,7 @@ CLAZY = ["clazy-standalone", "-checks=level1,no-old-style-connect,no-non-pod-glo
 
 
 def commands(build):
-    """The files of the tree with how each is compiled; one that several targets compile counts once."""
+    """Returns the files and how each is compiled; a file in several targets occurs once."""
     found = {}
     for entry in json.loads((build / "compile_commands.json").read_text()):
         path = pathlib.Path(entry["file"])
@@ -30,14 +30,14 @@ def commands(build):
         words = shlex.split(entry["command"])
         start = next(i for i, word in enumerate(words) if word.startswith("-"))
         flags = words[start : words.index("-o")]
-        # What the compiler warns about is its own affair, and it has passed.
+        # Compiler warnings are not checked here: the build has passed.
         flags = [flag for flag in flags if not flag.startswith("-W")]
         found.setdefault(path, (entry["directory"], words[words.index("-o") + 1], flags))
     return found
 
 
 def dependencies(build):
-    """What each object was made of, as the last build noted it."""
+    """Returns the dependencies of each object, as recorded by the last build."""
     text = subprocess.run(["ninja", "-C", build, "-t", "deps"], check=True, capture_output=True, text=True).stdout
     found = {}
     for block in text.split("\n\n"):
@@ -48,7 +48,7 @@ def dependencies(build):
 
 
 def state(path, known={}):
-    """Ours by content, the system's by time and size."""
+    """Identifies project files by content, system files by time and size."""
     if path not in known:
         if ROOT in path.parents:
             known[path] = hashlib.sha256(path.read_bytes()).hexdigest()
@@ -72,9 +72,9 @@ def check(tool, path, directory, flags):
     run = subprocess.run([*tool, str(path), "--", *flags], cwd=directory, capture_output=True, text=True)
     noise = (" warnings generated.", " warning generated.")
     lines = [line for line in (run.stdout + run.stderr).splitlines() if not line.endswith(noise)]
-    # clazy ends with 0 whatever it finds.
+    # clazy exits with 0 even if it finds something.
     if run.returncode != 0 or any("warning:" in line or "error:" in line for line in lines):
-        return "\n".join(lines) or f"{tool[0]} ended with {run.returncode} for {path}"
+        return "\n".join(lines) or f"{tool[0]} exited with {run.returncode} for {path}"
     return ""
 
 

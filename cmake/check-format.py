@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Checks the format of the C++, CMake and form files; --fix mends what a formatter can.
+"""Checks the format of the C++, CMake and form files; --fix applies the formatters.
 
-Forms are as Designer writes them: well-formed, LF, one blank for each level, no blanks at a line's
-end. They are named after their class and name no absolute path.
+Forms must be as Designer writes them: well-formed XML, LF line ends, one blank per level, no
+trailing blanks. They are named after their class and contain no absolute paths.
 """
 import pathlib
 import re
@@ -14,7 +14,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 
 def files(*patterns):
-    """The files of the tree; what is built or hidden is not of it."""
+    """Returns the matching files, except build output and hidden files."""
     found = []
     for path in ROOT.rglob("*"):
         parts = path.relative_to(ROOT).parts
@@ -29,21 +29,21 @@ def format_with(command, check, fix, mend):
     run = subprocess.run([*command, *(fix if mend else check)], cwd=ROOT, capture_output=True, text=True)
     if run.returncode == 0:
         return []
-    # Both say for each place what they would change; the names of the files are enough.
+    # Both tools report every place; the file names are enough.
     said = run.stdout + run.stderr
     names = sorted({str(ROOT / name) for name in re.findall(r"(?:^|\s)(/?[\w./-]+\.(?:cpp|h|cmake|txt))\b", said)})
-    return [f"{name}: not as {command[0]} writes it" for name in names] or [said]
+    return [f"{name}: not formatted with {command[0]}" for name in names] or [said]
 
 
 def check_form(path):
     data = path.read_bytes()
     findings = []
     if b"\r" in data:
-        findings.append("line ends other than LF")
+        findings.append("has line ends other than LF")
     if not data.endswith(b"</ui>\n"):
         findings.append("does not end with </ui> and one LF")
     lines = data.decode("utf-8").split("\n")
-    findings += [f"{number}: blanks at the end" for number, line in enumerate(lines, 1) if line != line.rstrip()]
+    findings += [f"{number}: trailing blanks" for number, line in enumerate(lines, 1) if line != line.rstrip()]
 
     depth, class_text, root = 0, None, None
     open_elements = []
@@ -91,7 +91,7 @@ def main(arguments):
     findings = format_with(
         ["clang-format-14", *map(str, files("*.cpp", "*.h"))], ["--dry-run", "-Werror"], ["-i"], mend
     )
-    # The configuration comes last: it takes all names that follow.
+    # The configuration must come last: it takes all following names.
     cmake = ["cmake-format", *map(str, files("*.cmake", "CMakeLists.txt"))]
     config = ["-c", ".cmake-format.py"]
     findings += format_with(cmake, ["--check", *config], ["-i", *config], mend)

@@ -3,8 +3,8 @@
 
     cmake/coverage.py <build folder> [--lines]
 
-Branches that only exceptions take, and those the compiler adds, do not count. --lines names the
-lines of the library that no test reaches. Ends with 1 where a folder of the library falls short.
+Ignores branches that only exceptions take and branches that the compiler adds. --lines lists the
+lines of the library that no test reaches. Exits with 1 if a folder of the library falls short.
 """
 import collections
 import json

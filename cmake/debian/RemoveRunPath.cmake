@@ -1,5 +1,5 @@
-# Installed anywhere, program and libraries find one another by a path relative to themselves. In the
-# package they stand where the loader looks anyway, and Debian wants no path in them.
+# Elsewhere, program and libraries find each other by relative run paths. In the package, the loader
+# finds them anyway, and Debian policy discourages run paths.
 file(GLOB_RECURSE files "${CPACK_TEMPORARY_DIRECTORY}/*/usr/bin/*" "${CPACK_TEMPORARY_DIRECTORY}/*/usr/lib/*.so.*")
 foreach(file IN LISTS files)
   if(NOT IS_SYMLINK "${file}")
