@@ -25,8 +25,8 @@ def files(*patterns):
     return sorted(found)
 
 
-def format_with(command, check, fix, mend):
-    run = subprocess.run([*command, *(fix if mend else check)], cwd=ROOT, capture_output=True, text=True)
+def format_with(command, check, fix, apply):
+    run = subprocess.run([*command, *(fix if apply else check)], cwd=ROOT, capture_output=True, text=True)
     if run.returncode == 0:
         return []
     # Both tools report every place; the file names are enough.
@@ -87,14 +87,14 @@ def check_form(path):
 def main(arguments):
     if arguments not in ([], ["--fix"]):
         sys.exit(__doc__)
-    mend = bool(arguments)
+    apply = bool(arguments)
     findings = format_with(
-        ["clang-format-14", *map(str, files("*.cpp", "*.h"))], ["--dry-run", "-Werror"], ["-i"], mend
+        ["clang-format-14", *map(str, files("*.cpp", "*.h"))], ["--dry-run", "-Werror"], ["-i"], apply
     )
     # The configuration must come last: it takes all following names.
     cmake = ["cmake-format", *map(str, files("*.cmake", "CMakeLists.txt"))]
     config = ["-c", ".cmake-format.py"]
-    findings += format_with(cmake, ["--check", *config], ["-i", *config], mend)
+    findings += format_with(cmake, ["--check", *config], ["-i", *config], apply)
     for form in files("*.ui"):
         findings += check_form(form)
     print("\n".join(findings + [f"format: {len(findings)} finding(s)"]))

@@ -28,12 +28,12 @@ enum Column
     SetColumn
 };
 
-// The row of a cell widget, kept on the widget itself.
+// The property of a cell widget that holds its row.
 const char* const RowProperty = "Line";
 
 static_assert(DOEDlg::MaximumRuns == FullFactorial::MaximumRuns);
 
-// Checked access: data that do not fit together end in this fault.
+// Checked access: inconsistent data cause this exception.
 const QString& At(const std::map<int, QString>& names, int key)
 {
     const auto entry = names.find(key);
@@ -58,7 +58,7 @@ void ShowRuns(QTableWidget& table, const FullFactorial& design, const std::map<i
     for (int column = 0; column < columns; ++column)
         table.setHorizontalHeaderItem(column, new QTableWidgetItem(At(names, column + 1)));
 
-    // The views know the new size by now; a signal for each cell would only cost time.
+    // The views already know the new size; a signal for each cell would only cost time.
     const QSignalBlocker silence(table.model());
     for (int row = 0; row < runs; ++row) {
         int column = 0;
@@ -98,7 +98,7 @@ void DOEDlg::InitGUI()
         table.insertRow(row);
 
         auto* const name = new QTableWidgetItem(entry.second.m_strName);
-        // An edited name would leave a tick in the registry that nothing can take back.
+        // An edited name would leave a tick in the registry that no row can remove.
         name->setFlags(name->flags() & ~Qt::ItemIsEditable);
         table.setItem(row, NameColumn, name);
 
@@ -121,7 +121,7 @@ void DOEDlg::InitGUI()
 
 void DOEDlg::InitGUIData()
 {
-    // By position on purpose: the i-th record in name order belongs to the i-th row.
+    // Deliberately by position: the i-th record in name order belongs to the i-th row.
     int row = 0;
     for (const auto& entry : g_mapParaArrays) {
         QCheckBox* const check = GetCurrentCheck(row);
@@ -199,7 +199,8 @@ void DOEDlg::CollectAllRecord()
         if (record.bChecked == 0)
             continue;
         lists.push_back(record.vecValues);
-        // Names of an earlier, wider build stay: "Generate" compares their count with the columns.
+        // The names of an earlier build with more columns stay: "Generate" compares their number
+        // with the number of columns.
         m_mapColumnNames[int(lists.size())] = record.strName;
     }
     const FullFactorial design(std::move(lists));
@@ -231,7 +232,7 @@ void DOEDlg::m_Slot_UpdateGeoemtry()
         m_mapChosenValues[At(m_mapColumnNames, column + 1)] = text.toDouble();
     }
 
-    // A parameter that is no column of the run is set to 0 on purpose.
+    // A parameter without a column is deliberately set to 0.
     for (auto& entry : GlobalParaMeterMgr::m_nameMapParameters) {
         const double value = m_mapChosenValues[entry.first];
         entry.second.m_dValue = value;

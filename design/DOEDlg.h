@@ -13,36 +13,37 @@ class QCheckBox;
 class QPushButton;
 
 /// Asks for a design of experiments: which parameters take part, with which samples, and which of
-/// the resulting runs is to be built.
+/// the resulting runs to build.
 ///
 ///     DOEDlg dialog(window);
 ///     connect(&dialog, SIGNAL(m_Signal_RegenerateGeo()), window, SLOT(Regenerate()));
 ///     dialog.exec();
 ///
-/// Ticks and samples live in g_mapParaArrays and outlive the dialog. "Generate" writes the chosen
-/// run into GlobalParaMeterMgr; every parameter that is no column of the run table becomes 0.
+/// g_mapParaArrays holds ticks and samples, so they outlive the dialog. "Generate" writes the
+/// chosen run to GlobalParaMeterMgr and sets every parameter without a column in the run table to
+/// 0.
 class TARNGUICOMMON_EXPORT DOEDlg : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// The most runs that are built; a larger product of samples is refused with a notice, and so
-    /// are more than 20 million cells.
+    /// The maximum number of runs. A notice refuses more runs, and more than 20 million cells.
     static constexpr int MaximumRuns = 1000000;
 
-    /// Shows the parameters of the store and the runs of the registry's ticks and samples.
+    /// Shows the parameters of the store, and the runs for the ticks and samples in the registry.
+    /// @p parent may be null.
     explicit DOEDlg(QWidget* parent);
     ~DOEDlg() override;
 
-    /// Enters a row for every parameter of the store, in the store's order. To be called once: the
-    /// constructor does.
+    /// Adds a row for every parameter of the store, in the order of the store. Only the constructor
+    /// should call this.
     void InitGUI();
 
-    /// Shows the registry's ticks: the i-th record in name order on the i-th row.
+    /// Shows the ticks of the registry: the i-th record in name order on the i-th row.
     void InitGUIData();
 
 Q_SIGNALS:
-    /// A run was written into the parameter store; the host rebuilds the geometry.
+    /// "Generate" has written a run to the parameter store; the host must rebuild the geometry.
     void m_Signal_RegenerateGeo();
 
 private Q_SLOTS:

@@ -90,7 +90,7 @@ QVariant NumberItem::data(int role) const
 void NumberItem::setData(int role, const QVariant& value)
 {
     if (m_bNumber && IsTextRole(role)) {
-        // An editor that is left without a change is no change.
+        // Leaving an editor without a change must not change the item.
         if (data(role) == value)
             return;
         m_bNumber = false;
@@ -106,7 +106,7 @@ void NumberItem::read(QDataStream& in)
 
 void NumberItem::write(QDataStream& out) const
 {
-    // The base class writes what it holds itself, so the number becomes a text for once.
+    // The base class only writes its own data, so turn the number into a text in a copy.
     NumberItem item(*this);
     item.setData(Qt::DisplayRole, QVariant());
     item.setData(Qt::DisplayRole, data(Qt::DisplayRole));

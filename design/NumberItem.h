@@ -2,11 +2,12 @@
 
 #include <QTableWidgetItem>
 
-/// A table item that holds a number and formats it (tarn::NumberText) only when it is asked, for
-/// tables too large to keep a text per cell. In all else it behaves as an ordinary item with that
-/// text: it is edited, compared, cloned and streamed alike, and keeps an edited text as it is.
+/// A table item that holds a number and formats it with tarn::NumberText() on demand, for tables
+/// too large to store a text per cell. Otherwise it behaves like an ordinary item with that text:
+/// editing, comparing, cloning and streaming work in the same way, and an edited text is kept
+/// unchanged.
 ///
-/// Copies are made with clone(); a base object copied from it has no text.
+/// Copy it with clone(): slicing it to QTableWidgetItem loses the text.
 class NumberItem final : public QTableWidgetItem
 {
 public:
@@ -24,6 +25,6 @@ public:
     static void operator delete(void* place);
 
 private:
-    bool m_bNumber = true; // false once a text was set
+    bool m_bNumber = true; // False once a text has been set.
     double m_dValue;
 };

@@ -71,7 +71,7 @@ OneParameterDlg::~OneParameterDlg() = default;
 
 void OneParameterDlg::done(int result)
 {
-    // A field that loses the focus with its window reports a finished edit; leaving is none.
+    // A field reports a finished edit when its window closes, but this is not an edit.
     const QScopedValueRollback<bool> leaving(m_bKeepTable, true);
     QDialog::done(result);
 }
@@ -105,7 +105,7 @@ void OneParameterDlg::RefreshTableData()
     const std::vector<double> samples = range.Samples();
     QTableWidget& table = *m_ui.tableWidget;
     table.setRowCount(int(samples.size()));
-    // The views know the new size by now; a signal for each cell would only cost time.
+    // The views already know the new size; a signal for each cell would only cost time.
     const QSignalBlocker silence(table.model());
     int row = 0;
     for (const double sample : samples)
@@ -114,8 +114,8 @@ void OneParameterDlg::RefreshTableData()
 
 void OneParameterDlg::Refuse(const QString& text)
 {
-    // The box takes the focus from the field, which then reports a finished edit once more. The
-    // host may destroy the dialog behind it.
+    // The box takes the focus from the field, which then reports a finished edit again. The host
+    // may destroy the dialog while the box is open.
     const QPointer<OneParameterDlg> self = this;
     m_bKeepTable = true;
     tarn::ShowNotice(tr("Error"), text);

@@ -15,36 +15,36 @@
 ///         Use(g_mapParaArrays[name].vecValues);
 ///
 /// A range and a spacing type generate the samples; rows can be added, deleted and edited. OK
-/// stores them in g_mapParaArrays under the name and marks the parameter as taking part. Opening
-/// for a name enters a default record, also when the user cancels. Reopening generates the samples
-/// anew from the stored range: rows edited by hand are not shown again.
+/// stores the samples in g_mapParaArrays under the name and ticks the parameter. The constructor
+/// adds a default record for a new name, even if the user then cancels. It regenerates the samples
+/// from the stored range, so manually edited rows are not shown again.
 class TARNGUICOMMON_EXPORT OneParameterDlg : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Shows the range stored under @p name. An empty name is refused with a notice and leaves an
-    /// inert dialog.
+    /// Shows the range stored under @p name. An empty name causes a notice, and the dialog is then
+    /// inert. @p parent may be null.
     OneParameterDlg(QWidget* parent, QString name);
     ~OneParameterDlg() override;
 
-    /// As in the base class; a field that loses the focus by it starts no regeneration.
+    /// Like QDialog::done(), without regenerating the samples when a field loses the focus.
     void done(int result) override;
 
 public Q_SLOTS:
-    /// Generates the samples from the range and the checked type. Refused with a notice, which
-    /// leaves no rows: a step that is not above 0 or wider than the range, an empty range, numbers
-    /// that are not finite, more than 1,000,000 rows, and Gauss.
+    /// Generates the samples from the range and the checked type. Clears the table and shows a
+    /// notice if the range is empty, if the step is not above 0 or exceeds the range, if a number
+    /// is not finite, if there would be more than 1,000,000 rows, or if the type is Gauss.
     void RefreshTableData();
-    /// Stores range, type and table rows in the registry and accepts; nothing is checked.
+    /// Stores range, type and table rows in the registry without checks, and accepts.
     void m_Slot_OK();
-    /// Rejects; the registry is left as it is.
+    /// Rejects without changing the registry.
     void m_Slot_Cancel();
-    /// Shows the stored range and type and generates the samples.
+    /// Shows the stored range and type, and generates the samples.
     void InitGUIData();
-    /// Appends an empty row, which counts as the sample 0 until it is filled.
+    /// Appends an empty row. Until it is filled, it counts as the sample 0.
     void m_Slot_Add();
-    /// Removes the current row; without one it says so.
+    /// Removes the current row. Without a current row, shows a notice.
     void m_Slot_Delete();
 
 private:
@@ -54,5 +54,5 @@ private:
     QString m_strName;
     std::vector<double> m_vecValues;
     int m_nSampleType = 0;     // A SampleSpacing::Code, of the last generation.
-    bool m_bKeepTable = false; // true while no regeneration may start
+    bool m_bKeepTable = false; // True while regeneration is disabled.
 };
