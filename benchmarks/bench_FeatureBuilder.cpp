@@ -1,6 +1,6 @@
 #include "FeatureBuilder.h"
 #include "GlobalParaMeterMgr.h"
-#include "ParameterSettler.h"
+#include "ParameterEvaluator.h"
 #include "Project.h"
 #include "RunBenchmarks.h"
 
@@ -43,7 +43,7 @@ void ChooseRun(int run)
 {
     Store("bore_diameter", 60.0 + 2.0 * (run % 10));
     Store("thickness", 16.0 + run / 10 % 10);
-    SettleParameters();
+    EvaluateParameters();
 }
 
 // Moved like the features, which are built at the origin: the kernel needs more time for moved

@@ -3,6 +3,7 @@
 #include "HostApplication.h"
 #include "Language.h"
 #include "MainWindow.h"
+#include "MessageLevel.h"
 #include "Project.h"
 #include "Screenshots.h"
 #include "StudyRunner.h"
@@ -55,8 +56,10 @@ int OpenWindow(const CommandLine& line)
     // What is wrong with the file goes to the console, which knows no other language.
     const Project project = Project::Load(line.projectFile);
     const Language language(WindowLanguage(line));
-    ReadAnalysisFiles();
+    const QString warning = ReadAnalysisFiles();
     MainWindow window;
+    if (!warning.isEmpty())
+        PostMessageToChannel(WarningLevel, warning);
     window.show();
     window.OpenProject(project);
     return HostApplication::exec();

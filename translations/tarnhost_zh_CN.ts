@@ -916,7 +916,7 @@
     </message>
 </context>
 <context>
-    <name>ModelTree</name>
+    <name>AnalysisTree</name>
     <message>
         <source>Static</source>
         <translation>静力</translation>
@@ -1039,7 +1039,7 @@
     </message>
 </context>
 <context>
-    <name>ModelView</name>
+    <name>PartView</name>
     <message>
         <source>the system offers no OpenGL</source>
         <translation>系统不提供 OpenGL</translation>
@@ -1050,7 +1050,7 @@
     </message>
 </context>
 <context>
-    <name>ModellingActions</name>
+    <name>PartActions</name>
     <message>
         <source>STEP files (*.step *.stp *.STEP *.STP);;All files (*)</source>
         <translation>STEP 文件 (*.step *.stp *.STEP *.STP);;所有文件 (*)</translation>
@@ -1196,7 +1196,7 @@
     </message>
 </context>
 <context>
-    <name>ParameterSettler</name>
+    <name>ParameterEvaluator</name>
     <message>
         <source>The expressions need each other: %1</source>
         <translation>表达式相互依赖：%1</translation>
@@ -1398,7 +1398,7 @@
     </message>
 </context>
 <context>
-    <name>ShapeSummary</name>
+    <name>PartPanel</name>
     <message>
         <source>Status</source>
         <translation>状态</translation>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ModelView.h"
+#include "PartView.h"
 #include "TestCase.h"
 
 #include <BRepPrimAPI_MakeBox.hxx>
@@ -13,7 +13,7 @@
 #include <cmath>
 #include <optional>
 
-Q_DECLARE_METATYPE(ModelView::StandardView)
+Q_DECLARE_METATYPE(PartView::StandardView)
 
 // A view of a block that is shown, handled with the mouse, and looked at.
 
@@ -44,20 +44,20 @@ public:
     ShownView()
     {
         QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
-        window.setCentralWidget(view = new ModelView);
+        window.setCentralWidget(view = new PartView);
         window.resize(400, 300);
         window.show();
         window.activateWindow();
         if (!QTest::qWaitForWindowActive(&window))
             qFatal("The window does not become active");
         view->ShowShape(Block());
-        QObject::connect(view, &ModelView::PointMoved, view,
+        QObject::connect(view, &PartView::PointMoved, view,
                          [this](const gp_Pnt& p) { point = p; });
-        QObject::connect(view, &ModelView::PointLost, view, [this] {
+        QObject::connect(view, &PartView::PointLost, view, [this] {
             point.reset();
             ++lost;
         });
-        QObject::connect(view, &ModelView::FacePicked, view,
+        QObject::connect(view, &PartView::FacePicked, view,
                          [this](const TopoDS_Face& face, const gp_Pnt& p) {
                              ++picked;
                              pickedFace = face;
@@ -97,7 +97,7 @@ public:
     }
 
     QMainWindow window;
-    ModelView* view;
+    PartView* view;
     std::optional<gp_Pnt> point;
     int lost = 0;
     int picked = 0;
@@ -109,9 +109,9 @@ public:
 inline QRect PartRect(const ShownView& shown)
 {
     const QImage with = shown.Picture();
-    shown.view->SetDisplayMode(ModelView::ShadedWithEdges);
+    shown.view->SetDisplayMode(PartView::ShadedWithEdges);
     const TopoDS_Shape none;
-    ModelView& view = *shown.view;
+    PartView& view = *shown.view;
     view.ShowShape(none);
     const QImage without = shown.Picture();
     view.ShowShape(Block(), false);
@@ -138,19 +138,19 @@ inline int BlackPixels(const QImage& image)
 /// The rows of a test: each standard view, and where it looks from.
 inline void AddStandardViews()
 {
-    QTest::addColumn<ModelView::StandardView>("view");
+    QTest::addColumn<PartView::StandardView>("view");
     QTest::addColumn<QString>("middle"); // What is seen there of the block; * is not known exactly.
     QTest::addColumn<QString>("right");  // The axis that points to the right.
-    QTest::newRow("front") << ModelView::FrontView << "* 0 *"
+    QTest::newRow("front") << PartView::FrontView << "* 0 *"
                            << "+x";
-    QTest::newRow("back") << ModelView::BackView << "* 60 *"
+    QTest::newRow("back") << PartView::BackView << "* 60 *"
                           << "-x";
-    QTest::newRow("left") << ModelView::LeftView << "0 * *"
+    QTest::newRow("left") << PartView::LeftView << "0 * *"
                           << "-y";
-    QTest::newRow("right") << ModelView::RightView << "100 * *"
+    QTest::newRow("right") << PartView::RightView << "100 * *"
                            << "+y";
-    QTest::newRow("top") << ModelView::TopView << "* * 40"
+    QTest::newRow("top") << PartView::TopView << "* * 40"
                          << "+x";
-    QTest::newRow("bottom") << ModelView::BottomView << "* * 0"
+    QTest::newRow("bottom") << PartView::BottomView << "* * 0"
                             << "+x";
 }

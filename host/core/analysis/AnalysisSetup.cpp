@@ -1,0 +1,97 @@
+#include "AnalysisSetup.h"
+
+#include "AttributeCommonMgr.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int VibrationFamily = 1;
+constexpr int VibrationKind = 2;
+
+template<class Record>
+void RemoveByName(std::vector<Record>& records, const std::string& name)
+{
+    const auto isNamed = [&name](const Record& record) {
+        return record.m_strName == name;
+    };
+    records.erase(std::remove_if(records.begin(), records.end(), isNamed), records.end());
+}
+
+} // namespace
+
+AnalysisSetup::AnalysisSetup(QObject* parent)
+    : QObject(parent)
+    , m_family(VibrationFamily)
+    , m_kind(VibrationKind)
+{
+}
+
+AnalysisSetup::~AnalysisSetup()
+{
+    FreeNames();
+}
+
+void AnalysisSetup::SetSolverType(int family, int kind)
+{
+    m_family = family;
+    m_kind = kind;
+    Q_EMIT Changed();
+}
+
+void AnalysisSetup::AddConstraint(const sConstrainData& constraint)
+{
+    AttributeCommonMgr::GetInstance()->AddName(constraint.m_strName);
+    m_constraints.push_back(constraint);
+    Q_EMIT Changed();
+}
+
+void AnalysisSetup::AddLoad(const sLoadForceData& load)
+{
+    AttributeCommonMgr::GetInstance()->AddName(load.m_strName);
+    m_loads.push_back(load);
+    Q_EMIT Changed();
+}
+
+void AnalysisSetup::Remove(const std::string& name)
+{
+    // A copy: the caller's name may be that of the record.
+    const std::string removed(name.data(), name.size());
+    RemoveByName(m_constraints, removed);
+    RemoveByName(m_loads, removed);
+    AttributeCommonMgr::GetInstance()->RemoveName(removed);
+    Q_EMIT Changed();
+}
+
+void AnalysisSetup::SetMeshSize(double size)
+{
+    m_meshSize = size;
+    Q_EMIT Changed();
+}
+
+void AnalysisSetup::SetSubShape(const SubShapeMesh& mesh)
+{
+    m_subShape = mesh;
+    Q_EMIT Changed();
+}
+
+void AnalysisSetup::Clear()
+{
+    FreeNames();
+    m_family = VibrationFamily;
+    m_kind = VibrationKind;
+    m_constraints.clear();
+    m_loads.clear();
+    m_meshSize.reset();
+    m_subShape.reset();
+    Q_EMIT Changed();
+}
+
+void AnalysisSetup::FreeNames()
+{
+    AttributeCommonMgr& registry = *AttributeCommonMgr::GetInstance();
+    for (const sConstrainData& constraint : m_constraints)
+        registry.RemoveName(constraint.m_strName);
+    for (const sLoadForceData& load : m_loads)
+        registry.RemoveName(load.m_strName);
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "sConstrainData.h"
+#include "sLoadForceData.h"
+
+#include <QObject>
+#include <QString>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The host's own records of the analysis set-up. Element properties, materials and the frequency
+/// range stand in stores that the dialogs share.
+///
+/// Each boundary condition and load has its name registered in AttributeCommonMgr for as long as it
+/// stands here, so that the dialogs refuse a second one of that name.
+class AnalysisSetup : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The mesh of a part of a shape.
+    struct SubShapeMesh
+    {
+        double size = 0.0;
+        int number = 0;
+    };
+
+    explicit AnalysisSetup(QObject* parent = nullptr);
+    ~AnalysisSetup() override;
+
+    int Family() const { return m_family; } ///< As CAnalysisTypeGUI; Vibration at first.
+    int Kind() const { return m_kind; }     ///< As CAnalysisTypeGUI; Vibration at first.
+    void SetSolverType(int family, int kind);
+
+    /// In the order in which they were added.
+    const std::vector<sConstrainData>& Constraints() const { return m_constraints; }
+    /// In the order in which they were added.
+    const std::vector<sLoadForceData>& Loads() const { return m_loads; }
+
+    void AddConstraint(const sConstrainData& constraint);
+    void AddLoad(const sLoadForceData& load);
+
+    /// Deletes the boundary condition or load of that name, and frees the name.
+    void Remove(const std::string& name);
+
+    /// Nothing until it was set.
+    const std::optional<double>& MeshSize() const { return m_meshSize; }
+    void SetMeshSize(double size);
+
+    /// Nothing until it was set.
+    const std::optional<SubShapeMesh>& SubShape() const { return m_subShape; }
+    void SetSubShape(const SubShapeMesh& mesh);
+
+    /// Makes everything as it is at first.
+    void Clear();
+
+Q_SIGNALS:
+    void Changed();
+
+private:
+    void FreeNames();
+
+    int m_family = 0;
+    int m_kind = 0;
+    std::vector<sConstrainData> m_constraints;
+    std::vector<sLoadForceData> m_loads;
+    std::optional<double> m_meshSize;
+    std::optional<SubShapeMesh> m_subShape;
+};
+
+/// The name of a boundary condition or load as text.
+inline QString AttributeText(const std::string& name)
+{
+    return QString::fromLocal8Bit(name.c_str());
+}

@@ -1,0 +1,209 @@
+#include "ParameterEvaluator.h"
+
+#include "ExpressionEngine.h"
+#include "GlobalParaMeterMgr.h"
+#include "NumberTexts.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <string>
+#include <utility>
+
+namespace {
+
+constexpr int NotVisited = -1;
+
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(ParameterEvaluator)
+};
+
+/// A parameter with an expression and what it needs.
+struct Node
+{
+    QString name;
+    ParametersDef* record = nullptr;
+    QStringList uses;
+    std::vector<int> needs; ///< Nodes among the used names.
+    int order = NotVisited; ///< When the search came here.
+    int reach = NotVisited; ///< The earliest open node that can be reached from here.
+    std::size_t next = 0;   ///< The need to look at next.
+    bool open = false;      ///< Not yet known which cycle, if any, the node is in.
+    bool isBad = false;
+};
+
+/// Tarjan's search for strongly connected components. It closes a node after all that the node
+/// needs, so that closing and evaluating are one; a component of several nodes is a cycle. It keeps
+/// its own stack: a chain may be as long as the store.
+class Settler
+{
+public:
+    explicit Settler(const QSet<QString>& held) { CollectNodes(held); }
+
+    std::vector<QString> Run()
+    {
+        for (int node = 0; node < int(m_nodes.size()); ++node) {
+            if (m_nodes[std::size_t(node)].order == NotVisited)
+                Search(node);
+        }
+        return m_messages;
+    }
+
+private:
+    Node& At(int node) { return m_nodes[std::size_t(node)]; }
+
+    void CollectNodes(const QSet<QString>& held)
+    {
+        QHash<QString, int> nodeOfName;
+        for (auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters) {
+            if (record.m_strExpression.empty() || held.contains(name))
+                continue;
+            nodeOfName.insert(name, int(m_nodes.size()));
+            Node node;
+            node.name = name;
+            node.record = &record;
+            node.uses = record.m_strExpressPara.split(QLatin1Char(','), Qt::SkipEmptyParts);
+            m_nodes.push_back(std::move(node));
+        }
+        for (Node& node : m_nodes) {
+            for (const QString& name : qAsConst(node.uses)) {
+                const auto found = nodeOfName.constFind(name);
+                if (found != nodeOfName.constEnd())
+                    node.needs.push_back(*found);
+            }
+        }
+    }
+
+    void Enter(int node)
+    {
+        At(node).order = At(node).reach = m_visited++;
+        At(node).open = true;
+        m_path.push_back(node);
+        m_open.push_back(node);
+    }
+
+    void Search(int root)
+    {
+        Enter(root);
+        while (!m_path.empty()) {
+            const int current = m_path.back();
+            Node& node = At(current);
+            if (node.next < node.needs.size()) {
+                const int needed = node.needs[node.next++];
+                if (At(needed).order == NotVisited)
+                    Enter(needed);
+                else if (At(needed).open)
+                    node.reach = std::min(node.reach, At(needed).order);
+                continue;
+            }
+            m_path.pop_back();
+            if (!m_path.empty())
+                At(m_path.back()).reach = std::min(At(m_path.back()).reach, node.reach);
+            if (node.reach == node.order)
+                Close(current);
+        }
+    }
+
+    void Close(int first)
+    {
+        const auto begin = std::find(m_open.rbegin(), m_open.rend(), first).base() - 1;
+        const std::vector<int> component(begin, m_open.end());
+        m_open.erase(begin, m_open.end());
+
+        const std::vector<int>& needs = At(first).needs;
+        const bool needsItself = std::find(needs.begin(), needs.end(), first) != needs.end();
+        if (component.size() > 1 || needsItself)
+            TellCycle(component);
+        else
+            Evaluate(At(first));
+        for (const int node : component)
+            At(node).open = false;
+    }
+
+    void TellCycle(const std::vector<int>& component)
+    {
+        // The nodes of the component are those that are still open and have come after its first.
+        const int first = component.front();
+        const auto isInside = [&](int node) {
+            return At(node).open && At(node).order >= At(first).order;
+        };
+        std::vector<int> walk;
+        QHash<int, int> placeInWalk;
+        int node = first;
+        while (!placeInWalk.contains(node)) {
+            placeInWalk.insert(node, int(walk.size()));
+            walk.push_back(node);
+            node = *std::find_if(At(node).needs.begin(), At(node).needs.end(), isInside);
+        }
+        walk.erase(walk.begin(), walk.begin() + placeInWalk.value(node));
+
+        constexpr std::size_t MostNames = 12;
+        QStringList names;
+        for (const int member : walk) {
+            if (names.size() == int(MostNames)) {
+                names << QStringLiteral("...");
+                break;
+            }
+            names << At(member).name;
+        }
+        names << At(node).name;
+        m_messages.push_back(Text::tr("The expressions need each other: %1")
+                                 .arg(names.join(QStringLiteral(" -> "))));
+        for (const int member : component)
+            At(member).isBad = true;
+    }
+
+    void Evaluate(Node& node)
+    {
+        const ParameterMap& store = GlobalParaMeterMgr::m_nameMapParameters;
+        ParametersDef& record = *node.record;
+        std::map<std::string, double> variables;
+        for (const QString& name : qAsConst(node.uses)) {
+            if (store.count(name) == 0) {
+                node.isBad = true;
+                m_messages.push_back(
+                    Text::tr("%1: its expression uses \"%2\", which is no parameter")
+                        .arg(node.name, name));
+                return;
+            }
+            variables[name.toLocal8Bit().toStdString()] =
+                GlobalParaMeterMgr::GetParameterRawValue(name).toDouble();
+        }
+
+        const double value = ExpressionEngine::CalculateExpress(record.m_strExpression, variables);
+        record.m_dValue = value;
+        record.m_varRawValue = value;
+        record.m_strValue = ShortText(value);
+        if (!std::isnan(value))
+            return;
+
+        // What only hands a failure on has none of its own to tell.
+        node.isBad = true;
+        const bool handsOn = std::any_of(node.needs.begin(), node.needs.end(), [this](int needed) {
+            return At(needed).isBad && std::isnan(At(needed).record->m_dValue);
+        });
+        if (!handsOn)
+            m_messages.push_back(QStringLiteral("%1 = %2: %3")
+                                     .arg(node.name,
+                                          QString::fromLocal8Bit(record.m_strExpression.c_str()),
+                                          ExpressionEngine::LastError()));
+    }
+
+    std::vector<Node> m_nodes;
+    std::vector<int> m_path; // From the root of the search to where it is.
+    std::vector<int> m_open; // The open nodes, in the order in which they were entered.
+    int m_visited = 0;
+    std::vector<QString> m_messages;
+};
+
+} // namespace
+
+std::vector<QString> EvaluateParameters(const QSet<QString>& held)
+{
+    return Settler(held).Run();
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QMainWindow>
+
+class AnalysisSetup;
+class DesignActions;
+class FeatureFields;
+class FeatureTree;
+class MessageDock;
+class AnalysisTree;
+class PartActions;
+class ParameterOverview;
+class PartModel;
+class PositionDock;
+class Project;
+class ProjectActions;
+class PartPanel;
+
+/// The host's window: menus that run the dialogs, the message channel, the stored parameters, the
+/// features, and the part that is built from them.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Puts @p project into the stores, in place of what they hold, and builds its part.
+    void OpenProject(const Project& project);
+
+    /// The analysis set-up, which menu and tree work on; the window owns it.
+    AnalysisSetup& Analysis() { return *m_analysis; }
+    /// The part; the window owns it.
+    PartModel& Part() { return *m_part; }
+    FeatureTree& Features() { return *m_features; }
+
+protected:
+    /// Asks first where changes would be lost.
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void CreateDocks();
+    void CreateMenus();
+    void ConnectPart();
+
+    void StartProject();
+    void ApplyParameters();
+    void ShowBuiltPart();
+    void ShowFailure(const QString& reason);
+    void ShowSelectedFeature();
+
+    AnalysisSetup* m_analysis;
+    PartModel* m_part;
+    PartPanel* m_summary;
+
+    MessageDock* m_messages = nullptr;
+    ParameterOverview* m_overview = nullptr;
+    AnalysisTree* m_tree = nullptr;
+    FeatureTree* m_features = nullptr;
+    FeatureFields* m_fields = nullptr;
+    PositionDock* m_position = nullptr;
+
+    ProjectActions* m_projectActions = nullptr;
+    DesignActions* m_designActions = nullptr;
+    PartActions* m_partActions = nullptr;
+};

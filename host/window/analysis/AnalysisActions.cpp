@@ -1,0 +1,187 @@
+#include "AnalysisActions.h"
+
+#include "AnalysisFiles.h"
+#include "AnalysisSetup.h"
+#include "CAnalysisTypeGUI.h"
+#include "CQLTConstrainEditor.h"
+#include "CQLTElePropertyEditor.h"
+#include "CQLTElemPropDef.h"
+#include "CQLTLoadForceEditor.h"
+#include "ELementPropGUI.h"
+#include "KVMaterialData.h"
+#include "KVMaterialLibrary.h"
+#include "KVPropertyData.h"
+#include "MeshSizeInput.h"
+#include "MessageLevel.h"
+#include "AnalysisTree.h"
+#include "NumberTexts.h"
+#include "SetupCheck.h"
+#include "SubShapeMeshParameterDlg.h"
+#include "frequencySetting.h"
+
+#include <QMenu>
+
+#include <memory>
+#include <optional>
+
+namespace {
+
+std::unique_ptr<MeshSizeInput> NewMeshSizeInput(const std::optional<double>& size, QWidget* parent)
+{
+    if (size.has_value())
+        return std::make_unique<MeshSizeInput>(*size, parent);
+    return std::make_unique<MeshSizeInput>(parent);
+}
+
+} // namespace
+
+AnalysisActions::AnalysisActions(AnalysisSetup& model, AnalysisTree& tree, QWidget* window)
+    : QObject(window)
+    , m_model(model)
+    , m_tree(tree)
+    , m_window(window)
+{
+}
+
+AnalysisActions::~AnalysisActions() = default;
+
+void AnalysisActions::FillMenu(QMenu& menu)
+{
+    const auto add = [this, &menu](const QString& text, const char* name,
+                                   void (AnalysisActions::*run)()) {
+        QAction* const action = menu.addAction(text);
+        action->setObjectName(QString::fromLatin1(name));
+        connect(action, &QAction::triggered, this, run);
+    };
+    add(tr("&Analysis type"), "action_AnalysisType", &AnalysisActions::ChooseType);
+    add(tr("&Boundary condition"), "action_BoundaryCondition",
+        &AnalysisActions::AddBoundaryCondition);
+    add(tr("&Load force"), "action_LoadForce", &AnalysisActions::AddLoad);
+    menu.addAction(m_tree.DeleteAction());
+    menu.addSeparator();
+    add(tr("&New element property"), "action_NewElementProperty", &AnalysisActions::AddProperty);
+    add(tr("Element &properties"), "action_ElementProperties", &AnalysisActions::ManageProperties);
+    add(tr("&Material library"), "action_MaterialLibrary", &AnalysisActions::BrowseMaterials);
+    menu.addSeparator();
+    add(tr("&Frequency range"), "action_FrequencyRange", &AnalysisActions::SetFrequencies);
+    add(tr("Mesh &size"), "action_MeshSize", &AnalysisActions::SetMeshSize);
+    add(tr("S&ub-shape mesh"), "action_SubShapeMesh", &AnalysisActions::SetSubShapeMesh);
+    menu.addSeparator();
+    add(tr("Is the set-up &complete?"), "action_CheckSetup", &AnalysisActions::CheckSetupNow);
+}
+
+void AnalysisActions::ChooseType()
+{
+    int family = m_model.Family();
+    int kind = m_model.Kind();
+    CAnalysisTypeGUI dialog(m_window);
+    dialog.InitData(family, kind);
+    // OK hides the dialog: how it ended does not tell, the pair does.
+    dialog.exec();
+    dialog.getSolverType(family, kind);
+    m_model.SetSolverType(family, kind);
+}
+
+void AnalysisActions::AddBoundaryCondition()
+{
+    CQLTConstrainEditor editor(m_window);
+    if (editor.exec() == QDialog::Accepted)
+        m_model.AddConstraint(editor.GetConstrainData());
+}
+
+void AnalysisActions::AddLoad()
+{
+    CQLTLoadForceEditor editor(m_window);
+    if (editor.exec() == QDialog::Accepted)
+        m_model.AddLoad(editor.GetLoadForceData());
+}
+
+void AnalysisActions::ReadFiles()
+{
+    const QString warning = ReadAnalysisFiles();
+    if (!warning.isEmpty())
+        PostMessageToChannel(WarningLevel, warning);
+}
+
+void AnalysisActions::AddProperty()
+{
+    ReadFiles();
+    CQLTElePropertyEditor editor(m_window);
+    const bool isAccepted = editor.exec() == QDialog::Accepted;
+    // An OK that was refused before the dialog was cancelled has made a record, too.
+    std::unique_ptr<CQLTElemPropDef> property(editor.GetPropData());
+    if (isAccepted)
+        KVPropertyData::GetInstance()->AddPropInfo(property.release());
+    m_tree.Refresh();
+}
+
+void AnalysisActions::ManageProperties()
+{
+    ReadFiles();
+    ELementPropGUI manager(m_window);
+    // OK and Cancel both hide it, and both leave what was added or edited in the store.
+    manager.exec();
+    m_tree.Refresh();
+}
+
+void AnalysisActions::BrowseMaterials()
+{
+    ReadFiles();
+    KVMaterialLibrary library(m_window);
+    library.SetComToItemData(KVMaterialData::GetInstance()->CurrentMaterialName());
+    library.Reset();
+    if (library.exec() == QDialog::Accepted && !library.selectedMaterialName().isEmpty())
+        PostMessageToChannel(InfoLevel,
+                             tr("Chosen material: %1").arg(library.selectedMaterialName()));
+}
+
+void AnalysisActions::SetFrequencies()
+{
+    frequencySetting dialog(m_window);
+    if (dialog.exec() == QDialog::Accepted)
+        m_tree.Refresh();
+}
+
+void AnalysisActions::SetMeshSize()
+{
+    const std::unique_ptr<MeshSizeInput> dialog = NewMeshSizeInput(m_model.MeshSize(), m_window);
+    if (dialog->exec() == QDialog::Accepted)
+        m_model.SetMeshSize(dialog->GetMeshSize());
+}
+
+void AnalysisActions::SetSubShapeMesh()
+{
+    SubShapeMeshParameterDlg dialog(m_window);
+    if (m_model.SubShape().has_value()) {
+        dialog.ui.lineEdit_MeshSize->setText(ExactText(m_model.SubShape()->size));
+        dialog.ui.lineEdit_MeshNumber->setText(QString::number(m_model.SubShape()->number));
+    }
+    // The form's buttons do nothing by themselves.
+    connect(dialog.ui.pushButton_OK, &QPushButton::clicked, &dialog, &QDialog::accept);
+    connect(dialog.ui.pushButton_Cancel, &QPushButton::clicked, &dialog, &QDialog::reject);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+
+    bool hasSize = false;
+    bool hasNumber = false;
+    AnalysisSetup::SubShapeMesh mesh;
+    mesh.size = dialog.ui.lineEdit_MeshSize->text().toDouble(&hasSize);
+    mesh.number = dialog.ui.lineEdit_MeshNumber->text().toInt(&hasNumber);
+    if (hasSize && hasNumber)
+        m_model.SetSubShape(mesh);
+    else
+        PostMessageToChannel(WarningLevel,
+                             tr("The sub-shape mesh was not taken: its size and number must be "
+                                "numbers"));
+}
+
+void AnalysisActions::CheckSetupNow()
+{
+    ReadFiles();
+    m_tree.Refresh();
+    const QStringList problems = CheckSetup(CurrentSetup(m_model));
+    for (const QString& problem : problems)
+        PostMessageToChannel(WarningLevel, problem);
+    if (problems.isEmpty())
+        PostMessageToChannel(InfoLevel, tr("The set-up is complete"));
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+
+class AnalysisSetup;
+class AnalysisTree;
+class QMenu;
+class QWidget;
+
+/// Runs the dialogs of the analysis set-up and takes over what they give.
+class AnalysisActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Dialogs belong to @p window, which also owns this object; model and tree must outlive it.
+    AnalysisActions(AnalysisSetup& model, AnalysisTree& tree, QWidget* window);
+    ~AnalysisActions() override;
+
+    /// Adds an action for each dialog, for deleting in the tree and for the check.
+    void FillMenu(QMenu& menu);
+
+private:
+    void ChooseType();
+    void AddBoundaryCondition();
+    void AddLoad();
+    void ReadFiles();
+    void AddProperty();
+    void ManageProperties();
+    void BrowseMaterials();
+    void SetFrequencies();
+    void SetMeshSize();
+    void SetSubShapeMesh();
+    void CheckSetupNow();
+
+    AnalysisSetup& m_model;
+    AnalysisTree& m_tree;
+    QWidget* m_window;
+};

@@ -1,0 +1,341 @@
+#include "PartActions.h"
+
+#include "FeatureFields.h"
+#include "FeatureKinds.h"
+#include "FeatureTree.h"
+#include "JsonSection.h"
+#include "MessageLevel.h"
+#include "PartView.h"
+#include "PartModel.h"
+#include "StepFile.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// Far finer than a face is looked for, and without the rests of the picking's arithmetic.
+QString CoordinateText(double coordinate)
+{
+    constexpr double Step = 1e-6;
+    const double rounded = std::round(coordinate / Step) * Step;
+    return QString::number(rounded, 'g', 12);
+}
+
+QString StepFilter()
+{
+    return PartActions::tr("STEP files (*.step *.stp *.STEP *.STP);;All files (*)");
+}
+
+// Where file dialogs start: that of the sample project lies within the program.
+QString StartFolder(const QString& folder)
+{
+    return folder.startsWith(QLatin1Char(':')) ? QString() : folder;
+}
+
+} // namespace
+
+PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fields,
+                                   PartView* view, QWidget* window)
+    : QObject(window)
+    , m_model(model)
+    , m_tree(tree)
+    , m_fields(fields)
+    , m_view(view)
+    , m_window(window)
+    , m_dialogs(window)
+    , m_edit(NewAction(tr("&Edit feature"), "action_EditFeature", [this] { Edit(); }))
+    , m_up(NewAction(tr("Move &up"), "action_MoveUp", [this] { MoveSelected(-1); }))
+    , m_down(NewAction(tr("Move do&wn"), "action_MoveDown", [this] { MoveSelected(1); }))
+    , m_suppress(NewAction(tr("&Suppress"), "action_Suppress", [this] { SuppressSelected(); }))
+    , m_delete(
+          NewAction(tr("&Delete feature"), "action_DeleteFeature", [this] { DeleteSelected(); }))
+    , m_export(NewAction(tr("E&xport STEP"), "action_ExportStep", [this] { ExportStep(); }))
+{
+    m_edit->setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
+    m_up->setShortcut(QKeySequence(QStringLiteral("Ctrl+Up")));
+    m_down->setShortcut(QKeySequence(QStringLiteral("Ctrl+Down")));
+    m_suppress->setCheckable(true);
+    m_suppress->setShortcut(QKeySequence(QStringLiteral("Ctrl+U")));
+    m_delete->setShortcut(QKeySequence::Delete);
+    tree.OfferActions({m_edit, m_up, m_down, m_suppress, m_delete});
+
+    connect(&tree, &FeatureTree::SelectionChanged, this, &PartActions::UpdateActions);
+    connect(&tree, &FeatureTree::EditWanted, this, &PartActions::Edit);
+    // What waits was made for the features as they were.
+    connect(&model, &PartModel::Changed, this, &PartActions::EndPicking);
+    if (m_view != nullptr) {
+        connect(m_view, &PartView::FacePicked, this,
+                [this](const TopoDS_Face&, const gp_Pnt& point) { TakePoint(point); });
+        connect(m_view, &PartView::PickingCancelled, this, &PartActions::EndPicking);
+        connect(m_view, &PartView::Failed, this, [this] {
+            EndPicking();
+            m_view = nullptr;
+        });
+    }
+    UpdateActions();
+}
+
+PartActions::~PartActions() = default;
+
+QAction* PartActions::NewAction(const QString& text, const char* name,
+                                     const std::function<void()>& run)
+{
+    auto* const action = new QAction(text, this);
+    action->setObjectName(QString::fromLatin1(name));
+    connect(action, &QAction::triggered, this, run);
+    return action;
+}
+
+void PartActions::FillMenu(QMenu& menu)
+{
+    QMenu& bodies = *menu.addMenu(tr("Add &body"));
+    FillAddMenu(bodies,
+                {FeatureKind::Box, FeatureKind::Cylinder, FeatureKind::Sphere, FeatureKind::Torus,
+                 FeatureKind::Cone, FeatureKind::Wedge, FeatureKind::Polygon});
+    bodies.addSeparator();
+    bodies.addAction(NewAction(tr("&Import STEP"), "action_ImportStep", [this] { ImportStep(); }));
+    QMenu& transforms = *menu.addMenu(tr("&Transform"));
+    FillAddMenu(transforms, {FeatureKind::Move, FeatureKind::Rotate, FeatureKind::MirrorAxis});
+    transforms.addSeparator();
+    FillAddMenu(transforms, {FeatureKind::PolarArray, FeatureKind::RectangularArray});
+    FillAddMenu(*menu.addMenu(tr("&Combine")),
+                {FeatureKind::Fuse, FeatureKind::Cut, FeatureKind::Fillet});
+    menu.addSeparator();
+    menu.addActions({m_edit, m_up, m_down, m_suppress, m_delete});
+    menu.addSeparator();
+    QAction* const undo = m_model.UndoStack().createUndoAction(this, tr("&Undo"));
+    undo->setObjectName(QStringLiteral("action_Undo"));
+    undo->setShortcut(QKeySequence::Undo);
+    QAction* const redo = m_model.UndoStack().createRedoAction(this, tr("&Redo"));
+    redo->setObjectName(QStringLiteral("action_Redo"));
+    // The two that desktops have for it, whichever this is.
+    redo->setShortcuts(
+        {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
+    menu.addActions({undo, redo});
+    menu.addSeparator();
+    menu.addAction(m_export);
+}
+
+void PartActions::FillAddMenu(QMenu& menu, const QList<FeatureKind>& kinds)
+{
+    for (const FeatureKind kind : kinds) {
+        // One dialog asks for the three mirrors.
+        const bool isMirror = kind == FeatureKind::MirrorAxis;
+        const QString title = isMirror ? tr("Mirror") : FeatureKinds::Title(kind);
+        const QString word = isMirror ? QStringLiteral("mirror") : FeatureKinds::Of(kind).word;
+        const QByteArray name = QStringLiteral("action_Add_%1").arg(word).toLatin1();
+        menu.addAction(NewAction(title, name.constData(), [this, kind] { Add(kind); }));
+    }
+}
+
+void PartActions::UpdateActions()
+{
+    const QStringList& selected = m_tree.Selected();
+    const FeatureList& features = m_model.Features();
+    const bool isOne = selected.size() == 1;
+    m_edit->setEnabled(isOne);
+    m_up->setEnabled(isOne && selected.first() != features.At(0).name);
+    m_down->setEnabled(isOne && selected.first() != features.At(features.Size() - 1).name);
+    m_suppress->setEnabled(!selected.isEmpty());
+    m_suppress->setChecked(std::any_of(selected.begin(), selected.end(), [&](const QString& name) {
+        return features.At(features.Find(name)).suppressed;
+    }));
+    m_delete->setEnabled(!selected.isEmpty());
+}
+
+void PartActions::Try(const std::function<void()>& change)
+{
+    try {
+        change();
+    } catch (const HostError& error) {
+        PostMessageToChannel(ErrorLevel, error.Reason());
+    }
+}
+
+void PartActions::Add(FeatureKind kind)
+{
+    EndPicking();
+    Try([this, kind] {
+        Feature feature = FeatureKinds::MakeFeature(kind);
+        feature.inputs = InputsFor(kind);
+        const std::optional<Feature> asked = m_dialogs.AskNew(feature);
+        if (!asked.has_value())
+            return;
+        if (asked->kind == FeatureKind::MirrorFace && m_view != nullptr)
+            PickFaceFor(*asked);
+        else
+            AddNamed(*asked);
+    });
+}
+
+QStringList PartActions::InputsFor(FeatureKind kind) const
+{
+    const FeatureKinds::Entry& entry = FeatureKinds::Of(kind);
+    if (entry.mostInputs == 0)
+        return {};
+    QStringList inputs = m_tree.Selected();
+    if (entry.mostInputs != FeatureKinds::AnyNumber && inputs.size() > entry.mostInputs)
+        throw ModellingError(tr("%1 takes one body, but %2 features are selected")
+                                 .arg(FeatureKinds::Title(kind))
+                                 .arg(inputs.size()));
+    // Where too few are selected: the last bodies of the part, a selected one before them.
+    const int first = inputs.size();
+    QStringList bodies = m_model.Bodies();
+    while (inputs.size() < entry.leastInputs && !bodies.isEmpty()) {
+        const QString body = bodies.takeLast();
+        if (!inputs.contains(body))
+            inputs.insert(first, body);
+    }
+    if (inputs.size() < entry.leastInputs) {
+        const QString title = FeatureKinds::Title(kind);
+        throw ModellingError(entry.leastInputs == 1
+                                 ? tr("%1 needs a body, and there is none").arg(title)
+                                 : tr("%1 needs two bodies, and there are too few").arg(title));
+    }
+    return inputs;
+}
+
+void PartActions::AddNamed(Feature feature)
+{
+    feature.name = m_model.Features().UniqueName(FeatureKinds::Of(feature.kind).word);
+    m_model.Add(feature);
+    m_tree.Select(feature.name);
+    if (feature.kind == FeatureKind::MirrorFace && m_view == nullptr) {
+        PostMessageToChannel(WarningLevel, tr("There is no 3D view to pick a face in: type a point "
+                                              "on the face into the fields of %1")
+                                               .arg(Quoted(feature.name)));
+        m_fields.StartEditing();
+    }
+}
+
+void PartActions::Edit()
+{
+    if (m_tree.Selected().size() != 1)
+        return;
+    EndPicking();
+    const Feature feature =
+        m_model.Features().At(m_model.Features().Find(m_tree.Selected().first()));
+    if (feature.kind == FeatureKind::StepImport)
+        ChooseFileOf(feature);
+    else if (!FeatureDialogs::HasDialogFor(feature.kind))
+        m_fields.StartEditing();
+    else if (const std::optional<Feature> changed = m_dialogs.AskChanges(feature))
+        Apply(*changed);
+}
+
+void PartActions::Apply(const Feature& feature)
+{
+    if (feature.kind == FeatureKind::MirrorFace && m_view != nullptr)
+        PickFaceFor(feature);
+    else
+        Try([this, &feature] { m_model.Change(feature.name, feature); });
+}
+
+void PartActions::PickFaceFor(const Feature& feature)
+{
+    PostMessageToChannel(InfoLevel, tr("Click the face to mirror at, or press Escape"));
+    m_waiting = feature;
+    // The face is one of the input, which the part need not show: a mirror has its image there.
+    const TopoDS_Shape input = m_model.ShapeOf(feature.inputs.first());
+    if (!input.IsNull())
+        m_view->ShowShape(input);
+    m_view->PickFace();
+}
+
+void PartActions::TakePoint(const gp_Pnt& point)
+{
+    if (!m_waiting.has_value())
+        return;
+    Feature feature = *m_waiting;
+    EndPicking();
+    feature.fields = QStringList(
+        {CoordinateText(point.X()), CoordinateText(point.Y()), CoordinateText(point.Z())});
+    Try([this, &feature] {
+        if (feature.name.isEmpty())
+            AddNamed(feature);
+        else
+            m_model.Change(feature.name, feature);
+    });
+}
+
+void PartActions::EndPicking()
+{
+    if (!m_waiting.has_value())
+        return;
+    m_waiting.reset();
+    if (m_view == nullptr)
+        return;
+    m_view->CancelPicking();
+    m_view->ShowShape(m_model.Shape());
+}
+
+void PartActions::MoveSelected(int steps)
+{
+    Try([this, steps] { m_model.Move(m_tree.Selected().value(0), steps); });
+}
+
+void PartActions::SuppressSelected()
+{
+    Try([this] { m_model.SetSuppressed(m_tree.Selected(), m_suppress->isChecked()); });
+    UpdateActions();
+}
+
+void PartActions::DeleteSelected()
+{
+    Try([this] { m_model.Remove(m_tree.Selected()); });
+}
+
+QString PartActions::AskForStepFile()
+{
+    const QString path = QFileDialog::getOpenFileName(m_window, tr("Import STEP"),
+                                                      StartFolder(m_model.Folder()), StepFilter());
+    const QString fromFolder = QDir(m_model.Folder()).relativeFilePath(path);
+    // Files beside the project move with it.
+    const bool isBeside = !m_model.Folder().isEmpty() && !path.isEmpty() &&
+                          !fromFolder.startsWith(QStringLiteral(".."));
+    return isBeside ? fromFolder : path;
+}
+
+void PartActions::ImportStep()
+{
+    Feature feature = FeatureKinds::MakeFeature(FeatureKind::StepImport);
+    feature.file = AskForStepFile();
+    if (!feature.file.isEmpty())
+        Try([this, &feature] { AddNamed(feature); });
+}
+
+void PartActions::ChooseFileOf(const Feature& feature)
+{
+    Feature changed = feature;
+    changed.file = AskForStepFile();
+    if (!changed.file.isEmpty())
+        Apply(changed);
+}
+
+void PartActions::ExportStep()
+{
+    const QStringList& selected = m_tree.Selected();
+    const TopoDS_Shape shape =
+        selected.size() == 1 ? m_model.ShapeOf(selected.first()) : m_model.Shape();
+    if (shape.IsNull()) {
+        PostMessageToChannel(WarningLevel, tr("There is no shape to export"));
+        return;
+    }
+    QFileDialog dialog(m_window, tr("Export STEP"), StartFolder(m_model.Folder()), StepFilter());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("step"));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString path = dialog.selectedFiles().value(0);
+    Try([&shape, &path] {
+        WriteStepFile(shape, path);
+        PostMessageToChannel(InfoLevel, tr("Wrote %1").arg(QDir::toNativeSeparators(path)));
+    });
+}

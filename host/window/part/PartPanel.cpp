@@ -1,0 +1,126 @@
+#include "PartPanel.h"
+
+#include "MessageLevel.h"
+#include "PartView.h"
+#include "NumberTexts.h"
+#include "ShapeMeasures.h"
+#include "ShapePicture.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QTime>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr double CubicMillimetresPerCubicCentimetre = 1e3;
+constexpr double SquareMillimetresPerSquareCentimetre = 1e2;
+
+// A bounding box has tiny rests where a shape ends at 0.
+QString LengthText(double millimetres)
+{
+    const double rounded = qRound64(millimetres * 1e3) / 1e3;
+    return ShortText(rounded);
+}
+
+QLabel* AddRow(QFormLayout& form, const QString& caption, const char* name)
+{
+    auto* const label = new QLabel;
+    label->setObjectName(QString::fromLatin1(name));
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    form.addRow(caption, label);
+    return label;
+}
+
+} // namespace
+
+PartPanel::PartPanel(QWidget* parent)
+    : QWidget(parent)
+    , m_layout(new QVBoxLayout(this))
+{
+    setObjectName(QStringLiteral("shapeSummary"));
+
+    auto* const form = new QFormLayout;
+    form->setLabelAlignment(Qt::AlignLeft);
+    m_status = AddRow(*form, tr("Status"), "label_Status");
+    m_status->setWordWrap(true);
+    m_volume = AddRow(*form, tr("Volume"), "label_Volume");
+    m_area = AddRow(*form, tr("Surface"), "label_Area");
+    m_mass = AddRow(*form, tr("Mass"), "label_Mass");
+    m_size = AddRow(*form, tr("Bounding box"), "label_BoundingBox");
+    m_position = AddRow(*form, tr("From, to"), "label_BoundingBoxPosition");
+
+    m_layout->addLayout(form);
+    const QString reason = PartView::UnavailableReason();
+    if (reason.isEmpty()) {
+        m_view = new PartView(this);
+        m_layout->insertWidget(0, m_view, 1);
+        connect(m_view, &PartView::Failed, this, &PartPanel::UsePicture);
+    } else {
+        UsePicture(reason);
+    }
+    Clear();
+}
+
+PartPanel::~PartPanel() = default;
+
+void PartPanel::UsePicture(const QString& reason)
+{
+    if (m_view != nullptr)
+        m_view->hide();
+    m_picture = new ShapePicture(this);
+    m_layout->insertWidget(0, m_picture, 1);
+    m_warning = tr("The part is shown as a line drawing: %1").arg(reason);
+    if (!m_shape.IsNull())
+        Show(m_shape);
+}
+
+void PartPanel::Show(const TopoDS_Shape& shape)
+{
+    m_shape = shape;
+    if (m_view != nullptr)
+        m_view->ShowShape(shape);
+    if (m_picture != nullptr)
+        m_picture->SetShape(shape);
+    if (m_warning.isEmpty() || shape.IsNull())
+        return;
+    PostMessageToChannel(WarningLevel, m_warning);
+    m_warning.clear();
+}
+
+void PartPanel::ShowShape(const TopoDS_Shape& shape, double density)
+{
+    const ShapeMeasures measures = Measure(shape);
+    const std::array<double, 6>& box = measures.boundingBox;
+    m_volume->setText(
+        tr("%1 cm³").arg(ShortText(measures.volume / CubicMillimetresPerCubicCentimetre)));
+    m_area->setText(
+        tr("%1 cm²").arg(ShortText(measures.area / SquareMillimetresPerSquareCentimetre)));
+    m_mass->setText(tr("%1 kg").arg(ShortText(Mass(measures, density))));
+    m_size->setText(tr("%1 × %2 × %3 mm")
+                        .arg(LengthText(box[3] - box[0]), LengthText(box[4] - box[1]),
+                             LengthText(box[5] - box[2])));
+    m_position->setText(tr("(%1, %2, %3), (%4, %5, %6) mm")
+                            .arg(LengthText(box[0]), LengthText(box[1]), LengthText(box[2]),
+                                 LengthText(box[3]), LengthText(box[4]), LengthText(box[5])));
+    Show(shape);
+    m_builtAt = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
+    m_status->setText(tr("Built at %1").arg(m_builtAt));
+}
+
+void PartPanel::ShowFailure(const QString& reason)
+{
+    const QString shown = m_builtAt.isEmpty()
+                              ? tr("There is no earlier shape.")
+                              : tr("Shown is the last good shape, built at %1.").arg(m_builtAt);
+    m_status->setText(tr("Not built: %1\n%2").arg(reason, shown));
+}
+
+void PartPanel::Clear()
+{
+    Show(TopoDS_Shape());
+    m_builtAt.clear();
+    m_status->setText(tr("There is no shape yet"));
+    for (QLabel* const label : {m_volume, m_area, m_mass, m_size, m_position})
+        label->setText(tr("none"));
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QWidget>
+#include <TopoDS_Shape.hxx>
+
+class PartView;
+class QLabel;
+class QVBoxLayout;
+class ShapePicture;
+
+/// Shows the part: in three dimensions, with its measures, and whether the last build succeeded.
+///
+/// Where there is no OpenGL, a line drawing stands in for the view; the first shape then comes with
+/// one warning in the message channel.
+class PartPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PartPanel(QWidget* parent);
+    ~PartPanel() override;
+
+    /// Shows a shape that was just built; @p density is in kg/m3.
+    void ShowShape(const TopoDS_Shape& shape, double density);
+
+    /// Says why the last build failed. What is shown of the last good shape stays.
+    void ShowFailure(const QString& reason);
+
+    /// Shows that there is no shape.
+    void Clear();
+
+    /// The view, which belongs to this; null where there is no OpenGL.
+    PartView* View() const { return m_view; }
+
+private:
+    void UsePicture(const QString& reason);
+    void Show(const TopoDS_Shape& shape);
+
+    PartView* m_view = nullptr;
+    ShapePicture* m_picture = nullptr; // In place of the view.
+    QVBoxLayout* m_layout;
+    TopoDS_Shape m_shape;
+    QString m_warning; // Why there is a picture; empty once it was posted.
+    QLabel* m_status;
+    QLabel* m_volume;
+    QLabel* m_area;
+    QLabel* m_mass;
+    QLabel* m_size;
+    QLabel* m_position;
+    QString m_builtAt; // The time of the last good shape; empty when there is none.
+};

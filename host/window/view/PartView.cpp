@@ -1,0 +1,380 @@
+#include "PartView.h"
+
+#include "MessageLevel.h"
+#include "PartScene.h"
+
+#include <QMouseEvent>
+#include <QOpenGLContext>
+#include <QShortcut>
+#include <QTimer>
+#include <Standard_Failure.hxx>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+V3d_TypeOfOrientation Orientation(PartView::StandardView view)
+{
+    switch (view) {
+    case PartView::FrontView:
+        return V3d_TypeOfOrientation_Zup_Front;
+    case PartView::BackView:
+        return V3d_TypeOfOrientation_Zup_Back;
+    case PartView::LeftView:
+        return V3d_TypeOfOrientation_Zup_Left;
+    case PartView::RightView:
+        return V3d_TypeOfOrientation_Zup_Right;
+    case PartView::TopView:
+        return V3d_TypeOfOrientation_Zup_Top;
+    case PartView::BottomView:
+        return V3d_TypeOfOrientation_Zup_Bottom;
+    case PartView::IsometricView:
+        break;
+    }
+    return V3d_TypeOfOrientation_Zup_AxoRight;
+}
+
+Aspect_VKeyMouse MouseButtons(Qt::MouseButtons buttons)
+{
+    Aspect_VKeyMouse keys = Aspect_VKeyMouse_NONE;
+    if (buttons.testFlag(Qt::LeftButton))
+        keys |= Aspect_VKeyMouse_LeftButton;
+    if (buttons.testFlag(Qt::MiddleButton))
+        keys |= Aspect_VKeyMouse_MiddleButton;
+    if (buttons.testFlag(Qt::RightButton))
+        keys |= Aspect_VKeyMouse_RightButton;
+    return keys;
+}
+
+Aspect_VKeyFlags KeyFlags(Qt::KeyboardModifiers modifiers)
+{
+    return modifiers.testFlag(Qt::ShiftModifier) ? Aspect_VKeyFlags_SHIFT : Aspect_VKeyFlags_NONE;
+}
+
+Graphic3d_Vec2i Vector(const QPoint& point)
+{
+    return Graphic3d_Vec2i(point.x(), point.y());
+}
+
+void DropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+// Keeps quiet what is only tried: the toolkit warns, and the driver writes to the console itself.
+class QuietConsole
+{
+public:
+    QuietConsole()
+        : m_handler(qInstallMessageHandler(DropMessage))
+        , m_console(dup(STDERR_FILENO))
+    {
+        const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+        dup2(nowhere, STDERR_FILENO);
+        close(nowhere);
+    }
+    ~QuietConsole()
+    {
+        dup2(m_console, STDERR_FILENO);
+        close(m_console);
+        qInstallMessageHandler(m_handler);
+    }
+    Q_DISABLE_COPY(QuietConsole)
+
+private:
+    QtMessageHandler m_handler;
+    int m_console;
+};
+
+QString TryOpenGl()
+{
+    const QuietConsole quiet;
+    QOpenGLContext context;
+    if (!context.create())
+        return PartView::tr("the system offers no OpenGL");
+    try {
+        const PartScene scene(context, [] {});
+    } catch (const Standard_Failure& failure) {
+        return QString::fromLocal8Bit(failure.GetMessageString());
+    }
+    return {};
+}
+
+} // namespace
+
+QString PartView::UnavailableReason()
+{
+    static const QString reason = TryOpenGl();
+    return reason;
+}
+
+PartView::PartView(QWidget* parent)
+    : QOpenGLWidget(parent)
+    , m_escape(new QShortcut(Qt::Key_Escape, this))
+{
+    setObjectName(QStringLiteral("modelView"));
+    setMinimumSize(160, 120);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::ClickFocus);
+    m_escape->setEnabled(false);
+    connect(m_escape, &QShortcut::activated, this, &PartView::CancelPicking);
+}
+
+PartView::~PartView()
+{
+    DropScene();
+    if (context() != nullptr)
+        disconnect(context(), nullptr, this, nullptr);
+}
+
+bool PartView::WithScene(const std::function<void(PartScene&)>& act)
+{
+    if (!m_scene)
+        return false;
+    makeCurrent();
+    try {
+        act(*m_scene);
+        return true;
+    } catch (const Standard_Failure& failure) {
+        PostMessageToChannel(ErrorLevel,
+                             tr("The 3D view cannot show this: %1")
+                                 .arg(QString::fromLocal8Bit(failure.GetMessageString())));
+    }
+    return false;
+}
+
+void PartView::ShowShape(const TopoDS_Shape& shape, bool fitFirstTime)
+{
+    const bool isFirst = m_shape.IsNull();
+    m_shape = shape;
+    TellPoint({});
+    WithScene([this](PartScene& scene) { scene.ShowPart(m_shape, m_mode == ShadedWithEdges); });
+    if (isFirst && fitFirstTime && !shape.IsNull())
+        FitAll();
+}
+
+void PartView::HighlightShape(const TopoDS_Shape& shape)
+{
+    m_highlight = shape;
+    WithScene([this](PartScene& scene) { scene.ShowHighlight(m_highlight); });
+}
+
+void PartView::ShowPoint(const gp_Pnt& point)
+{
+    m_mark = point;
+    WithScene([this](PartScene& scene) { scene.ShowMark(*m_mark); });
+}
+
+void PartView::HidePoint()
+{
+    m_mark.reset();
+    WithScene([](PartScene& scene) { scene.HideMark(); });
+}
+
+void PartView::FitAll()
+{
+    if (!WithScene([](PartScene& scene) { scene.FitAll(); }))
+        m_isFitAwaited = true;
+}
+
+void PartView::SetStandardView(StandardView view)
+{
+    m_firstView = view;
+    if (!WithScene([view](PartScene& scene) { scene.Turn(Orientation(view)); }))
+        m_isFitAwaited = true;
+}
+
+void PartView::SetDisplayMode(DisplayMode mode)
+{
+    m_mode = mode;
+    WithScene([mode](PartScene& scene) { scene.SetShaded(mode == ShadedWithEdges); });
+}
+
+void PartView::PickFace()
+{
+    m_isPicking = true;
+    m_escape->setEnabled(true);
+    setCursor(Qt::CrossCursor);
+}
+
+void PartView::EndPicking()
+{
+    m_isPicking = false;
+    m_escape->setEnabled(false);
+    unsetCursor();
+}
+
+void PartView::CancelPicking()
+{
+    if (!m_isPicking)
+        return;
+    EndPicking();
+    Q_EMIT PickingCancelled();
+}
+
+QSize PartView::sizeHint() const
+{
+    return {480, 360};
+}
+
+void PartView::initializeGL()
+{
+    // The context goes when the view moves into another window; a new one comes then.
+    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &PartView::DropScene);
+    MakeScene();
+}
+
+void PartView::MakeScene()
+{
+    try {
+        m_scene = std::make_unique<PartScene>(*context(), [this] { update(); });
+    } catch (const Standard_Failure& failure) {
+        Fail(failure);
+        return;
+    }
+    makeCurrent();
+    WithScene([this](PartScene& scene) {
+        Resize(scene);
+        scene.SetPalette(palette());
+        scene.Turn(Orientation(m_firstView));
+        if (!m_camera.IsNull())
+            scene.SetCamera(m_camera);
+        if (m_mark.has_value())
+            scene.ShowMark(*m_mark);
+        scene.ShowHighlight(m_highlight);
+        scene.ShowPart(m_shape, m_mode == ShadedWithEdges);
+    });
+}
+
+void PartView::DropScene()
+{
+    if (!m_scene)
+        return;
+    makeCurrent();
+    m_camera = m_scene->Camera();
+    m_scene.reset();
+    doneCurrent();
+}
+
+void PartView::resizeGL(int width, int height)
+{
+    Q_UNUSED(width)
+    Q_UNUSED(height)
+    WithScene([this](PartScene& scene) {
+        Resize(scene);
+        if (m_isFitAwaited)
+            scene.FitAll();
+        m_isFitAwaited = false;
+    });
+}
+
+void PartView::Resize(PartScene& scene) const
+{
+    const double ratio = devicePixelRatioF();
+    scene.Resize(qRound(width() * ratio), qRound(height() * ratio), ratio);
+}
+
+void PartView::paintGL()
+{
+    if (!m_scene)
+        return;
+    try {
+        m_scene->Draw();
+    } catch (const Standard_Failure& failure) {
+        DropScene();
+        Fail(failure);
+        return;
+    }
+    if (m_scene->IsTurning())
+        QTimer::singleShot(0, this, [this] { HandleMouse(m_cursor); });
+}
+
+void PartView::Fail(const Standard_Failure& failure)
+{
+    // Queued, as whoever hears of it may delete this, which must not be while it is drawn.
+    const QString reason = QString::fromLocal8Bit(failure.GetMessageString());
+    QMetaObject::invokeMethod(
+        this, [this, reason] { Q_EMIT Failed(reason); }, Qt::QueuedConnection);
+}
+
+void PartView::changeEvent(QEvent* event)
+{
+    QOpenGLWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        WithScene([this](PartScene& scene) { scene.SetPalette(palette()); });
+}
+
+QPoint PartView::DevicePosition(const QPointF& position) const
+{
+    return (position * devicePixelRatioF()).toPoint();
+}
+
+void PartView::mousePressEvent(QMouseEvent* event)
+{
+    WithScene([&](PartScene& scene) {
+        scene.UpdateMouseButtons(Vector(DevicePosition(event->localPos())),
+                                 MouseButtons(event->buttons()), KeyFlags(event->modifiers()),
+                                 false);
+    });
+    HandleMouse(event->localPos());
+}
+
+void PartView::mouseReleaseEvent(QMouseEvent* event)
+{
+    mousePressEvent(event);
+}
+
+void PartView::mouseMoveEvent(QMouseEvent* event)
+{
+    WithScene([&](PartScene& scene) {
+        scene.UpdateMousePosition(Vector(DevicePosition(event->localPos())),
+                                  MouseButtons(event->buttons()), KeyFlags(event->modifiers()),
+                                  false);
+    });
+    HandleMouse(event->localPos());
+}
+
+void PartView::wheelEvent(QWheelEvent* event)
+{
+    const double notches = event->angleDelta().y() / double(QWheelEvent::DefaultDeltasPerStep);
+    WithScene([&](PartScene& scene) {
+        if (scene.CanZoom(notches > 0.0))
+            scene.UpdateMouseScroll(
+                Aspect_ScrollDelta(Vector(DevicePosition(event->position())), notches));
+    });
+    HandleMouse(event->position());
+    event->accept();
+}
+
+void PartView::leaveEvent(QEvent* event)
+{
+    QOpenGLWidget::leaveEvent(event);
+    WithScene([](PartScene& scene) { scene.Leave(); });
+    TellPoint({});
+}
+
+void PartView::HandleMouse(const QPointF& position)
+{
+    m_cursor = position;
+    bool wasClicked = false;
+    std::optional<PartScene::Hit> hit;
+    WithScene([&](PartScene& scene) {
+        wasClicked = scene.HandleMouse();
+        const QPoint pixel = DevicePosition(position);
+        hit = scene.Detected(pixel.x(), pixel.y());
+    });
+    // From here on others act, who may show other shapes.
+    TellPoint(hit.has_value() ? std::optional<gp_Pnt>(hit->point) : std::nullopt);
+    if (m_isPicking && wasClicked && hit.has_value()) {
+        EndPicking();
+        Q_EMIT FacePicked(hit->face, hit->point);
+    }
+}
+
+void PartView::TellPoint(const std::optional<gp_Pnt>& point)
+{
+    const bool wasKnown = m_isPointKnown;
+    m_isPointKnown = point.has_value();
+    if (point.has_value())
+        Q_EMIT PointMoved(*point);
+    else if (wasKnown)
+        Q_EMIT PointLost();
+}

@@ -1,0 +1,89 @@
+#include "ViewActions.h"
+
+#include "PartView.h"
+
+#include <QActionGroup>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QToolBar>
+
+namespace {
+
+// "Fit" of "&Fit", and of "Fit(&F)", where the toolkit would leave the letter.
+QString WithoutAccessKey(QString text)
+{
+    static const QRegularExpression letterApart(QStringLiteral("\\(&\\w\\)"));
+    return text.remove(letterApart).remove(QLatin1Char('&'));
+}
+
+QAction* NewSeparator(QObject* parent)
+{
+    auto* const separator = new QAction(parent);
+    separator->setSeparator(true);
+    return separator;
+}
+
+} // namespace
+
+ViewActions::ViewActions(PartView* view, QObject* parent)
+    : QObject(parent)
+{
+    Add(tr("&Fit"), "action_FitView", QKeySequence(QStringLiteral("Ctrl+0")),
+        [view] { view->FitAll(); });
+    m_actions << NewSeparator(this);
+
+    const auto addView = [this, view](const QString& text, const char* name, int key,
+                                      PartView::StandardView standardView) {
+        Add(text, name, QKeySequence(QStringLiteral("Ctrl+%1").arg(key)),
+            [view, standardView] { view->SetStandardView(standardView); });
+    };
+    addView(tr("F&ront"), "action_FrontView", 1, PartView::FrontView);
+    addView(tr("&Back"), "action_BackView", 2, PartView::BackView);
+    addView(tr("&Left"), "action_LeftView", 3, PartView::LeftView);
+    addView(tr("Ri&ght"), "action_RightView", 4, PartView::RightView);
+    addView(tr("&Top"), "action_TopView", 5, PartView::TopView);
+    addView(tr("B&ottom"), "action_BottomView", 6, PartView::BottomView);
+    addView(tr("&Isometric"), "action_IsometricView", 7, PartView::IsometricView);
+    m_actions << NewSeparator(this);
+
+    auto* const modes = new QActionGroup(this);
+    const auto addMode = [this, view, modes](const QString& text, const char* name,
+                                             PartView::DisplayMode mode) {
+        QAction* const action =
+            Add(text, name, QKeySequence(), [view, mode] { view->SetDisplayMode(mode); });
+        action->setCheckable(true);
+        action->setChecked(view != nullptr && view->CurrentDisplayMode() == mode);
+        modes->addAction(action);
+    };
+    addMode(tr("&Shaded with edges"), "action_ShadedWithEdges", PartView::ShadedWithEdges);
+    addMode(tr("&Wireframe"), "action_Wireframe", PartView::Wireframe);
+
+    for (QAction* const action : qAsConst(m_actions))
+        action->setEnabled(view != nullptr);
+}
+
+ViewActions::~ViewActions() = default;
+
+QAction* ViewActions::Add(const QString& text, const char* name, const QKeySequence& shortcut,
+                          const std::function<void()>& act)
+{
+    auto* const action = new QAction(text, this);
+    action->setObjectName(QString::fromLatin1(name));
+    action->setShortcut(shortcut);
+    // On the tool bar.
+    action->setIconText(WithoutAccessKey(text));
+    action->setToolTip(action->iconText());
+    connect(action, &QAction::triggered, this, act);
+    m_actions << action;
+    return action;
+}
+
+void ViewActions::FillMenu(QMenu& menu) const
+{
+    menu.addActions(m_actions);
+}
+
+void ViewActions::FillToolBar(QToolBar& toolBar) const
+{
+    toolBar.addActions(m_actions);
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QList>
+#include <QObject>
+
+#include <functional>
+
+class PartView;
+class QAction;
+class QMenu;
+class QToolBar;
+
+/// What menu and toolbar offer for the view: fit, the standard views, the way of display.
+///
+/// Without a view, where there is no OpenGL, the actions are there but disabled.
+class ViewActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p view may be null; otherwise it outlives the actions.
+    ViewActions(PartView* view, QObject* parent);
+    ~ViewActions() override;
+
+    void FillMenu(QMenu& menu) const;
+    void FillToolBar(QToolBar& toolBar) const;
+
+private:
+    QAction* Add(const QString& text, const char* name, const QKeySequence& shortcut,
+                 const std::function<void()>& act);
+
+    QList<QAction*> m_actions;
+};

@@ -1,0 +1,200 @@
+#include "AnalysisFiles.h"
+#include "EmptyAnalysisStores.h"
+#include "TestCase.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/resource.h>
+
+#include <csignal>
+
+class tst_AnalysisFiles : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TheSystemLibraryIsThatOfTheSources();
+    void AnInstalledLibraryIsPreferred();
+    void AMissingLibraryIsProvided();
+    void TheProvidedFileCanBeWrittenByItsOwner();
+    void AFileThatIsThereStays_data();
+    void AFileThatIsThereStays();
+    void ALinkToNowhereIsNotFollowed();
+    void ADirectoryOfThatNameIsNoLibrary();
+    void AMissingSourceLeavesNoFile();
+    void AFullDiskLeavesNoFile();
+    void ALibraryThatCannotBeProvidedGivesAWarning();
+    void TheFilesFillTheStores();
+    void WhatTheStoresHoldStays();
+};
+
+namespace {
+
+QByteArray ReadAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void WriteAll(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), qint64(content.size()));
+}
+
+QByteArray Shipped()
+{
+    return ReadAll(SourcePath("model/TarnFEMData/SysMaterial.xml"));
+}
+
+KVMaterialInfo* NewUserMaterial(const QString& name)
+{
+    auto* const material = new KVMaterialInfo;
+    material->m_nType = MATERIAL_USER;
+    material->m_strName = name;
+    return material;
+}
+
+} // namespace
+
+void tst_AnalysisFiles::TheSystemLibraryIsThatOfTheSources()
+{
+    QVERIFY(!Shipped().isEmpty());
+    QCOMPARE(ReadAll(InstalledSystemMaterials()), Shipped());
+}
+
+void tst_AnalysisFiles::AnInstalledLibraryIsPreferred()
+{
+    const QDir program(QCoreApplication::applicationDirPath());
+    const QString directory = program.filePath("../share/TarnGUICommon");
+    QVERIFY(QDir().mkpath(directory));
+    WriteAll(directory + "/SysMaterial.xml", "installed");
+    const QByteArray found = ReadAll(InstalledSystemMaterials());
+    QVERIFY(QDir(program.filePath("../share")).removeRecursively());
+    QCOMPARE(found, QByteArray("installed"));
+}
+
+void tst_AnalysisFiles::AMissingLibraryIsProvided()
+{
+    EnterTemporaryDirectory();
+    QVERIFY(ProvideSystemMaterials());
+    QCOMPARE(ReadAll("SysMaterial.xml"), Shipped());
+    QCOMPARE(QDir().entryList(QDir::Files), QStringList("SysMaterial.xml"));
+}
+
+void tst_AnalysisFiles::TheProvidedFileCanBeWrittenByItsOwner()
+{
+    EnterTemporaryDirectory();
+    QVERIFY(ProvideSystemMaterials());
+    QVERIFY(QFile::permissions("SysMaterial.xml").testFlag(QFileDevice::WriteOwner));
+}
+
+void tst_AnalysisFiles::AFileThatIsThereStays_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("no XML") << QByteArray("mine");
+    QTest::newRow("another library") << QByteArray("<Materials version=\"1\" units=\"SI\"/>");
+}
+
+void tst_AnalysisFiles::AFileThatIsThereStays()
+{
+    QFETCH(QByteArray, content);
+    EnterTemporaryDirectory();
+    WriteAll("SysMaterial.xml", content);
+    QVERIFY(ProvideSystemMaterials());
+    QCOMPARE(ReadAll("SysMaterial.xml"), content);
+}
+
+void tst_AnalysisFiles::ALinkToNowhereIsNotFollowed()
+{
+    EnterTemporaryDirectory();
+    QVERIFY(QFile::link("elsewhere.xml", "SysMaterial.xml"));
+    QVERIFY(!ProvideSystemMaterials());
+    QVERIFY(!QFileInfo::exists("elsewhere.xml"));
+    QVERIFY(QFileInfo("SysMaterial.xml").isSymLink());
+}
+
+void tst_AnalysisFiles::ADirectoryOfThatNameIsNoLibrary()
+{
+    EnterTemporaryDirectory();
+    QVERIFY(QDir().mkpath("SysMaterial.xml"));
+    QVERIFY(!ProvideSystemMaterials());
+    QVERIFY(QFileInfo("SysMaterial.xml").isDir());
+}
+
+void tst_AnalysisFiles::AMissingSourceLeavesNoFile()
+{
+    EnterTemporaryDirectory();
+    QVERIFY(!ProvideSystemMaterials("no such file"));
+    QVERIFY(QDir().isEmpty());
+}
+
+void tst_AnalysisFiles::AFullDiskLeavesNoFile()
+{
+    EnterTemporaryDirectory();
+    // A limit on the file size stands for the full disk.
+    rlimit limit{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlim_t former = limit.rlim_cur;
+    limit.rlim_cur = 1024;
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    const bool isProvided = ProvideSystemMaterials();
+    limit.rlim_cur = former;
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    std::signal(SIGXFSZ, handler);
+
+    QVERIFY(!isProvided);
+    QVERIFY(QDir().isEmpty());
+}
+
+void tst_AnalysisFiles::ALibraryThatCannotBeProvidedGivesAWarning()
+{
+    const EmptyAnalysisStores stores;
+    EnterTemporaryDirectory();
+    QVERIFY(QDir().mkpath("SysMaterial.xml"));
+    QCOMPARE(ReadAnalysisFiles(), QString("There is no system library of materials: "
+                                          "SysMaterial.xml cannot be written"));
+}
+
+void tst_AnalysisFiles::TheFilesFillTheStores()
+{
+    const EmptyAnalysisStores stores;
+    EnterTemporaryDirectory();
+    KVMaterialData& materials = *KVMaterialData::GetInstance();
+    KVPropertyData& properties = *KVPropertyData::GetInstance();
+    materials.AddMaterialInfo(NewUserMaterial("mine"));
+    QCOMPARE(materials.WriteXML("./UserMaterial.xml"), 0);
+    materials.ClearInfo();
+    auto* const property = new CQLTElemPropDef;
+    property->m_strName = "plate";
+    properties.AddPropInfo(property);
+    QCOMPARE(properties.WriteXML("./ElementProperty.xml"), 0);
+    properties.Clear();
+
+    QCOMPARE(ReadAnalysisFiles(), QString());
+    QVERIFY(materials.GetMaterialInfo("mine") != nullptr);
+    QVERIFY(materials.GetMaterialInfo("Steel S355") != nullptr);
+    QCOMPARE(materials.GetMaterialInfo("mine")->m_nType, int(MATERIAL_USER));
+    QCOMPARE(materials.GetMaterialInfo("Steel S355")->m_nType, int(MATERIAL_SYSTEM));
+    QCOMPARE(properties.GetProptyDataMap().count("plate"), std::size_t(1));
+}
+
+void tst_AnalysisFiles::WhatTheStoresHoldStays()
+{
+    const EmptyAnalysisStores stores;
+    EnterTemporaryDirectory();
+    KVMaterialData& materials = *KVMaterialData::GetInstance();
+    KVMaterialInfo* const unwritten = NewUserMaterial("unwritten");
+    materials.AddMaterialInfo(unwritten);
+    ReadAnalysisFiles();
+    QCOMPARE(materials.GetMaterialNameList(), QStringList("unwritten"));
+    QCOMPARE(materials.GetMaterialInfo("unwritten"), unwritten);
+}
+
+TARN_TEST_MAIN(tst_AnalysisFiles)
+#include "tst_AnalysisFiles.moc"

@@ -1,0 +1,116 @@
+#include "DrawerOutput.h"
+#include "MessageLevel.h"
+#include "PartPanel.h"
+#include "TestCase.h"
+
+#include <BRepPrimAPI_MakeBox.hxx>
+#include <QLabel>
+#include <QSignalSpy>
+#include <TopoDS_Shape.hxx>
+
+class tst_PartPanel : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void AtFirstThereIsNoShape();
+    void AShapeIsShownWithItsMeasures();
+    void AFailureKeepsTheLastGoodShape();
+    void AFailureWithoutAnEarlierShapeSaysSo();
+    void ClearForgetsTheShape();
+    void WithoutOpenGlThereIsALineDrawingAndOneWarning();
+};
+
+namespace {
+
+// 100 x 200 x 50 mm from (0, 0, 0), of 7,850 kg/m3.
+void ShowBlock(PartPanel& summary)
+{
+    summary.ShowShape(BRepPrimAPI_MakeBox(100.0, 200.0, 50.0).Shape(), 7850.0);
+}
+
+QString Shown(const PartPanel& summary, const char* label)
+{
+    return Find<QLabel>(summary, label).text();
+}
+
+} // namespace
+
+void tst_PartPanel::AtFirstThereIsNoShape()
+{
+    const PartPanel summary(nullptr);
+    QCOMPARE(Shown(summary, "label_Status"), QStringLiteral("There is no shape yet"));
+    for (const char* const label : {"label_Volume", "label_Area", "label_Mass", "label_BoundingBox",
+                                    "label_BoundingBoxPosition"})
+        QCOMPARE(Shown(summary, label), QStringLiteral("none"));
+}
+
+void tst_PartPanel::AShapeIsShownWithItsMeasures()
+{
+    PartPanel summary(nullptr);
+    ShowBlock(summary);
+    QVERIFY(Shown(summary, "label_Status").startsWith("Built at "));
+    QCOMPARE(Shown(summary, "label_Volume"), QStringLiteral("1000 cm³"));
+    QCOMPARE(Shown(summary, "label_Area"), QStringLiteral("700 cm²"));
+    QCOMPARE(Shown(summary, "label_Mass"), QStringLiteral("7.85 kg"));
+    QCOMPARE(Shown(summary, "label_BoundingBox"), QStringLiteral("100 × 200 × 50 mm"));
+    QCOMPARE(Shown(summary, "label_BoundingBoxPosition"),
+             QStringLiteral("(0, 0, 0), (100, 200, 50) mm"));
+}
+
+void tst_PartPanel::AFailureKeepsTheLastGoodShape()
+{
+    PartPanel summary(nullptr);
+    ShowBlock(summary);
+    auto& drawing = Find<QWidget>(summary, "shapePicture");
+    drawing.setFixedSize(300, 200);
+    const QImage picture = drawing.grab().toImage();
+    summary.ShowFailure("the bore is too large");
+    QVERIFY(Shown(summary, "label_Status").contains("the bore is too large"));
+    QVERIFY(Shown(summary, "label_Status").contains("last good shape"));
+    QCOMPARE(Shown(summary, "label_Volume"), QStringLiteral("1000 cm³"));
+    QCOMPARE(drawing.grab().toImage(), picture);
+}
+
+void tst_PartPanel::AFailureWithoutAnEarlierShapeSaysSo()
+{
+    PartPanel summary(nullptr);
+    summary.ShowFailure("the bore is too large");
+    QVERIFY(Shown(summary, "label_Status").contains("the bore is too large"));
+    QVERIFY(Shown(summary, "label_Status").contains("no earlier shape"));
+}
+
+void tst_PartPanel::ClearForgetsTheShape()
+{
+    PartPanel summary(nullptr);
+    ShowBlock(summary);
+    summary.Clear();
+    QCOMPARE(Shown(summary, "label_Volume"), QStringLiteral("none"));
+    summary.ShowFailure("the bore is too large");
+    QVERIFY(Shown(summary, "label_Status").contains("no earlier shape"));
+}
+
+void tst_PartPanel::WithoutOpenGlThereIsALineDrawingAndOneWarning()
+{
+    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    PartPanel summary(nullptr);
+    QVERIFY(summary.View() == nullptr);
+    auto& drawing = Find<QWidget>(summary, "shapePicture");
+    drawing.setFixedSize(300, 200);
+    const QImage empty = drawing.grab().toImage();
+    // Whoever shows the messages may be made after this.
+    QCOMPARE(posted.size(), 0);
+    ShowBlock(summary);
+    QVERIFY(drawing.grab().toImage() != empty);
+    QCOMPARE(posted.size(), 1);
+    QCOMPARE(posted[0][0].toInt(), int(WarningLevel));
+    QCOMPARE(posted[0][1].toString(),
+             QStringLiteral("The part is shown as a line drawing: the system offers no OpenGL"));
+    ShowBlock(summary);
+    summary.Clear();
+    ShowBlock(summary);
+    QCOMPARE(posted.size(), 1);
+}
+
+TARN_TEST_MAIN(tst_PartPanel)
+#include "tst_PartPanel.moc"

@@ -1,0 +1,133 @@
+#include "DesignActions.h"
+#include "DrawerOutput.h"
+#include "EmptyDesignStores.h"
+#include "MessageLevel.h"
+#include "ModalDriver.h"
+#include "Project.h"
+#include "TestCase.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTableWidget>
+
+class tst_DesignActions : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ApplyTellsThatParametersChanged();
+    void ACancelledEditorTellsNothing();
+    void ARunTellsThatParametersChanged();
+    void RestoreBringsTheDesignBackAndTells();
+    void ASavedRunIsToldUntilTheDesignIsBack();
+    void AnotherProjectForgetsTheDesign();
+};
+
+namespace {
+
+struct Design
+{
+    Design()
+    {
+        Project::Load(Project::SamplePath()).FillStores();
+        actions->FillMenu(menu);
+        actions->Start();
+    }
+
+    QAction& Action(const char* name) { return *window.findChild<QAction*>(name); }
+
+    void Generate(int row)
+    {
+        user.Then([row](QDialog& dialog) {
+            Find<QTableWidget>(dialog, "tableWidget_Final").setCurrentCell(row, 0);
+            Click(dialog, "pushButton_GenGeo");
+            dialog.reject();
+        });
+        menu.findChild<QAction*>("action_DesignOfExperiments")->trigger();
+        QVERIFY(user.IsDone());
+    }
+
+    EmptyDesignStores stores;
+    QWidget window;
+    QMenu menu;
+    DesignActions* actions = new DesignActions(&window);
+    ModalDriver user;
+    QSignalSpy changed{actions, &DesignActions::ParametersChanged};
+    QSignalSpy posted{DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage};
+};
+
+double Stored(const QString& name)
+{
+    return GlobalParaMeterMgr::GetParameterRawValue(name).toDouble();
+}
+
+} // namespace
+
+void tst_DesignActions::ApplyTellsThatParametersChanged()
+{
+    Design design;
+    design.user.Then([](QDialog& editor) {
+        Click(editor, "pushButton_Apply");
+        Click(editor, "pushButton_Cancel");
+    });
+    design.menu.findChild<QAction*>("action_Parameters")->trigger();
+    QVERIFY(design.user.IsDone());
+    QCOMPARE(design.changed.count(), 1);
+}
+
+void tst_DesignActions::ACancelledEditorTellsNothing()
+{
+    Design design;
+    design.user.Then([](QDialog& editor) { Click(editor, "pushButton_Cancel"); });
+    design.menu.findChild<QAction*>("action_Parameters")->trigger();
+    QVERIFY(design.user.IsDone());
+    QCOMPARE(design.changed.count(), 0);
+}
+
+void tst_DesignActions::ARunTellsThatParametersChanged()
+{
+    Design design;
+    QSignalSpy edited(design.actions, &DesignActions::SamplesEdited);
+    design.Generate(17);
+    QCOMPARE(design.changed.count(), 1);
+    QCOMPARE(edited.count(), 1);
+    QCOMPARE(Stored("thickness"), 24.0);
+}
+
+void tst_DesignActions::RestoreBringsTheDesignBackAndTells()
+{
+    Design design;
+    QVERIFY(!design.Action("action_RestoreParameters").isEnabled());
+    design.Generate(17);
+    design.Action("action_RestoreParameters").trigger();
+    QCOMPARE(design.changed.count(), 2);
+    QCOMPARE(Stored("thickness"), 20.0);
+    QVERIFY(!design.Action("action_RestoreParameters").isEnabled());
+}
+
+void tst_DesignActions::ASavedRunIsToldUntilTheDesignIsBack()
+{
+    Design design;
+    design.actions->WarnIfRunIsStored();
+    design.Generate(17);
+    design.posted.clear();
+    design.actions->WarnIfRunIsStored();
+    QCOMPARE(design.posted.count(), 1);
+    QCOMPARE(design.posted[0][0].toInt(), int(WarningLevel));
+    design.Action("action_RestoreParameters").trigger();
+    design.posted.clear();
+    design.actions->WarnIfRunIsStored();
+    QCOMPARE(design.posted.count(), 0);
+}
+
+void tst_DesignActions::AnotherProjectForgetsTheDesign()
+{
+    Design design;
+    design.Generate(17);
+    design.actions->Start();
+    QVERIFY(!design.Action("action_RestoreParameters").isEnabled());
+}
+
+TARN_TEST_MAIN(tst_DesignActions)
+#include "tst_DesignActions.moc"
