@@ -1,7 +1,7 @@
 #include "MainWindow.h"
 
 #include "AnalysisActions.h"
-#include "AnalysisSetup.h"
+#include "AnalysisRecords.h"
 #include "DesignActions.h"
 #include "FeatureFields.h"
 #include "FeatureTree.h"
@@ -25,7 +25,7 @@
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
-    , m_analysis(new AnalysisSetup(this))
+    , m_analysis(new AnalysisRecords(this))
     , m_part(new PartModel(this))
     , m_summary(new PartPanel(this))
 {

@@ -2,7 +2,7 @@
 
 #include <QMainWindow>
 
-class AnalysisSetup;
+class AnalysisRecords;
 class DesignActions;
 class FeatureFields;
 class FeatureTree;
@@ -30,7 +30,7 @@ public:
     void OpenProject(const Project& project);
 
     /// The analysis set-up, which menu and tree work on; the window owns it.
-    AnalysisSetup& Analysis() { return *m_analysis; }
+    AnalysisRecords& Analysis() { return *m_analysis; }
     /// The part; the window owns it.
     PartModel& Part() { return *m_part; }
     FeatureTree& Features() { return *m_features; }
@@ -50,7 +50,7 @@ private:
     void ShowFailure(const QString& reason);
     void ShowSelectedFeature();
 
-    AnalysisSetup* m_analysis;
+    AnalysisRecords* m_analysis;
     PartModel* m_part;
     PartPanel* m_summary;
 

@@ -1,6 +1,6 @@
 #include "SetupCheck.h"
 
-#include "AnalysisSetup.h"
+#include "AnalysisRecords.h"
 #include "FrequencyPref.h"
 #include "KVMaterialData.h"
 #include "KVPropertyData.h"
@@ -131,7 +131,7 @@ void CheckNumbers(const AnalysisSetup& setup, QStringList& problems)
 
 } // namespace
 
-AnalysisSetup CurrentSetup(const AnalysisSetup& model)
+AnalysisSetup CurrentSetup(const AnalysisRecords& model)
 {
     AnalysisSetup setup;
     setup.constraints = model.Constraints();

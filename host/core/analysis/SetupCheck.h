@@ -11,7 +11,7 @@
 #include <optional>
 #include <vector>
 
-class AnalysisSetup;
+class AnalysisRecords;
 
 /// Everything that a solver would be given.
 struct AnalysisSetup
@@ -26,7 +26,7 @@ struct AnalysisSetup
 };
 
 /// What @p model and the stores hold now.
-AnalysisSetup CurrentSetup(const AnalysisSetup& model);
+AnalysisSetup CurrentSetup(const AnalysisRecords& model);
 
 /// What a solver would stumble over, one text for each problem. Of the materials only those are
 /// looked at that a property uses.

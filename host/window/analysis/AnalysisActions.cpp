@@ -1,7 +1,7 @@
 #include "AnalysisActions.h"
 
 #include "AnalysisFiles.h"
-#include "AnalysisSetup.h"
+#include "AnalysisRecords.h"
 #include "CAnalysisTypeGUI.h"
 #include "CQLTConstrainEditor.h"
 #include "CQLTElePropertyEditor.h"
@@ -35,7 +35,7 @@ std::unique_ptr<MeshSizeInput> NewMeshSizeInput(const std::optional<double>& siz
 
 } // namespace
 
-AnalysisActions::AnalysisActions(AnalysisSetup& model, AnalysisTree& tree, QWidget* window)
+AnalysisActions::AnalysisActions(AnalysisRecords& model, AnalysisTree& tree, QWidget* window)
     : QObject(window)
     , m_model(model)
     , m_tree(tree)
@@ -164,7 +164,7 @@ void AnalysisActions::SetSubShapeMesh()
 
     bool hasSize = false;
     bool hasNumber = false;
-    AnalysisSetup::SubShapeMesh mesh;
+    AnalysisRecords::SubShapeMesh mesh;
     mesh.size = dialog.ui.lineEdit_MeshSize->text().toDouble(&hasSize);
     mesh.number = dialog.ui.lineEdit_MeshNumber->text().toInt(&hasNumber);
     if (hasSize && hasNumber)

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-class AnalysisSetup;
+class AnalysisRecords;
 class AnalysisTree;
 class QMenu;
 class QWidget;
@@ -14,7 +14,7 @@ class AnalysisActions : public QObject
 
 public:
     /// Dialogs belong to @p window, which also owns this object; model and tree must outlive it.
-    AnalysisActions(AnalysisSetup& model, AnalysisTree& tree, QWidget* window);
+    AnalysisActions(AnalysisRecords& model, AnalysisTree& tree, QWidget* window);
     ~AnalysisActions() override;
 
     /// Adds an action for each dialog, for deleting in the tree and for the check.
@@ -33,7 +33,7 @@ private:
     void SetSubShapeMesh();
     void CheckSetupNow();
 
-    AnalysisSetup& m_model;
+    AnalysisRecords& m_model;
     AnalysisTree& m_tree;
     QWidget* m_window;
 };

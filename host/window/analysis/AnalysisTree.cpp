@@ -1,6 +1,6 @@
 #include "AnalysisTree.h"
 
-#include "AnalysisSetup.h"
+#include "AnalysisRecords.h"
 #include "CQLTElemPropDef.h"
 #include "FrequencyPref.h"
 #include "KVPropertyData.h"
@@ -96,7 +96,7 @@ void AddAttribute(QTreeWidgetItem& group, const std::string& name, const QString
 
 } // namespace
 
-AnalysisTree::AnalysisTree(AnalysisSetup& model, QWidget* parent)
+AnalysisTree::AnalysisTree(AnalysisRecords& model, QWidget* parent)
     : QDockWidget(tr("Analysis model"), parent)
     , m_model(model)
     , m_tree(new QTreeWidget(this))
@@ -120,7 +120,7 @@ AnalysisTree::AnalysisTree(AnalysisSetup& model, QWidget* parent)
     connect(m_delete, &QAction::triggered, this, &AnalysisTree::DeleteSelected);
     connect(m_tree, &QTreeWidget::itemSelectionChanged, this,
             [this] { m_delete->setEnabled(SelectedAttribute() != nullptr); });
-    connect(&m_model, &AnalysisSetup::Changed, this, &AnalysisTree::Refresh);
+    connect(&m_model, &AnalysisRecords::Changed, this, &AnalysisTree::Refresh);
 
     Refresh();
 }

@@ -2,7 +2,7 @@
 
 #include <QDockWidget>
 
-class AnalysisSetup;
+class AnalysisRecords;
 class QAction;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -22,7 +22,7 @@ public:
     };
 
     /// The model must outlive the tree.
-    AnalysisTree(AnalysisSetup& model, QWidget* parent);
+    AnalysisTree(AnalysisRecords& model, QWidget* parent);
     ~AnalysisTree() override;
 
     /// Deletes the selected boundary condition or load; enabled while one is selected.
@@ -45,7 +45,7 @@ private:
     QTreeWidgetItem* SelectedAttribute() const;
     void DeleteSelected();
 
-    AnalysisSetup& m_model;
+    AnalysisRecords& m_model;
     QTreeWidget* m_tree;
     QAction* m_delete;
 };

@@ -1,7 +1,7 @@
 #include "AnalysisPictures.h"
 
 #include "AnalysisFiles.h"
-#include "AnalysisSetup.h"
+#include "AnalysisRecords.h"
 #include "CAnalysisTypeGUI.h"
 #include "CQLTConstrainEditor.h"
 #include "CQLTElePropertyEditor.h"
@@ -129,7 +129,7 @@ std::unique_ptr<QWidget> PictureOfSubShapeMesh()
     return dialog;
 }
 
-void FillSampleAnalysis(AnalysisSetup& model)
+void FillSampleAnalysis(AnalysisRecords& model)
 {
     sConstrainData bolts;
     bolts.m_strName = "boltCircle";

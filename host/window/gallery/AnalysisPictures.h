@@ -6,7 +6,7 @@
 
 #include <memory>
 
-class AnalysisSetup;
+class AnalysisRecords;
 
 /// The dialogs of the analysis set-up as they are pictured: filled with samples, not yet shown.
 /// Those of properties and materials need SampleAnalysisFiles.
@@ -22,7 +22,7 @@ std::unique_ptr<QWidget> PictureOfPropertyManager();
 std::unique_ptr<QWidget> PictureOfSubShapeMesh();
 
 /// Adds sample records to @p model.
-void FillSampleAnalysis(AnalysisSetup& model);
+void FillSampleAnalysis(AnalysisRecords& model);
 
 /// While it lives, the working directory is an empty one of its own but for the system library, and
 /// the stores hold its materials and sample properties; afterwards the stores are empty.

@@ -1,4 +1,4 @@
-#include "AnalysisSetup.h"
+#include "AnalysisRecords.h"
 #include "DrawerOutput.h"
 #include "EmptyAttributeNames.h"
 #include "EmptyDesignStores.h"

@@ -1,4 +1,4 @@
-#include "AnalysisSetup.h"
+#include "AnalysisRecords.h"
 #include "EmptyAnalysisStores.h"
 #include "EmptyAttributeNames.h"
 #include "FrequencyPref.h"
@@ -372,7 +372,7 @@ void tst_SetupCheck::TheCurrentSetUpComesFromModelAndStores()
     const EmptyAnalysisStores stores;
     const EmptyAttributeNames names;
     const AnalysisSetup complete = Complete();
-    AnalysisSetup model;
+    AnalysisRecords model;
     model.AddConstraint(complete.constraints.front());
     model.AddLoad(complete.loads.front());
     model.SetMeshSize(0.5);

@@ -1,5 +1,5 @@
 #include "AnalysisActions.h"
-#include "AnalysisSetup.h"
+#include "AnalysisRecords.h"
 #include "AttributeCommonMgr.h"
 #include "DrawerOutput.h"
 #include "EmptyAnalysisStores.h"
@@ -121,7 +121,7 @@ private:
 
 public:
     QWidget window;
-    AnalysisSetup model;
+    AnalysisRecords model;
     AnalysisTree tree;
     QMenu menu;
     ModalDriver user;

@@ -1,4 +1,4 @@
-#include "AnalysisSetup.h"
+#include "AnalysisRecords.h"
 #include "AttributeCommonMgr.h"
 #include "EmptyAnalysisStores.h"
 #include "EmptyAttributeNames.h"
@@ -40,7 +40,7 @@ namespace {
 class Shown
 {
 public:
-    AnalysisSetup model;
+    AnalysisRecords model;
 
 private:
     const EmptyAnalysisStores m_stores;

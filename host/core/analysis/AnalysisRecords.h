@@ -15,7 +15,7 @@
 ///
 /// Each boundary condition and load has its name registered in AttributeCommonMgr for as long as it
 /// stands here, so that the dialogs refuse a second one of that name.
-class AnalysisSetup : public QObject
+class AnalysisRecords : public QObject
 {
     Q_OBJECT
 
@@ -27,8 +27,8 @@ public:
         int number = 0;
     };
 
-    explicit AnalysisSetup(QObject* parent = nullptr);
-    ~AnalysisSetup() override;
+    explicit AnalysisRecords(QObject* parent = nullptr);
+    ~AnalysisRecords() override;
 
     int Family() const { return m_family; } ///< As CAnalysisTypeGUI; Vibration at first.
     int Kind() const { return m_kind; }     ///< As CAnalysisTypeGUI; Vibration at first.

@@ -1,11 +1,11 @@
-#include "AnalysisSetup.h"
+#include "AnalysisRecords.h"
 #include "AttributeCommonMgr.h"
 #include "EmptyAttributeNames.h"
 #include "TestCase.h"
 
 #include <QSignalSpy>
 
-class tst_AnalysisSetup : public TestCase
+class tst_AnalysisRecords : public TestCase
 {
     Q_OBJECT
 
@@ -48,9 +48,9 @@ sLoadForceData Load(const char* name)
 
 } // namespace
 
-void tst_AnalysisSetup::ANewModelIsAVibrationWithoutRecords()
+void tst_AnalysisRecords::ANewModelIsAVibrationWithoutRecords()
 {
-    const AnalysisSetup model;
+    const AnalysisRecords model;
     QCOMPARE(model.Family(), 1);
     QCOMPARE(model.Kind(), 2);
     QVERIFY(model.Constraints().empty());
@@ -59,10 +59,10 @@ void tst_AnalysisSetup::ANewModelIsAVibrationWithoutRecords()
     QVERIFY(!model.SubShape().has_value());
 }
 
-void tst_AnalysisSetup::RecordsKeepTheirOrder()
+void tst_AnalysisRecords::RecordsKeepTheirOrder()
 {
     const EmptyAttributeNames names;
-    AnalysisSetup model;
+    AnalysisRecords model;
     model.AddConstraint(Constraint("b"));
     model.AddConstraint(Constraint("a"));
     QCOMPARE(model.Constraints().size(), std::size_t(2));
@@ -70,20 +70,20 @@ void tst_AnalysisSetup::RecordsKeepTheirOrder()
     QCOMPARE(model.Constraints()[1].m_strName, std::string("a"));
 }
 
-void tst_AnalysisSetup::NamesOfRecordsAreTaken()
+void tst_AnalysisRecords::NamesOfRecordsAreTaken()
 {
     const EmptyAttributeNames names;
-    AnalysisSetup model;
+    AnalysisRecords model;
     model.AddConstraint(Constraint("held"));
     model.AddLoad(Load("pulled"));
     QVERIFY(IsTaken("held"));
     QVERIFY(IsTaken("pulled"));
 }
 
-void tst_AnalysisSetup::ARemovedRecordIsGoneAndItsNameFree()
+void tst_AnalysisRecords::ARemovedRecordIsGoneAndItsNameFree()
 {
     const EmptyAttributeNames names;
-    AnalysisSetup model;
+    AnalysisRecords model;
     model.AddConstraint(Constraint("held"));
     model.AddLoad(Load("pulled"));
     model.Remove("held");
@@ -96,10 +96,10 @@ void tst_AnalysisSetup::ARemovedRecordIsGoneAndItsNameFree()
     QVERIFY(!IsTaken("pulled"));
 }
 
-void tst_AnalysisSetup::TheNameOfTheRecordItselfCanBeGiven()
+void tst_AnalysisRecords::TheNameOfTheRecordItselfCanBeGiven()
 {
     const EmptyAttributeNames names;
-    AnalysisSetup model;
+    AnalysisRecords model;
     model.AddLoad(Load("a name that is too long to be stored within the string"));
     model.AddLoad(Load("another name that is too long to be stored within it"));
     model.Remove(model.Loads().front().m_strName);
@@ -108,10 +108,10 @@ void tst_AnalysisSetup::TheNameOfTheRecordItselfCanBeGiven()
     QVERIFY(IsTaken("another name that is too long to be stored within it"));
 }
 
-void tst_AnalysisSetup::AnEmptyNameIsANameToo()
+void tst_AnalysisRecords::AnEmptyNameIsANameToo()
 {
     const EmptyAttributeNames names;
-    AnalysisSetup model;
+    AnalysisRecords model;
     model.AddLoad(Load(""));
     QVERIFY(IsTaken(""));
     model.Remove("");
@@ -119,20 +119,20 @@ void tst_AnalysisSetup::AnEmptyNameIsANameToo()
     QVERIFY(!IsTaken(""));
 }
 
-void tst_AnalysisSetup::AnUnknownNameRemovesNoRecord()
+void tst_AnalysisRecords::AnUnknownNameRemovesNoRecord()
 {
     const EmptyAttributeNames names;
-    AnalysisSetup model;
+    AnalysisRecords model;
     model.AddLoad(Load("pulled"));
     model.Remove("Pulled");
     QCOMPARE(model.Loads().size(), std::size_t(1));
     QVERIFY(IsTaken("pulled"));
 }
 
-void tst_AnalysisSetup::ClearMakesAModelNewAndFreesItsNames()
+void tst_AnalysisRecords::ClearMakesAModelNewAndFreesItsNames()
 {
     const EmptyAttributeNames names;
-    AnalysisSetup model;
+    AnalysisRecords model;
     model.SetSolverType(7, 7);
     model.AddConstraint(Constraint("held"));
     model.AddLoad(Load("pulled"));
@@ -149,11 +149,11 @@ void tst_AnalysisSetup::ClearMakesAModelNewAndFreesItsNames()
     QVERIFY(!IsTaken("pulled"));
 }
 
-void tst_AnalysisSetup::NamesAreFreeWhenTheModelIsGone()
+void tst_AnalysisRecords::NamesAreFreeWhenTheModelIsGone()
 {
     const EmptyAttributeNames names;
     {
-        AnalysisSetup model;
+        AnalysisRecords model;
         model.AddConstraint(Constraint("held"));
         model.AddLoad(Load("pulled"));
     }
@@ -161,23 +161,23 @@ void tst_AnalysisSetup::NamesAreFreeWhenTheModelIsGone()
     QVERIFY(!IsTaken("pulled"));
 }
 
-void tst_AnalysisSetup::NamesOfOthersStayTaken()
+void tst_AnalysisRecords::NamesOfOthersStayTaken()
 {
     const EmptyAttributeNames names;
     AttributeCommonMgr::GetInstance()->AddName("somebody's");
     {
-        AnalysisSetup model;
+        AnalysisRecords model;
         model.AddLoad(Load("pulled"));
         model.Clear();
     }
     QVERIFY(IsTaken("somebody's"));
 }
 
-void tst_AnalysisSetup::EveryChangeIsTold()
+void tst_AnalysisRecords::EveryChangeIsTold()
 {
     const EmptyAttributeNames names;
-    AnalysisSetup model;
-    const QSignalSpy changed(&model, &AnalysisSetup::Changed);
+    AnalysisRecords model;
+    const QSignalSpy changed(&model, &AnalysisRecords::Changed);
     model.SetSolverType(1, 1);
     model.AddConstraint(Constraint("held"));
     model.AddLoad(Load("pulled"));
@@ -188,5 +188,5 @@ void tst_AnalysisSetup::EveryChangeIsTold()
     QCOMPARE(changed.size(), 7);
 }
 
-TARN_TEST_MAIN(tst_AnalysisSetup)
-#include "tst_AnalysisSetup.moc"
+TARN_TEST_MAIN(tst_AnalysisRecords)
+#include "tst_AnalysisRecords.moc"

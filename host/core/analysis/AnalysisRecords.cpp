@@ -1,4 +1,4 @@
-#include "AnalysisSetup.h"
+#include "AnalysisRecords.h"
 
 #include "AttributeCommonMgr.h"
 
@@ -20,40 +20,40 @@ void RemoveByName(std::vector<Record>& records, const std::string& name)
 
 } // namespace
 
-AnalysisSetup::AnalysisSetup(QObject* parent)
+AnalysisRecords::AnalysisRecords(QObject* parent)
     : QObject(parent)
     , m_family(VibrationFamily)
     , m_kind(VibrationKind)
 {
 }
 
-AnalysisSetup::~AnalysisSetup()
+AnalysisRecords::~AnalysisRecords()
 {
     FreeNames();
 }
 
-void AnalysisSetup::SetSolverType(int family, int kind)
+void AnalysisRecords::SetSolverType(int family, int kind)
 {
     m_family = family;
     m_kind = kind;
     Q_EMIT Changed();
 }
 
-void AnalysisSetup::AddConstraint(const sConstrainData& constraint)
+void AnalysisRecords::AddConstraint(const sConstrainData& constraint)
 {
     AttributeCommonMgr::GetInstance()->AddName(constraint.m_strName);
     m_constraints.push_back(constraint);
     Q_EMIT Changed();
 }
 
-void AnalysisSetup::AddLoad(const sLoadForceData& load)
+void AnalysisRecords::AddLoad(const sLoadForceData& load)
 {
     AttributeCommonMgr::GetInstance()->AddName(load.m_strName);
     m_loads.push_back(load);
     Q_EMIT Changed();
 }
 
-void AnalysisSetup::Remove(const std::string& name)
+void AnalysisRecords::Remove(const std::string& name)
 {
     // A copy: the caller's name may be that of the record.
     const std::string removed(name.data(), name.size());
@@ -63,19 +63,19 @@ void AnalysisSetup::Remove(const std::string& name)
     Q_EMIT Changed();
 }
 
-void AnalysisSetup::SetMeshSize(double size)
+void AnalysisRecords::SetMeshSize(double size)
 {
     m_meshSize = size;
     Q_EMIT Changed();
 }
 
-void AnalysisSetup::SetSubShape(const SubShapeMesh& mesh)
+void AnalysisRecords::SetSubShape(const SubShapeMesh& mesh)
 {
     m_subShape = mesh;
     Q_EMIT Changed();
 }
 
-void AnalysisSetup::Clear()
+void AnalysisRecords::Clear()
 {
     FreeNames();
     m_family = VibrationFamily;
@@ -87,7 +87,7 @@ void AnalysisSetup::Clear()
     Q_EMIT Changed();
 }
 
-void AnalysisSetup::FreeNames()
+void AnalysisRecords::FreeNames()
 {
     AttributeCommonMgr& registry = *AttributeCommonMgr::GetInstance();
     for (const sConstrainData& constraint : m_constraints)
