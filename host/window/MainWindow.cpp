@@ -2,20 +2,20 @@
 
 #include "AnalysisActions.h"
 #include "AnalysisRecords.h"
+#include "AnalysisTree.h"
 #include "DesignActions.h"
 #include "FeatureFields.h"
 #include "FeatureTree.h"
 #include "MessageDock.h"
 #include "MessageLevel.h"
-#include "AnalysisTree.h"
-#include "PartView.h"
-#include "PartActions.h"
 #include "ParameterOverview.h"
+#include "PartActions.h"
 #include "PartModel.h"
+#include "PartPanel.h"
+#include "PartView.h"
 #include "PositionDock.h"
 #include "Project.h"
 #include "ProjectActions.h"
-#include "PartPanel.h"
 #include "SolverActions.h"
 #include "ViewActions.h"
 
@@ -68,8 +68,7 @@ void MainWindow::CreateMenus()
     m_projectActions->FillMenu(*menuBar()->addMenu(tr("&File")));
     m_designActions = new DesignActions(this);
     m_designActions->FillMenu(*menuBar()->addMenu(tr("&Design")));
-    m_partActions =
-        new PartActions(*m_part, *m_features, *m_fields, m_summary->View(), this);
+    m_partActions = new PartActions(*m_part, *m_features, *m_fields, m_summary->View(), this);
     m_partActions->FillMenu(*menuBar()->addMenu(tr("&Model")));
     auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, this);
     analysis->FillMenu(*menuBar()->addMenu(tr("&Analysis")));
@@ -102,8 +101,7 @@ void MainWindow::ConnectPart()
     connect(m_part, &PartModel::PartBuilt, this, &MainWindow::ShowBuiltPart);
     connect(m_part, &PartModel::BuildFailed, this, &MainWindow::ShowFailure);
     connect(m_features, &FeatureTree::SelectionChanged, this, &MainWindow::ShowSelectedFeature);
-    connect(m_position, &PositionDock::PointEntered, m_partActions,
-            &PartActions::TakePoint);
+    connect(m_position, &PositionDock::PointEntered, m_partActions, &PartActions::TakePoint);
 }
 
 void MainWindow::OpenProject(const Project& project)

@@ -53,9 +53,9 @@ QString ReadAnalysisFiles()
 {
     QString warning;
     if (!ProvideSystemMaterials())
-        warning = QCoreApplication::translate("AnalysisFiles",
-                                              "There is no system library of materials: "
-                                              "SysMaterial.xml cannot be written");
+        warning =
+            QCoreApplication::translate("AnalysisFiles", "There is no system library of materials: "
+                                                         "SysMaterial.xml cannot be written");
     KVPropertyData::GetInstance()->ReadXML(PropertyFile);
     KVMaterialData& materials = *KVMaterialData::GetInstance();
     // Materials that were added and not written yet stay as they are.

@@ -22,7 +22,8 @@ constexpr FieldRule Component = {-Greatest, Greatest, Unit::Number};
 constexpr FieldRule Turn = {-360.0, 360.0, Unit::Degrees};
 constexpr FieldRule Sweep = {0.0, 360.0, Unit::Degrees, true};
 
-constexpr FieldRule Angle(double least, double greatest, bool exclusiveMinimum, bool exclusiveMaximum)
+constexpr FieldRule Angle(double least, double greatest, bool exclusiveMinimum,
+                          bool exclusiveMaximum)
 {
     return {least, greatest, Unit::Degrees, exclusiveMinimum, exclusiveMaximum};
 }

@@ -22,9 +22,9 @@ struct FieldRule
     double least;
     double greatest;
     Unit unit = Millimetres;
-    bool exclusiveMinimum = false;    ///< The least value itself is not allowed.
+    bool exclusiveMinimum = false; ///< The least value itself is not allowed.
     bool exclusiveMaximum = false; ///< The greatest value itself is not allowed.
-    bool isZeroAllowed = false;   ///< Zero is allowed although it is below the least.
+    bool isZeroAllowed = false;    ///< Zero is allowed although it is below the least.
 
     bool Allows(double value) const;
     /// "from 1 to 10000", "above 0 and at most 360 degrees": what follows "has to be".

@@ -2,6 +2,7 @@
 
 #include "AnalysisFiles.h"
 #include "AnalysisRecords.h"
+#include "AnalysisTree.h"
 #include "CAnalysisTypeGUI.h"
 #include "CQLTConstrainEditor.h"
 #include "CQLTElePropertyEditor.h"
@@ -13,7 +14,6 @@
 #include "KVPropertyData.h"
 #include "MeshSizeInput.h"
 #include "MessageLevel.h"
-#include "AnalysisTree.h"
 #include "NumberTexts.h"
 #include "SetupCheck.h"
 #include "SubShapeMeshParameterDlg.h"

@@ -66,7 +66,8 @@ QString ForceText(const sLoadForceData& load)
     const QString force =
         AnalysisTree::tr("FX = %1, FY = %2, FZ = %3")
             .arg(ExactText(load.m_dFX), ExactText(load.m_dFY), ExactText(load.m_dFZ));
-    return load.m_nKind == NormalKind ? AnalysisTree::tr("normal to surface, %1").arg(force) : force;
+    return load.m_nKind == NormalKind ? AnalysisTree::tr("normal to surface, %1").arg(force)
+                                      : force;
 }
 
 QString PropertyText(const CQLTElemPropDef& property)

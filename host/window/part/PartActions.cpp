@@ -5,8 +5,8 @@
 #include "FeatureTree.h"
 #include "JsonSection.h"
 #include "MessageLevel.h"
-#include "PartView.h"
 #include "PartModel.h"
+#include "PartView.h"
 #include "StepFile.h"
 
 #include <QAction>
@@ -41,8 +41,8 @@ QString StartFolder(const QString& folder)
 
 } // namespace
 
-PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fields,
-                                   PartView* view, QWidget* window)
+PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fields, PartView* view,
+                         QWidget* window)
     : QObject(window)
     , m_model(model)
     , m_tree(tree)
@@ -85,7 +85,7 @@ PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fie
 PartActions::~PartActions() = default;
 
 QAction* PartActions::NewAction(const QString& text, const char* name,
-                                     const std::function<void()>& run)
+                                const std::function<void()>& run)
 {
     auto* const action = new QAction(text, this);
     action->setObjectName(QString::fromLatin1(name));

@@ -28,7 +28,7 @@ public:
     /// Model, tree, fields and view must outlive the actions; @p view may be null. Dialogs belong
     /// to @p window, which also owns this object.
     PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fields, PartView* view,
-                     QWidget* window);
+                QWidget* window);
     ~PartActions() override;
 
     void FillMenu(QMenu& menu);

@@ -1,8 +1,8 @@
 #include "PartPanel.h"
 
 #include "MessageLevel.h"
-#include "PartView.h"
 #include "NumberTexts.h"
+#include "PartView.h"
 #include "ShapeMeasures.h"
 #include "ShapePicture.h"
 

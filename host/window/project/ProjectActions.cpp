@@ -30,8 +30,7 @@ ProjectActions::ProjectActions(PartModel& model, QWidget* window)
     , m_model(model)
     , m_window(window)
 {
-    connect(&m_model.UndoStack(), &QUndoStack::indexChanged, this,
-            &ProjectActions::UpdateModified);
+    connect(&m_model.UndoStack(), &QUndoStack::indexChanged, this, &ProjectActions::UpdateModified);
 }
 
 ProjectActions::~ProjectActions() = default;

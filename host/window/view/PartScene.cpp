@@ -226,7 +226,7 @@ void PartScene::Draw()
 }
 
 void PartScene::Replace(Handle(AIS_InteractiveObject) & shown,
-                         const Handle(AIS_InteractiveObject) & next, int mode, int selection)
+                        const Handle(AIS_InteractiveObject) & next, int mode, int selection)
 {
     if (!shown.IsNull())
         m_context->Remove(shown, false);
@@ -369,7 +369,7 @@ std::optional<PartScene::Hit> PartScene::Detected(int x, int y) const
 }
 
 void PartScene::OnSelectionChanged(const Handle(AIS_InteractiveContext) & context,
-                                    const Handle(V3d_View) & view)
+                                   const Handle(V3d_View) & view)
 {
     Q_UNUSED(context)
     Q_UNUSED(view)
@@ -377,7 +377,7 @@ void PartScene::OnSelectionChanged(const Handle(AIS_InteractiveContext) & contex
 }
 
 void PartScene::handleViewRedraw(const Handle(AIS_InteractiveContext) & context,
-                                  const Handle(V3d_View) & view)
+                                 const Handle(V3d_View) & view)
 {
     // In place of drawing at once: the toolkit says when.
     Q_UNUSED(context)

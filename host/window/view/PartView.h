@@ -20,8 +20,8 @@ class Standard_Failure;
 /// Shift) pans; the wheel zooms about the cursor; a click selects a face; the cube in the corner
 /// turns to the view that is clicked on it. Lengths are in millimetres.
 ///
-/// Make one only where UnavailableReason() gives no reason against it. Should the driver fail later,
-/// Failed() comes once and the view stays empty.
+/// Make one only where UnavailableReason() gives no reason against it. Should the driver fail
+/// later, Failed() comes once and the view stays empty.
 class PartView : public QOpenGLWidget
 {
     Q_OBJECT

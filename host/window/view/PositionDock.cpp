@@ -1,8 +1,8 @@
 #include "PositionDock.h"
 
 #include "MessageLevel.h"
-#include "PartView.h"
 #include "NumberTexts.h"
+#include "PartView.h"
 #include "PosInputDlg.h"
 
 #include <QLineEdit>

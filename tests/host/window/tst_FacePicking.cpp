@@ -5,9 +5,9 @@
 #include "HostApplication.h"
 #include "MainWindow.h"
 #include "ModalDriver.h"
-#include "PartView.h"
 #include "NewFeature.h"
 #include "PartModel.h"
+#include "PartView.h"
 #include "ShapeMeasures.h"
 #include "TestCase.h"
 

@@ -1,5 +1,6 @@
 #include "AnalysisActions.h"
 #include "AnalysisRecords.h"
+#include "AnalysisTree.h"
 #include "AttributeCommonMgr.h"
 #include "DrawerOutput.h"
 #include "EmptyAnalysisStores.h"
@@ -7,7 +8,6 @@
 #include "FrequencyPref.h"
 #include "MessageLevel.h"
 #include "ModalDriver.h"
-#include "AnalysisTree.h"
 #include "TestCase.h"
 
 #include <QAction>

@@ -1,9 +1,9 @@
 #include "AnalysisRecords.h"
+#include "AnalysisTree.h"
 #include "AttributeCommonMgr.h"
 #include "EmptyAnalysisStores.h"
 #include "EmptyAttributeNames.h"
 #include "FrequencyPref.h"
-#include "AnalysisTree.h"
 #include "TestCase.h"
 
 #include <QAction>
@@ -78,7 +78,10 @@ public:
         return records;
     }
 
-    QString Value(const QString& title) const { return Group(title).text(AnalysisTree::ValueColumn); }
+    QString Value(const QString& title) const
+    {
+        return Group(title).text(AnalysisTree::ValueColumn);
+    }
 
     // As a user does.
     void ClickOn(QTreeWidgetItem* item)
@@ -127,7 +130,8 @@ void tst_AnalysisTree::AnEmptyModelHasItsGroups()
     for (int i = 0; i < shown.Tree().topLevelItemCount(); ++i) {
         const QTreeWidgetItem& group = *shown.Tree().topLevelItem(i);
         QCOMPARE(group.childCount(), 0);
-        groups << group.text(AnalysisTree::NameColumn) + ": " + group.text(AnalysisTree::ValueColumn);
+        groups << group.text(AnalysisTree::NameColumn) + ": " +
+                      group.text(AnalysisTree::ValueColumn);
     }
     QCOMPARE(groups, QStringList({"Analysis type: Vibration (family 1, kind 2)",
                                   "Boundary conditions: ", "Loads: ", "Element properties: ",

@@ -5,10 +5,10 @@
 #include "HostApplication.h"
 #include "MessageLevel.h"
 #include "ModalDriver.h"
-#include "PartView.h"
-#include "PartActions.h"
 #include "NewFeature.h"
+#include "PartActions.h"
 #include "PartModel.h"
+#include "PartView.h"
 #include "ShapeMeasures.h"
 #include "TestCase.h"
 
