@@ -16,9 +16,9 @@ CQLTConstrainEditor::CQLTConstrainEditor(QWidget* parent)
 
 CQLTConstrainEditor::~CQLTConstrainEditor() = default;
 
-void CQLTConstrainEditor::InitData(sConstrainData data)
+void CQLTConstrainEditor::InitData(sConstrainData record)
 {
-    m_data = std::move(data);
+    m_data = std::move(record);
 }
 
 sConstrainData CQLTConstrainEditor::GetConstrainData() const

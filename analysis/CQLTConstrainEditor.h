@@ -24,7 +24,7 @@ public:
     ~CQLTConstrainEditor() override;
 
     /// Stores the record for GetConstrainData(); the widgets deliberately do not show it.
-    void InitData(sConstrainData data);
+    void InitData(sConstrainData record);
 
     /// The record of the last OK or InitData(), whichever came later; initially a default record.
     sConstrainData GetConstrainData() const;

@@ -26,9 +26,9 @@ CQLTLoadForceEditor::CQLTLoadForceEditor(QWidget* parent)
 
 CQLTLoadForceEditor::~CQLTLoadForceEditor() = default;
 
-void CQLTLoadForceEditor::InitData(sLoadForceData data)
+void CQLTLoadForceEditor::InitData(sLoadForceData record)
 {
-    m_data = std::move(data);
+    m_data = std::move(record);
     m_ui.lied_Name->setText(tarn::FromLocal8Bit(m_data.m_strName));
 
     // The two buttons exclude each other: checking one unchecks the other.

@@ -27,7 +27,7 @@ public:
 
     /// Stores the record and shows its name and kind, and for kind 1 its components. A kind other
     /// than 1 and 2 is shown as 1. The user cannot change the kind.
-    void InitData(sLoadForceData data);
+    void InitData(sLoadForceData record);
 
     /// The record of the last OK or InitData(), whichever came later; initially a default record.
     sLoadForceData GetLoadForceData() const;
