@@ -1,9 +1,6 @@
 # For cmake-format 0.6.13.
 with section("parse"):
     additional_commands = {
-        "tarn_dialogs": {"kwargs": {"SOURCES": "*", "HEADERS": "*"}},
-        "tarn_model_library": {"pargs": 1, "kwargs": {"SOURCES": "*", "HEADERS": "*"}},
-        "tarn_finish_library": {"pargs": 1, "kwargs": {"HEADERS": "*"}},
         "tarn_benchmark": {"pargs": 1, "kwargs": {"LIBRARIES": "*"}},
         "tarn_test": {
             "pargs": 1,

@@ -1,54 +1,79 @@
 include(GenerateExportHeader)
 
-# tarn_finish_library(<target> HEADERS <public header>...)
+# The shared libraries. Other files read their list.
+set(TARN_LIBRARIES TarnCoreGeometry TarnDesign TarnFEMData TarnGUICommon)
+
+# tarn_add_library(<target> [<source>...])
 #
-# What the four shared libraries have in common: export header, version, hidden symbols, no undefined
-# symbols, and their part of the package. Public headers are installed flat, one per class.
-function(tarn_finish_library target)
-  cmake_parse_arguments(arg "" "" "HEADERS" ${ARGN})
+# Adds one of them, with what they have in common: export header, version, hidden symbols, no undefined symbols.
+function(tarn_add_library target)
+  add_library(${target} SHARED ${ARGN})
   add_library(TarnGUICommon::${target} ALIAS ${target})
   string(TOLOWER ${target} lower)
-  generate_export_header(${target} EXPORT_FILE_NAME "${PROJECT_BINARY_DIR}/exports/${lower}_export.h")
-  # The four libraries find one another beside themselves, wherever the package stands.
-  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH
-                                                                                                           "$ORIGIN")
-  set(exports "${PROJECT_SOURCE_DIR}/cmake/exports.map")
-  target_link_options(${target} PRIVATE "-Wl,--version-script=${exports}")
-  set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${exports}")
+  set(export_header "${PROJECT_BINARY_DIR}/exports/${lower}_export.h")
+  generate_export_header(${target} EXPORT_FILE_NAME "${export_header}")
+  tarn_public_headers(${target} "${export_header}")
+  target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/exports>"
+                                              "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon>")
+  set(symbols "${PROJECT_SOURCE_DIR}/cmake/exports.map")
+  target_link_options(${target} PRIVATE "-Wl,--version-script=${symbols}")
   if(NOT TARN_SANITIZE)
     target_link_options(${target} PRIVATE -Wl,--no-undefined)
   endif()
-  target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/exports>"
-                                              "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon>")
-  install(TARGETS ${target} EXPORT TarnGUICommonTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
-                                                                NAMELINK_COMPONENT development)
-  install(FILES ${arg_HEADERS} "${PROJECT_BINARY_DIR}/exports/${lower}_export.h"
-          DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon COMPONENT development)
-  foreach(header IN LISTS arg_HEADERS)
-    get_filename_component(header "${header}" ABSOLUTE)
-    set_property(GLOBAL APPEND PROPERTY TARN_PUBLIC_HEADERS "${header}")
-  endforeach()
+  # The libraries find one another in their own folder, so the package can be moved.
+  set_target_properties(
+    ${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN"
+                         LINK_DEPENDS "${symbols}")
 endfunction()
 
-# tarn_model_library(<target> SOURCES <source>... HEADERS <public header>...)
+# tarn_add_model_library(<target>)
 #
-# A model library: it sees QtCore and nothing of the widgets.
-function(tarn_model_library target)
-  cmake_parse_arguments(arg "" "" "SOURCES;HEADERS" ${ARGN})
-  add_library(${target} SHARED ${arg_SOURCES} ${arg_HEADERS})
+# Adds a model library: it uses QtCore and no widgets.
+function(tarn_add_model_library target)
+  tarn_add_library(${target})
   target_link_libraries(${target} PUBLIC Qt5::Core PRIVATE $<BUILD_INTERFACE:TarnStrict>
                                                            $<BUILD_INTERFACE:TarnModelSupport>)
   target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>")
-  tarn_finish_library(${target} HEADERS ${arg_HEADERS})
 endfunction()
 
-# tarn_dialogs([SOURCES <source>...] [HEADERS <public header>...])
+# tarn_add_folders(<target> <folder>...)
 #
-# What a folder gives to the dialog library; headers named here are installed.
-function(tarn_dialogs)
-  cmake_parse_arguments(arg "" "" "SOURCES;HEADERS" ${ARGN})
-  list(TRANSFORM arg_SOURCES PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
-  list(TRANSFORM arg_HEADERS PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
-  set_property(GLOBAL APPEND PROPERTY TARN_DIALOG_SOURCES ${arg_SOURCES})
-  set_property(GLOBAL APPEND PROPERTY TARN_DIALOG_HEADERS ${arg_HEADERS})
+# Adds folders that add their sources to a target of the current folder, and makes their headers visible to it.
+function(tarn_add_folders target)
+  foreach(folder IN LISTS ARGN)
+    add_subdirectory(${folder})
+    target_include_directories(${target} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}/${folder}")
+    # Without it moc misses a class that is added there: it watches the list of the current folder only.
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${folder}/CMakeLists.txt")
+  endforeach()
+endfunction()
+
+# tarn_public_headers(<target> <header>...)
+#
+# Adds headers that are installed, all of them into one folder.
+function(tarn_public_headers target)
+  foreach(header IN LISTS ARGN)
+    get_filename_component(header "${header}" ABSOLUTE)
+    set_property(TARGET ${target} APPEND PROPERTY PUBLIC_HEADER "${header}")
+  endforeach()
+endfunction()
+
+# tarn_install_library(<target>)
+#
+# Installs the library and the public headers added so far.
+function(tarn_install_library target)
+  install(TARGETS ${target} EXPORT TarnGUICommonTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
+                                                                NAMELINK_COMPONENT development
+          PUBLIC_HEADER DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon COMPONENT development)
+endfunction()
+
+# tarn_get_public_headers(<variable>)
+#
+# Sets the variable to the public headers of all libraries.
+function(tarn_get_public_headers variable)
+  foreach(library IN LISTS TARN_LIBRARIES)
+    get_target_property(library_headers ${library} PUBLIC_HEADER)
+    list(APPEND headers ${library_headers})
+  endforeach()
+  set(${variable} ${headers} PARENT_SCOPE)
 endfunction()

@@ -20,12 +20,11 @@ function(tarn_test name)
   # Not AUTOMOC: its scan and its extra object cost each program more than the test's one class.
   qt5_generate_moc(tst_${name}.cpp ${target}.moc TARGET ${target})
   target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
-  target_link_libraries(
-    ${target} PRIVATE TarnTestSupport TarnOptions $<IF:$<BOOL:${arg_INTERNAL}>,TarnGUICommonObjects,TarnGUICommon>
-                      ${arg_LIBRARIES})
+  set(library TarnGUICommon)
   if(arg_INTERNAL)
-    target_sources(${target} PRIVATE $<TARGET_OBJECTS:TarnGUICommonObjects>)
+    set(library TarnGUICommonObjects)
   endif()
+  target_link_libraries(${target} PRIVATE TarnTestSupport TarnOptions ${library} ${arg_LIBRARIES})
   target_compile_definitions(${target} PRIVATE ${arg_DEFINITIONS})
   if(arg_WINDOW_SYSTEM)
     add_test(NAME ${target} COMMAND xvfb-run -a -s "-screen 0 1280x1024x24" $<TARGET_FILE:${target}>)
