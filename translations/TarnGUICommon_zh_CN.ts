@@ -1454,6 +1454,14 @@
         <source>cannot be read: %1</source>
         <translation>无法读取：%1</translation>
     </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>无法写入：%1</translation>
+    </message>
+    <message>
+        <source>cannot be copied: %1</source>
+        <translation>无法复制：%1</translation>
+    </message>
 </context>
 <context>
     <name>frequencySetting</name>

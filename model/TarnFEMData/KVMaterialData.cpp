@@ -1,6 +1,7 @@
 #include "KVMaterialData.h"
 
 #include "SafeFile.h"
+#include "WholeFile.h"
 #include "XmlRecords.h"
 
 #include <QSet>
@@ -15,7 +16,7 @@ namespace {
 
 struct Entry
 {
-    QString name; ///< What the store knows the record by, whatever a caller writes into it.
+    QString name; ///< The record's name in the store, whatever a caller writes into the record.
     KVMaterialInfo* record;
 };
 
@@ -68,7 +69,7 @@ struct KVMaterialData::Private
 {
     Entries entries;
     std::unordered_map<QString, Entries::iterator> index;
-    /// Every record of the store, with its entry; the end stands for one that has none any more.
+    /// Every record of the store with its entry, or the end if it no longer has one.
     std::unordered_map<KVMaterialInfo*, Entries::iterator> owned;
     tarn::SafeFile files;
     QString current;
@@ -95,7 +96,7 @@ struct KVMaterialData::Private
     }
 
     void Add(KVMaterialInfo* record);
-    /// Enters what was read; true when its name is a new one.
+    /// Enters what was read. Returns whether its name is new.
     bool TakeOver(std::unique_ptr<KVMaterialInfo> record);
 };
 
@@ -129,7 +130,8 @@ void KVMaterialData::Private::Add(KVMaterialInfo* record)
     owned[record] = place;
 }
 
-// A record held already keeps its object: reading a file again and again takes no more memory.
+// A record already in the store keeps its object, so that reading a file repeatedly takes no more
+// memory.
 bool KVMaterialData::Private::TakeOver(std::unique_ptr<KVMaterialInfo> record)
 {
     const auto found = index.find(record->m_strName);
@@ -209,7 +211,7 @@ int KVMaterialData::ReadXML(const std::string& path, MATERIAL_TYPE type)
 {
     const QString file = QString::fromLocal8Bit(path.c_str());
     QByteArray content;
-    if (!tarn::SafeFile::Read(file, content))
+    if (!tarn::WholeFile(file).Read(content))
         return -1;
     std::vector<std::unique_ptr<KVMaterialInfo>> records;
     const tarn::XmlReading reading =
@@ -229,8 +231,8 @@ int KVMaterialData::ReadXML(const std::string& path, MATERIAL_TYPE type)
         names << record->m_strName;
         isEachNew = m_d->TakeOver(std::move(record)) && isEachNew;
     }
-    // What is not written again is not remembered: a system library, the earlier of two of one
-    // name.
+    // Content that the store would not write again is not remembered: a system library, or the
+    // earlier of two materials of one name.
     if (type == MATERIAL_USER && reading == tarn::XmlReading::Fully &&
         (isEachNew || AreDistinct(names)))
         m_d->files.Remember(file, content);

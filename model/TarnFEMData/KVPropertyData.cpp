@@ -1,6 +1,7 @@
 #include "KVPropertyData.h"
 
 #include "SafeFile.h"
+#include "WholeFile.h"
 #include "XmlRecords.h"
 
 #include <optional>
@@ -68,7 +69,7 @@ bool IsSame(const CQLTElemPropDef& one, const CQLTElemPropDef& other)
 struct KVPropertyData::Private
 {
     std::map<QString, CQLTElemPropDef*> records;
-    /// Every record of the store, with its key; none for one that was replaced.
+    /// Every record of the store with its key, or none if it was replaced.
     std::unordered_map<CQLTElemPropDef*, std::optional<QString>> owned;
     tarn::SafeFile files;
 
@@ -86,7 +87,8 @@ struct KVPropertyData::Private
     }
 
     void Add(CQLTElemPropDef* record);
-    /// Enters what was read, unless its name is held; true when the store then holds just that.
+    /// Enters what was read unless its name is in the store. Returns whether the store then has
+    /// exactly these values.
     bool TakeOver(std::unique_ptr<CQLTElemPropDef> record);
 };
 
@@ -105,7 +107,7 @@ void KVPropertyData::Private::Add(CQLTElemPropDef* record)
 
 bool KVPropertyData::Private::TakeOver(std::unique_ptr<CQLTElemPropDef> record)
 {
-    // Files are written in the order of the map, so each one's place is usually the end.
+    // Files are written in the order of the map, so the place is usually the end.
     const auto count = records.size();
     const auto place = records.emplace_hint(records.end(), record->m_strName, record.get());
     if (records.size() == count)
@@ -154,7 +156,7 @@ int KVPropertyData::ReadXML(const std::string& path)
 {
     const QString file = QString::fromLocal8Bit(path.c_str());
     QByteArray content;
-    if (!tarn::SafeFile::Read(file, content))
+    if (!tarn::WholeFile(file).Read(content))
         return -1;
     std::vector<std::unique_ptr<CQLTElemPropDef>> records;
     const tarn::XmlReading reading =
@@ -169,8 +171,8 @@ int KVPropertyData::ReadXML(const std::string& path)
     bool isEachHeld = true;
     for (auto& record : records)
         isEachHeld = m_d->TakeOver(std::move(record)) && isEachHeld;
-    // What the store holds otherwise is not written again. A file that it has just edited away from
-    // was remembered when it was read before.
+    // Values that differ from the store's would not be written again. If the user has edited the
+    // store since, the file was remembered when it was read before.
     if (reading == tarn::XmlReading::Fully && isEachHeld)
         m_d->files.Remember(file, content);
     return 0;

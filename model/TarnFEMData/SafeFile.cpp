@@ -1,130 +1,68 @@
 #include "SafeFile.h"
 
+#include "WholeFile.h"
+
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
+#include <QDeadlineTimer>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QLockFile>
+#include <QRandomGenerator>
+#include <QThread>
 
 #include <functional>
 #include <string_view>
-
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-
-#include <cerrno>
-#endif
 
 namespace tarn {
 
 namespace {
 
-constexpr int MaximumLinks = 40;
-constexpr int CopyBlock = 1024 * 1024;
-
-/// The absolute path that @p path leads to, whether there is a file or not; empty for a folder that
-/// is missing and for links that turn in a circle.
-QString Target(const QString& path)
+/// Waits until no other process writes the file. If the lock file cannot be made or does not
+/// disappear, the file is written without a lock.
+void WaitFor(QLockFile& lock)
 {
-    QFileInfo info(path);
-    QString real = info.exists() ? info.canonicalFilePath() : QString();
-    for (int i = 0; real.isEmpty() && i < MaximumLinks; ++i) {
-        // Only in the real folder does ".." mean what it means to the system.
-        const QString folder = info.dir().canonicalPath();
-        if (folder.isEmpty() || info.fileName().isEmpty())
-            break;
-        info.setFile(folder + QLatin1Char('/') + info.fileName());
-        if (info.isSymLink())
-            info.setFile(info.symLinkTarget());
-        else
-            real = info.filePath();
-    }
-    return real;
+    // Far longer than a process holds the lock, in ms.
+    constexpr int StaleTime = 2000;
+    constexpr int LongestWait = 3000;
+    constexpr quint32 LongestPause = 5;
+    lock.setStaleLockTime(StaleTime);
+    const QDeadlineTimer deadline(LongestWait);
+    // Not tryLock(LongestWait): its pauses grow, so that busier processes could always be first.
+    while (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError && !deadline.hasExpired())
+        QThread::msleep(1 + QRandomGenerator::global()->bounded(LongestPause));
 }
 
-/// Puts on the disk what was written to @p file so far. QSaveFile::commit() and QFile::close() do
-/// not report that the last buffer found no room; this does.
-bool Flush(QFileDevice& file)
+/// Copies @p target beside itself under a new name. Returns why that failed.
+QString KeepCopy(const QString& target)
 {
-    if (!file.flush() || file.error() != QFileDevice::NoError)
-        return false;
-#ifdef Q_OS_UNIX
-    return fsync(file.handle()) == 0 || errno == EINVAL || errno == ENOTSUP;
-#else
-    return true;
-#endif
-}
-
-bool CopyContent(QFile& from, QFile& to)
-{
-    // Permissions first: what others may not read they may not read in the copy either.
-    if (!to.setPermissions(from.permissions()))
-        return false;
-    QByteArray block;
-    do {
-        block = from.read(CopyBlock);
-        if (from.error() != QFileDevice::NoError || to.write(block) != block.size())
-            return false;
-    } while (!block.isEmpty());
-    return Flush(to);
-}
-
-/// Copies @p target beside itself under a name that no file has yet.
-bool KeepCopy(const QString& target)
-{
-    QFile original(target);
-    if (!original.open(QIODevice::ReadOnly))
-        return false;
     const QString stamp =
         QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss-zzz"));
     const QString stem = target + QLatin1Char('.') + stamp;
-    QFile copy(stem + QStringLiteral(".bak"));
-    // NewOnly, because another process may keep a copy of its own in the same instant.
-    for (int i = 2; !copy.open(QIODevice::WriteOnly | QIODevice::NewOnly); ++i) {
-        if (!copy.exists())
-            return false;
-        copy.setFileName(QStringLiteral("%1-%2.bak").arg(stem).arg(i));
+    QString copy = stem + QStringLiteral(".bak");
+    WholeFile file(target);
+    for (int i = 2; !file.CopyTo(copy); ++i) {
+        if (!QFileInfo::exists(copy))
+            return file.Error();
+        copy = QStringLiteral("%1-%2.bak").arg(stem).arg(i);
     }
-    if (CopyContent(original, copy))
-        return true;
-    copy.remove();
-    return false;
+    return {};
 }
 
 } // namespace
 
-bool SafeFile::Read(const QString& path, QByteArray& content)
-{
-    // Opening a pipe would wait for somebody to write into it.
-    const QFileInfo info(path);
-    if (!info.isFile() || info.size() > MaximumSize)
-        return false;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    content = file.readAll();
-    return file.error() == QFileDevice::NoError;
-}
-
 void SafeFile::Remember(const QString& path, const QByteArray& content)
 {
-    m_known.insert(Target(path), PrintOf(content));
+    m_known.insert(WholeFile::Target(path), PrintOf(content));
 }
 
 bool SafeFile::Write(const QString& path, const QByteArray& content)
 {
-    const QString target = Target(path);
-    const QFileInfo info(target);
-    if (target.isEmpty() || content.size() > MaximumSize || (info.exists() && !info.isFile()))
-        return false;
-
-    QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    const bool isWritten = file.write(content) == content.size() && Flush(file);
-    if (!isWritten || (QFile::exists(target) && !IsRemembered(target) && !KeepCopy(target)))
-        file.cancelWriting();
-    if (!file.commit())
+    const QString target = WholeFile::Target(path);
+    QLockFile lock(target + QStringLiteral(".lock"));
+    const auto keepCopy = [&] {
+        WaitFor(lock);
+        return !QFileInfo::exists(target) || IsRemembered(target) ? QString() : KeepCopy(target);
+    };
+    if (!WholeFile(path).Write(content, keepCopy))
         return false;
     m_known.insert(target, PrintOf(content));
     return true;
@@ -141,7 +79,7 @@ bool SafeFile::IsRemembered(const QString& target) const
     const auto known = m_known.constFind(target);
     QByteArray content;
     if (known == m_known.constEnd() || known->size != QFileInfo(target).size() ||
-        !Read(target, content))
+        !WholeFile(target).Read(content))
         return false;
     const Print print = PrintOf(content);
     return print.size == known->size && print.hash == known->hash;

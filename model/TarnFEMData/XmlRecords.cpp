@@ -1,6 +1,6 @@
 #include "XmlRecords.h"
 
-#include "SafeFile.h"
+#include "WholeFile.h"
 
 #include <QIODevice>
 #include <QXmlStreamReader>
@@ -18,11 +18,11 @@ namespace {
 
 constexpr int FormatVersion = 1;
 
-// The reader gives up beyond these, so that no file can exhaust memory or time; the writer keeps a
-// distance from them. A record has room for four line edits filled to the brim. What stands outside
-// the root is kept short, and a tag's equals signs few, because Qt compares each attribute that is
-// declared or given with each other one before it hands out any; namespaces are few because it
-// looks each prefix up in all that are open.
+// The reader refuses files beyond these limits, so that no file can exhaust memory or time; the
+// writer keeps a margin. A record has room for four line edits at maximum length. Tokens outside
+// the root and the equals signs of a tag are limited because Qt compares all attributes that are
+// declared or given with each other before it returns any; namespaces, because it looks up each
+// prefix in all open ones.
 constexpr int MaximumRecords = 1000000;
 constexpr int MaximumDepth = 100;
 constexpr int MaximumAttributes = 100;
@@ -45,7 +45,7 @@ bool HasManyEquals(const QString& text)
     return text.size() > MaximumTextEquals && text.count(QLatin1Char('=')) > MaximumTextEquals;
 }
 
-/// True for what may stand in the file as it is, where @p text holds it at @p i.
+/// Whether the character at @p i of @p text is written as it is.
 bool IsPlain(const QString& text, int i)
 {
     const QChar c = text[i];
@@ -56,8 +56,8 @@ bool IsPlain(const QString& text, int i)
     return c.unicode() >= 0x20 && c != QLatin1Char('\\') && c.unicode() < 0xFFFE;
 }
 
-/// Writes what XML cannot hold or would change, the backslash itself, and a great many equals signs
-/// as \uXXXX.
+/// Replaces by \uXXXX what XML cannot hold or would change, the backslash itself, and equals signs
+/// if there are very many.
 QString Escaped(const QString& text)
 {
     const bool isEqualsPlain = !HasManyEquals(text);
@@ -81,7 +81,7 @@ QString Escaped(const QString& text)
     return escaped;
 }
 
-/// Undoes Escaped(). A backslash that begins no escape stands for itself.
+/// Reverses Escaped(). A backslash that does not begin an escape is kept.
 QString Unescaped(const QString& text)
 {
     int i = text.indexOf(QLatin1Char('\\'));
@@ -108,9 +108,8 @@ QString Unescaped(const QString& text)
     return plain;
 }
 
-/// Hands a file's content to the parser and stops where a single tag or text takes too much of it.
-/// Bytes are counted, whatever the encoding: in UTF-16 also some that are half of another
-/// character.
+/// Passes a file's content to the parser and stops if a single tag or text is too long. It counts
+/// bytes, whatever the encoding; in UTF-16 some of the equals signs are halves of other characters.
 class BoundedInput : public QIODevice
 {
 public:
@@ -120,7 +119,7 @@ public:
         open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     }
 
-    /// To be called after every token.
+    /// Call this after every token.
     void StartToken(bool isInRoot)
     {
         m_tokenLimit = isInRoot ? MaximumTokenSize : MaximumOuterTokenSize;
@@ -162,7 +161,7 @@ public:
         , m_texts(std::size_t(format.fields.size()))
         , m_last(m_texts)
     {
-        // Our files declare no entities, so there is nothing to expand.
+        // Our files have no entities, so there is nothing to expand.
         m_xml.setEntityExpansionLimit(0);
     }
 
@@ -178,7 +177,7 @@ private:
     BoundedInput m_input;
     QXmlStreamReader m_xml;
     std::vector<QString> m_texts;
-    std::vector<QString> m_last; ///< The texts as they stood in the record before.
+    std::vector<QString> m_last; ///< The texts of the previous record, as they are in the file.
     int m_records = 0;
     int m_namespaces = 0;
     bool m_isFull = true;
@@ -240,7 +239,7 @@ XmlReading RecordReader::Read(const std::function<bool(std::vector<QString>&)>& 
     return m_isFull ? XmlReading::Fully : XmlReading::Partly;
 }
 
-/// False when the start tag holds more than any of ours.
+/// False if the start tag has more attributes or namespaces than any of ours.
 bool RecordReader::IsBounded()
 {
     m_namespaces += m_xml.namespaceDeclarations().size();
@@ -272,7 +271,7 @@ bool RecordReader::ReadRecord(const std::function<bool(std::vector<QString>&)>& 
             m_isFull = false;
             continue;
         }
-        // One record often has a text of the one before: they then share it.
+        // Records often have the same text as the previous one; they then share it.
         const QStringRef value = attributes[i].value();
         QString& last = m_last[std::size_t(field)];
         if (last.isNull() || value != last)
@@ -310,7 +309,7 @@ bool WriteRecords(const XmlFormat& format, QByteArray& content,
         for (int i = 0; i < format.fields.size(); ++i)
             xml.writeAttribute(format.fields[i], Escaped(texts[std::size_t(i)]));
         if (records == MaximumRecords || content.size() - before > MaximumRecordSize ||
-            content.size() > SafeFile::MaximumSize)
+            content.size() > WholeFile::MaximumSize)
             return false;
     }
     xml.writeEndDocument();

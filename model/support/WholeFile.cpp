@@ -1,19 +1,134 @@
 #include "WholeFile.h"
 
+#include <QBuffer>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
+#include <QRandomGenerator>
+#include <QScopeGuard>
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
-#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <optional>
 
 namespace tarn {
+
+namespace {
+
+constexpr int BlockSize = 1024 * 1024;
+
+bool IsResource(const QString& path)
+{
+    return path.startsWith(QLatin1String(":/"));
+}
+
+/// None for a new file and for a resource, so that the system's default applies.
+std::optional<QFile::Permissions> PermissionsOf(const QString& path)
+{
+    if (IsResource(path) || !QFileInfo::exists(path))
+        return std::nullopt;
+    return QFile::permissions(path);
+}
+
+bool IsSynced(int handle)
+{
+    // Some file systems cannot do this.
+    return fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
+}
+
+/// Without this a power failure could undo the replacement of a file.
+bool IsFolderSynced(const QString& file)
+{
+    const QByteArray path = QFile::encodeName(QFileInfo(file).path());
+    const int folder = open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    // A folder in which one may write is not always one that one may read.
+    if (folder < 0)
+        return true;
+    const bool isSynced = IsSynced(folder);
+    const int error = errno;
+    close(folder);
+    errno = error;
+    return isSynced;
+}
+
+/// A name beside @p target that nobody can guess and thus occupy.
+QString TemporaryName(const QString& target)
+{
+    constexpr int Letters = 6;
+    QString name = target + QLatin1Char('.');
+    for (int i = 0; i < Letters; ++i)
+        name += QLatin1Char(char('a' + QRandomGenerator::system()->bounded('z' - 'a' + 1)));
+    return name;
+}
+
+/// Creates @p file with all that @p from holds and puts it on the disk. On failure returns the
+/// reason and leaves no file.
+QString Create(QFile& file, QIODevice& from, std::optional<QFile::Permissions> permissions)
+{
+    // Unbuffered, so that each call reports its own failure.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        return file.errorString();
+    auto removal = qScopeGuard([&file] { file.remove(); });
+    // Before the content: nobody may read the copy who may not read the original. Not every file
+    // system has permissions.
+    if (permissions)
+        file.setPermissions(*permissions);
+
+    QByteArray block(BlockSize, Qt::Uninitialized);
+    qint64 size = 0;
+    for (;;) {
+        const qint64 count = from.read(block.data(), block.size());
+        if (count < 0)
+            return from.errorString();
+        if (count == 0)
+            break;
+        // A full disk takes a part of the block, and only the next call says why not more.
+        for (qint64 done = 0; done < count;) {
+            const qint64 written = file.write(block.constData() + done, count - done);
+            if (written <= 0)
+                return file.errorString();
+            done += written;
+        }
+        size += count;
+    }
+    if (!IsSynced(file.handle()))
+        return qt_error_string();
+    if (file.size() != size)
+        return qt_error_string(EIO);
+    removal.dismiss();
+    return {};
+}
+
+} // namespace
 
 WholeFile::WholeFile(const QString& path, int maximumSize)
     : m_path(path)
     , m_maximumSize(maximumSize)
 {
+}
+
+QString WholeFile::Target(const QString& path)
+{
+    constexpr int MaximumLinks = 40;
+    QFileInfo info(path);
+    QString real = info.exists() ? info.canonicalFilePath() : QString();
+    for (int i = 0; real.isEmpty() && i < MaximumLinks; ++i) {
+        // Only in the real folder does ".." mean what it means to the system.
+        const QString folder = info.dir().canonicalPath();
+        if (folder.isEmpty() || info.fileName().isEmpty())
+            break;
+        info.setFile(folder + QLatin1Char('/') + info.fileName());
+        if (info.isSymLink())
+            info.setFile(info.symLinkTarget());
+        else
+            real = info.filePath();
+    }
+    return real;
 }
 
 bool WholeFile::Fail(const QString& error)
@@ -24,38 +139,40 @@ bool WholeFile::Fail(const QString& error)
 
 bool WholeFile::FailBySize()
 {
-    return Fail(tr("exceeds the limit of %1")
-                    .arg(QLocale().formattedDataSize(m_maximumSize, 0,
-                                                     QLocale::DataSizeTraditionalFormat)));
+    const QString limit =
+        QLocale().formattedDataSize(m_maximumSize, 0, QLocale::DataSizeTraditionalFormat);
+    return Fail(tr("exceeds the limit of %1").arg(limit));
+}
+
+bool WholeFile::IsRegular(unsigned int mode)
+{
+    if (S_ISDIR(mode))
+        return Fail(tr("is a folder, not a file"));
+    return S_ISREG(mode) || Fail(tr("is not a regular file"));
 }
 
 bool WholeFile::Open(QFile& file)
 {
-    if (m_path.startsWith(QLatin1String(":/"))) {
+    if (IsResource(m_path)) {
         file.setFileName(m_path);
         return file.open(QIODevice::ReadOnly) ||
                Fail(tr("cannot be opened: %1").arg(file.errorString()));
     }
-    // Without blocking, because opening a pipe would wait for a writer. What was opened is then
-    // looked at itself, because the path can mean something else by then.
+    // Opening a pipe would otherwise wait for a writer. The kind of the file is checked afterwards,
+    // because the path may lead elsewhere a moment later.
     const int handle =
         open(QFile::encodeName(m_path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-    if (handle < 0)
-        return Fail(tr("cannot be opened: %1").arg(qt_error_string()));
-    file.open(handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
     struct stat status
     {
     };
-    if (fstat(handle, &status) != 0)
+    if (handle < 0 || !file.open(handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) ||
+        fstat(handle, &status) != 0)
         return Fail(tr("cannot be opened: %1").arg(qt_error_string()));
-    if (S_ISDIR(status.st_mode))
-        return Fail(tr("is a folder, not a file"));
-    return S_ISREG(status.st_mode) || Fail(tr("is not a regular file"));
+    return IsRegular(status.st_mode);
 }
 
 bool WholeFile::Read(QByteArray& content)
 {
-    constexpr qint64 BlockSize = qint64(1024) * 1024;
     QFile file;
     if (!Open(file))
         return false;
@@ -74,6 +191,58 @@ bool WholeFile::Read(QByteArray& content)
         return FailBySize();
     content = bytes;
     return true;
+}
+
+bool WholeFile::Write(const QByteArray& content, const std::function<QString()>& beforeReplace)
+{
+    const auto fail = [this](const QString& reason) {
+        return Fail(tr("cannot be written: %1").arg(reason));
+    };
+    if (content.size() > m_maximumSize)
+        return FailBySize();
+    struct stat status
+    {
+    };
+    const bool isThere = stat(QFile::encodeName(m_path).constData(), &status) == 0;
+    const QString missing = qt_error_string();
+    if (isThere && !IsRegular(status.st_mode))
+        return false;
+    const QString target = Target(m_path);
+    if (target.isEmpty())
+        return fail(missing);
+    const QByteArray targetName = QFile::encodeName(target);
+    // Replacing a file needs no right to write it, but who took that right away meant it.
+    if (isThere && faccessat(AT_FDCWD, targetName.constData(), W_OK, AT_EACCESS) != 0)
+        return fail(qt_error_string());
+
+    QFile file(TemporaryName(target));
+    QBuffer buffer;
+    buffer.setData(content);
+    buffer.open(QIODevice::ReadOnly);
+    QString reason = Create(file, buffer, PermissionsOf(target));
+    if (!reason.isEmpty())
+        return fail(reason);
+    if (beforeReplace)
+        reason = beforeReplace();
+    // Not QFile::rename(), which does not replace files.
+    if (reason.isEmpty() &&
+        std::rename(QFile::encodeName(file.fileName()).constData(), targetName.constData()) != 0)
+        reason = qt_error_string();
+    if (!reason.isEmpty()) {
+        file.remove();
+        return fail(reason);
+    }
+    return IsFolderSynced(target) || fail(qt_error_string());
+}
+
+bool WholeFile::CopyTo(const QString& copy)
+{
+    QFile file;
+    if (!Open(file))
+        return false;
+    QFile other(copy);
+    const QString reason = Create(other, file, PermissionsOf(m_path));
+    return reason.isEmpty() || Fail(tr("cannot be copied: %1").arg(reason));
 }
 
 } // namespace tarn

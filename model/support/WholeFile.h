@@ -4,34 +4,55 @@
 #include <QCoreApplication>
 #include <QString>
 
+#include <functional>
+
 class QFile;
 
 namespace tarn {
 
-/// A regular file that is read as a whole.
+/// Reads and writes a regular file as a whole.
 ///
-/// A folder, a pipe or a device is refused, and none of them is waited for.
+/// Folders, pipes and devices are refused, and opening them never blocks. Files are replaced
+/// atomically: until the new content is completely on the disk, the old file stays as it is.
 class WholeFile
 {
     Q_DECLARE_TR_FUNCTIONS(WholeFile)
 
 public:
-    /// The limit for files that set none of their own, in bytes.
+    /// The default limit of a file's size, in bytes.
     static constexpr int MaximumSize = 256 * 1024 * 1024;
 
-    /// @p path may lead through symbolic links, or, for reading, to a Qt resource. A content of
-    /// more than @p maximumSize bytes is refused.
+    /// Refers to the file at @p path, which may lead through symbolic links and, for reading, to a
+    /// Qt resource. Read() and Write() refuse more than @p maximumSize bytes.
     explicit WholeFile(const QString& path, int maximumSize = MaximumSize);
 
-    /// Puts the file's content into @p content. On failure returns false and leaves it as it was.
+    /// Reads the file into @p content. On failure returns false and leaves @p content as it was.
     bool Read(QByteArray& content);
 
-    /// Why the last call failed, to follow the file's name: "cannot be opened: Permission denied".
+    /// Replaces the content of the file, or creates the file. Symbolic links and the permissions of
+    /// an existing file stay.
+    ///
+    /// @p beforeReplace is called when the new content is on the disk and is about to replace the
+    /// old one. It may veto that by returning a reason. On failure returns false; the old file then
+    /// is as it was, unless the disk failed only while it recorded the replacement.
+    bool Write(const QByteArray& content, const std::function<QString()>& beforeReplace = {});
+
+    /// Copies the file, of whatever size, to the new file @p copy, with its permissions. Returns
+    /// false on failure, and when @p copy exists already, which then stays as it is.
+    bool CopyTo(const QString& copy);
+
+    /// The absolute path of the file behind all symbolic links, whether it exists or not. Empty for
+    /// a missing folder and for circular links.
+    static QString Target(const QString& path);
+
+    /// Why the last call that returned false failed, as the continuation of the file's name, for
+    /// example "cannot be opened: Permission denied".
     const QString& Error() const { return m_error; }
 
 private:
     bool Fail(const QString& error);
     bool FailBySize();
+    bool IsRegular(unsigned int mode);
     bool Open(QFile& file);
 
     QString m_path;

@@ -2,30 +2,12 @@
 
 #include <QByteArray>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QString>
 #include <QTest>
 
-#include <sys/resource.h>
-
-#include <csignal>
-
 /// What the tests of the XML files share.
-
-inline void Put(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(path));
-    QCOMPARE(file.write(content), qint64(content.size()));
-}
-
-inline QByteArray ContentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be opened)");
-}
 
 /// The copies that were kept of the file.
 inline QStringList CopiesOf(const QString& file)
@@ -110,30 +92,6 @@ inline QByteArray ToUtf16(const QByteArray& text)
     const QString wide = QString::fromUtf8(text);
     return {reinterpret_cast<const char*>(wide.utf16()), wide.size() * int(sizeof(QChar))};
 }
-
-/// Lets no file grow beyond a size, while it lives: a full disk, as a writer sees it.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t size)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{size, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    void (*m_handler)(int);
-    rlimit m_before{};
-};
 
 /// Rows of contents that both readers refuse, made of the root @p root and the record @p record.
 inline void AddRefusedRows(const QByteArray& root, const QByteArray& units,

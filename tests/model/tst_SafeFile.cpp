@@ -1,52 +1,24 @@
+#include "FullDisk.h"
+#include "Processes.h"
 #include "SafeFile.h"
 #include "TestCase.h"
+#include "TestFiles.h"
 #include "XmlFiles.h"
 
 #include <QElapsedTimer>
-#include <QRandomGenerator>
-#include <QThread>
+#include <QLockFile>
+#include <QSet>
 
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <csignal>
-#include <functional>
+#include <array>
 
 using tarn::SafeFile;
 
 namespace {
 
 const QString Name = QStringLiteral("file.xml");
-
-/// Runs @p work in a process of its own and returns its id; the process ends with the work.
-pid_t Fork(const std::function<bool()>& work)
-{
-    const pid_t child = fork();
-    if (child == 0)
-        _exit(work() ? 0 : 1);
-    return child;
-}
-
-int ExitCodeOf(pid_t child)
-{
-    int status = 0;
-    return waitpid(child, &status, 0) == child && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-QStringList AllFiles()
-{
-    return QDir().entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                            QDir::Name);
-}
-
-mode_t ModeOf(const QString& path)
-{
-    struct stat status
-    {
-    };
-    return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777U : 0;
-}
+const QString LockName = QStringLiteral("file.xml.lock");
 
 } // namespace
 
@@ -55,272 +27,33 @@ class tst_SafeFile : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void WhatIsWrittenIsRead();
-    void WhatIsWrittenIsRead_data();
-    void WhatIsNoFileIsNotRead();
-    void WhatIsNoFileIsNotReplaced();
-    void AWriteWithoutDirectoryFails();
-    void AReadOnlyDirectoryLeavesTheOldFile();
-    void AFullDiskLeavesTheOldFile();
-    void AFullDiskLeavesTheOldFile_data();
-    void WhereTheCopyFindsNoRoomNothingIsWritten();
-    void ASymbolicLinkStaysALink();
-    void AChainOfLinksStays();
-    void ALinkToNothingMakesItsTarget();
-    void LinksInACircleFail();
-    void ALinkInALinkedFolderIsFollowedAsTheSystemDoes();
-    void AFolderUpFromALinkedOneIsTheSystems();
-    void PermissionsStay();
-    void PermissionsStay_data();
-    void ACopyHasThePermissionsOfTheFile();
     void ACopyIsKeptOfWhatIsNotRemembered();
+    void WhatIsRememberedIsReplaced();
+    void ACopyIsKeptBesideTheTargetOfALink();
+    void ACopyHasThePermissionsOfTheFile();
     void CopiesDoNotReplaceEachOther();
-    void AKilledProcessLeavesAWholeFile();
+    void WhereTheCopyFindsNoRoomNothingIsWritten();
+    void AFullDiskLeavesTheOldFileAndNoCopy();
+    void AFailedWriteIsNotRemembered();
+
     void TwoProcessesLeaveAWholeFile();
+    void NothingIsLostAmongProcesses();
+    void ALockOfADeadProcessIsIgnored();
+    void ALockThatStaysDelaysTheWriteOnly();
+    void WhereNoLockCanBeMadeTheFileIsWritten();
+
+private:
+    void init() override;
 };
 
-void tst_SafeFile::WhatIsWrittenIsRead_data()
+void tst_SafeFile::init()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("zero bytes") << QByteArray(10, '\0');
-    QTest::newRow("large") << QByteArray(3000000, 'x');
-}
-
-void tst_SafeFile::WhatIsWrittenIsRead()
-{
+    TestCase::init();
     EnterTemporaryDirectory();
-    QFETCH(QByteArray, content);
-    SafeFile file;
-    QVERIFY(file.Write(Name, content));
-    QByteArray read;
-    QVERIFY(SafeFile::Read(Name, read));
-    QCOMPARE(read, content);
-    QCOMPARE(AllFiles(), QStringList(Name));
-}
-
-void tst_SafeFile::WhatIsNoFileIsNotRead()
-{
-    EnterTemporaryDirectory();
-    QDir().mkdir("directory");
-    QCOMPARE(mkfifo("pipe", 0600), 0);
-    QByteArray content;
-    QVERIFY(!SafeFile::Read("missing", content));
-    QVERIFY(!SafeFile::Read("directory", content));
-    QVERIFY(!SafeFile::Read("pipe", content));
-    QVERIFY(!SafeFile::Read("/dev/zero", content));
-}
-
-void tst_SafeFile::WhatIsNoFileIsNotReplaced()
-{
-    EnterTemporaryDirectory();
-    QDir().mkdir("directory");
-    QCOMPARE(mkfifo("pipe", 0600), 0);
-    SafeFile file;
-    QVERIFY(!file.Write("directory", "x"));
-    QVERIFY(!file.Write("pipe", "x"));
-    QVERIFY(!file.Write("", "x"));
-    QCOMPARE(AllFiles(), QStringList({"directory", "pipe"}));
-    struct stat status
-    {
-    };
-    QCOMPARE(stat("pipe", &status), 0);
-    QVERIFY(S_ISFIFO(status.st_mode));
-}
-
-void tst_SafeFile::AWriteWithoutDirectoryFails()
-{
-    EnterTemporaryDirectory();
-    Put("plain", "old");
-    SafeFile file;
-    QVERIFY(!file.Write("missing/file.xml", "x"));
-    QVERIFY(!file.Write("plain/file.xml", "x"));
-    QCOMPARE(AllFiles(), QStringList("plain"));
-    QCOMPARE(ContentOf("plain"), QByteArray("old"));
-}
-
-void tst_SafeFile::AReadOnlyDirectoryLeavesTheOldFile()
-{
-    EnterTemporaryDirectory();
-    SafeFile file;
-    QVERIFY(file.Write(Name, "old"));
-    QCOMPARE(chmod(".", 0555), 0);
-    // Permissions do not bind the administrator, so the write is another user's.
-    const pid_t child = Fork([&file] {
-        const uid_t nobody = 65534;
-        if (geteuid() == 0 && seteuid(nobody) != 0)
-            return false;
-        return !file.Write(Name, "new") && !file.Write("another.xml", "new");
-    });
-    QCOMPARE(ExitCodeOf(child), 0);
-    QCOMPARE(chmod(".", 0700), 0);
-    QCOMPARE(ContentOf(Name), QByteArray("old"));
-    QCOMPARE(AllFiles(), QStringList(Name));
-}
-
-void tst_SafeFile::AFullDiskLeavesTheOldFile_data()
-{
-    QTest::addColumn<int>("room");
-    QTest::addColumn<int>("size");
-    QTest::newRow("no room at all") << 0 << 100;
-    QTest::newRow("only the last buffer fails") << 50 << 100;
-    QTest::newRow("one byte short") << 16383 << 16384;
-    QTest::newRow("one byte short, with blocks") << 99999 << 100000;
-    QTest::newRow("the first block fails") << 10 << 100000;
-}
-
-void tst_SafeFile::AFullDiskLeavesTheOldFile()
-{
-    EnterTemporaryDirectory();
-    QFETCH(int, room);
-    QFETCH(int, size);
-    SafeFile file;
-    QVERIFY(file.Write(Name, "old"));
-    bool isWritten = true;
-    {
-        const FullDisk full{rlim_t(room)};
-        isWritten = file.Write(Name, QByteArray(size, 'x'));
-    }
-    QVERIFY(!isWritten);
-    QCOMPARE(ContentOf(Name), QByteArray("old"));
-    QCOMPARE(AllFiles(), QStringList(Name));
-    QVERIFY(file.Write(Name, QByteArray(size, 'x')));
-    QCOMPARE(AllFiles(), QStringList(Name));
-}
-
-void tst_SafeFile::WhereTheCopyFindsNoRoomNothingIsWritten()
-{
-    EnterTemporaryDirectory();
-    const QByteArray old(100000, 'o');
-    for (const int room : {50, 99999}) {
-        Put(Name, old);
-        SafeFile file;
-        bool isWritten = true;
-        {
-            const FullDisk full{rlim_t(room)};
-            isWritten = file.Write(Name, "new");
-        }
-        QVERIFY(!isWritten);
-        QCOMPARE(ContentOf(Name), old);
-        QCOMPARE(AllFiles(), QStringList(Name));
-    }
-}
-
-void tst_SafeFile::ASymbolicLinkStaysALink()
-{
-    EnterTemporaryDirectory();
-    QDir().mkdir("elsewhere");
-    Put("elsewhere/real.xml", "old");
-    QVERIFY(QFile::link("elsewhere/real.xml", Name));
-    SafeFile file;
-    file.Remember("elsewhere/real.xml", "old");
-    QVERIFY(file.Write(Name, "new"));
-    QVERIFY(QFileInfo(Name).isSymLink());
-    QCOMPARE(ContentOf("elsewhere/real.xml"), QByteArray("new"));
-    QCOMPARE(QDir("elsewhere").entryList(QDir::Files), QStringList("real.xml"));
-    QCOMPARE(AllFiles(), QStringList({"elsewhere", Name}));
-}
-
-void tst_SafeFile::AChainOfLinksStays()
-{
-    EnterTemporaryDirectory();
-    Put("real.xml", "old");
-    QVERIFY(QFile::link("real.xml", "second"));
-    QVERIFY(QFile::link("second", "first"));
-    SafeFile file;
-    QVERIFY(file.Write("first", "new"));
-    QVERIFY(QFileInfo("first").isSymLink());
-    QVERIFY(QFileInfo("second").isSymLink());
-    QVERIFY(!QFileInfo("real.xml").isSymLink());
-    QCOMPARE(ContentOf("real.xml"), QByteArray("new"));
-    QCOMPARE(CopiesOf("real.xml").size(), 1);
-}
-
-void tst_SafeFile::ALinkToNothingMakesItsTarget()
-{
-    EnterTemporaryDirectory();
-    QVERIFY(QFile::link("real.xml", Name));
-    SafeFile file;
-    QVERIFY(file.Write(Name, "new"));
-    QVERIFY(QFileInfo(Name).isSymLink());
-    QCOMPARE(ContentOf("real.xml"), QByteArray("new"));
-}
-
-void tst_SafeFile::LinksInACircleFail()
-{
-    EnterTemporaryDirectory();
-    QVERIFY(QFile::link("b", "a"));
-    QVERIFY(QFile::link("a", "b"));
-    SafeFile file;
-    QByteArray content;
-    QVERIFY(!SafeFile::Read("a", content));
-    QVERIFY(!file.Write("a", "x"));
-    QCOMPARE(AllFiles(), QStringList({"a", "b"}));
-}
-
-void tst_SafeFile::ALinkInALinkedFolderIsFollowedAsTheSystemDoes()
-{
-    EnterTemporaryDirectory();
-    QVERIFY(QDir().mkpath("far/folder"));
-    QVERIFY(QFile::link("far/folder", "near"));
-    // QFile::link() would make the target absolute.
-    QCOMPARE(symlink("../real.xml", "far/folder/file.xml"), 0);
-    SafeFile file;
-    QVERIFY(file.Write("near/file.xml", "made"));
-    QCOMPARE(ContentOf("far/real.xml"), QByteArray("made"));
-    QVERIFY(file.Write("near/file.xml", "replaced"));
-    QCOMPARE(ContentOf("far/real.xml"), QByteArray("replaced"));
-    QVERIFY(QFileInfo("far/folder/file.xml").isSymLink());
-    QCOMPARE(AllFiles(), QStringList({"far", "near"}));
-    QCOMPARE(QDir("far").entryList(QDir::Files), QStringList("real.xml"));
-}
-
-void tst_SafeFile::AFolderUpFromALinkedOneIsTheSystems()
-{
-    EnterTemporaryDirectory();
-    QVERIFY(QDir().mkpath("far/folder"));
-    QVERIFY(QFile::link("far/folder", "near"));
-    SafeFile file;
-    QVERIFY(file.Write("near/../file.xml", "made"));
-    QVERIFY(file.Write("near/../file.xml", "replaced"));
-    QCOMPARE(ContentOf("far/file.xml"), QByteArray("replaced"));
-    QCOMPARE(QDir("far").entryList(QDir::Files), QStringList("file.xml"));
-    QCOMPARE(AllFiles(), QStringList({"far", "near"}));
-}
-
-void tst_SafeFile::PermissionsStay_data()
-{
-    QTest::addColumn<uint>("mode");
-    for (const uint mode : {0600U, 0640U, 0644U, 0666U, 0755U})
-        QTest::newRow(qPrintable(QString::number(mode, 8))) << mode;
-}
-
-void tst_SafeFile::PermissionsStay()
-{
-    EnterTemporaryDirectory();
-    QFETCH(uint, mode);
-    SafeFile file;
-    QVERIFY(file.Write(Name, "old"));
-    QCOMPARE(chmod("file.xml", mode), 0);
-    QVERIFY(file.Write(Name, "new"));
-    QCOMPARE(ModeOf(Name), mode_t(mode));
-}
-
-void tst_SafeFile::ACopyHasThePermissionsOfTheFile()
-{
-    EnterTemporaryDirectory();
-    Put(Name, "old");
-    QCOMPARE(chmod("file.xml", 0640), 0);
-    SafeFile file;
-    QVERIFY(file.Write(Name, "new"));
-    const QStringList copies = CopiesOf(Name);
-    QCOMPARE(copies.size(), 1);
-    QCOMPARE(ModeOf(copies.first()), mode_t(0640));
 }
 
 void tst_SafeFile::ACopyIsKeptOfWhatIsNotRemembered()
 {
-    EnterTemporaryDirectory();
     SafeFile file;
     QVERIFY(file.Write(Name, "first"));
     QVERIFY(file.Write("./file.xml", "second"));
@@ -335,9 +68,48 @@ void tst_SafeFile::ACopyIsKeptOfWhatIsNotRemembered()
     QCOMPARE(ContentOf(Name), QByteArray("fourth"));
 }
 
+void tst_SafeFile::WhatIsRememberedIsReplaced()
+{
+    QDir().mkdir("elsewhere");
+    Put("elsewhere/real.xml", "old");
+    QVERIFY(QFile::link("elsewhere/real.xml", Name));
+    SafeFile file;
+    file.Remember("elsewhere/real.xml", "old");
+    QVERIFY(file.Write(Name, "new"));
+    QVERIFY(QFileInfo(Name).isSymLink());
+    QCOMPARE(ContentOf("elsewhere/real.xml"), QByteArray("new"));
+    QCOMPARE(QDir("elsewhere").entryList(QDir::Files), QStringList("real.xml"));
+    QCOMPARE(AllFiles(), QStringList({"elsewhere", Name}));
+}
+
+void tst_SafeFile::ACopyIsKeptBesideTheTargetOfALink()
+{
+    QDir().mkdir("elsewhere");
+    Put("elsewhere/real.xml", "old");
+    QVERIFY(QFile::link("elsewhere/real.xml", "second"));
+    QVERIFY(QFile::link("second", "first"));
+    SafeFile file;
+    QVERIFY(file.Write("first", "new"));
+    QCOMPARE(AllFiles(), QStringList({"elsewhere", "first", "second"}));
+    QVERIFY(QDir::setCurrent("elsewhere"));
+    QCOMPARE(ContentOf("real.xml"), QByteArray("new"));
+    QCOMPARE(CopiesOf("real.xml").size(), 1);
+    QCOMPARE(ContentOf(CopiesOf("real.xml").constFirst()), QByteArray("old"));
+}
+
+void tst_SafeFile::ACopyHasThePermissionsOfTheFile()
+{
+    Put(Name, "old");
+    QCOMPARE(chmod("file.xml", 0640), 0);
+    SafeFile file;
+    QVERIFY(file.Write(Name, "new"));
+    const QStringList copies = CopiesOf(Name);
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(ModeOf(copies.first()), 0640U);
+}
+
 void tst_SafeFile::CopiesDoNotReplaceEachOther()
 {
-    EnterTemporaryDirectory();
     const int count = 50;
     for (int i = 0; i < count; ++i) {
         Put(Name, QByteArray::number(i));
@@ -351,43 +123,50 @@ void tst_SafeFile::CopiesDoNotReplaceEachOther()
     QCOMPARE(contents.size(), count);
 }
 
-void tst_SafeFile::AKilledProcessLeavesAWholeFile()
+void tst_SafeFile::WhereTheCopyFindsNoRoomNothingIsWritten()
 {
-    EnterTemporaryDirectory();
-    const QByteArray one(300000, '1');
-    const QByteArray other(200000, '2');
-    SafeFile file;
-    QElapsedTimer timer;
-    timer.start();
-    QVERIFY(file.Write(Name, other) && file.Write(Name, one));
-    // Long enough for several writes, whatever the disk.
-    const auto longest = quint32(2 * timer.nsecsElapsed() / 1000 + 2000);
-    int ones = 0;
-    int others = 0;
-    for (int i = 0; i < 200; ++i) {
-        const pid_t child = Fork([&file, &one, &other] {
-            while (file.Write(Name, other) && file.Write(Name, one)) {
-            }
-            return false;
-        });
-        QVERIFY(child > 0);
-        QThread::usleep(QRandomGenerator::global()->bounded(longest));
-        QCOMPARE(kill(child, SIGKILL), 0);
-        int status = 0;
-        QCOMPARE(waitpid(child, &status, 0), child);
-        QVERIFY(WIFSIGNALED(status));
-        const QByteArray content = ContentOf(Name);
-        QVERIFY2(content == one || content == other, qPrintable(QString::number(content.size())));
-        ++(content == one ? ones : others);
-        file.Remember(Name, content);
+    const QByteArray old(100000, 'o');
+    for (const int room : {50, 99999}) {
+        Put(Name, old);
+        SafeFile file;
+        bool isWritten = true;
+        {
+            const FileSizeLimit limit{rlim_t(room)};
+            isWritten = file.Write(Name, "new");
+        }
+        QVERIFY(!isWritten);
+        QCOMPARE(ContentOf(Name), old);
+        QCOMPARE(AllFiles(), QStringList(Name));
     }
-    // Otherwise no process came as far as to replace the file.
-    QVERIFY2(ones > 0 && others > 0, qPrintable(QString::number(ones)));
+}
+
+void tst_SafeFile::AFullDiskLeavesTheOldFileAndNoCopy()
+{
+    FullDisk disk;
+    Put(Name, "old");
+    disk.Fill();
+    SafeFile file;
+    QVERIFY(!file.Write(Name, "new"));
+    QCOMPARE(ContentOf(Name), QByteArray("old"));
+    QCOMPARE(AllFiles(), QStringList(Name));
+}
+
+void tst_SafeFile::AFailedWriteIsNotRemembered()
+{
+    SafeFile file;
+    QVERIFY(file.Write(Name, "old"));
+    {
+        const FileSizeLimit limit{0};
+        QVERIFY(!file.Write(Name, "new"));
+    }
+    Put(Name, "new");
+    QVERIFY(file.Write(Name, "newer"));
+    QCOMPARE(CopiesOf(Name).size(), 1);
+    QCOMPARE(ContentOf(CopiesOf(Name).constFirst()), QByteArray("new"));
 }
 
 void tst_SafeFile::TwoProcessesLeaveAWholeFile()
 {
-    EnterTemporaryDirectory();
     const QByteArray one(100000, '1');
     const QByteArray other(150000, '2');
     SafeFile file;
@@ -421,6 +200,78 @@ void tst_SafeFile::TwoProcessesLeaveAWholeFile()
         QVERIFY2(content == one || content == other, qPrintable(copy));
     }
     QCOMPARE(AllFiles().size(), copies.size() + 1);
+}
+
+void tst_SafeFile::NothingIsLostAmongProcesses()
+{
+    constexpr int Processes = 3;
+    const int writes = qMax(20, qEnvironmentVariableIntValue("TARN_TEST_WRITES"));
+    const auto text = [](int process, int write) {
+        return QByteArray::number(process) + ':' + QByteArray::number(write);
+    };
+    std::array<pid_t, Processes> children{};
+    for (int process = 0; process < Processes; ++process) {
+        children[std::size_t(process)] = Fork([&text, process, writes] {
+            for (int i = 0; i < writes; ++i) {
+                // One that remembers nothing, so that each content of the file is to be copied.
+                if (!SafeFile().Write(Name, text(process, i)))
+                    return false;
+            }
+            return true;
+        });
+    }
+    for (const pid_t child : children)
+        QCOMPARE(ExitCodeOf(child), 0);
+
+    const QStringList copies = CopiesOf(Name);
+    QCOMPARE(AllFiles().size(), copies.size() + 1);
+    QSet<QByteArray> contents{ContentOf(Name)};
+    for (const QString& copy : copies)
+        contents.insert(ContentOf(copy));
+    QCOMPARE(contents.size(), Processes * writes);
+    for (int process = 0; process < Processes; ++process) {
+        for (int i = 0; i < writes; ++i)
+            QVERIFY2(contents.contains(text(process, i)), text(process, i).constData());
+    }
+}
+
+void tst_SafeFile::ALockOfADeadProcessIsIgnored()
+{
+    const pid_t child = Fork([] {
+        QLockFile lock(LockName);
+        // Ends with the process, which does not unlock it.
+        return lock.tryLock(0) && kill(getpid(), SIGKILL) == 0;
+    });
+    QCOMPARE(ExitCodeOf(child), -1);
+    QVERIFY(QFile::exists(LockName));
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(SafeFile().Write(Name, "new"));
+    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(ContentOf(Name), QByteArray("new"));
+    QCOMPARE(AllFiles(), QStringList(Name));
+}
+
+void tst_SafeFile::ALockThatStaysDelaysTheWriteOnly()
+{
+    // A folder can be neither locked nor removed like a lock file.
+    QVERIFY(QDir().mkpath(LockName + "/content"));
+    Put(Name, "old");
+    QVERIFY(SafeFile().Write(Name, "new"));
+    QCOMPARE(ContentOf(Name), QByteArray("new"));
+    QCOMPARE(CopiesOf(Name).size(), 1);
+    QVERIFY(QDir(LockName).exists("content"));
+}
+
+void tst_SafeFile::WhereNoLockCanBeMadeTheFileIsWritten()
+{
+    FullDisk disk;
+    SafeFile file;
+    QVERIFY(file.Write(Name, "old"));
+    disk.Fill(1); // The file finds room, the lock does not.
+    QVERIFY(file.Write(Name, "new"));
+    QCOMPARE(ContentOf(Name), QByteArray("new"));
+    QCOMPARE(AllFiles(), QStringList(Name));
 }
 
 TARN_TEST_MAIN(tst_SafeFile)

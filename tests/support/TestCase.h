@@ -33,9 +33,10 @@ protected:
     /// Puts the local 8-bit code page at @p codec for the running test function.
     void UseCodePage(const char* codec);
 
-private Q_SLOTS:
-    void init();
-    void cleanup();
+protected Q_SLOTS:
+    /// What runs before and after each test function. An override calls this one as well.
+    virtual void init();
+    virtual void cleanup();
 
 private:
     std::unique_ptr<QTemporaryDir> m_directory;

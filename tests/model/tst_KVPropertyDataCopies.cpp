@@ -1,0 +1,162 @@
+#include "FullDisk.h"
+#include "PropertyStoreTest.h"
+#include "TestFiles.h"
+#include "XmlFiles.h"
+
+/// What becomes of the old content of a file that is written.
+class tst_KVPropertyDataCopies : public PropertyStoreTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void AFileNotReadIsKeptAsACopy_data();
+    void AFileNotReadIsKeptAsACopy();
+    void AFileReadIsReplaced();
+    void WhatMemoryHoldsOtherwiseIsKeptAsACopy();
+    void AValueThatMemoryHoldsOtherwiseIsKeptAsACopy_data();
+    void AValueThatMemoryHoldsOtherwiseIsKeptAsACopy();
+    void AFileReplacedSinceItWasReadIsKept();
+    void ClearingForgetsWhatWasRead();
+    void AFullDiskLeavesTheOldFile();
+    void AWriteThatFailsAtItsEndLeavesTheOldFile();
+};
+
+void tst_KVPropertyDataCopies::AFileNotReadIsKeptAsACopy_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("isRead");
+    QTest::newRow("not read") << File(Line("a", "1")) << false;
+    QTest::newRow("damaged") << File(Line("a", "1")).chopped(1) << true;
+    QTest::newRow("newer") << QByteArray("<ElementProperties version=\"2\" units=\"model\"/>")
+                           << true;
+    QTest::newRow("unknown element") << File("<Layer/>") << true;
+    QTest::newRow("a name twice") << File(Line("a", "1") + Line("a", "2")) << true;
+}
+
+void tst_KVPropertyDataCopies::AFileNotReadIsKeptAsACopy()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(bool, isRead);
+    Put("ElementProperty.xml", content);
+    if (isRead)
+        Store().ReadXML(PropertyFile);
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    const QStringList copies = CopiesOf("ElementProperty.xml");
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(ContentOf(copies.first()), content);
+}
+
+void tst_KVPropertyDataCopies::AFileReadIsReplaced()
+{
+    Put("ElementProperty.xml", File(Line("a", "1")));
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    Store().AddPropInfo(Record("b"));
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    QCOMPARE(CopiesOf("ElementProperty.xml"), QStringList());
+}
+
+void tst_KVPropertyDataCopies::WhatMemoryHoldsOtherwiseIsKeptAsACopy()
+{
+    Put("ElementProperty.xml", File(Line("a", "1")));
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    Find("a")->m_dThickness = 2.0;
+    // The user's own edit of what was read loses nothing of others.
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    QCOMPARE(CopiesOf("ElementProperty.xml"), QStringList());
+
+    // Somebody else's value, which memory does not take over, does not get lost either.
+    const QByteArray foreign = File(Line("a", "3"));
+    Put("ElementProperty.xml", foreign);
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    QCOMPARE(Contents(), QStringList("a:a:2"));
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    const QStringList copies = CopiesOf("ElementProperty.xml");
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(ContentOf(copies.first()), foreign);
+}
+
+void tst_KVPropertyDataCopies::AValueThatMemoryHoldsOtherwiseIsKeptAsACopy_data()
+{
+    QTest::addColumn<QByteArray>("attribute");
+    QTest::newRow("material") << QByteArray("material=\"m\"");
+    QTest::newRow("thickness") << QByteArray("thickness=\"3\"");
+    QTest::newRow("type name") << QByteArray("typeName=\"Beam\"");
+    QTest::newRow("type code") << QByteArray("typeCode=\"7\"");
+    QTest::newRow("reserved") << QByteArray("reserved=\"7\"");
+}
+
+void tst_KVPropertyDataCopies::AValueThatMemoryHoldsOtherwiseIsKeptAsACopy()
+{
+    QFETCH(QByteArray, attribute);
+    Put("ElementProperty.xml", File("<ElementProperty name=\"a\"/>"));
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    const QByteArray foreign = File("<ElementProperty name=\"a\" " + attribute + "/>");
+    Put("ElementProperty.xml", foreign);
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    const QStringList copies = CopiesOf("ElementProperty.xml");
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(ContentOf(copies.first()), foreign);
+}
+
+void tst_KVPropertyDataCopies::AFileReplacedSinceItWasReadIsKept()
+{
+    Put("ElementProperty.xml", File(Line("a", "1")));
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    const QByteArray foreign = File(Line("b", "2"));
+    Put("other.xml", foreign);
+    QVERIFY(QFile::remove("ElementProperty.xml"));
+    QVERIFY(QFile::rename("other.xml", "ElementProperty.xml"));
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    const QStringList copies = CopiesOf("ElementProperty.xml");
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(ContentOf(copies.first()), foreign);
+}
+
+void tst_KVPropertyDataCopies::ClearingForgetsWhatWasRead()
+{
+    Put("ElementProperty.xml", File(Line("a", "1")));
+    QCOMPARE(Store().ReadXML(PropertyFile), 0);
+    Store().Clear();
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    QCOMPARE(CopiesOf("ElementProperty.xml").size(), 1);
+}
+
+void tst_KVPropertyDataCopies::AFullDiskLeavesTheOldFile()
+{
+    FullDisk disk;
+    Store().AddPropInfo(Record("a"));
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    const QByteArray before = ContentOf("ElementProperty.xml");
+    Store().AddPropInfo(Record("b"));
+    disk.Fill();
+    QVERIFY(Store().WriteXML(PropertyFile) != 0);
+    QCOMPARE(ContentOf("ElementProperty.xml"), before);
+    QCOMPARE(AllFiles(), QStringList("ElementProperty.xml"));
+    disk.Empty();
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    QVERIFY(ContentOf("ElementProperty.xml") != before);
+    QCOMPARE(AllFiles(), QStringList("ElementProperty.xml"));
+}
+
+void tst_KVPropertyDataCopies::AWriteThatFailsAtItsEndLeavesTheOldFile()
+{
+    Store().AddPropInfo(Record("a"));
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    const QByteArray before = ContentOf("ElementProperty.xml");
+    Store().AddPropInfo(Record("b"));
+    {
+        const FileSizeLimit limit(rlim_t(before.size()));
+        QVERIFY(Store().WriteXML(PropertyFile) != 0);
+    }
+    QCOMPARE(ContentOf("ElementProperty.xml"), before);
+    QCOMPARE(Store().WriteXML(PropertyFile), 0);
+    QVERIFY(ContentOf("ElementProperty.xml") != before);
+    QCOMPARE(CopiesOf("ElementProperty.xml"), QStringList());
+}
+
+TARN_TEST_MAIN(tst_KVPropertyDataCopies)
+#include "tst_KVPropertyDataCopies.moc"
