@@ -2,13 +2,14 @@
 
 #include <QString>
 
-/// One element property. Made with new and owned by its maker until it is given to KVPropertyData.
+/// One element property. Create it with new; the creator owns it until KVPropertyData takes it
+/// over.
 struct CQLTElemPropDef
 {
     QString m_strName;         ///< The property's name; its key in the store.
     qint64 m_nReserved = 0;    ///< Kept in the file; the dialogs neither read nor write it.
     QString m_strMaterialName; ///< Name of a material in KVMaterialData; may be empty.
     double m_dThickness = 0.0; ///< Thickness of a shell, in the model's length unit.
-    QString m_strTypeName;     ///< The element type's word; "Shell" for shells.
+    QString m_strTypeName;     ///< The name of the element type; "Shell" for shells.
     int m_nTypeCode = 0;       ///< The element type: 1 solid, 2 shell.
 };

@@ -14,11 +14,11 @@ enum MATERIAL_TYPE
 
 /// One material. Every value is the text that was typed or read, in SI units.
 ///
-/// A user material has its values in the first triple, a system material in the second. Made with
-/// new and owned by its maker until it is given to KVMaterialData.
+/// A user material has its values in the first triple, a system material in the second. Create it
+/// with new; the creator owns it until KVMaterialData takes it over.
 struct KVMaterialInfo
 {
-    int m_nType = MATERIAL_SYSTEM;  ///< A MATERIAL_TYPE; other values are kept but never shown.
+    int m_nType = MATERIAL_SYSTEM;  ///< A MATERIAL_TYPE; other values are kept but not shown.
     QString m_strName;              ///< The material's name; its key in the store.
     QString m_strElasticModulus;    ///< Elastic modulus of a user material, Pa.
     QString m_strPoisson;           ///< Poisson's ratio of a user material.

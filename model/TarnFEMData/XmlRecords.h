@@ -16,30 +16,30 @@ struct XmlFormat
     QString root;
     QString units;
     QString record;
-    QVector<QString> fields; ///< The first is the name, which every record must have.
+    QVector<QString> fields; ///< The first one is the name, which every record must have.
 };
 
 enum class XmlReading
 {
-    Refused, ///< Not a whole file of this format.
-    Partly,  ///< Read, but there was more in it, which writing the records again would lose.
-    Fully    ///< Read, and nothing else was in it.
+    Refused, ///< Not a complete file of this format.
+    Partly,  ///< The file has more content, which writing the records would lose.
+    Fully    ///< The file has nothing but the records.
 };
 
-/// Reads the records of a file's @p content. @p take is called for each with the texts of the
-/// fields, which it may move away, and says false to refuse the file.
+/// Reads the records of a file's @p content. Calls @p take for each record with the texts of the
+/// fields, which it may move away. @p take returns false to refuse the file.
 XmlReading ReadRecords(const XmlFormat& format, const QByteArray& content,
                        const std::function<bool(std::vector<QString>& texts)>& take);
 
-/// Writes a file into @p content. @p next fills in the texts of the next record and says false when
-/// there is none any more. False when the file would be too large to be read again.
+/// Writes a file into @p content. @p next fills in the texts of the next record and returns false
+/// if there are no more records. Returns false if the file would be too large to be read again.
 bool WriteRecords(const XmlFormat& format, QByteArray& content,
                   const std::function<bool(std::vector<QString>& texts)>& next);
 
-/// A number with all its digits and the full stop; ToNumber() gives exactly it back.
+/// The number with all its digits and a decimal point. ToNumber() returns exactly this number.
 QString ToText(double number);
 
-/// False when @p text is no number.
+/// Reads a text of ToText(). Returns false if @p text is not a number.
 bool ToNumber(const QString& text, double& number);
 
 } // namespace tarn

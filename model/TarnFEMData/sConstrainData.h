@@ -2,14 +2,14 @@
 
 #include <string>
 
-/// One fixed support: a name and the degrees of freedom that it holds.
+/// One fixed support: a name and the degrees of freedom that it fixes.
 struct sConstrainData
 {
     std::string m_strName; ///< Attribute name, in the local 8-bit code page.
-    bool m_bXD = false;    ///< True when the displacement along X is held.
-    bool m_bYD = false;    ///< True when the displacement along Y is held.
-    bool m_bZD = false;    ///< True when the displacement along Z is held.
-    bool m_bXR = false;    ///< True when the rotation about X is held.
-    bool m_bYR = false;    ///< True when the rotation about Y is held.
-    bool m_bZR = false;    ///< True when the rotation about Z is held.
+    bool m_bXD = false;    ///< Whether the displacement along X is fixed.
+    bool m_bYD = false;    ///< Whether the displacement along Y is fixed.
+    bool m_bZD = false;    ///< Whether the displacement along Z is fixed.
+    bool m_bXR = false;    ///< Whether the rotation about X is fixed.
+    bool m_bYR = false;    ///< Whether the rotation about Y is fixed.
+    bool m_bZR = false;    ///< Whether the rotation about Z is fixed.
 };
