@@ -1,4 +1,4 @@
-# The dialog library. Its folders add their sources to the objects, which tests of unexported classes link directly.
+# The dialog library. Its folders add their sources to an object library, which tests of unexported classes link.
 set(TARN_DIALOG_FOLDERS analysis common design geometry solver)
 set(TARN_LIBRARY_FOLDERS ${TARN_DIALOG_FOLDERS} forms model) # All folders with texts to translate.
 

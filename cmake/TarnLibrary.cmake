@@ -5,7 +5,7 @@ set(TARN_LIBRARIES TarnCoreGeometry TarnDesign TarnFEMData TarnGUICommon)
 
 # tarn_add_library(<target> [<source>...])
 #
-# Adds one of them, with what they have in common: export header, version, hidden symbols, no undefined symbols.
+# Adds one of them with the common settings: export header, version, hidden symbols, no undefined symbols.
 function(tarn_add_library target)
   add_library(${target} SHARED ${ARGN})
   add_library(TarnGUICommon::${target} ALIAS ${target})
@@ -20,7 +20,7 @@ function(tarn_add_library target)
   if(NOT TARN_SANITIZE)
     target_link_options(${target} PRIVATE -Wl,--no-undefined)
   endif()
-  # The libraries find one another in their own folder, so the package can be moved.
+  # The libraries find each other in their own folder, so that the package is relocatable.
   set_target_properties(
     ${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN"
                          LINK_DEPENDS "${symbols}")
@@ -43,14 +43,14 @@ function(tarn_add_folders target)
   foreach(folder IN LISTS ARGN)
     add_subdirectory(${folder})
     target_include_directories(${target} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}/${folder}")
-    # Without it moc misses a class that is added there: it watches the list of the current folder only.
+    # Otherwise moc would miss a class added there: it only watches the list of the current folder.
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${folder}/CMakeLists.txt")
   endforeach()
 endfunction()
 
 # tarn_public_headers(<target> <header>...)
 #
-# Adds headers that are installed, all of them into one folder.
+# Adds headers to install. All go to the same folder.
 function(tarn_public_headers target)
   foreach(header IN LISTS ARGN)
     get_filename_component(header "${header}" ABSOLUTE)

@@ -1,4 +1,4 @@
-# A locale with a decimal comma, made for the tests: the machine need not have one.
+# Builds a locale with a decimal comma for the tests, because the system may not have one.
 set(TARN_TEST_LOCALES "${PROJECT_BINARY_DIR}/locales")
 add_custom_command(
   OUTPUT "${TARN_TEST_LOCALES}/de_DE.UTF-8/LC_NUMERIC" COMMAND ${CMAKE_COMMAND} -E make_directory "${TARN_TEST_LOCALES}"
@@ -10,14 +10,14 @@ set(TARN_LSAN_OPTIONS "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsa
 # tarn_test(<class> [INTERNAL] [WINDOW_SYSTEM] [TIMEOUT <seconds>] [LIBRARIES <target>...]
 #           [DEFINITIONS <definition>...])
 #
-# One test program for one class: tst_<class>.cpp beside the caller. It runs offscreen, with
-# WINDOW_SYSTEM under Xvfb. INTERNAL tests what the dialog library does not export, by linking its
-# objects instead of the library.
+# Adds the test program tst_<class>.cpp for one class. It runs offscreen or, with WINDOW_SYSTEM, under
+# Xvfb. INTERNAL links the objects of the dialog library instead of the library, to test classes that
+# the library does not export.
 function(tarn_test name)
   cmake_parse_arguments(arg "INTERNAL;WINDOW_SYSTEM" "TIMEOUT" "LIBRARIES;DEFINITIONS" ${ARGN})
   set(target tst_${name})
   add_executable(${target} tst_${name}.cpp ${target}.moc)
-  # Not AUTOMOC: its scan and its extra object cost each program more than the test's one class.
+  # Without AUTOMOC: its scan and extra object take more time than the single class of a test.
   qt5_generate_moc(tst_${name}.cpp ${target}.moc TARGET ${target})
   target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
   set(library TarnGUICommon)
@@ -31,7 +31,7 @@ function(tarn_test name)
     set(platform xcb)
   else()
     add_test(NAME ${target} COMMAND ${target})
-    # Nor does a display that happens to be there lend its OpenGL.
+    # Also without the OpenGL of any display that is present.
     set(platform "offscreen;DISPLAY=")
   endif()
   if(NOT arg_TIMEOUT)
