@@ -1492,52 +1492,32 @@
 <context>
     <name>StepError</name>
     <message>
-        <source>it is a folder, not a file.</source>
-        <translation>它是文件夹，不是文件。</translation>
+        <source>is not a STEP file</source>
+        <translation>不是 STEP 文件</translation>
     </message>
     <message>
-        <source>it cannot be opened: %1.</source>
-        <translation>无法打开：%1。</translation>
+        <source>is incomplete</source>
+        <translation>不完整</translation>
     </message>
     <message>
-        <source>it is no STEP file.</source>
-        <translation>它不是 STEP 文件。</translation>
+        <source>contains no shape</source>
+        <translation>其中没有形状</translation>
     </message>
     <message>
-        <source>it is larger than %1 MB.</source>
-        <translation>它大于 %1 MB。</translation>
+        <source>contains a shape that extends beyond 1000 m</source>
+        <translation>其形状超出 1000 m 的范围</translation>
     </message>
     <message>
-        <source>it is not complete.</source>
-        <translation>它不完整。</translation>
-    </message>
-    <message>
-        <source>there is no shape in it.</source>
-        <translation>其中没有形状。</translation>
-    </message>
-    <message>
-        <source>its shape reaches farther than 1000 m.</source>
-        <translation>其形状超出 1000 m 的范围。</translation>
-    </message>
-    <message>
-        <source>it cannot be read as a STEP file.</source>
-        <translation>无法作为 STEP 文件读取。</translation>
+        <source>cannot be read as a STEP file</source>
+        <translation>无法作为 STEP 文件读取</translation>
     </message>
     <message>
         <source>the geometry kernel failed: %1</source>
         <translation>几何内核失败：%1</translation>
     </message>
     <message>
-        <source>the kernel could not translate the part.</source>
-        <translation>几何内核无法转换该零件。</translation>
-    </message>
-    <message>
-        <source>the file could not be written.</source>
-        <translation>无法写入文件。</translation>
-    </message>
-    <message>
-        <source>the file could not be replaced.</source>
-        <translation>无法替换文件。</translation>
+        <source>the geometry kernel cannot translate the part</source>
+        <translation>几何内核无法转换该零件</translation>
     </message>
 </context>
 <context>

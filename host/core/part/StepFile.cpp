@@ -1,5 +1,7 @@
 #include "StepFile.h"
 
+#include "WholeFile.h"
+
 #include <BRepBndLib.hxx>
 #include <Bnd_Box.hxx>
 #include <IFSelect_ReturnStatus.hxx>
@@ -11,18 +13,22 @@
 #include <STEPControl_Reader.hxx>
 #include <STEPControl_Writer.hxx>
 #include <Standard_Failure.hxx>
+#include <StepData_Protocol.hxx>
+#include <StepData_StepModel.hxx>
+#include <StepData_StepWriter.hxx>
 #include <TopoDS_Shape.hxx>
+#include <XSControl_WorkSession.hxx>
 
 #include <cmath>
-#include <cstdio>
+#include <sstream>
 
 namespace {
 
-// The first and the last thing in every complete file.
+// The beginning and the end of every complete file.
 const char BeginMark[] = "ISO-10303-21;";
 const char EndMark[] = "END-ISO-10303-21;";
 
-// The kernel tells its statistics on the console, which belongs to the host.
+// Keeps the kernel's statistics off the console, which belongs to the host.
 class QuietKernel
 {
 public:
@@ -43,35 +49,25 @@ private:
     throw StepError(QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), reason));
 }
 
-// The kernel does not say when the disk is full: only the file's end tells.
-bool EndsComplete(const QString& path)
+[[noreturn]] void FailInKernel(const QString& path, const Standard_Failure& failure)
 {
-    constexpr qint64 TailSize = 64;
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) &&
-           file.seek(std::max<qint64>(0, file.size() - TailSize)) &&
-           file.readAll().contains(EndMark);
+    Fail(path, StepError::tr("the geometry kernel failed: %1")
+                   .arg(QString::fromLocal8Bit(failure.GetMessageString())));
 }
 
-// The kernel would read a whole disk image before it said anything.
-void CheckFile(const QString& path)
+QByteArray ReadContent(const QString& path)
 {
-    constexpr qint64 MostMegabytes = 256;
-    constexpr qint64 HeadSize = 1024;
-    if (QFileInfo(path).isDir())
-        Fail(path, StepError::tr("it is a folder, not a file."));
-    // Opening a pipe would wait for whoever writes into it.
-    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-        Fail(path, StepError::tr("it is no STEP file."));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        Fail(path, StepError::tr("it cannot be opened: %1.").arg(file.errorString()));
-    if (!file.read(HeadSize).contains(BeginMark))
-        Fail(path, StepError::tr("it is no STEP file."));
-    if (file.size() > MostMegabytes << 20)
-        Fail(path, StepError::tr("it is larger than %1 MB.").arg(MostMegabytes));
-    if (!EndsComplete(path))
-        Fail(path, StepError::tr("it is not complete."));
+    constexpr int HeadSize = 1024;
+    constexpr int TailSize = 64;
+    tarn::WholeFile file(path);
+    QByteArray content;
+    if (!file.Read(content))
+        Fail(path, file.Error());
+    if (!content.left(HeadSize).contains(BeginMark))
+        Fail(path, StepError::tr("is not a STEP file"));
+    if (!content.right(TailSize).contains(EndMark))
+        Fail(path, StepError::tr("is incomplete"));
+    return content;
 }
 
 void CheckExtent(const TopoDS_Shape& shape, const QString& path)
@@ -80,12 +76,12 @@ void CheckExtent(const TopoDS_Shape& shape, const QString& path)
     Bnd_Box box;
     BRepBndLib::Add(shape, box);
     if (box.IsVoid())
-        Fail(path, StepError::tr("there is no shape in it."));
+        Fail(path, StepError::tr("contains no shape"));
     for (const gp_Pnt& corner : {box.CornerMin(), box.CornerMax()}) {
         for (int axis = 1; axis <= 3; ++axis) {
-            // Written so that what is no number is refused too.
+            // Negated, so that NaN is refused as well.
             if (!(std::abs(corner.Coord(axis)) <= Farthest))
-                Fail(path, StepError::tr("its shape reaches farther than 1000 m."));
+                Fail(path, StepError::tr("contains a shape that extends beyond 1000 m"));
         }
     }
 }
@@ -94,45 +90,40 @@ void CheckExtent(const TopoDS_Shape& shape, const QString& path)
 
 TopoDS_Shape ReadStepFile(const QString& path)
 {
-    CheckFile(path);
+    const QByteArray content = ReadContent(path);
     try {
         const QuietKernel quiet;
         STEPControl_Reader reader;
-        if (reader.ReadFile(QFile::encodeName(path).constData()) != IFSelect_RetDone)
-            Fail(path, StepError::tr("it cannot be read as a STEP file."));
+        std::istringstream stream(content.toStdString());
+        if (reader.ReadStream(QFile::encodeName(path).constData(), stream) != IFSelect_RetDone)
+            Fail(path, StepError::tr("cannot be read as a STEP file"));
         reader.TransferRoots();
         TopoDS_Shape shape = reader.OneShape();
         if (shape.IsNull())
-            Fail(path, StepError::tr("there is no shape in it."));
+            Fail(path, StepError::tr("contains no shape"));
         CheckExtent(shape, path);
         return shape;
     } catch (const Standard_Failure& failure) {
-        Fail(path, StepError::tr("the geometry kernel failed: %1")
-                       .arg(QString::fromLocal8Bit(failure.GetMessageString())));
+        FailInKernel(path, failure);
     }
 }
 
 void WriteStepFile(const TopoDS_Shape& shape, const QString& path)
 {
-    const QString part = path + QStringLiteral(".part");
-    const QByteArray partName = QFile::encodeName(part);
+    std::ostringstream stream;
     try {
         const QuietKernel quiet;
         STEPControl_Writer writer;
         if (writer.Transfer(shape, STEPControl_AsIs) != IFSelect_RetDone)
-            Fail(path, StepError::tr("the kernel could not translate the part."));
-        if (writer.Write(partName.constData()) != IFSelect_RetDone || !EndsComplete(part)) {
-            QFile::remove(part);
-            Fail(path, StepError::tr("the file could not be written."));
-        }
+            Fail(path, StepError::tr("the geometry kernel cannot translate the part"));
+        // Not STEPControl_Writer::Write(), which does not notice a full disk.
+        StepData_StepWriter text(writer.Model());
+        text.SendModel(Handle(StepData_Protocol)::DownCast(writer.WS()->Protocol()));
+        text.Print(stream);
     } catch (const Standard_Failure& failure) {
-        QFile::remove(part);
-        Fail(path, StepError::tr("the geometry kernel failed: %1")
-                       .arg(QString::fromLocal8Bit(failure.GetMessageString())));
+        FailInKernel(path, failure);
     }
-    // Not QFile::rename(), which replaces nothing.
-    if (std::rename(partName.constData(), QFile::encodeName(path).constData()) != 0) {
-        QFile::remove(part);
-        Fail(path, StepError::tr("the file could not be replaced."));
-    }
+    tarn::WholeFile file(path);
+    if (!file.Write(QByteArray::fromStdString(stream.str())))
+        Fail(path, file.Error());
 }

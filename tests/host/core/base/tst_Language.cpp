@@ -129,13 +129,13 @@ void tst_Language::ReasonsSpeakTheLanguage_data()
         {"it: Size x is 0, but has to be from 0.0001 to 1000000 mm.",
          "it: Number (\"5 / 2\") is 2.5, but has to be a whole number from 1 to 10000.",
          "it: a feature of the kind \"box\" takes no input, but there are 1.",
-         "feature 1 has no \"name\"", "none.step: it cannot be opened: No such file or directory.",
+         "feature 1 has no \"name\"", "none.step: cannot be opened: No such file or directory",
          "it: Size x (\"2 * wall\") has no value: Position 5: the name 'wall' is unknown."});
     QTest::newRow("zh_CN") << QStringList(
         {"it: 尺寸 x 为 0，但必须为 0.0001 至 1000000 mm。",
          "it: 数量 (\"5 / 2\") 为 2.5，但必须为 1 至 10000 的整数。",
          "it: 类型为“box”的特征不需要输入，但现有 1 个。", "特征 1 缺少“name”",
-         "none.step: 无法打开：No such file or directory。",
+         "none.step: 无法打开：No such file or directory",
          "it: 尺寸 x（\"2 * wall\"）没有值：位置 5：名称 'wall' 未知。"});
 }
 

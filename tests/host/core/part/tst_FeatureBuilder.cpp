@@ -559,8 +559,8 @@ void tst_FeatureBuilder::ImportedBodiesAreUsedLikeOthers()
         FeatureBuilder::Build(list, "elsewhere");
         QFAIL("It was built.");
     } catch (const FeatureError& error) {
-        QCOMPARE(error.Reason(), QString("a: brick.step: it cannot be opened: No such file or "
-                                         "directory."));
+        QCOMPARE(error.Reason(), QString("a: brick.step: cannot be opened: No such file or "
+                                         "directory"));
         QCOMPARE(error.FeatureName(), QString("a"));
     }
 }

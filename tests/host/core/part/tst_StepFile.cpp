@@ -1,6 +1,8 @@
+#include "FullDisk.h"
 #include "ShapeMeasures.h"
 #include "StepFile.h"
 #include "TestCase.h"
+#include "TestFiles.h"
 
 #include <BRepPrimAPI_MakeBox.hxx>
 #include <BRep_Builder.hxx>
@@ -10,12 +12,10 @@
 #include <TopoDS_Compound.hxx>
 #include <TopoDS_Shape.hxx>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cmath>
-#include <csignal>
 #include <cstdio>
 #include <iostream>
 
@@ -26,16 +26,17 @@ class tst_StepFile : public TestCase
 private Q_SLOTS:
     void WhatIsWrittenCanBeRead();
     void AFileIsReplaced();
-    void AFolderThatIsNotThereIsTold();
-    void WhatCannotBeReplacedIsToldAndNothingIsLeft();
-    void NoShapeIsTold();
-    void AFullDiskIsToldAndTheOldFileStays();
+    void AMissingFolderIsReported();
+    void AFolderIsNotReplacedAndNothingIsLeft();
+    void AMissingShapeIsReported();
+    void AFullDiskLeavesTheOldFile();
+    void FilesOfOthersStay();
     void AFileIsReadInMillimetres_data();
     void AFileIsReadInMillimetres();
-    void SeveralShapesComeAsACompound();
-    void WhatIsNoShapeIsToldAndNothingIsPrinted_data();
-    void WhatIsNoShapeIsToldAndNothingIsPrinted();
-    void FilesThatCannotBeReadAreTold();
+    void SeveralShapesAreReturnedAsACompound();
+    void AFileWithoutAShapeIsReportedAndNothingIsPrinted_data();
+    void AFileWithoutAShapeIsReportedAndNothingIsPrinted();
+    void FilesThatCannotBeReadAreReported();
 };
 
 static TopoDS_Shape Box(double size)
@@ -78,61 +79,48 @@ void tst_StepFile::AFileIsReplaced()
     QVERIFY(std::abs(VolumeInFile("a.step") - 8000.0) < 1e-6);
 }
 
-void tst_StepFile::AFolderThatIsNotThereIsTold()
+void tst_StepFile::AMissingFolderIsReported()
 {
     EnterTemporaryDirectory();
-    QCOMPARE(Reason(Box(10.0), "none/a.step"), QString("a.step: the file could not be written."));
+    QCOMPARE(Reason(Box(10.0), "none/a.step"),
+             QString("a.step: cannot be written: No such file or directory"));
 }
 
-void tst_StepFile::WhatCannotBeReplacedIsToldAndNothingIsLeft()
+void tst_StepFile::AFolderIsNotReplacedAndNothingIsLeft()
 {
     EnterTemporaryDirectory();
     QVERIFY(QDir().mkdir("a.step"));
-    QCOMPARE(Reason(Box(10.0), "a.step"), QString("a.step: the file could not be replaced."));
+    QCOMPARE(Reason(Box(10.0), "a.step"), QString("a.step: is a folder, not a file"));
     QCOMPARE(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("a.step"));
 }
 
-void tst_StepFile::NoShapeIsTold()
+void tst_StepFile::AMissingShapeIsReported()
 {
     EnterTemporaryDirectory();
     QCOMPARE(Reason(TopoDS_Shape(), "a.step"),
-             QString("a.step: the kernel could not translate the part."));
+             QString("a.step: the geometry kernel cannot translate the part"));
     QVERIFY(!QFile::exists("a.step"));
 }
 
-void tst_StepFile::AFullDiskIsToldAndTheOldFileStays()
+void tst_StepFile::AFullDiskLeavesTheOldFile()
+{
+    FullDisk disk;
+    WriteStepFile(Box(10.0), "a.step");
+    const QByteArray before = ContentOf("a.step");
+    disk.Fill(1);
+    QCOMPARE(Reason(Box(20.0), "a.step"), "a.step: cannot be written: " + disk.Reason());
+    disk.Empty();
+    QCOMPARE(ContentOf("a.step"), before);
+    QCOMPARE(AllFiles(), QStringList("a.step"));
+}
+
+void tst_StepFile::FilesOfOthersStay()
 {
     EnterTemporaryDirectory();
+    Put("a.step.part", "mine");
     WriteStepFile(Box(10.0), "a.step");
-
-    // A limit on the file size stands for the full disk.
-    rlimit limit{};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
-    const rlim_t former = limit.rlim_cur;
-    limit.rlim_cur = 4096;
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    const QString reason = Reason(Box(20.0), "a.step");
-    limit.rlim_cur = former;
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    std::signal(SIGXFSZ, handler);
-
-    QCOMPARE(reason, QString("a.step: the file could not be written."));
-    QVERIFY(std::abs(VolumeInFile("a.step") - 1000.0) < 1e-6);
-    QCOMPARE(QDir().entryList(QDir::Files), QStringList("a.step"));
-}
-
-static QByteArray Content(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-static void WriteText(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("The test's file could not be written.");
+    QCOMPARE(ContentOf("a.step.part"), QByteArray("mine"));
+    QCOMPARE(AllFiles(), QStringList({"a.step", "a.step.part"}));
 }
 
 void tst_StepFile::AFileIsReadInMillimetres_data()
@@ -150,16 +138,16 @@ void tst_StepFile::AFileIsReadInMillimetres()
     QFETCH(double, factor);
     EnterTemporaryDirectory();
     WriteStepFile(BRepPrimAPI_MakeBox(1.0, 2.0, 3.0).Shape(), "长.step");
-    QByteArray content = Content("长.step");
+    QByteArray content = ContentOf("长.step");
     const QByteArray millimetres = "SI_UNIT(.MILLI.,.METRE.)";
     QVERIFY(content.contains(millimetres));
-    WriteText("长.step", content.replace(millimetres, unit));
+    Put("长.step", content.replace(millimetres, unit));
     const double volume = Measure(ReadStepFile("长.step")).volume;
     const double expected = 6.0 * factor * factor * factor;
     QVERIFY2(std::abs(volume - expected) <= 1e-9 * expected, QByteArray::number(volume));
 }
 
-void tst_StepFile::SeveralShapesComeAsACompound()
+void tst_StepFile::SeveralShapesAreReturnedAsACompound()
 {
     EnterTemporaryDirectory();
     TopoDS_Compound boxes;
@@ -173,7 +161,7 @@ void tst_StepFile::SeveralShapesComeAsACompound()
     QVERIFY(std::abs(Measure(shape).volume - 9000.0) < 1e-6);
 }
 
-void tst_StepFile::WhatIsNoShapeIsToldAndNothingIsPrinted_data()
+void tst_StepFile::AFileWithoutAShapeIsReportedAndNothingIsPrinted_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("reason");
@@ -184,16 +172,16 @@ void tst_StepFile::WhatIsNoShapeIsToldAndNothingIsPrinted_data()
     const auto row = [](const char* name, const QByteArray& content, const char* reason) {
         QTest::newRow(name) << content << QString("a.step: %1").arg(reason);
     };
-    row("empty", "", "it is no STEP file.");
-    row("a picture", "\x89PNG\r\n" + QByteArray(5000, '\0'), "it is no STEP file.");
-    row("cut off", head + "#1=CARTESIAN_POINT('',(0.,0.,0.));\n", "it is not complete.");
-    row("no data", head + tail, "there is no shape in it.");
-    row("a point of nobody", head + "#1=CARTESIAN_POINT('',(0.,0.,0.));\n" + tail,
-        "there is no shape in it.");
+    row("empty", "", "is not a STEP file");
+    row("a picture", "\x89PNG\r\n" + QByteArray(5000, '\0'), "is not a STEP file");
+    row("cut off", head + "#1=CARTESIAN_POINT('',(0.,0.,0.));\n", "is incomplete");
+    row("no data", head + tail, "contains no shape");
+    row("an unused point", head + "#1=CARTESIAN_POINT('',(0.,0.,0.));\n" + tail,
+        "contains no shape");
     row("nonsense between the marks", head + "%%%% ((( #1=; '" + tail,
-        "it cannot be read as a STEP file.");
+        "cannot be read as a STEP file");
     row("references to nothing", head + "#1=MANIFOLD_SOLID_BREP('',#99);\n" + tail,
-        "there is no shape in it.");
+        "contains no shape");
 }
 
 // What is written to standard output and error while @p action runs.
@@ -219,11 +207,11 @@ static QByteArray Printed(const Action& action)
     return caught.readAll();
 }
 
-void tst_StepFile::WhatIsNoShapeIsToldAndNothingIsPrinted()
+void tst_StepFile::AFileWithoutAShapeIsReportedAndNothingIsPrinted()
 {
     QFETCH(QByteArray, content);
     EnterTemporaryDirectory();
-    WriteText("a.step", content);
+    Put("a.step", content);
     QString reason = "it was read";
     const QByteArray printed = Printed([&] {
         try {
@@ -236,7 +224,7 @@ void tst_StepFile::WhatIsNoShapeIsToldAndNothingIsPrinted()
     QCOMPARE(printed, QByteArray());
 }
 
-void tst_StepFile::FilesThatCannotBeReadAreTold()
+void tst_StepFile::FilesThatCannotBeReadAreReported()
 {
     EnterTemporaryDirectory();
     const auto reason = [](const QString& path) {
@@ -248,22 +236,22 @@ void tst_StepFile::FilesThatCannotBeReadAreTold()
         return QString("it was read");
     };
     QCOMPARE(reason("none.step"),
-             QString("none.step: it cannot be opened: No such file or directory."));
-    QCOMPARE(reason("."), QString(".: it is a folder, not a file."));
-    QCOMPARE(reason("/dev/zero"), QString("zero: it is no STEP file."));
-    // Which nobody writes into.
+             QString("none.step: cannot be opened: No such file or directory"));
+    QCOMPARE(reason("."), QString(".: is a folder, not a file"));
+    QCOMPARE(reason("/dev/zero"), QString("zero: is not a regular file"));
+    // Without a writer.
     QCOMPARE(mkfifo("pipe.step", 0600), 0);
-    QCOMPARE(reason("pipe.step"), QString("pipe.step: it is no STEP file."));
+    QCOMPARE(reason("pipe.step"), QString("pipe.step: is not a regular file"));
 
     WriteStepFile(Box(10.0), "huge.step");
-    QByteArray content = Content("huge.step");
-    WriteText("far.step", content.replace("10.,", "1.E7,"));
-    QCOMPARE(reason("far.step"), QString("far.step: its shape reaches farther than 1000 m."));
+    QByteArray content = ContentOf("huge.step");
+    Put("far.step", content.replace("10.,", "1.E7,"));
+    QCOMPARE(reason("far.step"), QString("far.step: contains a shape that extends beyond 1000 m"));
     QFile huge("huge.step");
     QVERIFY(huge.open(QIODevice::ReadWrite));
     QVERIFY(huge.resize((qint64(256) << 20) + 1));
     huge.close();
-    QCOMPARE(reason("huge.step"), QString("huge.step: it is larger than 256 MB."));
+    QCOMPARE(reason("huge.step"), QString("huge.step: exceeds the limit of 256 MB"));
 }
 
 TARN_TEST_MAIN(tst_StepFile)

@@ -2,6 +2,7 @@
 #include "EmptyDesignStores.h"
 #include "FeatureFields.h"
 #include "FeatureTree.h"
+#include "FullDisk.h"
 #include "HostApplication.h"
 #include "MessageLevel.h"
 #include "ModalDriver.h"
@@ -545,16 +546,16 @@ void tst_PartActions::ThereIsNothingToExportWithoutAShape()
 
 void tst_PartActions::AFileThatCannotBeWrittenIsTold()
 {
-    const QString directory = EnterTemporaryDirectory();
+    FullDisk disk;
+    disk.Fill();
     Modelling modelling;
     modelling.Trigger("action_Add_box");
     modelling.posted.clear();
-    // The kernel writes into a file beside it first, whose place is taken.
-    QVERIFY(QDir().mkpath("taken.step.part/x"));
-    ChooseFile(modelling.user, directory + "/taken.step");
+    ChooseFile(modelling.user, QDir::current().filePath("new.step"));
     modelling.Trigger("action_ExportStep");
     QVERIFY(modelling.user.IsDone());
-    modelling.CheckRefused("taken.step");
+    modelling.CheckRefused("new.step: cannot be written: " + disk.Reason());
+    QVERIFY(!QFile::exists("new.step"));
 }
 
 void tst_PartActions::AFileBesideTheProjectIsNamedRelatively()
@@ -608,7 +609,7 @@ void tst_PartActions::AVanishedFileIsToldAndTheShapeStays()
     QVERIFY(QFile::remove("part.step"));
     modelling.model.Rebuild();
     QCOMPARE(modelling.model.FailedFeature(), QString("import"));
-    QVERIFY(modelling.model.Failure().contains("part.step: it cannot be opened"));
+    QVERIFY(modelling.model.Failure().contains("part.step: cannot be opened"));
     QVERIFY(modelling.model.Shape().IsEqual(shape));
     // It can be taken back, and then comes again as what cannot be built.
     modelling.Trigger("action_Undo");
