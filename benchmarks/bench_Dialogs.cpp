@@ -1,4 +1,4 @@
-#include "DialogList.h"
+#include "DialogCatalogue.h"
 #include "RunBenchmarks.h"
 
 #include <QDir>
@@ -10,7 +10,10 @@
 
 namespace {
 
-void Register(const std::string& name, void (*construct)())
+// Constructing and destroying each dialog, and its bare form as the reference. The stores are empty
+// and the working directory contains no files, so that only the dialog itself is measured.
+template<class Result>
+void Register(const std::string& name, Result (*construct)())
 {
     const auto run = [construct](benchmark::State& state) {
         for (auto _ : state)
@@ -26,9 +29,12 @@ int main(int argc, char** argv)
     const QTemporaryDir directory;
     QDir::setCurrent(directory.path());
     return RunBenchmarks(argc, argv, [] {
-        ForEachDialog([](const std::string& name, void (*dialog)(), void (*form)()) {
-            Register(name + "/ours/1", dialog);
-            Register(name + "/reference/1", form);
-        });
+        for (const CatalogueEntry& entry : DialogCatalogue()) {
+            if (entry.makeForm == nullptr)
+                continue;
+            const std::string name = entry.name;
+            Register(name + "/ours/1", entry.make);
+            Register(name + "/reference/1", entry.makeForm);
+        }
     });
 }

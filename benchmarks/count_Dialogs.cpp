@@ -1,4 +1,4 @@
-#include "DialogList.h"
+#include "DialogCatalogue.h"
 #include "Offscreen.h"
 
 #include <QApplication>
@@ -14,7 +14,8 @@
 
 namespace {
 
-void Count(const std::string& name, void (*construct)())
+template<class Result>
+void Count(const std::string& name, Result (*construct)())
 {
     construct();
     CALLGRIND_ZERO_STATS;
@@ -30,9 +31,12 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     const QTemporaryDir directory;
     QDir::setCurrent(directory.path());
-    ForEachDialog([](const std::string& name, void (*dialog)(), void (*form)()) {
-        Count(name + "/ours/1", dialog);
-        Count(name + "/reference/1", form);
-    });
+    for (const CatalogueEntry& entry : DialogCatalogue()) {
+        if (entry.makeForm == nullptr)
+            continue;
+        const std::string name = entry.name;
+        Count(name + "/ours/1", entry.make);
+        Count(name + "/reference/1", entry.makeForm);
+    }
     return 0;
 }

@@ -1,37 +1,12 @@
 // Opens, fills, accepts and cancels every dialog in random order; see run. A warning, a crash, a
 // hang or growing memory ends the run, which then prints the seed and the step.
-#include "ArcArrayDlg.h"
-#include "CAnalysisTypeGUI.h"
-#include "CQLTConstrainEditor.h"
-#include "CQLTElePropertyEditor.h"
-#include "CQLTLoadForceEditor.h"
-#include "DOEDlg.h"
-#include "ELementPropGUI.h"
+#include "DialogCatalogue.h"
 #include "EmptyAnalysisStores.h"
 #include "EmptyAttributeNames.h"
 #include "EmptyDesignStores.h"
-#include "ExternalSolver.h"
-#include "ExternalSolverOption.h"
-#include "ExtrudInputDlg.h"
-#include "KVMaterialLibrary.h"
 #include "MaterialEditer.h"
-#include "MatrixArrayDlg.h"
-#include "MeshSizeInput.h"
-#include "MirrorDialog.h"
-#include "MoveInput.h"
-#include "OneParameterDlg.h"
-#include "ParameterEditor.h"
-#include "PolygonNumInputDlg.h"
-#include "PosInputDlg.h"
 #include "RandomUser.h"
-#include "SubShapeMeshParameterDlg.h"
 #include "TestCase.h"
-#include "TruncatedConeInputDlg.h"
-#include "WedgeInputDlg.h"
-#include "frequencySetting.h"
-#include "rotateInputDlg.h"
-#include "sphereParaInputdlg.h"
-#include "torusParaInputDlg.h"
 
 #include <QFile>
 #include <Standard_Failure.hxx>
@@ -121,109 +96,21 @@ public:
     }
 };
 
-using Window = std::unique_ptr<QWidget>;
-
-template<class Dialog>
-Window New(Dice&)
+std::unique_ptr<QWidget> MakeMaterialEditor()
 {
-    return std::make_unique<Dialog>(nullptr);
+    return std::make_unique<MaterialEditer>(nullptr);
 }
 
-template<QDialog* (*create)(QWidget*)>
-Window New(Dice&)
+void FillMaterialEditor(QWidget& editor)
 {
-    return Window(create(nullptr));
+    static_cast<MaterialEditer&>(editor).SetMaterialData(QStringLiteral("Steel"), {"1", "2", "3"});
 }
 
-/// Like a host, it owns the record that OK allocated.
-class PropertyEditor : public CQLTElePropertyEditor
+std::vector<CatalogueEntry> Dialogs()
 {
-public:
-    explicit PropertyEditor(CQLTElemPropDef* given)
-        : CQLTElePropertyEditor(nullptr)
-        , m_given(given)
-    {
-        if (given != nullptr)
-            SetPropData(given);
-    }
-    ~PropertyEditor() override
-    {
-        if (m_given == nullptr)
-            delete GetPropData();
-    }
-    Q_DISABLE_COPY(PropertyEditor)
-
-private:
-    CQLTElemPropDef* m_given;
-};
-
-Window NewPropertyEditor(Dice& dice)
-{
-    static CQLTElemPropDef record;
-    return std::make_unique<PropertyEditor>(dice.OneIn(2) ? &record : nullptr);
-}
-
-Window NewMaterialEditor(Dice& dice)
-{
-    auto editor = std::make_unique<MaterialEditer>(nullptr);
-    if (dice.OneIn(2))
-        editor->SetMaterialData(QStringLiteral("Steel"), {"1", "2", "3"});
-    return editor;
-}
-
-Window NewSamplingDialog(Dice& dice)
-{
-    const std::vector<QString> names = GlobalParaMeterMgr::GetAllParametersName();
-    return std::make_unique<OneParameterDlg>(nullptr, names.empty() ? QStringLiteral("none")
-                                                                    : dice.Pick(names));
-}
-
-Window NewParameterEditor(Dice&)
-{
-    auto editor = std::make_unique<ParameterEditor>(nullptr);
-    editor->m_Slot_RefreshGUI();
-    return editor;
-}
-
-struct Subject
-{
-    const char* name;
-    Window (*make)(Dice&);
-};
-
-const std::vector<Subject>& Subjects()
-{
-    static const std::vector<Subject> subjects = {
-        {"ArcArrayDlg", New<ArcArrayDlg>},
-        {"CAnalysisTypeGUI", New<CAnalysisTypeGUI>},
-        {"CQLTConstrainEditor", New<CQLTConstrainEditor>},
-        {"CQLTElePropertyEditor", NewPropertyEditor},
-        {"CQLTLoadForceEditor", New<CQLTLoadForceEditor>},
-        {"DOEDlg", New<DOEDlg>},
-        {"ELementPropGUI", New<ELementPropGUI>},
-        {"ExternalSolverOption", New<ExternalSolverOption>},
-        {"ExtrudInputDlg", New<ExtrudInputDlg>},
-        {"KVMaterialLibrary", New<KVMaterialLibrary>},
-        {"MaterialEditer", NewMaterialEditor},
-        {"MatrixArrayDlg", New<MatrixArrayDlg>},
-        {"MeshSizeInput", New<MeshSizeInput>},
-        {"MirrorDialog", New<MirrorDialog>},
-        {"MoveInput", New<MoveInput>},
-        {"OneParameterDlg", NewSamplingDialog},
-        {"ParameterEditor", NewParameterEditor},
-        {"PolygonNumInputDlg", New<PolygonNumInputDlg>},
-        {"PosInputDlg", New<PosInputDlg>},
-        {"ResultSetting", New<CreateResultSetting>},
-        {"SolverSetting", New<CreateSolverSetting>},
-        {"SubShapeMeshParameterDlg", New<SubShapeMeshParameterDlg>},
-        {"TruncatedConeInputDlg", New<TruncatedConeInputDlg>},
-        {"WedgeInputDlg", New<WedgeInputDlg>},
-        {"frequencySetting", New<frequencySetting>},
-        {"rotateInputDlg", New<rotateInputDlg>},
-        {"sphereParaInputdlg", New<sphereParaInputdlg>},
-        {"torusParaInputDlg", New<torusParaInputDlg>},
-    };
-    return subjects;
+    std::vector<CatalogueEntry> dialogs = DialogCatalogue();
+    dialogs.push_back({"MaterialEditer", MakeMaterialEditor, nullptr, FillMaterialEditor});
+    return dialogs;
 }
 
 // Clears what users have entered so far: memory that it takes is not a leak.
@@ -289,15 +176,18 @@ void Run(int steps)
     Dice dice(g_seed);
     RandomUser user(dice, {QString(), QStringLiteral("missing"), QStringLiteral(OUTSIDE_PROGRAM)});
     Memory memory(steps);
+    const std::vector<CatalogueEntry> dialogs = Dialogs();
     for (g_step = 0; g_step < steps;) {
         if (g_step % StepsBetweenFreshStores == 0)
             FillStores(dice);
         ++g_step;
-        const Subject subject = dice.Pick(Subjects());
-        g_dialog = subject.name;
+        const CatalogueEntry entry = dice.Pick(dialogs);
+        g_dialog = entry.name;
         alarm(SecondsForOneStep);
         {
-            const Window window = subject.make(dice);
+            const std::unique_ptr<QWidget> window = entry.make();
+            if (entry.fill != nullptr && dice.OneIn(2))
+                entry.fill(*window);
             do {
                 user.Use(*window);
             } while (dice.OneIn(4));

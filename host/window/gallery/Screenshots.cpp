@@ -1,47 +1,32 @@
 #include "Screenshots.h"
 
-#include "AnalysisPictures.h"
-#include "ArcArrayDlg.h"
 #include "DOEDlg.h"
+#include "DialogCatalogue.h"
 #include "DialogTables.h"
 #include "DoeSession.h"
-#include "ExternalSolver.h"
-#include "ExternalSolverOption.h"
-#include "ExtrudInputDlg.h"
 #include "FeatureTree.h"
-#include "GlobalParaMeterMgr.h"
+#include "KVMaterialLibrary.h"
 #include "MainWindow.h"
-#include "MatrixArrayDlg.h"
-#include "MirrorDialog.h"
-#include "MoveInput.h"
 #include "NoticeWatcher.h"
 #include "OneParameterDlg.h"
 #include "ParameterEditor.h"
 #include "PartModel.h"
-#include "PolygonNumInputDlg.h"
-#include "PosInputDlg.h"
 #include "Project.h"
-#include "TruncatedConeInputDlg.h"
-#include "WedgeInputDlg.h"
-#include "rotateInputDlg.h"
-#include "sphereParaInputdlg.h"
-#include "torusParaInputDlg.h"
+#include "SampleAnalysis.h"
+#include "SampleRecords.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFont>
+#include <QLabel>
 #include <QPixmap>
-#include <QTableWidget>
+#include <QTimer>
 
 #include <memory>
-#include <vector>
 
 namespace {
 
-using Window = std::unique_ptr<QWidget>;
-
 constexpr int PointSize = 9; // Without a desktop the toolkit takes a size that no desktop has.
-constexpr int ChosenRow = 4;
 constexpr QSize RoomySampling(360, 460); // The form's own size shows one sample.
 
 class PictureFont
@@ -60,7 +45,7 @@ private:
     QFont m_before = QApplication::font();
 };
 
-Window NewMainWindow(const Project& project)
+std::unique_ptr<MainWindow> NewMainWindow(const Project& project)
 {
     auto window = std::make_unique<MainWindow>();
     window->OpenProject(project);
@@ -73,93 +58,37 @@ Window NewMainWindow(const Project& project)
     return window;
 }
 
-Window NewParameterEditor(const Project&)
+// Does what this host does before it shows the dialog.
+void Prepare(QWidget& dialog)
 {
-    auto editor = std::make_unique<ParameterEditor>(nullptr);
-    editor->m_Slot_RefreshGUI();
-    FitTables(*editor);
-    return editor;
-}
-
-Window NewOneParameterDlg(const Project& project)
-{
-    const std::vector<QString> names = GlobalParaMeterMgr::GetAllParametersName();
-    QString name = names.empty() ? QStringLiteral("length") : names.front();
-    // A range shows more of the dialog than samples given one by one.
-    for (const Project::Samples& samples : project.SampleLists()) {
-        if (samples.values.empty())
-            name = samples.name;
+    if (auto* const experiments = qobject_cast<DOEDlg*>(&dialog)) {
+        const DoeSession ticksByName(*experiments);
+        FitTables(*experiments);
+    } else if (auto* const editor = qobject_cast<ParameterEditor*>(&dialog)) {
+        FitTables(*editor);
+    } else if (qobject_cast<OneParameterDlg*>(&dialog) != nullptr) {
+        dialog.resize(RoomySampling);
     }
-    auto dialog = std::make_unique<OneParameterDlg>(nullptr, name);
-    dialog->resize(RoomySampling);
-    return dialog;
 }
 
-Window NewDOEDlg(const Project&)
+// Only the library can show this dialog: it is photographed while the library runs it.
+std::unique_ptr<QWidget> PictureOfMaterialEditor()
 {
-    auto dialog = std::make_unique<DOEDlg>(nullptr);
-    const DoeSession ticksByName(*dialog);
-    FitTables(*dialog);
-    dialog->findChild<QTableWidget*>(QStringLiteral("tableWidget_Final"))->selectRow(ChosenRow);
-    return dialog;
+    KVMaterialLibrary library;
+    library.SetComToItemData(SampleMaterial());
+    library.Reset();
+    auto picture = std::make_unique<QLabel>();
+    QTimer::singleShot(0, picture.get(), [&picture] {
+        QWidget* const editor = QApplication::activeModalWidget();
+        if (editor == nullptr)
+            return;
+        picture->setPixmap(editor->grab());
+        picture->setFixedSize(editor->size());
+        editor->close();
+    });
+    library.findChild<QPushButton*>(QStringLiteral("pushButton"))->click();
+    return picture;
 }
-
-template<class Dialog>
-Window NewDialog(const Project&)
-{
-    return std::make_unique<Dialog>(nullptr);
-}
-
-template<QDialog* (*create)(QWidget*)>
-Window NewDialog(const Project&)
-{
-    return Window(create(nullptr));
-}
-
-struct Picture
-{
-    const char* name;
-    Window (*make)(const Project&);
-};
-
-template<Window (*Make)()>
-Window NewAnalysisDialog(const Project&)
-{
-    return Make();
-}
-
-// A new dialog gets a line here. The main window comes first: it fills the stores.
-const Picture Pictures[] = {
-    {"MainWindow", NewMainWindow},
-    {"ArcArrayDlg", NewDialog<ArcArrayDlg>},
-    {"CAnalysisTypeGUI", NewAnalysisDialog<PictureOfAnalysisType>},
-    {"CQLTConstrainEditor", NewAnalysisDialog<PictureOfConstrainEditor>},
-    {"CQLTElePropertyEditor", NewAnalysisDialog<PictureOfPropertyEditor>},
-    {"CQLTLoadForceEditor", NewAnalysisDialog<PictureOfLoadEditor>},
-    {"DOEDlg", NewDOEDlg},
-    {"ELementPropGUI", NewAnalysisDialog<PictureOfPropertyManager>},
-    {"ExternalSolverOption", NewDialog<ExternalSolverOption>},
-    {"ExtrudInputDlg", NewDialog<ExtrudInputDlg>},
-    {"KVMaterialLibrary", NewAnalysisDialog<PictureOfMaterialLibrary>},
-    {"MaterialEditer", NewAnalysisDialog<PictureOfMaterialEditor>},
-    {"MatrixArrayDlg", NewDialog<MatrixArrayDlg>},
-    {"MeshSizeInput", NewAnalysisDialog<PictureOfMeshSize>},
-    {"MirrorDialog", NewDialog<MirrorDialog>},
-    {"MoveInput", NewDialog<MoveInput>},
-    {"OneParameterDlg", NewOneParameterDlg},
-    {"ParameterEditor", NewParameterEditor},
-    {"PolygonNumInputDlg", NewDialog<PolygonNumInputDlg>},
-    {"PosInputDlg", NewDialog<PosInputDlg>},
-    {"ResultSetting", NewDialog<CreateResultSetting>},
-    {"SolverSetting", NewDialog<CreateSolverSetting>},
-    {"SubShapeMeshParameterDlg", NewAnalysisDialog<PictureOfSubShapeMesh>},
-    {"TruncatedConeInputDlg", NewDialog<TruncatedConeInputDlg>},
-    {"WedgeInputDlg", NewDialog<WedgeInputDlg>},
-    {"frequencySetting", NewAnalysisDialog<PictureOfFrequencies>},
-    {"rotateInputDlg", NewDialog<rotateInputDlg>},
-    {"sphereParaInputdlg", NewDialog<sphereParaInputdlg>},
-    {"torusParaInputDlg", NewDialog<torusParaInputDlg>},
-};
 
 bool WritePicture(QWidget& window, const QString& path)
 {
@@ -188,8 +117,16 @@ void VisitWindows(const Project& project,
 {
     const NoticeWatcher notices;
     const SampleAnalysisFiles files;
-    for (const Picture& picture : Pictures)
-        visit(QString::fromLatin1(picture.name), *picture.make(project));
+    // First: it fills the stores.
+    visit(QStringLiteral("MainWindow"), *NewMainWindow(project));
+    for (const CatalogueEntry& entry : DialogCatalogue()) {
+        const std::unique_ptr<QWidget> dialog = entry.make();
+        if (entry.fill != nullptr)
+            entry.fill(*dialog);
+        Prepare(*dialog);
+        visit(QString::fromLatin1(entry.name), *dialog);
+    }
+    visit(QStringLiteral("MaterialEditer"), *PictureOfMaterialEditor());
 }
 
 void WriteScreenshots(const Project& project, const QString& directory)

@@ -1,4 +1,5 @@
 #include "AttributeCommonMgr.h"
+#include "DialogCatalogue.h"
 #include "EmptyDesignStores.h"
 #include "HostApplication.h"
 #include "KVMaterialData.h"
@@ -28,40 +29,13 @@ private Q_SLOTS:
 
 namespace {
 
-// A new dialog gets a line here.
 QStringList WindowNames()
 {
-    return {
-        "ArcArrayDlg",
-        "CAnalysisTypeGUI",
-        "CQLTConstrainEditor",
-        "CQLTElePropertyEditor",
-        "CQLTLoadForceEditor",
-        "DOEDlg",
-        "ELementPropGUI",
-        "ExternalSolverOption",
-        "ExtrudInputDlg",
-        "KVMaterialLibrary",
-        "MainWindow",
-        "MaterialEditer",
-        "MatrixArrayDlg",
-        "MeshSizeInput",
-        "MirrorDialog",
-        "MoveInput",
-        "OneParameterDlg",
-        "ParameterEditor",
-        "PolygonNumInputDlg",
-        "PosInputDlg",
-        "ResultSetting",
-        "SolverSetting",
-        "SubShapeMeshParameterDlg",
-        "TruncatedConeInputDlg",
-        "WedgeInputDlg",
-        "frequencySetting",
-        "rotateInputDlg",
-        "sphereParaInputdlg",
-        "torusParaInputDlg",
-    };
+    QStringList names = {"MainWindow", "MaterialEditer"};
+    for (const CatalogueEntry& entry : DialogCatalogue())
+        names << entry.name;
+    names.sort();
+    return names;
 }
 
 QString ReasonNotWritten(const QString& directory)
