@@ -1198,11 +1198,11 @@
 <context>
     <name>ParameterEvaluator</name>
     <message>
-        <source>The expressions need each other: %1</source>
+        <source>Circular reference: %1</source>
         <translation>表达式相互依赖：%1</translation>
     </message>
     <message>
-        <source>%1: its expression uses &quot;%2&quot;, which is no parameter</source>
+        <source>%1: its expression uses &quot;%2&quot;, which is not a parameter</source>
         <translation>%1：其表达式使用的“%2”不是参数</translation>
     </message>
 </context>

@@ -18,32 +18,33 @@ namespace {
 
 constexpr int NotVisited = -1;
 
+/// The context of the translations.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(ParameterEvaluator)
 };
 
-/// A parameter with an expression and what it needs.
+/// A parameter with an expression, and the expressions that it depends on.
 struct Node
 {
     QString name;
     ParametersDef* record = nullptr;
     QStringList uses;
-    std::vector<int> needs; ///< Nodes among the used names.
-    int order = NotVisited; ///< When the search came here.
+    std::vector<int> needs; ///< The nodes among the used names.
+    int order = NotVisited; ///< The step at which the search reached the node.
     int reach = NotVisited; ///< The earliest open node that can be reached from here.
-    std::size_t next = 0;   ///< The need to look at next.
-    bool open = false;      ///< Not yet known which cycle, if any, the node is in.
+    std::size_t next = 0;   ///< The entry of needs to visit next.
+    bool open = false;      ///< Its cycle, if any, is not known yet.
     bool isBad = false;
 };
 
-/// Tarjan's search for strongly connected components. It closes a node after all that the node
-/// needs, so that closing and evaluating are one; a component of several nodes is a cycle. It keeps
-/// its own stack: a chain may be as long as the store.
-class Settler
+/// Tarjan's search for strongly connected components. It closes a node after all nodes that it
+/// needs, so it evaluates each node when it closes it. A component of several nodes is a cycle.
+/// The search keeps its own stack, because a chain may be as long as the store.
+class Evaluator
 {
 public:
-    explicit Settler(const QSet<QString>& held) { CollectNodes(held); }
+    explicit Evaluator(const QSet<QString>& held) { CollectNodes(held); }
 
     std::vector<QString> Run()
     {
@@ -118,16 +119,16 @@ private:
         const std::vector<int>& needs = At(first).needs;
         const bool needsItself = std::find(needs.begin(), needs.end(), first) != needs.end();
         if (component.size() > 1 || needsItself)
-            TellCycle(component);
+            ReportCycle(component);
         else
             Evaluate(At(first));
         for (const int node : component)
             At(node).open = false;
     }
 
-    void TellCycle(const std::vector<int>& component)
+    void ReportCycle(const std::vector<int>& component)
     {
-        // The nodes of the component are those that are still open and have come after its first.
+        // The component consists of the open nodes that were entered after its first one.
         const int first = component.front();
         const auto isInside = [&](int node) {
             return At(node).open && At(node).order >= At(first).order;
@@ -152,8 +153,8 @@ private:
             names << At(member).name;
         }
         names << At(node).name;
-        m_messages.push_back(Text::tr("The expressions need each other: %1")
-                                 .arg(names.join(QStringLiteral(" -> "))));
+        m_messages.push_back(
+            Text::tr("Circular reference: %1").arg(names.join(QStringLiteral(" -> "))));
         for (const int member : component)
             At(member).isBad = true;
     }
@@ -167,7 +168,7 @@ private:
             if (store.count(name) == 0) {
                 node.isBad = true;
                 m_messages.push_back(
-                    Text::tr("%1: its expression uses \"%2\", which is no parameter")
+                    Text::tr("%1: its expression uses \"%2\", which is not a parameter")
                         .arg(node.name, name));
                 return;
             }
@@ -182,12 +183,13 @@ private:
         if (!std::isnan(value))
             return;
 
-        // What only hands a failure on has none of its own to tell.
+        // A value that is missing only because of an earlier failure gets no message of its own.
         node.isBad = true;
-        const bool handsOn = std::any_of(node.needs.begin(), node.needs.end(), [this](int needed) {
-            return At(needed).isBad && std::isnan(At(needed).record->m_dValue);
-        });
-        if (!handsOn)
+        const bool isConsequence =
+            std::any_of(node.needs.begin(), node.needs.end(), [this](int needed) {
+                return At(needed).isBad && std::isnan(At(needed).record->m_dValue);
+            });
+        if (!isConsequence)
             m_messages.push_back(QStringLiteral("%1 = %2: %3")
                                      .arg(node.name,
                                           QString::fromLocal8Bit(record.m_strExpression.c_str()),
@@ -195,7 +197,7 @@ private:
     }
 
     std::vector<Node> m_nodes;
-    std::vector<int> m_path; // From the root of the search to where it is.
+    std::vector<int> m_path; // From the root of the search to the current node.
     std::vector<int> m_open; // The open nodes, in the order in which they were entered.
     int m_visited = 0;
     std::vector<QString> m_messages;
@@ -205,5 +207,5 @@ private:
 
 std::vector<QString> EvaluateParameters(const QSet<QString>& held)
 {
-    return Settler(held).Run();
+    return Evaluator(held).Run();
 }

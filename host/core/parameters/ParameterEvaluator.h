@@ -8,9 +8,9 @@
 /// Evaluates all expressions of GlobalParaMeterMgr, each after the parameters that it declares to
 /// use, and writes value, raw value and value text into the records as the parameter editor does.
 ///
-/// What cannot be settled is told in one message per bad record, or per cycle: a name that is no
-/// parameter, expressions that need each other ("a -> b -> a") - these records keep their values -
-/// and an expression without a finite value, whose record then holds NaN. Parameters named in
-/// @p held keep their values even where they have an expression. Takes time proportional to the
-/// number of parameters and declared names.
+/// Returns one message for each record that cannot be evaluated, or for each cycle ("a -> b -> a").
+/// The records of a cycle keep their values, and so does one that uses a name that is not a
+/// parameter. A record whose expression has no finite value then holds NaN. The parameters named in
+/// @p held keep their values even if they have an expression. Takes time proportional to the number
+/// of parameters and declared names.
 std::vector<QString> EvaluateParameters(const QSet<QString>& held = {});

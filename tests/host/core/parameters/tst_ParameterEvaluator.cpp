@@ -13,20 +13,20 @@ private Q_SLOTS:
     void PlainParametersAreLeftAlone();
     void AnExpressionFillsValueRawValueAndText();
     void TheOrderOfTheStoreDoesNotMatter();
-    void NothingIsTrimmedAndEmptyNamesArePassedOver();
+    void NamesAreNotTrimmedAndEmptyNamesAreIgnored();
     void AnExpressionNeedsNoNames();
-    void AnUnknownNameIsToldAndTheRecordKeepsItsValue();
-    void AnExpressionWithoutValueIsToldAndGivesNaN();
-    void WhatHandsAFailureOnIsNotTold();
-    void AFailureOfItsOwnIsToldBehindOneThatKeptItsValue();
+    void AnUnknownNameIsReportedAndTheRecordKeepsItsValue();
+    void AnExpressionWithoutValueIsReportedAndGivesNaN();
+    void AConsequenceOfAFailureIsNotReported();
+    void AFailureOfItsOwnIsReportedAfterOneThatKeptItsValue();
     void ACycleIsNamed_data();
     void ACycleIsNamed();
-    void EachCycleIsToldOnce();
-    void ALongCycleIsToldInShort();
-    void WhatStandsBesideACycleIsSettled();
+    void EachCycleIsReportedOnce();
+    void ALongCycleIsAbbreviated();
+    void ParametersOutsideACycleAreEvaluated();
     void HeldParametersKeepTheirValues();
     void AHeldParameterOpensACycle();
-    void AChainOfAHundredThousandIsSettled();
+    void AChainOfAHundredThousandIsEvaluated();
 };
 
 static void Add(const QString& name, const QString& expression, const QString& uses,
@@ -93,13 +93,13 @@ void tst_ParameterEvaluator::TheOrderOfTheStoreDoesNotMatter()
     QCOMPARE(Value("d"), 6.0);
 }
 
-void tst_ParameterEvaluator::NothingIsTrimmedAndEmptyNamesArePassedOver()
+void tst_ParameterEvaluator::NamesAreNotTrimmedAndEmptyNamesAreIgnored()
 {
     const EmptyDesignStores stores;
     Add("a", "", "", 1.0);
     Add("b", "a+1", "a,,");
     Add("c", "a+1", "a, b");
-    QCOMPARE(Messages(), QStringList("c: its expression uses \" b\", which is no parameter"));
+    QCOMPARE(Messages(), QStringList("c: its expression uses \" b\", which is not a parameter"));
     QCOMPARE(Value("b"), 2.0);
 }
 
@@ -111,17 +111,17 @@ void tst_ParameterEvaluator::AnExpressionNeedsNoNames()
     QCOMPARE(Value("a"), 6.0);
 }
 
-void tst_ParameterEvaluator::AnUnknownNameIsToldAndTheRecordKeepsItsValue()
+void tst_ParameterEvaluator::AnUnknownNameIsReportedAndTheRecordKeepsItsValue()
 {
     const EmptyDesignStores stores;
     Add("a", "x1*2", "x1", 7.0);
     Add("b", "a+1", "a");
-    QCOMPARE(Messages(), QStringList("a: its expression uses \"x1\", which is no parameter"));
+    QCOMPARE(Messages(), QStringList("a: its expression uses \"x1\", which is not a parameter"));
     QCOMPARE(Value("a"), 7.0);
     QCOMPARE(Value("b"), 8.0);
 }
 
-void tst_ParameterEvaluator::AnExpressionWithoutValueIsToldAndGivesNaN()
+void tst_ParameterEvaluator::AnExpressionWithoutValueIsReportedAndGivesNaN()
 {
     const EmptyDesignStores stores;
     Add("a", "2*(3", "", 7.0);
@@ -134,7 +134,7 @@ void tst_ParameterEvaluator::AnExpressionWithoutValueIsToldAndGivesNaN()
     QCOMPARE(Record("a").m_strValue, QString("nan"));
 }
 
-void tst_ParameterEvaluator::WhatHandsAFailureOnIsNotTold()
+void tst_ParameterEvaluator::AConsequenceOfAFailureIsNotReported()
 {
     const EmptyDesignStores stores;
     Add("c", "b*2", "b");
@@ -146,7 +146,7 @@ void tst_ParameterEvaluator::WhatHandsAFailureOnIsNotTold()
     QVERIFY(std::isnan(Value("c")));
 }
 
-void tst_ParameterEvaluator::AFailureOfItsOwnIsToldBehindOneThatKeptItsValue()
+void tst_ParameterEvaluator::AFailureOfItsOwnIsReportedAfterOneThatKeptItsValue()
 {
     const EmptyDesignStores stores;
     Add("a", "nobody", "nobody", 2.0);
@@ -177,33 +177,32 @@ void tst_ParameterEvaluator::ACycleIsNamed()
     const QStringList names = {"a", "b", "c", "d"};
     for (int i = 0; i < names.size(); ++i)
         Add(names[i], "1", uses[i], 7.0);
-    QCOMPARE(Messages(), QStringList("The expressions need each other: " + cycle));
+    QCOMPARE(Messages(), QStringList("Circular reference: " + cycle));
     QCOMPARE(Value(qPrintable(QString(cycle.at(0)))), 7.0);
 }
 
-void tst_ParameterEvaluator::EachCycleIsToldOnce()
+void tst_ParameterEvaluator::EachCycleIsReportedOnce()
 {
     const EmptyDesignStores stores;
     Add("a", "b", "b");
     Add("b", "a", "a");
     Add("c", "d+a", "d,a");
     Add("d", "c", "c");
-    QCOMPARE(Messages(), QStringList({"The expressions need each other: a -> b -> a",
-                                      "The expressions need each other: c -> d -> c"}));
+    QCOMPARE(Messages(),
+             QStringList({"Circular reference: a -> b -> a", "Circular reference: c -> d -> c"}));
 }
 
-void tst_ParameterEvaluator::ALongCycleIsToldInShort()
+void tst_ParameterEvaluator::ALongCycleIsAbbreviated()
 {
     const EmptyDesignStores stores;
     constexpr int Length = 50000;
     for (int i = 0; i < Length; ++i)
         Add(QString("p%1").arg(i), "1", QString("p%1").arg((i + 1) % Length));
-    QCOMPARE(Messages(),
-             QStringList("The expressions need each other: p0 -> p1 -> p2 -> p3 -> p4 -> "
-                         "p5 -> p6 -> p7 -> p8 -> p9 -> p10 -> p11 -> ... -> p0"));
+    QCOMPARE(Messages(), QStringList("Circular reference: p0 -> p1 -> p2 -> p3 -> p4 -> "
+                                     "p5 -> p6 -> p7 -> p8 -> p9 -> p10 -> p11 -> ... -> p0"));
 }
 
-void tst_ParameterEvaluator::WhatStandsBesideACycleIsSettled()
+void tst_ParameterEvaluator::ParametersOutsideACycleAreEvaluated()
 {
     const EmptyDesignStores stores;
     Add("a", "b", "b", 3.0);
@@ -236,7 +235,7 @@ void tst_ParameterEvaluator::AHeldParameterOpensACycle()
     QCOMPARE(Value("a"), 8.0);
 }
 
-void tst_ParameterEvaluator::AChainOfAHundredThousandIsSettled()
+void tst_ParameterEvaluator::AChainOfAHundredThousandIsEvaluated()
 {
     const EmptyDesignStores stores;
     // Against the store's order, so that each waits for all that follow.

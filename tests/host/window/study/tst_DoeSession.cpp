@@ -224,7 +224,7 @@ void tst_DoeSession::ProblemsAreToldAndKept()
     const QSignalSpy ready(&session, &DoeSession::RunReady);
     const QSignalSpy messages(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
     Run(dialog, [](QDialog& shown) { Generate(shown, 0); });
-    const QString problem = "bad: its expression uses \"x\", which is no parameter";
+    const QString problem = "bad: its expression uses \"x\", which is not a parameter";
     QCOMPARE(session.Problems(), std::vector<QString>({problem}));
     QCOMPARE(messages.size(), 2);
     QCOMPARE(messages[1][0].toInt(), 2);
