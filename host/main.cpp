@@ -1,6 +1,7 @@
 #include "AnalysisFiles.h"
 #include "CommandLine.h"
 #include "HostApplication.h"
+#include "KernelSignals.h"
 #include "Language.h"
 #include "MainWindow.h"
 #include "MessageLevel.h"
@@ -136,6 +137,7 @@ QStringList Arguments(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    InstallKernelSignalHandlers();
     // Even before the application object says so: file names in the arguments are UTF-8.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     try {

@@ -7,6 +7,7 @@
 #include "FeatureList.h"
 #include "FieldValues.h"
 #include "JsonSection.h"
+#include "KernelSignals.h"
 #include "PlacedBodies.h"
 #include "Primitives.h"
 #include "StepFile.h"
@@ -91,7 +92,7 @@ template<class Step>
 auto NamingFeature(const Feature& feature, const Step& step)
 {
     try {
-        return step();
+        return GuardKernelCall(step);
     } catch (const FeatureError&) {
         throw;
     } catch (const HostError& error) {

@@ -1,12 +1,16 @@
 #include "ShapeMeasures.h"
 
+#include "KernelSignals.h"
+
 #include <BRepBndLib.hxx>
 #include <BRepGProp.hxx>
 #include <Bnd_Box.hxx>
 #include <GProp_GProps.hxx>
 #include <TopoDS_Shape.hxx>
 
-ShapeMeasures Measure(const TopoDS_Shape& shape)
+namespace {
+
+ShapeMeasures MeasuresOf(const TopoDS_Shape& shape)
 {
     ShapeMeasures measures;
     GProp_GProps volume;
@@ -26,6 +30,13 @@ ShapeMeasures Measure(const TopoDS_Shape& shape)
         box.Get(xMin, yMin, zMin, xMax, yMax, zMax);
     }
     return measures;
+}
+
+} // namespace
+
+ShapeMeasures Measure(const TopoDS_Shape& shape)
+{
+    return GuardKernelCall([&shape] { return MeasuresOf(shape); });
 }
 
 double Mass(const ShapeMeasures& measures, double density)

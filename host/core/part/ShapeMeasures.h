@@ -12,6 +12,7 @@ struct ShapeMeasures
     std::array<double, 6> boundingBox{}; ///< Least x, y, z, greatest x, y, z, in mm; tight.
 };
 
+/// Measures @p shape. @throws Standard_Failure if the kernel fails
 ShapeMeasures Measure(const TopoDS_Shape& shape);
 
 /// The mass in kg; @p density is in kg/m3.

@@ -1,5 +1,6 @@
 #include "StepFile.h"
 
+#include "KernelSignals.h"
 #include "WholeFile.h"
 
 #include <BRepBndLib.hxx>
@@ -86,6 +87,20 @@ void CheckExtent(const TopoDS_Shape& shape, const QString& path)
     }
 }
 
+TopoDS_Shape ReadShape(const QString& path, const QByteArray& content)
+{
+    STEPControl_Reader reader;
+    std::istringstream stream(content.toStdString());
+    if (reader.ReadStream(QFile::encodeName(path).constData(), stream) != IFSelect_RetDone)
+        Fail(path, StepError::tr("cannot be read as a STEP file"));
+    reader.TransferRoots();
+    TopoDS_Shape shape = reader.OneShape();
+    if (shape.IsNull())
+        Fail(path, StepError::tr("contains no shape"));
+    CheckExtent(shape, path);
+    return shape;
+}
+
 } // namespace
 
 TopoDS_Shape ReadStepFile(const QString& path)
@@ -93,16 +108,7 @@ TopoDS_Shape ReadStepFile(const QString& path)
     const QByteArray content = ReadContent(path);
     try {
         const QuietKernel quiet;
-        STEPControl_Reader reader;
-        std::istringstream stream(content.toStdString());
-        if (reader.ReadStream(QFile::encodeName(path).constData(), stream) != IFSelect_RetDone)
-            Fail(path, StepError::tr("cannot be read as a STEP file"));
-        reader.TransferRoots();
-        TopoDS_Shape shape = reader.OneShape();
-        if (shape.IsNull())
-            Fail(path, StepError::tr("contains no shape"));
-        CheckExtent(shape, path);
-        return shape;
+        return GuardKernelCall([&] { return ReadShape(path, content); });
     } catch (const Standard_Failure& failure) {
         FailInKernel(path, failure);
     }
