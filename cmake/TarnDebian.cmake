@@ -1,5 +1,5 @@
 # The Debian packages: the libraries, the development files, and the reference host.
-# `cmake --build --preset release --target package` builds all three.
+# `cmake --preset package && cmake --build --preset package` builds all three.
 set(debian_runtime libtarnguicommon${PROJECT_VERSION_MAJOR})
 set(debian_development libtarnguicommon-dev)
 set(debian_host tarnhost)
@@ -12,7 +12,7 @@ function(tarn_install_gzip file name component folder)
   # Without name and time, so that builds are reproducible.
   add_custom_command(OUTPUT "${zipped}" COMMAND sh -c "gzip -9nc \"$1\" >\"$2\"" gzip "${file}" "${zipped}"
                      DEPENDS "${file}" VERBATIM)
-  set_property(GLOBAL APPEND PROPERTY TARN_ZIPPED "${zipped}")
+  add_custom_target(gzip_${component}_${name} ALL DEPENDS "${zipped}")
   install(FILES "${zipped}" DESTINATION "${folder}" COMPONENT ${component})
 endfunction()
 
@@ -28,8 +28,6 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   string(TOUPPER ${component} upper)
   set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${debian_${component}})
 endforeach()
-get_property(zipped GLOBAL PROPERTY TARN_ZIPPED)
-add_custom_target(TarnZipped ALL DEPENDS ${zipped})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "TarnGUICommon project <packages@tarnguicommon.invalid>")

@@ -17,7 +17,7 @@ run(${CMAKE_COMMAND}
     -B
     ${WORK_DIR}/build
     -G
-    Ninja
+    ${GENERATOR}
     -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix
     -DCMAKE_CXX_COMPILER=${CXX}
     -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}

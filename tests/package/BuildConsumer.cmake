@@ -24,7 +24,7 @@ if(TOOL STREQUAL "cmake")
       -B
       ${WORK_DIR}/build
       -G
-      Ninja
+      ${GENERATOR}
       -DCMAKE_PREFIX_PATH=${PREFIX}
       -DCMAKE_CXX_COMPILER=${CXX}
       -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
