@@ -1,24 +1,8 @@
 #include "CAnalysisTypeGUI.h"
 
-namespace {
+#include "AnalysisType.h"
 
-enum Family
-{
-    MechanicsFamily = 1,
-    ComplexEigenFamily = 7
-};
-
-enum Kind
-{
-    StaticKind = 1,
-    VibrationKind = 2,
-    BucklingKind = 3,
-    TransientKind = 4,
-    FrequencyKind = 6,
-    ComplexEigenKind = 7
-};
-
-} // namespace
+using namespace AnalysisType;
 
 CAnalysisTypeGUI::CAnalysisTypeGUI(QWidget* parent)
     : QDialog(parent)
@@ -51,10 +35,10 @@ void CAnalysisTypeGUI::InitData(int family, int kind)
     case TransientKind:
         m_ui.rad_Transient->setChecked(true);
         break;
-    case FrequencyKind:
+    case FrequencyResponseKind:
         m_ui.rad_Freq->setChecked(true);
         break;
-    case ComplexEigenKind:
+    case ComplexEigenvalueKind:
         m_ui.rad_ComplexEig->setChecked(true);
         break;
     default:
@@ -79,8 +63,8 @@ void CAnalysisTypeGUI::OnOKButtonPush()
         {m_ui.rad_Static, MechanicsFamily, StaticKind},
         {m_ui.rad_Bucking, MechanicsFamily, BucklingKind},
         {m_ui.rad_Transient, MechanicsFamily, TransientKind},
-        {m_ui.rad_Freq, MechanicsFamily, FrequencyKind},
-        {m_ui.rad_ComplexEig, ComplexEigenFamily, ComplexEigenKind},
+        {m_ui.rad_Freq, MechanicsFamily, FrequencyResponseKind},
+        {m_ui.rad_ComplexEig, ComplexEigenvalueFamily, ComplexEigenvalueKind},
         {m_ui.rad_Vibration, MechanicsFamily, VibrationKind},
     };
     for (const auto& choice : choices) {

@@ -6,7 +6,7 @@
 
 #include <QDialog>
 
-/// Asks for the kind of analysis, a pair of numbers: family and kind.
+/// Asks for the kind of analysis, a pair of codes: family and kind. AnalysisType.h names the codes.
 ///
 ///     CAnalysisTypeGUI dialog(window);
 ///     dialog.InitData(family, kind);

@@ -20,13 +20,6 @@ enum Page
     SolidPage
 };
 
-// The model's codes, which differ from the page numbers.
-enum TypeCode
-{
-    SolidType = 1,
-    ShellType = 2
-};
-
 } // namespace
 
 CQLTElePropertyEditor::CQLTElePropertyEditor(QWidget* parent)
@@ -55,7 +48,7 @@ void CQLTElePropertyEditor::SetPropData(CQLTElemPropDef* property)
     m_pPropData = property;
     if (property == nullptr)
         return;
-    if (property->m_nTypeCode == ShellType) {
+    if (property->m_nTypeCode == CQLTElemPropDef::ShellType) {
         m_ui.stackedWidget->setCurrentIndex(ShellPage);
         m_ui.lineEdit_thickness->setText(tarn::NumberText(property->m_dThickness));
     }
@@ -78,9 +71,9 @@ int CQLTElePropertyEditor::ApplyOk()
     if (m_pPropData == nullptr)
         m_pPropData = new CQLTElemPropDef;
     if (m_ui.radb_Solid->isChecked())
-        m_pPropData->m_nTypeCode = SolidType;
+        m_pPropData->m_nTypeCode = CQLTElemPropDef::SolidType;
     if (m_ui.rad_Shell->isChecked()) {
-        m_pPropData->m_nTypeCode = ShellType;
+        m_pPropData->m_nTypeCode = CQLTElemPropDef::ShellType;
         m_pPropData->m_strTypeName = QStringLiteral("Shell");
         m_pPropData->m_dThickness = m_ui.lineEdit_thickness->text().toDouble();
     }

@@ -7,16 +7,6 @@
 
 #include <utility>
 
-namespace {
-
-enum LoadKind
-{
-    ComponentKind = 1,
-    NormalToFaceKind = 2
-};
-
-} // namespace
-
 CQLTLoadForceEditor::CQLTLoadForceEditor(QWidget* parent)
     : QDialog(parent)
 {
@@ -32,11 +22,11 @@ void CQLTLoadForceEditor::InitData(sLoadForceData record)
     m_ui.lied_Name->setText(tarn::FromLocal8Bit(m_data.m_strName));
 
     // The two buttons exclude each other: checking one unchecks the other.
-    if (m_data.m_nKind == NormalToFaceKind)
+    if (m_data.m_nKind == sLoadForceData::NormalToFaceKind)
         m_ui.rab_Normal2Face->setChecked(true);
     else
         m_ui.rab_Component->setChecked(true);
-    if (m_data.m_nKind == ComponentKind) {
+    if (m_data.m_nKind == sLoadForceData::ComponentKind) {
         m_ui.lied_FX->setText(tarn::NumberText(m_data.m_dFX));
         m_ui.lied_FY->setText(tarn::NumberText(m_data.m_dFY));
         m_ui.lied_FZ->setText(tarn::NumberText(m_data.m_dFZ));
@@ -58,12 +48,12 @@ void CQLTLoadForceEditor::on_okButton_clicked()
 
     m_data.m_strName = name;
     if (m_ui.rab_Component->isChecked()) {
-        m_data.m_nKind = ComponentKind;
+        m_data.m_nKind = sLoadForceData::ComponentKind;
         m_data.m_dFX = m_ui.lied_FX->text().toDouble();
         m_data.m_dFY = m_ui.lied_FY->text().toDouble();
         m_data.m_dFZ = m_ui.lied_FZ->text().toDouble();
     } else {
-        m_data.m_nKind = NormalToFaceKind;
+        m_data.m_nKind = sLoadForceData::NormalToFaceKind;
     }
     accept();
 }

@@ -18,7 +18,7 @@ struct Properties
         record->m_strMaterialName = QStringLiteral("Structural steel S355");
         record->m_dThickness = 0.001 * i;
         record->m_strTypeName = QStringLiteral("Shell");
-        record->m_nTypeCode = 2;
+        record->m_nTypeCode = CQLTElemPropDef::ShellType;
         Store().AddPropInfo(record);
     }
 

@@ -22,7 +22,7 @@ void RefreshTableData(benchmark::State& state)
     record.dMin = 1.0;
     record.dMax = 1.0 + Step * (samples - 0.5);
     record.dDelta = Step;
-    record.nSampleType = 2;
+    record.nSampleType = SampleSpacing::Ln;
     OneParameterDlg dialog(nullptr, QStringLiteral("a"));
     dialog.show();
     QCoreApplication::processEvents();

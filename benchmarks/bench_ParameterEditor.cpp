@@ -21,7 +21,7 @@ void FillStore(int count)
     for (int i = 0; i < count; ++i) {
         ParametersDef record;
         record.m_strName = QStringLiteral("p%1").arg(i);
-        record.m_nType = 1;
+        record.m_nType = ParametersDef::ScalarType;
         record.m_strValue = QString::number(i % 97 + 1);
         record.m_dValue = i % 97 + 1;
         record.m_strDescription = QStringLiteral("parameter %1").arg(i);

@@ -5,7 +5,8 @@ set(TARN_LIBRARY_FOLDERS ${TARN_DIALOG_FOLDERS} forms model) # All folders with 
 add_library(TarnGUICommonObjects OBJECT)
 set_target_properties(TarnGUICommonObjects PROPERTIES AUTOMOC ON AUTORCC ON)
 target_compile_definitions(TarnGUICommonObjects PRIVATE TarnGUICommon_EXPORTS)
-target_include_directories(TarnGUICommonObjects PUBLIC "${PROJECT_BINARY_DIR}/exports")
+target_include_directories(TarnGUICommonObjects PUBLIC "${PROJECT_BINARY_DIR}/exports"
+                                                       "${PROJECT_SOURCE_DIR}/model/support")
 set(TARN_DIALOG_LIBRARIES
     Qt5::Core
     Qt5::Gui

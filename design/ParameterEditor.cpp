@@ -30,23 +30,16 @@ enum Column
     DescriptionColumn
 };
 
-enum TypeCode
-{
-    BoolType,
-    ScalarType,
-    VectorType,
-    TensorType
-};
-
 // The stored type code of each entry of the type combo box, in the combo's order.
-constexpr std::array<int, 4> ComboTypeCodes = {ScalarType, VectorType, TensorType, BoolType};
+constexpr std::array<int, 4> ComboTypeCodes = {ParametersDef::ScalarType, ParametersDef::VectorType,
+                                               ParametersDef::TensorType, ParametersDef::BoolType};
 
 constexpr QLatin1Char Separator(',');
 
 int TypeCodeOfCombo(int index)
 {
     return index >= 0 && index < int(ComboTypeCodes.size()) ? ComboTypeCodes[std::size_t(index)]
-                                                            : int(ScalarType);
+                                                            : int(ParametersDef::ScalarType);
 }
 
 int ComboOfTypeCode(int code)
@@ -252,11 +245,11 @@ void ParameterEditor::UpdateAllParameterDef()
         record.m_strValue = CellText(table, row, ValueColumn);
 
         const auto* const combo = qobject_cast<QComboBox*>(table.cellWidget(row, TypeColumn));
-        const int type =
-            combo != nullptr ? TypeCodeOfCombo(combo->currentIndex()) : int(ScalarType);
+        const int type = combo != nullptr ? TypeCodeOfCombo(combo->currentIndex())
+                                          : int(ParametersDef::ScalarType);
         if (combo != nullptr && combo->currentIndex() == 0) {
             record.m_dValue = record.m_strValue.toDouble();
-        } else if (type == VectorType) {
+        } else if (type == ParametersDef::VectorType) {
             const QStringList parts = record.m_strValue.split(Separator);
             if (parts.size() != 3) {
                 tarn::ShowNotice(tr("Error"), tr("invalid coordinate type"));

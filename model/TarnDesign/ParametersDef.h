@@ -8,8 +8,17 @@
 /// One global design parameter.
 struct ParametersDef
 {
+    /// The codes of m_nType.
+    enum Type
+    {
+        BoolType = 0,   ///< True or false.
+        ScalarType = 1, ///< One number: m_dValue.
+        VectorType = 2, ///< Three components: m_dX, m_dY and m_dZ.
+        TensorType = 3  ///< A text that is not evaluated: m_strValue.
+    };
+
     QString m_strName;           ///< The parameter's name; also its key in the store.
-    int m_nType = 0;             ///< 0 Bool, 1 Scalar, 2 Vector, 3 Tensor.
+    int m_nType = BoolType;      ///< A Type.
     std::string m_strExpression; ///< Local 8-bit text; empty if the parameter is a plain value.
     QString m_strExpressPara;    ///< The names that the expression uses, separated by ",".
     double m_dValue = 0.0;       ///< Value of a Scalar or of the evaluated expression.

@@ -45,7 +45,8 @@ KVPropertyData& Store()
 
 CQLTElemPropDef* Hold(const QString& name, const QString& material = "Steel")
 {
-    auto* const property = new CQLTElemPropDef{name, 0, material, 2.0, "Shell", 2};
+    auto* const property =
+        new CQLTElemPropDef{name, 0, material, 2.0, "Shell", CQLTElemPropDef::ShellType};
     Store().AddPropInfo(property);
     return property;
 }
@@ -970,7 +971,7 @@ void tst_ELementPropGUI::AddedPropertiesAreWrittenAndReadBack()
     QCOMPARE(RowTexts(Table(manager), 0), QStringList({"板 <1>", "Shell", "Bronze"}));
     const CQLTElemPropDef& record = *Store().GetProptyDataMap()["板 <1>"];
     QCOMPARE(record.m_dThickness, 0.1);
-    QCOMPARE(record.m_nTypeCode, 2);
+    QCOMPARE(record.m_nTypeCode, int(CQLTElemPropDef::ShellType));
 }
 
 void tst_ELementPropGUI::TheWholeChainRunsByClicks()

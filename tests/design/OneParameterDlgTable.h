@@ -16,13 +16,7 @@ inline const ShownBox NoGauss = ShownBox::Notice("Error", "Not implement yet");
 
 using Boxes = QVector<ShownBox>;
 
-enum SampleType
-{
-    Linear,
-    Log10,
-    Ln,
-    Gauss
-};
+using namespace SampleSpacing;
 
 inline const char* const TypeButtons[] = {"radioButton_Linear", "radioButton_Log", "radioButton_Ln",
                                           "radioButton_Gauss"};

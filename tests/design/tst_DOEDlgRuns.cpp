@@ -38,7 +38,7 @@ void AddParameter(const QString& name, double value = 5.0)
 {
     ParametersDef record;
     record.m_strName = name;
-    record.m_nType = 1;
+    record.m_nType = ParametersDef::ScalarType;
     record.m_dValue = value;
     record.m_varRawValue = value;
     record.m_strValue = QString::number(value);
@@ -473,7 +473,7 @@ void tst_DOEDlgRuns::GenerateLeavesTheOtherFieldsAlone()
     const EmptyDesignStores stores;
     AddParameter("v");
     ParametersDef& vector = GlobalParaMeterMgr::m_nameMapParameters["v"];
-    vector.m_nType = 2;
+    vector.m_nType = ParametersDef::VectorType;
     vector.m_dX = 1;
     vector.m_dY = 2;
     vector.m_dZ = 3;
@@ -487,7 +487,7 @@ void tst_DOEDlgRuns::GenerateLeavesTheOtherFieldsAlone()
     const ParametersDef& stored = Stored("v");
     // A number for every parameter, also for a Vector.
     QCOMPARE(stored.m_strValue, QStringLiteral("0"));
-    QCOMPARE(stored.m_nType, 2);
+    QCOMPARE(stored.m_nType, int(ParametersDef::VectorType));
     QCOMPARE(Values({stored.m_dX, stored.m_dY, stored.m_dZ}), Values({1, 2, 3}));
     QCOMPARE(stored.m_strExpression, std::string("a*2"));
     QCOMPARE(stored.m_strExpressPara, QStringLiteral("a"));

@@ -262,7 +262,7 @@ void tst_ParameterEditor::DeleteRemovesTheCurrentRowOfTheTableOnly()
     const EmptyDesignStores stores;
     for (const char* const name : {"a", "b", "c"})
         Store(name, "1");
-    Stored("c").m_nType = 0;
+    Stored("c").m_nType = ParametersDef::BoolType;
     ParameterEditor editor(nullptr);
     editor.m_Slot_RefreshGUI();
     editor.show();
@@ -275,7 +275,7 @@ void tst_ParameterEditor::DeleteRemovesTheCurrentRowOfTheTableOnly()
     Click(editor, "pushButton_Apply");
     QCOMPARE(Table(editor).rowCount(), 3);
     QCOMPARE(RowTexts(editor, 1).constFirst(), "b");
-    QCOMPARE(Stored("c").m_nType, 0);
+    QCOMPARE(Stored("c").m_nType, int(ParametersDef::BoolType));
 }
 
 void tst_ParameterEditor::DeleteWithoutACurrentRowRemovesNothing()

@@ -125,7 +125,7 @@ void tst_ParameterEditorExpressions::AVectorTakesItsComponentsFromThreeParts()
     QTEST(Stored("v").m_dX, "x");
     QTEST(Stored("v").m_dY, "y");
     QTEST(Stored("v").m_dZ, "z");
-    QCOMPARE(Stored("v").m_nType, 2);
+    QCOMPARE(Stored("v").m_nType, int(ParametersDef::VectorType));
     QCOMPARE(Stored("v").m_strValue, text);
     QCOMPARE(Stored("v").m_dValue, 0.0);
     QVERIFY(!Stored("v").m_varRawValue.isValid());
@@ -252,7 +252,7 @@ void tst_ParameterEditorExpressions::ARowWithoutItemsIsWrittenUnderTheEmptyName(
     Table(editor).setRowCount(2);
     editor.m_Slot_Apply();
     QCOMPARE(StoredNames(), QStringList({""}));
-    QCOMPARE(Stored("").m_nType, 1);
+    QCOMPARE(Stored("").m_nType, int(ParametersDef::ScalarType));
     QCOMPARE(RowTexts(editor, 0), QStringList({"", "", "Scalar", "", "", ""}));
 }
 

@@ -9,6 +9,7 @@ class tst_sParaArrayData : public TestCase
 private Q_SLOTS:
     void ANewRecordHasItsDefaults();
     void TheMembersStandInTheirOrder();
+    void TheSpacingsHaveTheirCodes();
     void LookingUpANameEntersADefaultRecord();
     void TheRegistryIsOrderedByName();
 };
@@ -35,6 +36,14 @@ void tst_sParaArrayData::TheMembersStandInTheirOrder()
     QCOMPARE(record.dMax, 4.0);
     QCOMPARE(record.dDelta, 0.5);
     QCOMPARE(record.nSampleType, 3);
+}
+
+void tst_sParaArrayData::TheSpacingsHaveTheirCodes()
+{
+    QCOMPARE(int(SampleSpacing::Linear), 0);
+    QCOMPARE(int(SampleSpacing::Log10), 1);
+    QCOMPARE(int(SampleSpacing::Ln), 2);
+    QCOMPARE(int(SampleSpacing::Gauss), 3);
 }
 
 void tst_sParaArrayData::LookingUpANameEntersADefaultRecord()

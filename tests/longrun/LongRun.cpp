@@ -124,7 +124,7 @@ void FillStores(Dice& dice)
     for (const char* const name : {"a", "b", "c"}) {
         ParametersDef record;
         record.m_strName = QString::fromLatin1(name);
-        record.m_nType = 1;
+        record.m_nType = ParametersDef::ScalarType;
         record.m_dValue = 1 + dice.Below(9);
         record.m_strValue = QString::number(record.m_dValue);
         GlobalParaMeterMgr::AddParameter(record.m_strName, record);

@@ -75,7 +75,7 @@ void tst_GlobalParaMeterMgr::AnAddedRecordIsStoredWithAllItsFields()
     const EmptyStore guard;
     ParametersDef record;
     record.m_strName = "width";
-    record.m_nType = 2;
+    record.m_nType = ParametersDef::VectorType;
     record.m_strExpression = "2*a";
     record.m_strExpressPara = "a";
     record.m_dValue = 1.5;
@@ -89,7 +89,7 @@ void tst_GlobalParaMeterMgr::AnAddedRecordIsStoredWithAllItsFields()
 
     const ParametersDef& stored = Store().at("width");
     QCOMPARE(stored.m_strName, QString("width"));
-    QCOMPARE(stored.m_nType, 2);
+    QCOMPARE(stored.m_nType, int(ParametersDef::VectorType));
     QCOMPARE(stored.m_strExpression, std::string("2*a"));
     QCOMPARE(stored.m_strExpressPara, QString("a"));
     QCOMPARE(stored.m_dValue, 1.5);

@@ -41,7 +41,7 @@ void tst_KVPropertyDataFiles::EveryFieldReadsBack()
     written->m_nReserved = std::numeric_limits<qint64>::min();
     written->m_strMaterialName = "Steel";
     written->m_strTypeName = "Shell";
-    written->m_nTypeCode = 2;
+    written->m_nTypeCode = CQLTElemPropDef::ShellType;
     Store().AddPropInfo(written);
     QCOMPARE(Store().WriteXML(PropertyFile), 0);
     Store().Clear();
@@ -53,7 +53,7 @@ void tst_KVPropertyDataFiles::EveryFieldReadsBack()
     QCOMPARE(read.m_strMaterialName, QString("Steel"));
     QCOMPARE(read.m_dThickness, 2.5);
     QCOMPARE(read.m_strTypeName, QString("Shell"));
-    QCOMPARE(read.m_nTypeCode, 2);
+    QCOMPARE(read.m_nTypeCode, int(CQLTElemPropDef::ShellType));
 }
 
 void tst_KVPropertyDataFiles::NumbersReadBackExactly_data()
@@ -243,7 +243,7 @@ void tst_KVPropertyDataFiles::WhatIsUnknownIsSkipped()
         "<Layer/></ElementProperty><!-- end --></ElementProperties>\n");
     QCOMPARE(Store().ReadXML(PropertyFile), 0);
     QCOMPARE(Keys(), QStringList("a"));
-    QCOMPARE(Find("a")->m_nTypeCode, 2);
+    QCOMPARE(Find("a")->m_nTypeCode, int(CQLTElemPropDef::ShellType));
 }
 
 void tst_KVPropertyDataFiles::AsMuchAsLineEditsHoldIsWritten()

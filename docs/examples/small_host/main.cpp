@@ -93,7 +93,7 @@ int main(int argc, char** argv)
 
     ParametersDef length;
     length.m_strName = QStringLiteral("length");
-    length.m_nType = 1; // Scalar
+    length.m_nType = ParametersDef::ScalarType;
     length.m_strValue = QStringLiteral("20");
     length.m_dValue = 20.0;
     GlobalParaMeterMgr::AddParameter(length.m_strName, length);

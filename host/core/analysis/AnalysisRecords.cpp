@@ -1,13 +1,11 @@
 #include "AnalysisRecords.h"
 
+#include "AnalysisType.h"
 #include "AttributeCommonMgr.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr int VibrationFamily = 1;
-constexpr int VibrationKind = 2;
 
 template<class Record>
 void RemoveByName(std::vector<Record>& records, const std::string& name)
@@ -22,8 +20,8 @@ void RemoveByName(std::vector<Record>& records, const std::string& name)
 
 AnalysisRecords::AnalysisRecords(QObject* parent)
     : QObject(parent)
-    , m_family(VibrationFamily)
-    , m_kind(VibrationKind)
+    , m_family(AnalysisType::MechanicsFamily)
+    , m_kind(AnalysisType::VibrationKind)
 {
 }
 
@@ -78,8 +76,8 @@ void AnalysisRecords::SetSubShape(const SubShapeMesh& mesh)
 void AnalysisRecords::Clear()
 {
     FreeNames();
-    m_family = VibrationFamily;
-    m_kind = VibrationKind;
+    m_family = AnalysisType::MechanicsFamily;
+    m_kind = AnalysisType::VibrationKind;
     m_constraints.clear();
     m_loads.clear();
     m_meshSize.reset();

@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int SolidType = 1; // The type of element that has no thickness.
 constexpr double LeastPoisson = -1.0;
 constexpr double GreatestPoisson = 0.5;
 
@@ -89,7 +88,8 @@ void CheckProperties(const AnalysisSetup& setup, QStringList& problems)
             used.insert(material);
 
         const double thickness = property.m_dThickness;
-        if (property.m_nTypeCode != SolidType && !(thickness > 0.0 && std::isfinite(thickness)))
+        if (property.m_nTypeCode != CQLTElemPropDef::SolidType &&
+            !(thickness > 0.0 && std::isfinite(thickness)))
             problems << Text::tr("Element property \"%1\": its thickness %2 is not above 0")
                             .arg(name, ExactText(thickness));
     }

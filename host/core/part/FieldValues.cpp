@@ -6,7 +6,6 @@
 #include "GlobalParaMeterMgr.h"
 #include "JsonSection.h"
 #include "NumberTexts.h"
-#include "ParameterType.h"
 
 #include <cmath>
 
@@ -25,7 +24,8 @@ QString Shown(const QString& label, const QString& text)
 FieldValues::FieldValues()
 {
     for (const auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters) {
-        if (record.m_nType == BoolType || record.m_nType == ScalarType)
+        if (record.m_nType == ParametersDef::BoolType ||
+            record.m_nType == ParametersDef::ScalarType)
             m_variables[name.toLocal8Bit().toStdString()] =
                 GlobalParaMeterMgr::GetParameterRawValue(name).toDouble();
     }

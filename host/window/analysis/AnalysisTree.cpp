@@ -1,6 +1,7 @@
 #include "AnalysisTree.h"
 
 #include "AnalysisRecords.h"
+#include "AnalysisType.h"
 #include "CQLTElemPropDef.h"
 #include "FrequencyPref.h"
 #include "KVPropertyData.h"
@@ -12,25 +13,24 @@
 
 namespace {
 
-constexpr int NormalKind = 2; // Of a load: normal to the surface.
-
 // On the items of boundary conditions and loads: the name's bytes.
 constexpr int AttributeRole = Qt::UserRole;
 
 QString SolverTypeText(int family, int kind)
 {
+    using namespace AnalysisType;
     const struct
     {
         int family;
         int kind;
         QString text;
     } types[] = {
-        {1, 1, AnalysisTree::tr("Static")},
-        {1, 2, AnalysisTree::tr("Vibration")},
-        {1, 3, AnalysisTree::tr("Buckling")},
-        {1, 4, AnalysisTree::tr("Transient")},
-        {1, 6, AnalysisTree::tr("Frequency response")},
-        {7, 7, AnalysisTree::tr("Complex eigenvalue")},
+        {MechanicsFamily, StaticKind, AnalysisTree::tr("Static")},
+        {MechanicsFamily, VibrationKind, AnalysisTree::tr("Vibration")},
+        {MechanicsFamily, BucklingKind, AnalysisTree::tr("Buckling")},
+        {MechanicsFamily, TransientKind, AnalysisTree::tr("Transient")},
+        {MechanicsFamily, FrequencyResponseKind, AnalysisTree::tr("Frequency response")},
+        {ComplexEigenvalueFamily, ComplexEigenvalueKind, AnalysisTree::tr("Complex eigenvalue")},
     };
     QString text = AnalysisTree::tr("unknown");
     for (const auto& type : types) {
@@ -66,8 +66,9 @@ QString ForceText(const sLoadForceData& load)
     const QString force =
         AnalysisTree::tr("FX = %1, FY = %2, FZ = %3")
             .arg(ExactText(load.m_dFX), ExactText(load.m_dFY), ExactText(load.m_dFZ));
-    return load.m_nKind == NormalKind ? AnalysisTree::tr("normal to surface, %1").arg(force)
-                                      : force;
+    return load.m_nKind == sLoadForceData::NormalToFaceKind
+               ? AnalysisTree::tr("normal to surface, %1").arg(force)
+               : force;
 }
 
 QString PropertyText(const CQLTElemPropDef& property)

@@ -1,12 +1,5 @@
 #include "SampleRecords.h"
 
-namespace {
-
-constexpr int ByComponents = 1; // The kind of the load.
-constexpr int ShellType = 2;    // The type of the properties.
-
-} // namespace
-
 QString SampleMaterial()
 {
     return QStringLiteral("Steel S355");
@@ -19,7 +12,7 @@ CQLTElemPropDef SampleProperty(const QString& name, double thickness)
     property.m_strMaterialName = SampleMaterial();
     property.m_dThickness = thickness;
     property.m_strTypeName = QStringLiteral("Shell");
-    property.m_nTypeCode = ShellType;
+    property.m_nTypeCode = CQLTElemPropDef::ShellType;
     return property;
 }
 
@@ -27,7 +20,7 @@ sLoadForceData SampleLoad()
 {
     sLoadForceData load;
     load.m_strName = "boltPull";
-    load.m_nKind = ByComponents;
+    load.m_nKind = sLoadForceData::ComponentKind;
     load.m_dFX = 1000.0;
     load.m_dFZ = -250.5;
     return load;

@@ -2,7 +2,6 @@
 
 #include "GlobalParaMeterMgr.h"
 #include "NumberTexts.h"
-#include "ParameterType.h"
 
 #include <QHeaderView>
 #include <QTableWidget>
@@ -12,13 +11,13 @@ namespace {
 QString TypeWord(int code)
 {
     switch (code) {
-    case BoolType:
+    case ParametersDef::BoolType:
         return ParameterOverview::tr("Bool");
-    case ScalarType:
+    case ParametersDef::ScalarType:
         return ParameterOverview::tr("Scalar");
-    case VectorType:
+    case ParametersDef::VectorType:
         return ParameterOverview::tr("Vector");
-    case TensorType:
+    case ParametersDef::TensorType:
         return ParameterOverview::tr("Tensor");
     default:
         return ParameterOverview::tr("unknown (%1)").arg(code);
@@ -27,7 +26,7 @@ QString TypeWord(int code)
 
 QString RawValueText(const QString& name, const ParametersDef& record)
 {
-    if (record.m_nType == VectorType)
+    if (record.m_nType == ParametersDef::VectorType)
         return QStringLiteral("(%1, %2, %3)")
             .arg(ExactText(record.m_dX), ExactText(record.m_dY), ExactText(record.m_dZ));
     const QVariant raw = GlobalParaMeterMgr::GetParameterRawValue(name);

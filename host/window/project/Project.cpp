@@ -5,7 +5,6 @@
 #include "JsonSection.h"
 #include "NumberTexts.h"
 #include "OneParameterDlg.h"
-#include "ParameterType.h"
 #include "ProjectKeys.h"
 #include "StoredDesign.h"
 #include "sParaArrayData.h"
@@ -47,15 +46,15 @@ void ReadValue(const JsonSection& section, ParametersDef& record)
         return;
     }
     switch (record.m_nType) {
-    case BoolType:
+    case ParametersDef::BoolType:
         record.m_dValue = section.Flag(ValueKey, false) ? 1.0 : 0.0;
         record.m_strValue = ExactText(record.m_dValue);
         break;
-    case ScalarType:
+    case ParametersDef::ScalarType:
         record.m_dValue = section.Number(ValueKey);
         record.m_strValue = ExactText(record.m_dValue);
         break;
-    case VectorType: {
+    case ParametersDef::VectorType: {
         const std::vector<double> components = section.Numbers(ValueKey);
         if (components.size() != 3)
             section.FailAt(ValueKey, JsonError::tr("a list of three numbers"));
@@ -87,7 +86,7 @@ ParametersDef ReadParameter(const QJsonValue& value, int number)
 
     ParametersDef record;
     record.m_strName = name;
-    const QString type = section.Text(TypeKey, TypeWords[ScalarType]);
+    const QString type = section.Text(TypeKey, TypeWords[ParametersDef::ScalarType]);
     record.m_nType = -1;
     for (std::size_t code = 0; code < TypeWords.size(); ++code) {
         if (type == TypeWords[code])

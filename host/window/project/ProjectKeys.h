@@ -28,12 +28,12 @@ inline const QLatin1String SpacingKey("spacing");
 inline const QLatin1String ValuesKey("values");
 inline const QLatin1String TickedKey("ticked");
 
-/// In the order of ParameterType.
+/// In the order of ParametersDef::Type.
 inline const std::array<QLatin1String, 4> TypeWords = {
     QLatin1String("Bool"), QLatin1String("Scalar"), QLatin1String("Vector"),
     QLatin1String("Tensor")};
 
-/// In the order of sParaArrayData::nSampleType.
+/// In the order of SampleSpacing::Code.
 inline const std::array<QLatin1String, 4> SpacingWords = {
     QLatin1String("Linear"), QLatin1String("Log10"), QLatin1String("Ln"), QLatin1String("Gauss")};
 

@@ -2,7 +2,6 @@
 
 #include "GlobalParaMeterMgr.h"
 #include "NumberTexts.h"
-#include "ParameterType.h"
 #include "ProjectKeys.h"
 #include "sParaArrayData.h"
 
@@ -24,11 +23,11 @@ QJsonValue Finite(double value)
 QJsonValue ValueOf(const ParametersDef& record)
 {
     switch (record.m_nType) {
-    case BoolType:
+    case ParametersDef::BoolType:
         return record.m_strValue.toDouble() != 0.0;
-    case ScalarType:
+    case ParametersDef::ScalarType:
         return Finite(GlobalParaMeterMgr::GetParameterRawValue(record.m_strName).toDouble());
-    case VectorType:
+    case ParametersDef::VectorType:
         return QJsonArray{record.m_dX, record.m_dY, record.m_dZ};
     default:
         return record.m_strValue;

@@ -576,7 +576,7 @@ void tst_MainWindow::RestoreSettlesWhatCameLater()
     Trigger(open.window, "action_DesignOfExperiments");
     ParametersDef later;
     later.m_strName = "later";
-    later.m_nType = 1;
+    later.m_nType = ParametersDef::ScalarType;
     later.m_strExpression = "thickness * 2";
     later.m_strExpressPara = "thickness";
     GlobalParaMeterMgr::AddParameter("later", later);

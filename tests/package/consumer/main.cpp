@@ -11,7 +11,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     ParametersDef record;
     record.m_strName = QStringLiteral("a");
-    record.m_nType = 1;
+    record.m_nType = ParametersDef::ScalarType;
     record.m_strValue = QStringLiteral("2");
     GlobalParaMeterMgr::AddParameter(record.m_strName, record);
 

@@ -1,4 +1,5 @@
 #include "AnalysisRecords.h"
+#include "AnalysisType.h"
 #include "AttributeCommonMgr.h"
 #include "EmptyAttributeNames.h"
 #include "TestCase.h"
@@ -133,7 +134,7 @@ void tst_AnalysisRecords::ClearMakesAModelNewAndFreesItsNames()
 {
     const EmptyAttributeNames names;
     AnalysisRecords model;
-    model.SetSolverType(7, 7);
+    model.SetSolverType(AnalysisType::ComplexEigenvalueFamily, AnalysisType::ComplexEigenvalueKind);
     model.AddConstraint(Constraint("held"));
     model.AddLoad(Load("pulled"));
     model.SetMeshSize(0.5);
@@ -178,7 +179,7 @@ void tst_AnalysisRecords::EveryChangeIsTold()
     const EmptyAttributeNames names;
     AnalysisRecords model;
     const QSignalSpy changed(&model, &AnalysisRecords::Changed);
-    model.SetSolverType(1, 1);
+    model.SetSolverType(AnalysisType::MechanicsFamily, AnalysisType::StaticKind);
     model.AddConstraint(Constraint("held"));
     model.AddLoad(Load("pulled"));
     model.Remove("held");

@@ -48,7 +48,7 @@ AnalysisSetup Complete()
     property.m_strMaterialName = "steel";
     property.m_dThickness = 0.01;
     property.m_strTypeName = "Shell";
-    property.m_nTypeCode = 2;
+    property.m_nTypeCode = CQLTElemPropDef::ShellType;
     setup.properties["plate"] = property;
 
     KVMaterialInfo steel;
@@ -66,7 +66,7 @@ AnalysisSetup Complete()
 
     sLoadForceData load;
     load.m_strName = "pull";
-    load.m_nKind = 1;
+    load.m_nKind = sLoadForceData::ComponentKind;
     load.m_dFZ = -1.0;
     setup.loads = {load};
 

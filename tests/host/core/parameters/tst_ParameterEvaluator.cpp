@@ -34,7 +34,7 @@ static void Add(const QString& name, const QString& expression, const QString& u
 {
     ParametersDef record;
     record.m_strName = name;
-    record.m_nType = 1;
+    record.m_nType = ParametersDef::ScalarType;
     record.m_strExpression = expression.toLocal8Bit().toStdString();
     record.m_strExpressPara = uses;
     record.m_dValue = value;

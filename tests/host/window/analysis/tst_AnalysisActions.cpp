@@ -1,6 +1,7 @@
 #include "AnalysisActions.h"
 #include "AnalysisRecords.h"
 #include "AnalysisTree.h"
+#include "AnalysisType.h"
 #include "AttributeCommonMgr.h"
 #include "DrawerOutput.h"
 #include "EmptyAnalysisStores.h"
@@ -198,7 +199,7 @@ void tst_AnalysisActions::TheTypeIsTakenFromTheDialog()
 {
     Host host(*this);
     // The dialog lets its user choose one type only; the host may show it any.
-    host.model.SetSolverType(1, 6);
+    host.model.SetSolverType(AnalysisType::MechanicsFamily, AnalysisType::FrequencyResponseKind);
     host.Run("action_AnalysisType", [](QDialog& dialog) {
         QVERIFY(Find<QRadioButton>(dialog, "rad_Freq").isChecked());
         Find<QRadioButton>(dialog, "rad_Vibration").setFocus();
@@ -213,7 +214,8 @@ void tst_AnalysisActions::TheTypeIsTakenFromTheDialog()
 void tst_AnalysisActions::ATypeThatIsCancelledStays()
 {
     Host host(*this);
-    host.model.SetSolverType(7, 7);
+    host.model.SetSolverType(AnalysisType::ComplexEigenvalueFamily,
+                             AnalysisType::ComplexEigenvalueKind);
     host.Run("action_AnalysisType", [](QDialog& dialog) { Click(dialog, "cancael_push_button"); });
     QCOMPARE(host.model.Family(), 7);
     QCOMPARE(host.model.Kind(), 7);
@@ -567,7 +569,7 @@ void tst_AnalysisActions::TheCheckReadsTheFilesFirst()
     auto* const property = new CQLTElemPropDef;
     property->m_strName = "plate";
     property->m_strMaterialName = "Steel S355";
-    property->m_nTypeCode = 2;
+    property->m_nTypeCode = CQLTElemPropDef::ShellType;
     store.AddPropInfo(property);
     QCOMPARE(store.WriteXML("./ElementProperty.xml"), 0);
     store.Clear();

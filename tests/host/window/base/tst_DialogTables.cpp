@@ -22,7 +22,7 @@ void Store(const QString& name, const QString& description)
 {
     ParametersDef record;
     record.m_strName = name;
-    record.m_nType = 1;
+    record.m_nType = ParametersDef::ScalarType;
     record.m_strDescription = description;
     GlobalParaMeterMgr::AddParameter(name, record);
 }

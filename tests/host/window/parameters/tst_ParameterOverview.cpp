@@ -57,7 +57,7 @@ void tst_ParameterOverview::ARecordIsShownInFull()
     const EmptyDesignStores stores;
     ParametersDef record;
     record.m_strName = "长度";
-    record.m_nType = 1;
+    record.m_nType = ParametersDef::ScalarType;
     record.m_strExpression = "半径*2";
     record.m_strExpressPara = "半径";
     record.m_dValue = 1.0;

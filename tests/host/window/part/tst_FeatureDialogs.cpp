@@ -103,7 +103,7 @@ void SetParameter(const QString& name, double value)
 {
     ParametersDef record;
     record.m_strName = name;
-    record.m_nType = 1;
+    record.m_nType = ParametersDef::ScalarType;
     record.m_dValue = value;
     GlobalParaMeterMgr::AddParameter(name, record);
 }

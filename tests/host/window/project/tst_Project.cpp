@@ -115,7 +115,7 @@ void tst_Project::EveryFieldOfAParameterIsRead()
     QCOMPARE(project.Parameters().size(), std::size_t(1));
     const ParametersDef& record = project.Parameters().front();
     QCOMPARE(record.m_strName, QString("长度"));
-    QCOMPARE(record.m_nType, 1);
+    QCOMPARE(record.m_nType, int(ParametersDef::ScalarType));
     QCOMPARE(record.m_dValue, 0.1234567890123);
     QCOMPARE(record.m_strValue, QString("0.1234567890123"));
     QCOMPARE(QString::fromUtf8(record.m_strExpression.c_str()), QString("2*宽"));
@@ -549,7 +549,7 @@ void tst_Project::WhatCouldNotBeLoadedIsNotSaved()
     Project project = Project::Load(Write(WithParameter(R"({"name": "a", "value": 1})")));
     project.FillStores();
     ParametersDef record;
-    record.m_nType = 1;
+    record.m_nType = ParametersDef::ScalarType;
     record.m_dValue = value;
     GlobalParaMeterMgr::AddParameter(name, record);
     FeatureList list;

@@ -76,7 +76,7 @@ void tst_StoredDesign::ParametersKeepTheirOrder()
 {
     const EmptyDesignStores stores;
     ParametersDef record;
-    record.m_nType = 1;
+    record.m_nType = ParametersDef::ScalarType;
     record.m_dValue = 5.0;
     GlobalParaMeterMgr::AddParameter("c", record);
     record.m_varRawValue = 7.0;

@@ -36,7 +36,7 @@ static void Add(const QString& name, double value, const char* expression = "",
 {
     ParametersDef record;
     record.m_strName = name;
-    record.m_nType = 1;
+    record.m_nType = ParametersDef::ScalarType;
     record.m_dValue = value;
     record.m_strValue = QString::number(value);
     record.m_strExpression = expression;
