@@ -762,23 +762,7 @@
         <translation>的间隔方式 %1 未知</translation>
     </message>
     <message>
-        <source>is a folder, not a file</source>
-        <translation>是文件夹，不是文件</translation>
-    </message>
-    <message>
-        <source>cannot be opened: %1</source>
-        <translation>无法打开：%1</translation>
-    </message>
-    <message>
-        <source>cannot be read: %1</source>
-        <translation>无法读取：%1</translation>
-    </message>
-    <message>
-        <source>is larger than %1 MB, which no project is</source>
-        <translation>大于 %1 MB，不可能是项目</translation>
-    </message>
-    <message>
-        <source>is no valid JSON: %1 at byte %2</source>
+        <source>is not valid JSON: %1 at byte %2</source>
         <translation>不是有效的 JSON：%1，位于第 %2 字节</translation>
     </message>
     <message>
@@ -808,18 +792,6 @@
     <message>
         <source>the project cannot be saved: %1</source>
         <translation>无法保存项目：%1</translation>
-    </message>
-    <message>
-        <source>the project is larger than %1 MB</source>
-        <translation>项目大于 %1 MB</translation>
-    </message>
-    <message>
-        <source>cannot be written: %1</source>
-        <translation>无法写入：%1</translation>
-    </message>
-    <message>
-        <source>is no ordinary file</source>
-        <translation>不是普通文件</translation>
     </message>
 </context>
 <context>

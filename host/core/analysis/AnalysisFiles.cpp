@@ -2,9 +2,9 @@
 
 #include "KVMaterialData.h"
 #include "KVPropertyData.h"
+#include "WholeFile.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 
 // Outside every namespace, as the macro needs it: the file comes with a static library.
@@ -34,19 +34,8 @@ QString InstalledSystemMaterials()
 bool ProvideSystemMaterials(const QString& library)
 {
     const QString path = QString::fromLatin1(SystemFile);
-    QFile source(library);
-    QFile copy(path);
-    // Only a new file: not even one that somebody else makes at this moment is overwritten.
-    if (QFileInfo::exists(path) || !source.open(QIODevice::ReadOnly) ||
-        !copy.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        return QFileInfo(path).isFile();
-
-    const QByteArray content = source.readAll();
-    const bool isWhole = copy.write(content) == content.size() && copy.flush();
-    copy.close();
-    if (!isWhole)
-        copy.remove();
-    return isWhole;
+    // Only a new file: not even one that another program creates at this moment is overwritten.
+    return tarn::WholeFile(library).CopyTo(path) || QFileInfo(path).isFile();
 }
 
 QString ReadAnalysisFiles()

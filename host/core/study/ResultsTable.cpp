@@ -1,11 +1,13 @@
 #include "ResultsTable.h"
 
-#include <QFile>
-#include <QSaveFile>
+#include "WholeFile.h"
 
 #include <utility>
 
 namespace {
+
+// Enough for a million runs.
+constexpr int MaximumFileSize = 1024 * 1024 * 1024;
 
 const QString OkStatus = QStringLiteral("ok");
 const QString FailedStatus = QStringLiteral("failed");
@@ -120,10 +122,11 @@ QStringList ResultsTable::Header() const
 
 void ResultsTable::Read(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw ResultsError(QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString()));
-    const std::vector<QStringList> rows = Split(QString::fromUtf8(file.readAll()));
+    tarn::WholeFile file(path, MaximumFileSize);
+    QByteArray bytes;
+    if (!file.Read(bytes))
+        throw ResultsError(QStringLiteral("%1: %2").arg(path, file.Error()));
+    const std::vector<QStringList> rows = Split(QString::fromUtf8(bytes));
     const QStringList header = Header();
     if (rows.empty() || rows.front() != header)
         throw ResultsError(
@@ -182,15 +185,9 @@ void ResultsTable::Write(const QString& path) const
         text += Line(cells);
     }
 
-    const QByteArray bytes = text.toUtf8();
-    QSaveFile file(path);
-    // Flushed and measured before it takes the old file's place: commit() alone can leave an empty
-    // file on a full disk and still answer true.
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
-                         file.flush() && file.size() == bytes.size();
-    if (!written || !file.commit())
-        throw ResultsError(
-            QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString()));
+    tarn::WholeFile file(path, MaximumFileSize);
+    if (!file.Write(text.toUtf8()))
+        throw ResultsError(QStringLiteral("%1: %2").arg(path, file.Error()));
 }
 
 void ResultsTable::Set(int run, RunResult result)

@@ -14,8 +14,10 @@
 #include "Project.h"
 #include "SampleAnalysis.h"
 #include "SampleRecords.h"
+#include "WholeFile.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QFont>
 #include <QLabel>
@@ -90,11 +92,15 @@ std::unique_ptr<QWidget> PictureOfMaterialEditor()
     return picture;
 }
 
-bool WritePicture(QWidget& window, const QString& path)
+QByteArray PictureOf(QWidget& window)
 {
     window.show();
     QCoreApplication::processEvents();
-    return window.grab().save(path, "PNG");
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    window.grab().save(&buffer, "PNG");
+    return png;
 }
 
 } // namespace
@@ -139,8 +145,9 @@ void WriteScreenshots(const Project& project, const QString& directory)
     const PictureFont font;
     VisitWindows(project, [&directory, &pictures](const QString& name, QWidget& window) {
         const QString file = name + QStringLiteral(".png");
-        if (!WritePicture(window, pictures.filePath(file)))
+        tarn::WholeFile picture(pictures.filePath(file));
+        if (!picture.Write(PictureOf(window)))
             throw ScreenshotError(
-                QStringLiteral("%1: cannot be written").arg(QDir(directory).filePath(file)));
+                QStringLiteral("%1: %2").arg(QDir(directory).filePath(file), picture.Error()));
     });
 }

@@ -7,16 +7,15 @@
 #include "OneParameterDlg.h"
 #include "ProjectKeys.h"
 #include "StoredDesign.h"
+#include "WholeFile.h"
 #include "sParaArrayData.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSaveFile>
 #include <QSet>
 
 #include <array>
@@ -152,32 +151,12 @@ Project::Samples ReadSamples(const QJsonValue& value, int number)
     return samples;
 }
 
-QByteArray ReadFile(const QString& path)
-{
-    // A folder can be opened like a file, and only reading it fails, without a reason.
-    if (QFileInfo(path).isDir())
-        throw JsonError(JsonError::tr("is a folder, not a file"));
-    // Opening a pipe would wait for whoever writes into it.
-    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-        throw JsonError(JsonError::tr("is no ordinary file"));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw JsonError(JsonError::tr("cannot be opened: %1").arg(file.errorString()));
-    QByteArray bytes = file.read(Project::MaximumFileSize + 1);
-    if (file.error() != QFileDevice::NoError)
-        throw JsonError(JsonError::tr("cannot be read: %1").arg(file.errorString()));
-    if (bytes.size() > Project::MaximumFileSize)
-        throw JsonError(JsonError::tr("is larger than %1 MB, which no project is")
-                            .arg(Project::MaximumFileSize >> 20));
-    return bytes;
-}
-
 QJsonValue ParseJson(const QByteArray& bytes)
 {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError)
-        throw JsonError(JsonError::tr("is no valid JSON: %1 at byte %2")
+        throw JsonError(JsonError::tr("is not valid JSON: %1 at byte %2")
                             .arg(error.errorString())
                             .arg(error.offset));
     return document.isObject() ? QJsonValue(document.object()) : QJsonValue();
@@ -210,7 +189,11 @@ Project Project::Load(const QString& path)
     Project project;
     project.m_path = path;
     try {
-        project.Read(ParseJson(ReadFile(path)));
+        tarn::WholeFile file(path, MaximumFileSize);
+        QByteArray bytes;
+        if (!file.Read(bytes))
+            throw JsonError(file.Error());
+        project.Read(ParseJson(bytes));
     } catch (const JsonError& error) {
         throw ProjectError(QStringLiteral("%1: %2").arg(path.simplified(), error.Reason()));
     }
@@ -313,11 +296,9 @@ void Project::Save(const QString& path)
         fail(JsonError::tr("the project cannot be saved: %1").arg(error.Reason()));
     }
 
-    if (bytes.size() > MaximumFileSize)
-        fail(JsonError::tr("the project is larger than %1 MB").arg(MaximumFileSize >> 20));
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        fail(JsonError::tr("cannot be written: %1").arg(file.errorString()));
+    tarn::WholeFile file(path, MaximumFileSize);
+    if (!file.Write(bytes))
+        fail(file.Error());
     read.m_path = path;
     *this = read;
 }

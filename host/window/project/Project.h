@@ -38,8 +38,8 @@ public:
         bool ticked = true;         ///< Whether the parameter takes part in the study.
     };
 
-    static constexpr int Version = 1;                           ///< Of the files that are read.
-    static constexpr qint64 MaximumFileSize = qint64(16) << 20; ///< In bytes.
+    static constexpr int Version = 1;                        ///< Of the files that are read.
+    static constexpr int MaximumFileSize = 16 * 1024 * 1024; ///< In bytes.
     static constexpr double SteelDensity = 7850.0; ///< For files that give none, in kg/m3.
 
     /// The path of the sample project, which is built into the program.

@@ -1,14 +1,12 @@
 #include "AnalysisFiles.h"
 #include "EmptyAnalysisStores.h"
+#include "FullDisk.h"
 #include "TestCase.h"
+#include "TestFiles.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#include <sys/resource.h>
-
-#include <csignal>
 
 class tst_AnalysisFiles : public TestCase
 {
@@ -32,22 +30,9 @@ private Q_SLOTS:
 
 namespace {
 
-QByteArray ReadAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void WriteAll(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-}
-
 QByteArray Shipped()
 {
-    return ReadAll(SourcePath("model/TarnFEMData/SysMaterial.xml"));
+    return ContentOf(SourcePath("model/TarnFEMData/SysMaterial.xml"));
 }
 
 KVMaterialInfo* NewUserMaterial(const QString& name)
@@ -63,7 +48,7 @@ KVMaterialInfo* NewUserMaterial(const QString& name)
 void tst_AnalysisFiles::TheSystemLibraryIsThatOfTheSources()
 {
     QVERIFY(!Shipped().isEmpty());
-    QCOMPARE(ReadAll(InstalledSystemMaterials()), Shipped());
+    QCOMPARE(ContentOf(InstalledSystemMaterials()), Shipped());
 }
 
 void tst_AnalysisFiles::AnInstalledLibraryIsPreferred()
@@ -71,8 +56,8 @@ void tst_AnalysisFiles::AnInstalledLibraryIsPreferred()
     const QDir program(QCoreApplication::applicationDirPath());
     const QString directory = program.filePath("../share/TarnGUICommon");
     QVERIFY(QDir().mkpath(directory));
-    WriteAll(directory + "/SysMaterial.xml", "installed");
-    const QByteArray found = ReadAll(InstalledSystemMaterials());
+    Put(directory + "/SysMaterial.xml", "installed");
+    const QByteArray found = ContentOf(InstalledSystemMaterials());
     QVERIFY(QDir(program.filePath("../share")).removeRecursively());
     QCOMPARE(found, QByteArray("installed"));
 }
@@ -81,7 +66,7 @@ void tst_AnalysisFiles::AMissingLibraryIsProvided()
 {
     EnterTemporaryDirectory();
     QVERIFY(ProvideSystemMaterials());
-    QCOMPARE(ReadAll("SysMaterial.xml"), Shipped());
+    QCOMPARE(ContentOf("SysMaterial.xml"), Shipped());
     QCOMPARE(QDir().entryList(QDir::Files), QStringList("SysMaterial.xml"));
 }
 
@@ -104,9 +89,9 @@ void tst_AnalysisFiles::AFileThatIsThereStays()
 {
     QFETCH(QByteArray, content);
     EnterTemporaryDirectory();
-    WriteAll("SysMaterial.xml", content);
+    Put("SysMaterial.xml", content);
     QVERIFY(ProvideSystemMaterials());
-    QCOMPARE(ReadAll("SysMaterial.xml"), content);
+    QCOMPARE(ContentOf("SysMaterial.xml"), content);
 }
 
 void tst_AnalysisFiles::ALinkToNowhereIsNotFollowed()
@@ -135,20 +120,9 @@ void tst_AnalysisFiles::AMissingSourceLeavesNoFile()
 
 void tst_AnalysisFiles::AFullDiskLeavesNoFile()
 {
-    EnterTemporaryDirectory();
-    // A limit on the file size stands for the full disk.
-    rlimit limit{};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
-    const rlim_t former = limit.rlim_cur;
-    limit.rlim_cur = 1024;
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    const bool isProvided = ProvideSystemMaterials();
-    limit.rlim_cur = former;
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    std::signal(SIGXFSZ, handler);
-
-    QVERIFY(!isProvided);
+    FullDisk disk;
+    disk.Fill(1);
+    QVERIFY(!ProvideSystemMaterials());
     QVERIFY(QDir().isEmpty());
 }
 

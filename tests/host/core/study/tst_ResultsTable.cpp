@@ -1,12 +1,8 @@
+#include "FullDisk.h"
 #include "ResultsTable.h"
 #include "TestCase.h"
+#include "TestFiles.h"
 
-#include <QDir>
-#include <QFile>
-
-#include <sys/resource.h>
-
-#include <csignal>
 #include <limits>
 
 class tst_ResultsTable : public TestCase
@@ -23,7 +19,7 @@ private Q_SLOTS:
     void ABadFileLeavesTheRunsAsTheyWere();
     void AMissingFileIsTold();
     void AFolderThatIsNotThereIsTold();
-    void AFullDiskIsToldAndTheOldFileStays();
+    void AFullDiskLeavesTheOldFile();
 };
 
 static const char Header[] = "run,a,b,volume_mm3,area_mm2,mass_kg,x_min,y_min,z_min,x_max,y_max,"
@@ -49,19 +45,6 @@ static RunResult Bad(const QString& error)
     return result;
 }
 
-static QByteArray Content(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
-static void WriteContent(const QByteArray& content)
-{
-    QFile file("r.csv");
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("The test's file could not be written.");
-}
-
 static QString ReasonNotRead(ResultsTable& table)
 {
     try {
@@ -79,7 +62,7 @@ void tst_ResultsTable::TheFileIsATableWithAHeader()
     table.Set(2, Bad("no"));
     table.Set(1, Good());
     table.Write("r.csv");
-    QCOMPARE(Content("r.csv"),
+    QCOMPARE(ContentOf("r.csv"),
              QByteArray(Header) +
                  "1,0.10000000000000001,2,0.33333333333333331,5.5,9.9999999999999995e-21,"
                  "-1,-2,-3,1,2,3,ok,\n"
@@ -116,8 +99,8 @@ void tst_ResultsTable::AwkwardNamesAndErrorsAreQuoted()
     ResultsTable written({name, "c"});
     written.Set(1, Bad(error));
     written.Write("r.csv");
-    QVERIFY(Content("r.csv").startsWith("run,\"a, \"\"b\"\"\",c,"));
-    QVERIFY(Content("r.csv").endsWith("failed,\"two\r\nlines, \"\"quoted\"\", 长\"\n"));
+    QVERIFY(ContentOf("r.csv").startsWith("run,\"a, \"\"b\"\"\",c,"));
+    QVERIFY(ContentOf("r.csv").endsWith("failed,\"two\r\nlines, \"\"quoted\"\", 长\"\n"));
 
     ResultsTable read({name, "c"});
     read.Read("r.csv");
@@ -131,7 +114,7 @@ void tst_ResultsTable::TheDecimalSignIsTheFullStopEverywhere()
     ResultsTable table({"a", "b"});
     table.Set(1, Good());
     table.Write("r.csv");
-    QVERIFY(Content("r.csv").contains("1,0.10000000000000001,2,"));
+    QVERIFY(ContentOf("r.csv").contains("1,0.10000000000000001,2,"));
     table.Read("r.csv");
     QCOMPARE(table.Runs().at(1).values, Good().values);
 }
@@ -161,7 +144,7 @@ void tst_ResultsTable::WhatIsNoTableOfTheStudyIsTold()
 {
     QFETCH(QByteArray, content);
     EnterTemporaryDirectory();
-    WriteContent(content);
+    Put("r.csv", content);
     ResultsTable table({"a", "b"});
     QTEST(ReasonNotRead(table), "reason");
 }
@@ -169,7 +152,7 @@ void tst_ResultsTable::WhatIsNoTableOfTheStudyIsTold()
 void tst_ResultsTable::ABadFileLeavesTheRunsAsTheyWere()
 {
     EnterTemporaryDirectory();
-    WriteContent(Header + QByteArray("5,1,2,,,,,,,,,,failed,no\n6\n"));
+    Put("r.csv", Header + QByteArray("5,1,2,,,,,,,,,,failed,no\n6\n"));
     ResultsTable table({"a", "b"});
     table.Set(1, Good());
     QCOMPARE(ReasonNotRead(table), QString("r.csv: row 3 is no run of a study"));
@@ -180,7 +163,7 @@ void tst_ResultsTable::AMissingFileIsTold()
 {
     EnterTemporaryDirectory();
     ResultsTable table({"a", "b"});
-    QCOMPARE(ReasonNotRead(table), QString("r.csv: cannot be read: No such file or directory"));
+    QCOMPARE(ReasonNotRead(table), QString("r.csv: cannot be opened: No such file or directory"));
 }
 
 void tst_ResultsTable::AFolderThatIsNotThereIsTold()
@@ -189,36 +172,28 @@ void tst_ResultsTable::AFolderThatIsNotThereIsTold()
     QVERIFY_EXCEPTION_THROWN(ResultsTable({"a"}).Write("none/r.csv"), ResultsError);
 }
 
-void tst_ResultsTable::AFullDiskIsToldAndTheOldFileStays()
+void tst_ResultsTable::AFullDiskLeavesTheOldFile()
 {
-    EnterTemporaryDirectory();
+    FullDisk disk;
     ResultsTable table({"a", "b"});
     table.Set(1, Good());
     table.Write("r.csv");
-    const QByteArray before = Content("r.csv");
-
-    // A limit on the file size stands for the full disk.
-    rlimit limit{};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
-    const rlim_t former = limit.rlim_cur;
-    limit.rlim_cur = 4096;
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    for (int run = 2; run < 1000; ++run)
+    const QByteArray before = ContentOf("r.csv");
+    for (int run = 2; run < 100; ++run)
         table.Set(run, Good());
-    bool isTold = false;
+    disk.Fill(1);
+    QString reason = "it was written";
     try {
         table.Write("r.csv");
-    } catch (const ResultsError&) {
-        isTold = true;
+    } catch (const ResultsError& error) {
+        reason = error.Reason();
     }
-    limit.rlim_cur = former;
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    std::signal(SIGXFSZ, handler);
-
-    QVERIFY(isTold);
-    QCOMPARE(Content("r.csv"), before);
-    QCOMPARE(QDir().entryList(QDir::Files), QStringList("r.csv"));
+    QCOMPARE(reason, "r.csv: cannot be written: " + disk.Reason());
+    disk.Empty();
+    QCOMPARE(ContentOf("r.csv"), before);
+    QCOMPARE(AllFiles(), QStringList("r.csv"));
+    table.Write("r.csv");
+    QVERIFY(ContentOf("r.csv").size() > before.size());
 }
 
 TARN_TEST_MAIN(tst_ResultsTable)

@@ -114,7 +114,8 @@ void tst_Screenshots::AFileThatCannotBeWrittenIsAFailure()
 {
     EnterTemporaryDirectory();
     QVERIFY(QDir().mkpath("pictures/MainWindow.png"));
-    QCOMPARE(ReasonNotWritten("pictures"), QString("pictures/MainWindow.png: cannot be written"));
+    QCOMPARE(ReasonNotWritten("pictures"),
+             QString("pictures/MainWindow.png: is a folder, not a file"));
 }
 
 void tst_Screenshots::TheMaterialEditorIsPicturedInItsLibrary()

@@ -1,11 +1,13 @@
 #include "EmptyDesignStores.h"
 #include "FeatureBuilder.h"
 #include "FeatureKinds.h"
+#include "FullDisk.h"
 #include "GlobalParaMeterMgr.h"
 #include "ModalDriver.h"
 #include "ParameterEvaluator.h"
 #include "Project.h"
 #include "TestCase.h"
+#include "TestFiles.h"
 #include "sParaArrayData.h"
 
 #include <QDir>
@@ -47,14 +49,13 @@ private Q_SLOTS:
     void WhatCouldNotBeLoadedIsNotSaved_data();
     void WhatCouldNotBeLoadedIsNotSaved();
     void AFileThatCannotBeWrittenIsTold();
+    void AFullDiskLeavesTheOldFile();
     void APartWithoutFeaturesIsTold();
 };
 
 static QString Write(const QByteArray& content, const QString& path = "p.json")
 {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("The test's file could not be written.");
+    Put(path, content);
     return path;
 }
 
@@ -255,9 +256,9 @@ void tst_Project::BadFilesAreToldInOneLine_data()
     const auto row = [](const char* name, const QByteArray& content, const char* reason) {
         QTest::newRow(name) << content << QString("p.json: %1").arg(reason);
     };
-    row("empty", "", "is no valid JSON: illegal value at byte 0");
-    row("broken", "{\"version\": 1,", "is no valid JSON: unterminated object at byte 14");
-    row("trailing text", "{} x", "is no valid JSON: garbage at the end of the document at byte 3");
+    row("empty", "", "is not valid JSON: illegal value at byte 0");
+    row("broken", "{\"version\": 1,", "is not valid JSON: unterminated object at byte 14");
+    row("trailing text", "{} x", "is not valid JSON: garbage at the end of the document at byte 3");
     row("a list", "[]", "the project is no object");
     row("no version", "{}", "the project has no \"version\"");
     row("version is a text", "{\"version\": \"1\"}",
@@ -379,7 +380,7 @@ void tst_Project::APipeIsNotWaitedFor()
 {
     EnterTemporaryDirectory();
     QCOMPARE(mkfifo("pipe.json", 0600), 0);
-    QCOMPARE(Reason("pipe.json"), QString("pipe.json: is no ordinary file"));
+    QCOMPARE(Reason("pipe.json"), QString("pipe.json: is not a regular file"));
 }
 
 void tst_Project::AHugeFileIsNotRead()
@@ -389,12 +390,12 @@ void tst_Project::AHugeFileIsNotRead()
     QVERIFY(file.open(QIODevice::WriteOnly));
     QVERIFY(file.resize(Project::MaximumFileSize + 1));
     file.close();
-    QCOMPARE(Reason("huge.json"), QString("huge.json: is larger than 16 MB, which no project is"));
+    QCOMPARE(Reason("huge.json"), QString("huge.json: exceeds the limit of 16 MB"));
 }
 
 void tst_Project::AnEndlessFileIsNotRead()
 {
-    QCOMPARE(Reason("/dev/zero"), QString("/dev/zero: is no ordinary file"));
+    QCOMPARE(Reason("/dev/zero"), QString("/dev/zero: is not a regular file"));
 }
 
 void tst_Project::FeaturesAndConditionsAreRead()
@@ -586,6 +587,29 @@ void tst_Project::AFileThatCannotBeWrittenIsTold()
                  QString("none/p.json: cannot be written: No such file or directory"));
     }
     QCOMPARE(project.Path(), QString("p.json"));
+}
+
+void tst_Project::AFullDiskLeavesTheOldFile()
+{
+    const EmptyDesignStores stores;
+    FullDisk disk;
+    Project project =
+        Project::Load(Write(R"({"version": 1, "title": ")" + QByteArray(7000, 'x') + R"("})"));
+    project.FillStores();
+    project.Save("p.json");
+    const QByteArray before = ContentOf("p.json");
+    disk.Fill(1);
+    try {
+        project.Save("p.json");
+        QFAIL("It was saved.");
+    } catch (const ProjectError& error) {
+        QCOMPARE(error.Reason(), "p.json: cannot be written: " + disk.Reason());
+    }
+    QCOMPARE(ContentOf("p.json"), before);
+    QCOMPARE(AllFiles(), QStringList("p.json"));
+    disk.Empty();
+    project.Save("p.json");
+    QCOMPARE(ContentOf("p.json"), before);
 }
 
 void tst_Project::APartWithoutFeaturesIsTold()

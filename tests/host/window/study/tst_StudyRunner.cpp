@@ -431,13 +431,13 @@ void tst_StudyRunner::TheProgramRefusesBadInputInOneLine_data()
         "none.json: cannot be opened: No such file or directory");
     row("a folder", {"--study", ".", "--out", "out"}, ".: is a folder, not a file");
     row("broken file", {"--study", "broken.json", "--out", "out"},
-        "broken.json: is no valid JSON: unterminated object at byte 1");
+        "broken.json: is not valid JSON: unterminated object at byte 1");
     row("a notice", {"--study", "gauss.json", "--out", "out"}, "gauss.json: Not implement yet");
     row("folder is a file", {"--study", "p.json", "--out", "broken.json"},
         "broken.json: the folder cannot be made");
     row("broken file for Chinese windows",
         {"--screenshots", "pictures", "--lang", "zh_CN", "broken.json"},
-        "broken.json: is no valid JSON: unterminated object at byte 1");
+        "broken.json: is not valid JSON: unterminated object at byte 1");
     row("pictures into a file", {"--screenshots", "broken.json"},
         "broken.json: the folder cannot be made");
     row("no display", {"p.json"},
