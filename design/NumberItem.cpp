@@ -4,9 +4,6 @@
 
 #include <QVariant>
 
-#include <array>
-#include <utility>
-
 namespace {
 
 bool IsTextRole(int role)
@@ -14,61 +11,7 @@ bool IsTextRole(int role)
     return role == Qt::DisplayRole || role == Qt::EditRole;
 }
 
-// A place for an item, or, while it is free, the way to the next free place.
-union Place {
-    Place* next;
-    alignas(NumberItem) unsigned char item[sizeof(NumberItem)];
-};
-
-struct Block
-{
-    Block* next;
-    std::array<Place, 4096> places;
-};
-
-Block* g_blocks = nullptr;
-Place* g_freePlaces = nullptr;
-std::size_t g_usedPlaces = 0;
-
-// The first place of a new block, which leads to all others.
-Place* NewPlaces()
-{
-    auto* const block = new Block;
-    block->next = g_blocks;
-    g_blocks = block;
-    Place* first = nullptr;
-    for (Place& place : block->places) {
-        place.next = first;
-        first = &place;
-    }
-    return first;
-}
-
-void ReleaseBlocks()
-{
-    while (g_blocks != nullptr)
-        delete std::exchange(g_blocks, g_blocks->next);
-    g_freePlaces = nullptr;
-}
-
 } // namespace
-
-void* NumberItem::operator new(std::size_t)
-{
-    if (g_freePlaces == nullptr)
-        g_freePlaces = NewPlaces();
-    ++g_usedPlaces;
-    return std::exchange(g_freePlaces, g_freePlaces->next);
-}
-
-void NumberItem::operator delete(void* place)
-{
-    auto* const freed = static_cast<Place*>(place);
-    freed->next = g_freePlaces;
-    g_freePlaces = freed;
-    if (--g_usedPlaces == 0)
-        ReleaseBlocks();
-}
 
 NumberItem::NumberItem(double value)
     : m_dValue(value)

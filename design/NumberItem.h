@@ -19,11 +19,6 @@ public:
     void read(QDataStream& in) override;
     void write(QDataStream& out) const override;
 
-    // Cells come by the hundred thousand: they share large blocks, which are released with the
-    // last item.
-    static void* operator new(std::size_t size);
-    static void operator delete(void* place);
-
 private:
     bool m_bNumber = true; // False once a text has been set.
     double m_dValue;

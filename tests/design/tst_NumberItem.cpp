@@ -24,7 +24,6 @@ private Q_SLOTS:
     void AClonedItemIsAnItemOfItsOwn();
     void AStreamedItemIsReadAsAnOrdinaryOne();
     void AStreamReplacesTheNumber();
-    void ManyItemsComeAndGo();
 };
 
 namespace {
@@ -183,24 +182,6 @@ void tst_NumberItem::AStreamReplacesTheNumber()
     NumberItem item(2.5);
     Stream(QTableWidgetItem("other"), item);
     QCOMPARE(item.text(), QStringLiteral("other"));
-}
-
-void tst_NumberItem::ManyItemsComeAndGo()
-{
-    // More than one block of memory, given back in another order, and used again.
-    constexpr int Count = 20000;
-    for (int round = 0; round < 3; ++round) {
-        std::vector<std::unique_ptr<QTableWidgetItem>> items;
-        items.reserve(Count);
-        for (int i = 0; i < Count; ++i)
-            items.push_back(std::make_unique<NumberItem>(i));
-        for (std::size_t i = 0; i < items.size(); i += 2)
-            items[i].reset();
-        for (std::size_t i = 0; i < items.size(); i += 2)
-            items[i] = std::make_unique<NumberItem>(-double(i));
-        for (int i = 0; i < Count; ++i)
-            QCOMPARE(items[std::size_t(i)]->text().toDouble(), double(i % 2 == 0 ? -i : i));
-    }
 }
 
 TARN_TEST_MAIN(tst_NumberItem)
