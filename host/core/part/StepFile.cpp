@@ -101,6 +101,14 @@ TopoDS_Shape ReadShape(const QString& path, const QByteArray& content)
     return shape;
 }
 
+// Not STEPControl_Writer::Write(), which does not notice a full disk.
+bool Print(STEPControl_Writer& writer, std::ostream& stream)
+{
+    StepData_StepWriter text(writer.Model());
+    text.SendModel(Handle(StepData_Protocol)::DownCast(writer.WS()->Protocol()));
+    return text.Print(stream);
+}
+
 } // namespace
 
 TopoDS_Shape ReadStepFile(const QString& path)
@@ -120,12 +128,8 @@ void WriteStepFile(const TopoDS_Shape& shape, const QString& path)
     try {
         const QuietKernel quiet;
         STEPControl_Writer writer;
-        if (writer.Transfer(shape, STEPControl_AsIs) != IFSelect_RetDone)
+        if (writer.Transfer(shape, STEPControl_AsIs) != IFSelect_RetDone || !Print(writer, stream))
             Fail(path, StepError::tr("the geometry kernel cannot translate the part"));
-        // Not STEPControl_Writer::Write(), which does not notice a full disk.
-        StepData_StepWriter text(writer.Model());
-        text.SendModel(Handle(StepData_Protocol)::DownCast(writer.WS()->Protocol()));
-        text.Print(stream);
     } catch (const Standard_Failure& failure) {
         FailInKernel(path, failure);
     }
