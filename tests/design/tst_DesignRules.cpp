@@ -4,12 +4,12 @@
 #include "SampleRange.h"
 #include "SampleSpacing.h"
 
-// The sampling and the DOE dialog show what SampleRange and FullFactorial calculate: both are
-// driven as a user does, beside the rule.
+// The sampling and DOE dialogs show what SampleRange and FullFactorial calculate: the tests drive
+// the dialogs as a user does and compare them with the rules.
 
 namespace {
 
-// A range as it is typed.
+// A range as typed.
 struct TypedRange
 {
     QString min;
@@ -49,7 +49,7 @@ void TypeRange(const QWidget& dialog, const TypedRange& range)
     Type(dialog, "lineEdit_Deta", range.step);
 }
 
-// Presses at the left end, where a check box has its indicator.
+// Clicks the left end, where a check box has its indicator.
 void ClickCell(const QWidget& dialog, int row, int column)
 {
     QWidget& widget = *Find<QTableWidget>(dialog, "tableWidget_Parameters").cellWidget(row, column);
@@ -88,11 +88,11 @@ class tst_DesignRules : public TestCase
 private Q_SLOTS:
     void TheSamplingDialogShowsTheSamplesOfTheRange_data();
     void TheSamplingDialogShowsTheSamplesOfTheRange();
-    void TheSamplingDialogRefusesWhatTheRangeRefuses_data();
-    void TheSamplingDialogRefusesWhatTheRangeRefuses();
+    void TheSamplingDialogRefusesTheSameRanges_data();
+    void TheSamplingDialogRefusesTheSameRanges();
     void TheDoeDialogShowsTheRunsOfTheDesign_data();
     void TheDoeDialogShowsTheRunsOfTheDesign();
-    void TheDoeDialogRefusesWhatTheDesignRefuses();
+    void TheDoeDialogRefusesTheSameDesigns();
 };
 
 namespace {
@@ -151,7 +151,7 @@ void tst_DesignRules::TheSamplingDialogShowsTheSamplesOfTheRange()
     QCOMPARE(record.nSampleType, range.spacing);
 }
 
-void tst_DesignRules::TheSamplingDialogRefusesWhatTheRangeRefuses_data()
+void tst_DesignRules::TheSamplingDialogRefusesTheSameRanges_data()
 {
     QTest::addColumn<TypedRange>("range");
     QTest::addColumn<QString>("notice");
@@ -175,7 +175,7 @@ void tst_DesignRules::TheSamplingDialogRefusesWhatTheRangeRefuses_data()
     row("Gauss of a bad range", {"2", "1", "1", SampleSpacing::Gauss}, BadInput);
 }
 
-void tst_DesignRules::TheSamplingDialogRefusesWhatTheRangeRefuses()
+void tst_DesignRules::TheSamplingDialogRefusesTheSameRanges()
 {
     const EmptyDesignStores stores;
     QFETCH(TypedRange, range);
@@ -191,7 +191,7 @@ void tst_DesignRules::TheSamplingDialogRefusesWhatTheRangeRefuses()
     });
     dialog.exec();
     QVERIFY(user.IsDone());
-    // Fields that are left on the way to the range may be refused, too.
+    // Leaving a field may be refused before the range is complete.
     QVERIFY(!user.Boxes().isEmpty());
     QCOMPARE(user.Boxes().last().text, notice);
 }
@@ -243,7 +243,7 @@ void tst_DesignRules::TheDoeDialogShowsTheRunsOfTheDesign()
     QVERIFY(user.IsDone());
 }
 
-void tst_DesignRules::TheDoeDialogRefusesWhatTheDesignRefuses()
+void tst_DesignRules::TheDoeDialogRefusesTheSameDesigns()
 {
     const EmptyDesignStores stores;
     Lists lists(2, std::vector<double>(1001, 1.0));

@@ -22,8 +22,8 @@ class tst_AccessibleNames : public TestCase
 
 private Q_SLOTS:
     void AFieldWithoutANameIsFound();
-    void EveryFieldOfEveryWindowHasANameOfItsOwn_data();
-    void EveryFieldOfEveryWindowHasANameOfItsOwn();
+    void EveryFieldOfEveryWindowHasAUniqueName_data();
+    void EveryFieldOfEveryWindowHasAUniqueName();
 };
 
 namespace {
@@ -106,7 +106,7 @@ void tst_AccessibleNames::AFieldWithoutANameIsFound()
                           "QLineEdit named and QLineEdit again are both named \"Width\""}));
 }
 
-void tst_AccessibleNames::EveryFieldOfEveryWindowHasANameOfItsOwn_data()
+void tst_AccessibleNames::EveryFieldOfEveryWindowHasAUniqueName_data()
 {
     QTest::addColumn<QString>("language");
     const QStringList languages = Language::Known();
@@ -114,7 +114,7 @@ void tst_AccessibleNames::EveryFieldOfEveryWindowHasANameOfItsOwn_data()
         QTest::newRow(qPrintable(language)) << language;
 }
 
-void tst_AccessibleNames::EveryFieldOfEveryWindowHasANameOfItsOwn()
+void tst_AccessibleNames::EveryFieldOfEveryWindowHasAUniqueName()
 {
     QFETCH(QString, language);
     const EmptyDesignStores stores;

@@ -22,8 +22,8 @@ class tst_ClippedTexts : public TestCase
 private Q_SLOTS:
     void ATextWithoutRoomIsFound_data();
     void ATextWithoutRoomIsFound();
-    void WhatFitsAsGivenFitsInEveryLanguage_data();
-    void WhatFitsAsGivenFitsInEveryLanguage();
+    void TextsThatFitInEnglishFitInEveryLanguage_data();
+    void TextsThatFitInEnglishFitInEveryLanguage();
 };
 
 namespace {
@@ -125,7 +125,7 @@ void tst_ClippedTexts::ATextWithoutRoomIsFound()
     QCOMPARE(ClippedTexts(window), Places({{place, text}}));
 }
 
-void tst_ClippedTexts::WhatFitsAsGivenFitsInEveryLanguage_data()
+void tst_ClippedTexts::TextsThatFitInEnglishFitInEveryLanguage_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("points");
@@ -136,7 +136,7 @@ void tst_ClippedTexts::WhatFitsAsGivenFitsInEveryLanguage_data()
     }
 }
 
-void tst_ClippedTexts::WhatFitsAsGivenFitsInEveryLanguage()
+void tst_ClippedTexts::TextsThatFitInEnglishFitInEveryLanguage()
 {
     QFETCH(QString, language);
     QFETCH(int, points);

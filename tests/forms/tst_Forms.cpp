@@ -11,8 +11,8 @@ class tst_Forms : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void EveryFormBearsTheNameOfItsClass_data() { AddForms(); }
-    void EveryFormBearsTheNameOfItsClass();
+    void EveryFormHasTheNameOfItsClass_data() { AddForms(); }
+    void EveryFormHasTheNameOfItsClass();
     void EveryFormIsHeldByOneDialog_data() { AddForms(); }
     void EveryFormIsHeldByOneDialog();
     void ObjectNamesAreUnique_data() { AddForms(); }
@@ -57,7 +57,7 @@ QString tst_Forms::Property(const QDomElement& widget, const QString& name)
     return QString();
 }
 
-void tst_Forms::EveryFormBearsTheNameOfItsClass()
+void tst_Forms::EveryFormHasTheNameOfItsClass()
 {
     QFETCH(QString, form);
     const QDomElement root = Root(form);

@@ -14,10 +14,10 @@ class tst_Translations : public TestCase
 private Q_SLOTS:
     void ChineseIsComplete_data();
     void ChineseIsComplete();
-    void EnglishHasWhatIsNotEnglishInTheForms();
+    void EnglishCoversTheTextsThatAreNotEnglish();
     void ATranslationKeepsItsPlaceholders_data();
     void ATranslationKeepsItsPlaceholders();
-    void WhatIsReadBackOrStoredStaysAsItIs();
+    void StoredTextsAreNotTranslated();
 };
 
 namespace {
@@ -127,7 +127,7 @@ void tst_Translations::ChineseIsComplete()
         qPrintable("After the target UpdateTranslations there is to be done:\n" + bad.join('\n')));
 }
 
-void tst_Translations::EnglishHasWhatIsNotEnglishInTheForms()
+void tst_Translations::EnglishCoversTheTextsThatAreNotEnglish()
 {
     EnterTemporaryDirectory();
     const QVector<Message> messages = Updated("TarnGUICommon_en", TARN_LIBRARY_FOLDERS);
@@ -164,7 +164,7 @@ void tst_Translations::ATranslationKeepsItsPlaceholders()
     QVERIFY2(bad.isEmpty(), qPrintable(bad.join('\n')));
 }
 
-void tst_Translations::WhatIsReadBackOrStoredStaysAsItIs()
+void tst_Translations::StoredTextsAreNotTranslated()
 {
     // The names of the element types are keys and are written to files; the other names are stored.
     const QStringList words = {"Bar", "Beam", "Shell", "Membrane", "Solid", "defaultBC", "Default"};

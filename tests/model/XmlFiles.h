@@ -7,15 +7,15 @@
 #include <QString>
 #include <QTest>
 
-/// What the tests of the XML files share.
+/// Shared by the tests of the XML files.
 
-/// The copies that were kept of the file.
+/// The backups of the file.
 inline QStringList CopiesOf(const QString& file)
 {
     return QDir().entryList({file + QStringLiteral(".*.bak")}, QDir::Files, QDir::Name);
 }
 
-/// What xmllint has against the file by the schema of that name; empty when nothing.
+/// The errors that xmllint reports for the file with the given schema; empty if it is valid.
 inline QString Complaints(const QString& file, const QString& schema)
 {
     QProcess xmllint;
@@ -28,7 +28,7 @@ inline QString Complaints(const QString& file, const QString& schema)
     return xmllint.exitCode() == 0 ? QString() : QString::fromUtf8(xmllint.readAll());
 }
 
-/// Rows of contents that the schema refuses, made of the root @p root and the record @p record.
+/// Rows of contents that the schema refuses, built from the given root and record.
 inline void AddUnfitRows(const QByteArray& root, const QByteArray& units, const QByteArray& record)
 {
     QTest::addColumn<QByteArray>("content");
@@ -52,7 +52,7 @@ inline void AddUnfitRows(const QByteArray& root, const QByteArray& units, const 
     QTest::newRow("text") << start + "text" + end;
 }
 
-/// Rows of texts that are hard to keep in XML.
+/// Rows of texts that are hard to represent in XML.
 inline void AddTextRows()
 {
     QTest::addColumn<QString>("text");
@@ -86,14 +86,14 @@ inline void AddTextRows()
     QTest::newRow("100,000 characters") << QString(100000, 'x');
 }
 
-/// The text as UTF-16 of this machine, without a byte order mark.
+/// The text in UTF-16 with native byte order, without a byte order mark.
 inline QByteArray ToUtf16(const QByteArray& text)
 {
     const QString wide = QString::fromUtf8(text);
     return {reinterpret_cast<const char*>(wide.utf16()), wide.size() * int(sizeof(QChar))};
 }
 
-/// Rows of contents that both readers refuse, made of the root @p root and the record @p record.
+/// Rows of contents that both readers refuse, built from the given root and record.
 inline void AddRefusedRows(const QByteArray& root, const QByteArray& units,
                            const QByteArray& record)
 {
@@ -205,7 +205,7 @@ inline void AddCorpusRows(const QString& target)
         QTest::newRow(qPrintable(file.fileName())) << file.absoluteFilePath();
 }
 
-/// Files of the corpus tell by their names what becomes of them; those that fuzzing found do not.
+/// The name of a corpus file says whether it is accepted; names that the fuzzer gave do not.
 inline void CheckCorpusResult(const QString& file, int result)
 {
     const QString name = QFileInfo(file).fileName();

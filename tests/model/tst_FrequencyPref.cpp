@@ -6,12 +6,12 @@ class tst_FrequencyPref : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void TheRangeIsSetAtFirst();
+    void TheRangeIsInitiallySet();
     void ThereIsOneInstance();
     void TheValuesAreShared();
 };
 
-void tst_FrequencyPref::TheRangeIsSetAtFirst()
+void tst_FrequencyPref::TheRangeIsInitiallySet()
 {
     QCOMPARE(FrequencyPref::m_MinFreq, 1.0);
     QCOMPARE(FrequencyPref::m_MaxFreq, 1000000.0);

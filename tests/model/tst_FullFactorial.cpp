@@ -3,7 +3,7 @@
 
 #include <limits>
 
-// What the DOE dialog makes of lists of samples is checked in tst_DesignRules.
+// tst_DesignRules checks that the DOE dialog agrees.
 
 namespace {
 
@@ -33,13 +33,13 @@ class tst_FullFactorial : public TestCase
 private Q_SLOTS:
     void TheLastListTurnsFastest_data();
     void TheLastListTurnsFastest();
-    void WithoutAListOrASampleThereIsNoRun_data();
-    void WithoutAListOrASampleThereIsNoRun();
+    void WithoutListsOrSamplesThereAreNoRuns_data();
+    void WithoutListsOrSamplesThereAreNoRuns();
     void EachRunIsThereOnce();
-    void TheLimitsAreARunAndAValue_data();
-    void TheLimitsAreARunAndAValue();
-    void ACountThatDoesNotFitIsTheGreatest_data();
-    void ACountThatDoesNotFitIsTheGreatest();
+    void OneRunOrValueMoreExceedsTheLimits_data();
+    void OneRunOrValueMoreExceedsTheLimits();
+    void ACountThatOverflowsIsTheMaximum_data();
+    void ACountThatOverflowsIsTheMaximum();
 };
 
 void tst_FullFactorial::TheLastListTurnsFastest_data()
@@ -67,7 +67,7 @@ void tst_FullFactorial::TheLastListTurnsFastest()
     QTEST(runs, "runs");
 }
 
-void tst_FullFactorial::WithoutAListOrASampleThereIsNoRun_data()
+void tst_FullFactorial::WithoutListsOrSamplesThereAreNoRuns_data()
 {
     QTest::addColumn<QVector<int>>("lengths");
     QTest::newRow("no list") << QVector<int>();
@@ -76,7 +76,7 @@ void tst_FullFactorial::WithoutAListOrASampleThereIsNoRun_data()
     QTest::newRow("empty last") << QVector<int>({70000, 70000, 70000, 70000, 70000, 0});
 }
 
-void tst_FullFactorial::WithoutAListOrASampleThereIsNoRun()
+void tst_FullFactorial::WithoutListsOrSamplesThereAreNoRuns()
 {
     QFETCH(QVector<int>, lengths);
     const FullFactorial design(OfLengths(lengths));
@@ -94,7 +94,7 @@ void tst_FullFactorial::EachRunIsThereOnce()
     }
 }
 
-void tst_FullFactorial::TheLimitsAreARunAndAValue_data()
+void tst_FullFactorial::OneRunOrValueMoreExceedsTheLimits_data()
 {
     QTest::addColumn<QVector<int>>("lengths");
     QTest::addColumn<bool>("isTooLarge");
@@ -105,13 +105,13 @@ void tst_FullFactorial::TheLimitsAreARunAndAValue_data()
     QTest::newRow("more values") << QVector<int>({1000, 1000}) + QVector<int>(19, 1) << true;
 }
 
-void tst_FullFactorial::TheLimitsAreARunAndAValue()
+void tst_FullFactorial::OneRunOrValueMoreExceedsTheLimits()
 {
     QFETCH(QVector<int>, lengths);
     QTEST(FullFactorial(OfLengths(lengths)).IsTooLarge(), "isTooLarge");
 }
 
-void tst_FullFactorial::ACountThatDoesNotFitIsTheGreatest_data()
+void tst_FullFactorial::ACountThatOverflowsIsTheMaximum_data()
 {
     QTest::addColumn<QVector<int>>("lengths");
     QTest::newRow("0 in as many bits") << QVector<int>({65536, 65536, 65536, 65536});
@@ -119,7 +119,7 @@ void tst_FullFactorial::ACountThatDoesNotFitIsTheGreatest_data()
     QTest::newRow("single samples behind") << QVector<int>(64, 2) + QVector<int>(3, 1);
 }
 
-void tst_FullFactorial::ACountThatDoesNotFitIsTheGreatest()
+void tst_FullFactorial::ACountThatOverflowsIsTheMaximum()
 {
     QFETCH(QVector<int>, lengths);
     const FullFactorial design(OfLengths(lengths));

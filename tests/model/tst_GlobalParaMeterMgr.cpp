@@ -20,7 +20,7 @@ ParameterMap& Store()
     return GlobalParaMeterMgr::m_nameMapParameters;
 }
 
-// The store lives for the process: each test finds it empty and leaves it so.
+// The store lives as long as the process: each test starts and ends with an empty store.
 class EmptyStore
 {
 public:
@@ -45,8 +45,8 @@ private Q_SLOTS:
     void NamesDifferByCase();
     void TheEmptyNameIsAName();
     void TheStoreHoldsACopyOfTheRecord();
-    void TheRawValueIsWhatOthersSee_data();
-    void TheRawValueIsWhatOthersSee();
+    void OthersSeeTheRawValue_data();
+    void OthersSeeTheRawValue();
     void TheRawValueFollowsAChangeInPlace();
     void AnUnknownNameGivesZeroAndIsNotEntered();
     void RecordsAreChangedInPlaceWhileIterating();
@@ -111,7 +111,7 @@ void tst_GlobalParaMeterMgr::AddingAnExistingNameReplacesTheRecordInItsPlace()
     QCOMPARE(Store().size(), std::size_t(3));
     QCOMPARE(GlobalParaMeterMgr::GetAllParametersName(), Names({"a", "b", "c"}));
     QCOMPARE(Store().at("a").m_dValue, 4.0);
-    // Nothing of the replaced record is left.
+    // Nothing of the replaced record remains.
     QVERIFY(!Store().at("a").m_varRawValue.isValid());
 }
 
@@ -152,7 +152,7 @@ void tst_GlobalParaMeterMgr::TheStoreHoldsACopyOfTheRecord()
 }
 
 // clang-format off
-void tst_GlobalParaMeterMgr::TheRawValueIsWhatOthersSee_data()
+void tst_GlobalParaMeterMgr::OthersSeeTheRawValue_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<QVariant>("rawValue");
@@ -167,7 +167,7 @@ void tst_GlobalParaMeterMgr::TheRawValueIsWhatOthersSee_data()
 }
 // clang-format on
 
-void tst_GlobalParaMeterMgr::TheRawValueIsWhatOthersSee()
+void tst_GlobalParaMeterMgr::OthersSeeTheRawValue()
 {
     const EmptyStore guard;
     QFETCH(double, value);
@@ -177,7 +177,7 @@ void tst_GlobalParaMeterMgr::TheRawValueIsWhatOthersSee()
     const QVariant result = GlobalParaMeterMgr::GetParameterRawValue("a");
     QCOMPARE(result, seen);
     QCOMPARE(result.type(), seen.type());
-    // Asking does not store an answer.
+    // Asking for a value does not store it.
     QCOMPARE(Store().at("a").m_varRawValue, rawValue);
 }
 

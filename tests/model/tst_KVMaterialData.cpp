@@ -15,11 +15,11 @@ private Q_SLOTS:
     void AUserMaterialWins();
     void AMaterialOfTheSameTypeReplacesInPlace();
     void NamesDifferInCase();
-    void ARecordHeldAlreadyIsHeldOnce();
+    void AddingARecordTwiceHoldsItOnce();
     void ARenamedRecordMovesToItsNewName();
     void ARecordRenamedOntoAnotherReplacesIt();
     void AReplacedRecordCanBeGivenAgain();
-    void PointersLiveUntilTheStoreIsCleared();
+    void PointersStayValidUntilTheStoreIsCleared();
     void RemovingAnUnknownNameChangesNothing();
     void ANameRemovedAndEnteredAgainComesLast();
     void ClearingForgetsAll();
@@ -100,7 +100,7 @@ void tst_KVMaterialData::NamesDifferInCase()
     QCOMPARE(Store().MapDataRow(), 2);
 }
 
-void tst_KVMaterialData::ARecordHeldAlreadyIsHeldOnce()
+void tst_KVMaterialData::AddingARecordTwiceHoldsItOnce()
 {
     KVMaterialInfo* const record = Record("a");
     Store().AddMaterialInfo(record);
@@ -147,7 +147,7 @@ void tst_KVMaterialData::AReplacedRecordCanBeGivenAgain()
     QCOMPARE(Store().MapDataRow(), 1);
 }
 
-void tst_KVMaterialData::PointersLiveUntilTheStoreIsCleared()
+void tst_KVMaterialData::PointersStayValidUntilTheStoreIsCleared()
 {
     KVMaterialInfo* const replaced = Record("replaced", MATERIAL_SYSTEM, "1");
     KVMaterialInfo* const removed = Record("removed", MATERIAL_USER, "2");

@@ -11,17 +11,17 @@ class tst_KVMaterialDataCopies : public MaterialStoreTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void AFileNotReadIsKeptAsACopy_data();
-    void AFileNotReadIsKeptAsACopy();
+    void AFileThatWasNotReadIsBackedUp_data();
+    void AFileThatWasNotReadIsBackedUp();
     void AFileReadInFullIsReplaced();
     void AFileReadTwiceIsReplaced();
-    void ClearingForgetsWhatWasRead();
-    void AFileChangedSinceItWasReadIsKept();
+    void ClearingForgetsTheFilesRead();
+    void AFileChangedSinceItWasReadIsBackedUp();
     void AFullDiskLeavesTheOldFile();
     void AWriteThatFailsAtItsEndLeavesTheOldFile();
 };
 
-void tst_KVMaterialDataCopies::AFileNotReadIsKeptAsACopy_data()
+void tst_KVMaterialDataCopies::AFileThatWasNotReadIsBackedUp_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<int>("type");
@@ -44,7 +44,7 @@ void tst_KVMaterialDataCopies::AFileNotReadIsKeptAsACopy_data()
     QTest::newRow("a name twice") << File(Line("a", "1") + Line("a", "2")) << 1;
 }
 
-void tst_KVMaterialDataCopies::AFileNotReadIsKeptAsACopy()
+void tst_KVMaterialDataCopies::AFileThatWasNotReadIsBackedUp()
 {
     QFETCH(QByteArray, content);
     QFETCH(int, type);
@@ -85,7 +85,7 @@ void tst_KVMaterialDataCopies::AFileReadTwiceIsReplaced()
     QCOMPARE(CopiesOf("UserMaterial.xml"), QStringList());
 }
 
-void tst_KVMaterialDataCopies::ClearingForgetsWhatWasRead()
+void tst_KVMaterialDataCopies::ClearingForgetsTheFilesRead()
 {
     Put("UserMaterial.xml", File(Line("a", "1")));
     QCOMPARE(Store().ReadXML(UserFile, MATERIAL_USER), 0);
@@ -94,7 +94,7 @@ void tst_KVMaterialDataCopies::ClearingForgetsWhatWasRead()
     QCOMPARE(CopiesOf("UserMaterial.xml").size(), 1);
 }
 
-void tst_KVMaterialDataCopies::AFileChangedSinceItWasReadIsKept()
+void tst_KVMaterialDataCopies::AFileChangedSinceItWasReadIsBackedUp()
 {
     Put("UserMaterial.xml", File(Line("a", "1")));
     QCOMPARE(Store().ReadXML(UserFile, MATERIAL_USER), 0);

@@ -18,12 +18,12 @@ private Q_SLOTS:
     void AnyTextReadsBackExactly_data();
     void AnyTextReadsBackExactly();
     void AWrittenFileFitsItsSchema();
-    void TheSchemaRefusesWhatIsUnfit_data();
-    void TheSchemaRefusesWhatIsUnfit();
+    void TheSchemaRefusesInvalidFiles_data();
+    void TheSchemaRefusesInvalidFiles();
     void ARefusedFileChangesNothing_data();
     void ARefusedFileChangesNothing();
-    void WhatIsNotAFileIsRefused();
-    void WhatIsUnknownIsSkipped();
+    void OnlyRegularFilesAreAccepted();
+    void UnknownContentIsSkipped();
     void AMillionRecordsAreRead();
     void ATextTooLongToBeReadIsNotWritten();
     void ThePathIsInTheLocalCodePage();
@@ -165,12 +165,12 @@ void tst_KVMaterialDataFiles::AWrittenFileFitsItsSchema()
     QVERIFY(ContentOf("UserMaterial.xml").startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
 }
 
-void tst_KVMaterialDataFiles::TheSchemaRefusesWhatIsUnfit_data()
+void tst_KVMaterialDataFiles::TheSchemaRefusesInvalidFiles_data()
 {
     AddUnfitRows("Materials", "SI", "Material");
 }
 
-void tst_KVMaterialDataFiles::TheSchemaRefusesWhatIsUnfit()
+void tst_KVMaterialDataFiles::TheSchemaRefusesInvalidFiles()
 {
     QFETCH(QByteArray, content);
     Put("unfit.xml", content);
@@ -192,7 +192,7 @@ void tst_KVMaterialDataFiles::ARefusedFileChangesNothing()
     QCOMPARE(Contents(), QStringList("old:1:1:"));
 }
 
-void tst_KVMaterialDataFiles::WhatIsNotAFileIsRefused()
+void tst_KVMaterialDataFiles::OnlyRegularFilesAreAccepted()
 {
     QDir().mkdir("directory");
     QVERIFY(Store().ReadXML("missing.xml", MATERIAL_USER) != 0);
@@ -205,7 +205,7 @@ void tst_KVMaterialDataFiles::WhatIsNotAFileIsRefused()
     QCOMPARE(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("directory"));
 }
 
-void tst_KVMaterialDataFiles::WhatIsUnknownIsSkipped()
+void tst_KVMaterialDataFiles::UnknownContentIsSkipped()
 {
     Put("UserMaterial.xml",
         "\xEF\xBB\xBF<?xml version=\"1.0\"?><!-- mine --><?style x?>"
@@ -221,7 +221,7 @@ void tst_KVMaterialDataFiles::WhatIsUnknownIsSkipped()
 
 void tst_KVMaterialDataFiles::AMillionRecordsAreRead()
 {
-    // The most there may be; one more is refused.
+    // The maximum; one more is refused.
     Put("UserMaterial.xml", File(QByteArray("<Material name=\"\"/>").repeated(1000000)));
     QCOMPARE(Store().ReadXML(UserFile, MATERIAL_USER), 0);
     QCOMPARE(Store().MapDataRow(), 1);
@@ -249,7 +249,7 @@ void tst_KVMaterialDataFiles::ThePathIsInTheLocalCodePage()
 
 void tst_KVMaterialDataFiles::AsMuchAsLineEditsHoldIsWritten()
 {
-    // What a line edit takes, each character the longest in the file.
+    // The longest text of a line edit, with the characters that take most space in the file.
     const QString full(32767, '\\');
     KVMaterialInfo* const written = Record(full);
     written->m_strElasticModulus = full;

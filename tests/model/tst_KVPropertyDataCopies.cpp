@@ -9,19 +9,19 @@ class tst_KVPropertyDataCopies : public PropertyStoreTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void AFileNotReadIsKeptAsACopy_data();
-    void AFileNotReadIsKeptAsACopy();
+    void AFileThatWasNotReadIsBackedUp_data();
+    void AFileThatWasNotReadIsBackedUp();
     void AFileReadIsReplaced();
-    void WhatMemoryHoldsOtherwiseIsKeptAsACopy();
-    void AValueThatMemoryHoldsOtherwiseIsKeptAsACopy_data();
-    void AValueThatMemoryHoldsOtherwiseIsKeptAsACopy();
-    void AFileReplacedSinceItWasReadIsKept();
-    void ClearingForgetsWhatWasRead();
+    void ADifferentPropertyInTheFileIsBackedUp();
+    void ADifferentValueInTheFileIsBackedUp_data();
+    void ADifferentValueInTheFileIsBackedUp();
+    void AFileReplacedSinceItWasReadIsBackedUp();
+    void ClearingForgetsTheFilesRead();
     void AFullDiskLeavesTheOldFile();
     void AWriteThatFailsAtItsEndLeavesTheOldFile();
 };
 
-void tst_KVPropertyDataCopies::AFileNotReadIsKeptAsACopy_data()
+void tst_KVPropertyDataCopies::AFileThatWasNotReadIsBackedUp_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<bool>("isRead");
@@ -33,7 +33,7 @@ void tst_KVPropertyDataCopies::AFileNotReadIsKeptAsACopy_data()
     QTest::newRow("a name twice") << File(Line("a", "1") + Line("a", "2")) << true;
 }
 
-void tst_KVPropertyDataCopies::AFileNotReadIsKeptAsACopy()
+void tst_KVPropertyDataCopies::AFileThatWasNotReadIsBackedUp()
 {
     QFETCH(QByteArray, content);
     QFETCH(bool, isRead);
@@ -57,17 +57,17 @@ void tst_KVPropertyDataCopies::AFileReadIsReplaced()
     QCOMPARE(CopiesOf("ElementProperty.xml"), QStringList());
 }
 
-void tst_KVPropertyDataCopies::WhatMemoryHoldsOtherwiseIsKeptAsACopy()
+void tst_KVPropertyDataCopies::ADifferentPropertyInTheFileIsBackedUp()
 {
     Put("ElementProperty.xml", File(Line("a", "1")));
     QCOMPARE(Store().ReadXML(PropertyFile), 0);
     Find("a")->m_dThickness = 2.0;
-    // The user's own edit of what was read loses nothing of others.
+    // The user's edit of a property that was read loses nothing.
     QCOMPARE(Store().ReadXML(PropertyFile), 0);
     QCOMPARE(Store().WriteXML(PropertyFile), 0);
     QCOMPARE(CopiesOf("ElementProperty.xml"), QStringList());
 
-    // Somebody else's value, which memory does not take over, does not get lost either.
+    // A value written by another program, which the store ignores, is not lost either.
     const QByteArray foreign = File(Line("a", "3"));
     Put("ElementProperty.xml", foreign);
     QCOMPARE(Store().ReadXML(PropertyFile), 0);
@@ -78,7 +78,7 @@ void tst_KVPropertyDataCopies::WhatMemoryHoldsOtherwiseIsKeptAsACopy()
     QCOMPARE(ContentOf(copies.first()), foreign);
 }
 
-void tst_KVPropertyDataCopies::AValueThatMemoryHoldsOtherwiseIsKeptAsACopy_data()
+void tst_KVPropertyDataCopies::ADifferentValueInTheFileIsBackedUp_data()
 {
     QTest::addColumn<QByteArray>("attribute");
     QTest::newRow("material") << QByteArray("material=\"m\"");
@@ -88,7 +88,7 @@ void tst_KVPropertyDataCopies::AValueThatMemoryHoldsOtherwiseIsKeptAsACopy_data(
     QTest::newRow("reserved") << QByteArray("reserved=\"7\"");
 }
 
-void tst_KVPropertyDataCopies::AValueThatMemoryHoldsOtherwiseIsKeptAsACopy()
+void tst_KVPropertyDataCopies::ADifferentValueInTheFileIsBackedUp()
 {
     QFETCH(QByteArray, attribute);
     Put("ElementProperty.xml", File("<ElementProperty name=\"a\"/>"));
@@ -102,7 +102,7 @@ void tst_KVPropertyDataCopies::AValueThatMemoryHoldsOtherwiseIsKeptAsACopy()
     QCOMPARE(ContentOf(copies.first()), foreign);
 }
 
-void tst_KVPropertyDataCopies::AFileReplacedSinceItWasReadIsKept()
+void tst_KVPropertyDataCopies::AFileReplacedSinceItWasReadIsBackedUp()
 {
     Put("ElementProperty.xml", File(Line("a", "1")));
     QCOMPARE(Store().ReadXML(PropertyFile), 0);
@@ -116,7 +116,7 @@ void tst_KVPropertyDataCopies::AFileReplacedSinceItWasReadIsKept()
     QCOMPARE(ContentOf(copies.first()), foreign);
 }
 
-void tst_KVPropertyDataCopies::ClearingForgetsWhatWasRead()
+void tst_KVPropertyDataCopies::ClearingForgetsTheFilesRead()
 {
     Put("ElementProperty.xml", File(Line("a", "1")));
     QCOMPARE(Store().ReadXML(PropertyFile), 0);

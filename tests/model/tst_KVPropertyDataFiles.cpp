@@ -18,17 +18,17 @@ private Q_SLOTS:
     void AnyTextReadsBackExactly_data();
     void AnyTextReadsBackExactly();
     void ARefusedEditMergesNothing();
-    void ReadingAgainDoesNotUndoWhatMemoryHolds();
-    void WhatIsMissingHasItsDefault();
+    void ReadingAgainKeepsTheRecordsInMemory();
+    void MissingAttributesHaveTheirDefaults();
     void AWrittenFileFitsItsSchema();
-    void TheSchemaRefusesWhatIsUnfit_data();
-    void TheSchemaRefusesWhatIsUnfit();
+    void TheSchemaRefusesInvalidFiles_data();
+    void TheSchemaRefusesInvalidFiles();
     void ARefusedFileChangesNothing_data();
     void ARefusedFileChangesNothing();
     void AnInvalidNumberIsRefused_data();
     void AnInvalidNumberIsRefused();
-    void WhatIsNotAFileIsRefused();
-    void WhatIsUnknownIsSkipped();
+    void OnlyRegularFilesAreAccepted();
+    void UnknownContentIsSkipped();
     void AsMuchAsLineEditsHoldIsWritten();
     void ManyPropertiesReadBack();
     void TheCorpusIsReadOrRefused_data();
@@ -133,7 +133,7 @@ void tst_KVPropertyDataFiles::ARefusedEditMergesNothing()
     QCOMPARE(Contents(), QStringList({"a:a:1", "b:b:2"}));
 }
 
-void tst_KVPropertyDataFiles::ReadingAgainDoesNotUndoWhatMemoryHolds()
+void tst_KVPropertyDataFiles::ReadingAgainKeepsTheRecordsInMemory()
 {
     Put("ElementProperty.xml", File(Line("a", "1") + Line("b", "2") + Line("b", "3")));
     QCOMPARE(Store().ReadXML(PropertyFile), 0);
@@ -148,7 +148,7 @@ void tst_KVPropertyDataFiles::ReadingAgainDoesNotUndoWhatMemoryHolds()
     QCOMPARE(Find("a"), edited);
 }
 
-void tst_KVPropertyDataFiles::WhatIsMissingHasItsDefault()
+void tst_KVPropertyDataFiles::MissingAttributesHaveTheirDefaults()
 {
     Put("ElementProperty.xml", File("<ElementProperty name=\"a\"/>"));
     QCOMPARE(Store().ReadXML(PropertyFile), 0);
@@ -170,7 +170,7 @@ void tst_KVPropertyDataFiles::AWrittenFileFitsItsSchema()
     QCOMPARE(Complaints("ElementProperty.xml", "ElementProperties.xsd"), QString());
 }
 
-void tst_KVPropertyDataFiles::TheSchemaRefusesWhatIsUnfit_data()
+void tst_KVPropertyDataFiles::TheSchemaRefusesInvalidFiles_data()
 {
     AddUnfitRows("ElementProperties", "model", "ElementProperty");
     QTest::newRow("thickness of letters")
@@ -181,7 +181,7 @@ void tst_KVPropertyDataFiles::TheSchemaRefusesWhatIsUnfit_data()
         << File("<ElementProperty name=\"a\" reserved=\"9223372036854775808\"/>");
 }
 
-void tst_KVPropertyDataFiles::TheSchemaRefusesWhatIsUnfit()
+void tst_KVPropertyDataFiles::TheSchemaRefusesInvalidFiles()
 {
     QFETCH(QByteArray, content);
     Put("unfit.xml", content);
@@ -225,7 +225,7 @@ void tst_KVPropertyDataFiles::AnInvalidNumberIsRefused()
     QCOMPARE(Contents(), QStringList());
 }
 
-void tst_KVPropertyDataFiles::WhatIsNotAFileIsRefused()
+void tst_KVPropertyDataFiles::OnlyRegularFilesAreAccepted()
 {
     QDir().mkdir("directory");
     QVERIFY(Store().ReadXML("missing.xml") != 0);
@@ -235,7 +235,7 @@ void tst_KVPropertyDataFiles::WhatIsNotAFileIsRefused()
     QCOMPARE(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("directory"));
 }
 
-void tst_KVPropertyDataFiles::WhatIsUnknownIsSkipped()
+void tst_KVPropertyDataFiles::UnknownContentIsSkipped()
 {
     Put("ElementProperty.xml",
         "<ElementProperties units=\"model\" version=\"1\" by=\"me\"><Note>Text<ElementProperty "
@@ -248,7 +248,7 @@ void tst_KVPropertyDataFiles::WhatIsUnknownIsSkipped()
 
 void tst_KVPropertyDataFiles::AsMuchAsLineEditsHoldIsWritten()
 {
-    // What a line edit takes, each character the longest in the file.
+    // The longest text of a line edit, with the characters that take most space in the file.
     const QString full(32767, '\\');
     CQLTElemPropDef* const written = Record(full);
     written->m_strMaterialName = full;

@@ -36,9 +36,9 @@ private Q_SLOTS:
     void LookingUpInsertsNothing();
     void AnIndexInsertsADefaultRecord();
     void AConstantMapIsReadInTheSameWay();
-    void EraseSaysHowManyWereRemoved();
+    void EraseReturnsTheNumberOfRemovedRecords();
     void ACopyIsIndependent();
-    void AMoveLeavesNothingBehind();
+    void AMoveLeavesTheSourceEmpty();
     void AssigningAMapToItselfKeepsIt();
     void ClearRemovesAll();
 };
@@ -128,7 +128,7 @@ void tst_ParameterMap::AConstantMapIsReadInTheSameWay()
     QCOMPARE(constant.size(), std::size_t(2));
 }
 
-void tst_ParameterMap::EraseSaysHowManyWereRemoved()
+void tst_ParameterMap::EraseReturnsTheNumberOfRemovedRecords()
 {
     ParameterMap map;
     map["a"];
@@ -154,7 +154,7 @@ void tst_ParameterMap::ACopyIsIndependent()
     QCOMPARE(map.at("a").m_dValue, 2.0);
 }
 
-void tst_ParameterMap::AMoveLeavesNothingBehind()
+void tst_ParameterMap::AMoveLeavesTheSourceEmpty()
 {
     ParameterMap map;
     map["b"];

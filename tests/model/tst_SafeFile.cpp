@@ -27,12 +27,12 @@ class tst_SafeFile : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void ACopyIsKeptOfWhatIsNotRemembered();
+    void UnknownContentIsBackedUp();
     void WhatIsRememberedIsReplaced();
     void ACopyIsKeptBesideTheTargetOfALink();
     void ACopyHasThePermissionsOfTheFile();
     void CopiesDoNotReplaceEachOther();
-    void WhereTheCopyFindsNoRoomNothingIsWritten();
+    void WithoutRoomForTheBackupNothingIsWritten();
     void AFullDiskLeavesTheOldFileAndNoCopy();
     void AFailedWriteIsNotRemembered();
 
@@ -52,7 +52,7 @@ void tst_SafeFile::init()
     EnterTemporaryDirectory();
 }
 
-void tst_SafeFile::ACopyIsKeptOfWhatIsNotRemembered()
+void tst_SafeFile::UnknownContentIsBackedUp()
 {
     SafeFile file;
     QVERIFY(file.Write(Name, "first"));
@@ -123,7 +123,7 @@ void tst_SafeFile::CopiesDoNotReplaceEachOther()
     QCOMPARE(contents.size(), count);
 }
 
-void tst_SafeFile::WhereTheCopyFindsNoRoomNothingIsWritten()
+void tst_SafeFile::WithoutRoomForTheBackupNothingIsWritten()
 {
     const QByteArray old(100000, 'o');
     for (const int room : {50, 99999}) {

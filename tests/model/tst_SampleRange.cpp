@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-// What the sampling dialog makes of a range is checked in tst_DesignRules.
+// tst_DesignRules checks that the sampling dialog agrees.
 
 namespace {
 
@@ -26,7 +26,7 @@ class tst_SampleRange : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void ARangeIsThatOfANewRecord();
+    void TheDefaultRangeIsThatOfANewRecord();
     void TheStepIsAddedAgainAndAgain_data();
     void TheStepIsAddedAgainAndAgain();
     void ALogarithmIsTakenOfEachSample_data();
@@ -34,10 +34,10 @@ private Q_SLOTS:
     void TheSamplesHaveAllTheirDigits();
     void ABadRangeGivesNoSamples_data();
     void ABadRangeGivesNoSamples();
-    void AMillionSamplesAreTheLimit();
+    void TheLimitIsAMillionSamples();
 };
 
-void tst_SampleRange::ARangeIsThatOfANewRecord()
+void tst_SampleRange::TheDefaultRangeIsThatOfANewRecord()
 {
     QCOMPARE(SampleRange().FindFault(), Fault::None);
     QCOMPARE(SampleRange().Samples(), Samples({0.0, 1.0}));
@@ -134,12 +134,12 @@ void tst_SampleRange::ABadRangeGivesNoSamples()
     QVERIFY(range.Samples().empty());
 }
 
-void tst_SampleRange::AMillionSamplesAreTheLimit()
+void tst_SampleRange::TheLimitIsAMillionSamples()
 {
     const double count = double(SampleRange::MaximumSamples);
     QCOMPARE((SampleRange{1.0, count, 1.0}.Samples().size()), SampleRange::MaximumSamples);
     QCOMPARE((SampleRange{1.0, count + 1.0, 1.0}.FindFault()), Fault::TooManySamples);
-    // A million steps of 0.1 add up to more than 100000.
+    // A million steps of 0.1 give more than 100000.
     QCOMPARE((SampleRange{0.0, 100000.0, 0.1}.Samples().size()), SampleRange::MaximumSamples);
 }
 

@@ -38,11 +38,11 @@ class tst_WholeFile : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void WhatIsWrittenIsRead_data();
-    void WhatIsWrittenIsRead();
+    void WrittenContentReadsBack_data();
+    void WrittenContentReadsBack();
     void TheLimitIsTheLargestSize();
-    void WhatCannotBeReadIsReported_data();
-    void WhatCannotBeReadIsReported();
+    void AnUnreadableFileIsReported_data();
+    void AnUnreadableFileIsReported();
     void AResourceIsRead();
 
     void WhatIsNotAFileIsNotReplaced();
@@ -75,7 +75,7 @@ private Q_SLOTS:
     void AKilledProcessLeavesAWholeFile();
 };
 
-void tst_WholeFile::WhatIsWrittenIsRead_data()
+void tst_WholeFile::WrittenContentReadsBack_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
@@ -83,7 +83,7 @@ void tst_WholeFile::WhatIsWrittenIsRead_data()
     QTest::newRow("larger than a block") << QByteArray(3000000, 'x');
 }
 
-void tst_WholeFile::WhatIsWrittenIsRead()
+void tst_WholeFile::WrittenContentReadsBack()
 {
     EnterTemporaryDirectory();
     QFETCH(QByteArray, content);
@@ -109,7 +109,7 @@ void tst_WholeFile::TheLimitIsTheLargestSize()
     QCOMPARE(read, QByteArray("123"));
 }
 
-void tst_WholeFile::WhatCannotBeReadIsReported_data()
+void tst_WholeFile::AnUnreadableFileIsReported_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("error");
@@ -131,7 +131,7 @@ void tst_WholeFile::WhatCannotBeReadIsReported_data()
                                    << "cannot be opened: Too many levels of symbolic links";
 }
 
-void tst_WholeFile::WhatCannotBeReadIsReported()
+void tst_WholeFile::AnUnreadableFileIsReported()
 {
     EnterTemporaryDirectory();
     QFETCH(QString, path);
@@ -469,7 +469,7 @@ void tst_WholeFile::AKilledProcessLeavesAWholeFile()
         QVERIFY2(content == one || content == other, qPrintable(QString::number(content.size())));
         ++(content == one ? ones : others);
     }
-    // Otherwise no process came as far as to replace the file.
+    // Otherwise no process got as far as replacing the file.
     QVERIFY2(ones > 0 && others > 0, qPrintable(QString::number(ones)));
 }
 
