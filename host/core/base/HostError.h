@@ -4,7 +4,8 @@
 
 #include <stdexcept>
 
-/// Why the host could not do something: one line in plain words. What failed tells its kind.
+/// Why the host could not do something: one line in plain words. A subclass exists only where a
+/// caller treats some reasons differently from others.
 class HostError : public std::runtime_error
 {
 public:

@@ -5,6 +5,7 @@
 #include "DialogTables.h"
 #include "DoeSession.h"
 #include "FeatureTree.h"
+#include "HostError.h"
 #include "KVMaterialLibrary.h"
 #include "MainWindow.h"
 #include "NoticeWatcher.h"
@@ -138,7 +139,7 @@ void VisitWindows(const Project& project,
 void WriteScreenshots(const Project& project, const QString& directory)
 {
     if (!QDir().mkpath(directory))
-        throw ScreenshotError(QStringLiteral("%1: the folder cannot be made").arg(directory));
+        throw HostError(QStringLiteral("%1: the folder cannot be made").arg(directory));
     // The working directory changes while the pictures are made.
     const QDir pictures(QDir(directory).absolutePath());
 
@@ -147,7 +148,7 @@ void WriteScreenshots(const Project& project, const QString& directory)
         const QString file = name + QStringLiteral(".png");
         tarn::WholeFile picture(pictures.filePath(file));
         if (!picture.Write(PictureOf(window)))
-            throw ScreenshotError(
+            throw HostError(
                 QStringLiteral("%1: %2").arg(QDir(directory).filePath(file), picture.Error()));
     });
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "HostError.h"
-
 #include <QPalette>
 #include <QString>
 
@@ -9,13 +7,6 @@
 
 class Project;
 class QWidget;
-
-/// Why the pictures could not be written: one line.
-class ScreenshotError : public HostError
-{
-public:
-    using HostError::HostError;
-};
 
 /// Light text on dark.
 QPalette DarkPalette();
@@ -28,5 +19,5 @@ void VisitWindows(const Project& project,
 
 /// Writes a picture of every dialog, filled with the samples of @p project, and of the main window
 /// into @p directory, which is made when it is not there: one PNG each, named after the class.
-/// Replaces what the stores hold. @throws ScreenshotError
+/// Replaces what the stores hold. @throws HostError
 void WriteScreenshots(const Project& project, const QString& directory);

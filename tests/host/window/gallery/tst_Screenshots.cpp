@@ -2,6 +2,7 @@
 #include "DialogCatalogue.h"
 #include "EmptyDesignStores.h"
 #include "HostApplication.h"
+#include "HostError.h"
 #include "KVMaterialData.h"
 #include "KVPropertyData.h"
 #include "ModalDriver.h"
@@ -43,7 +44,7 @@ QString ReasonNotWritten(const QString& directory)
     const EmptyDesignStores stores;
     try {
         WriteScreenshots(Project::Load(Project::SamplePath()), directory);
-    } catch (const ScreenshotError& error) {
+    } catch (const HostError& error) {
         return error.Reason();
     }
     return QString();
