@@ -12,6 +12,7 @@
 #include "KVMaterialData.h"
 #include "KVMaterialLibrary.h"
 #include "KVPropertyData.h"
+#include "MenuActions.h"
 #include "MeshSizeInput.h"
 #include "MessageLevel.h"
 #include "NumberTexts.h"
@@ -49,9 +50,7 @@ void AnalysisActions::FillMenu(QMenu& menu)
 {
     const auto add = [this, &menu](const QString& text, const char* name,
                                    void (AnalysisActions::*run)()) {
-        QAction* const action = menu.addAction(text);
-        action->setObjectName(QString::fromLatin1(name));
-        connect(action, &QAction::triggered, this, run);
+        menu.addAction(NewAction(text, name, this, run));
     };
     add(tr("&Analysis type"), "action_AnalysisType", &AnalysisActions::ChooseType);
     add(tr("&Boundary condition"), "action_BoundaryCondition",

@@ -5,9 +5,9 @@
 #include "CQLTElemPropDef.h"
 #include "FrequencyPref.h"
 #include "KVPropertyData.h"
+#include "MenuActions.h"
 #include "NumberTexts.h"
 
-#include <QAction>
 #include <QHeaderView>
 #include <QTreeWidget>
 
@@ -102,7 +102,8 @@ AnalysisTree::AnalysisTree(AnalysisRecords& model, QWidget* parent)
     : QDockWidget(tr("Analysis model"), parent)
     , m_model(model)
     , m_tree(new QTreeWidget(this))
-    , m_delete(new QAction(tr("&Delete boundary condition or load"), this))
+    , m_delete(NewAction(tr("&Delete boundary condition or load"), "action_DeleteAttribute", this,
+                         &AnalysisTree::DeleteSelected, QKeySequence::Delete))
 {
     setObjectName(QStringLiteral("modelTreeDock"));
     setWidget(m_tree);
@@ -113,13 +114,10 @@ AnalysisTree::AnalysisTree(AnalysisRecords& model, QWidget* parent)
     m_tree->header()->setStretchLastSection(true);
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
 
-    m_delete->setObjectName(QStringLiteral("action_DeleteAttribute"));
-    m_delete->setShortcut(QKeySequence::Delete);
     m_delete->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_tree->addAction(m_delete);
     m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
 
-    connect(m_delete, &QAction::triggered, this, &AnalysisTree::DeleteSelected);
     connect(m_tree, &QTreeWidget::itemSelectionChanged, this,
             [this] { m_delete->setEnabled(SelectedAttribute() != nullptr); });
     connect(&m_model, &AnalysisRecords::Changed, this, &AnalysisTree::Refresh);

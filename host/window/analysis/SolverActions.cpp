@@ -4,6 +4,8 @@
 #include "ExternalSolverOption.h"
 #include "MenuActions.h"
 
+#include <QMenu>
+
 #include <memory>
 
 SolverActions::SolverActions(QWidget* window)
@@ -16,11 +18,13 @@ SolverActions::~SolverActions() = default;
 
 void SolverActions::FillMenu(QMenu& menu)
 {
-    AddAction(menu, tr("Run &Nastran"), "action_RunSolver", this, &SolverActions::RunSolver);
-    AddAction(menu, tr("Open results in &HyperView"), "action_ShowResults", this,
-              &SolverActions::ShowResults);
+    menu.addActions(
+        {NewAction(tr("Run &Nastran"), "action_RunSolver", this, &SolverActions::RunSolver),
+         NewAction(tr("Open results in &HyperView"), "action_ShowResults", this,
+                   &SolverActions::ShowResults)});
     menu.addSeparator();
-    AddAction(menu, tr("Solver &paths"), "action_SolverPaths", this, &SolverActions::ListSolvers);
+    menu.addAction(
+        NewAction(tr("Solver &paths"), "action_SolverPaths", this, &SolverActions::ListSolvers));
 }
 
 void SolverActions::RunSolver()

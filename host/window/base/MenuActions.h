@@ -1,15 +1,16 @@
 #pragma once
 
-#include <QMenu>
+#include <QAction>
+#include <QKeySequence>
 
-/// Adds an action with the object name @p name to @p menu; triggered, it calls @p slot of
-/// @p receiver.
+/// Creates an action with the object name @p name that calls @p slot of @p receiver, which owns it.
 template<class Receiver, class Slot>
-QAction* AddAction(QMenu& menu, const QString& text, const char* name, Receiver* receiver,
-                   Slot slot)
+QAction* NewAction(const QString& text, const char* name, Receiver* receiver, Slot slot,
+                   const QKeySequence& shortcut = {})
 {
-    QAction* const action = menu.addAction(text);
+    auto* const action = new QAction(text, receiver);
     action->setObjectName(QString::fromLatin1(name));
+    action->setShortcut(shortcut);
     QObject::connect(action, &QAction::triggered, receiver, slot);
     return action;
 }

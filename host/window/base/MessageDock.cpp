@@ -1,8 +1,9 @@
 #include "MessageDock.h"
 
+#include "CompactTable.h"
+#include "MenuActions.h"
 #include "MessageLevel.h"
 
-#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -50,32 +51,23 @@ MessageDock::MessageDock(QWidget* parent)
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setShowGrid(false);
-    m_view->setTabKeyNavigation(false);
-    m_view->setWordWrap(false);
-    m_view->verticalHeader()->hide();
-    m_view->verticalHeader()->setDefaultSectionSize(m_view->fontMetrics().height() + 6);
-    m_view->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_view->horizontalHeader()->setHighlightSections(false);
+    MakeCompact(*m_view);
     m_view->horizontalHeader()->setStretchLastSection(true);
     const int letter = m_view->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     m_view->setColumnWidth(TimeColumn, 11 * letter);
     m_view->setColumnWidth(LevelColumn, 12 * letter);
     m_view->setColumnWidth(CountColumn, 8 * letter);
 
-    auto* const copy = new QAction(tr("Copy"), m_view);
-    copy->setObjectName(QStringLiteral("action_CopyMessages"));
-    copy->setShortcut(QKeySequence::Copy);
+    QAction* const copy = NewAction(tr("Copy"), "action_CopyMessages", this,
+                                    &MessageDock::CopySelection, QKeySequence::Copy);
     copy->setShortcutContext(Qt::WidgetShortcut);
-    auto* const clear = new QAction(tr("Clear"), m_view);
-    clear->setObjectName(QStringLiteral("action_ClearMessages"));
-    m_view->addActions({copy, clear});
+    m_view->addActions(
+        {copy, NewAction(tr("Clear"), "action_ClearMessages", this, &MessageDock::Clear)});
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
 
     // Also when the dock is laid out only after the lines have come.
     QScrollBar* const bar = m_view->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int end) { bar->setValue(end); });
-    connect(copy, &QAction::triggered, this, &MessageDock::CopySelection);
-    connect(clear, &QAction::triggered, this, &MessageDock::Clear);
     connect(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage, this,
             &MessageDock::AddMessage);
 }

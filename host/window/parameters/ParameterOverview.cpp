@@ -1,5 +1,6 @@
 #include "ParameterOverview.h"
 
+#include "CompactTable.h"
 #include "GlobalParaMeterMgr.h"
 #include "NumberTexts.h"
 
@@ -48,12 +49,7 @@ ParameterOverview::ParameterOverview(QWidget* parent)
                                         tr("Expression"), tr("Description")});
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setTabKeyNavigation(false);
-    m_table->setWordWrap(false);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->horizontalHeader()->setHighlightSections(false);
+    MakeCompact(*m_table);
     m_table->horizontalHeader()->setStretchLastSection(true);
 }
 

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMenu>
 #include <QMessageBox>
 
 namespace {
@@ -37,15 +38,16 @@ ProjectActions::~ProjectActions() = default;
 
 void ProjectActions::FillMenu(QMenu& menu)
 {
-    AddAction(menu, tr("&Open project"), "action_OpenProject", this, &ProjectActions::AskForProject)
-        ->setShortcut(QKeySequence::Open);
-    AddAction(menu, tr("&Save project"), "action_SaveProject", this, &ProjectActions::Save)
-        ->setShortcut(QKeySequence::Save);
-    AddAction(menu, tr("Save project &as"), "action_SaveProjectAs", this, &ProjectActions::SaveAs)
-        ->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+S")));
+    menu.addActions(
+        {NewAction(tr("&Open project"), "action_OpenProject", this, &ProjectActions::AskForProject,
+                   QKeySequence::Open),
+         NewAction(tr("&Save project"), "action_SaveProject", this, &ProjectActions::Save,
+                   QKeySequence::Save),
+         NewAction(tr("Save project &as"), "action_SaveProjectAs", this, &ProjectActions::SaveAs,
+                   QKeySequence(QStringLiteral("Ctrl+Shift+S")))});
     menu.addSeparator();
-    AddAction(menu, tr("&Quit"), "action_Quit", m_window, &QWidget::close)
-        ->setShortcut(QKeySequence::Quit);
+    menu.addAction(
+        NewAction(tr("&Quit"), "action_Quit", m_window, &QWidget::close, QKeySequence::Quit));
 }
 
 double ProjectActions::Density() const

@@ -14,20 +14,20 @@
 DesignActions::DesignActions(QWidget* window)
     : QObject(window)
     , m_window(window)
-    , m_restore(new QAction(tr("&Restore parameters"), this))
+    , m_restore(NewAction(tr("&Restore parameters"), "action_RestoreParameters", this,
+                          &DesignActions::RestoreParameters))
 {
-    m_restore->setObjectName(QStringLiteral("action_RestoreParameters"));
     m_restore->setEnabled(false);
-    connect(m_restore, &QAction::triggered, this, &DesignActions::RestoreParameters);
 }
 
 DesignActions::~DesignActions() = default;
 
 void DesignActions::FillMenu(QMenu& menu)
 {
-    AddAction(menu, tr("&Parameters"), "action_Parameters", this, &DesignActions::EditParameters);
-    AddAction(menu, tr("Design of &Experiments"), "action_DesignOfExperiments", this,
-              &DesignActions::DesignExperiments);
+    menu.addActions(
+        {NewAction(tr("&Parameters"), "action_Parameters", this, &DesignActions::EditParameters),
+         NewAction(tr("Design of &Experiments"), "action_DesignOfExperiments", this,
+                   &DesignActions::DesignExperiments)});
     menu.addSeparator();
     menu.addAction(m_restore);
 }

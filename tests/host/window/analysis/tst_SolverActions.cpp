@@ -40,7 +40,7 @@ void tst_SolverActions::EachActionRunsItsDialog()
         QCOMPARE(shown.parentWidget(), &window);
         QTest::keyClick(&shown, Qt::Key_Escape);
     });
-    menu.findChild<QAction*>(action)->trigger();
+    window.findChild<QAction*>(action)->trigger();
     QVERIFY(user.IsDone());
     QVERIFY(window.findChildren<QDialog*>().isEmpty());
 }

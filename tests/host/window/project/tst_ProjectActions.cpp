@@ -39,7 +39,7 @@ struct Opened
         actions->Open(Project::Load(path));
     }
 
-    void Trigger(const char* name) { menu.findChild<QAction*>(name)->trigger(); }
+    void Trigger(const char* name) { window.findChild<QAction*>(name)->trigger(); }
 
     void SaveAs(const QString& path)
     {
@@ -83,7 +83,7 @@ void tst_ProjectActions::WithoutAProjectThereIsNothingToLose()
     actions->FillMenu(menu);
     QVERIFY(actions->ConfirmDiscard());
     QCOMPARE(actions->Density(), Project::SteelDensity);
-    menu.findChild<QAction*>("action_SaveProject")->trigger();
+    window.findChild<QAction*>("action_SaveProject")->trigger();
 }
 
 void tst_ProjectActions::AnOpenedProjectFillsStoresAndModel()

@@ -44,7 +44,7 @@ struct Design
             Click(dialog, "pushButton_GenGeo");
             dialog.reject();
         });
-        menu.findChild<QAction*>("action_DesignOfExperiments")->trigger();
+        Action("action_DesignOfExperiments").trigger();
         QVERIFY(user.IsDone());
     }
 
@@ -71,7 +71,7 @@ void tst_DesignActions::ApplyTellsThatParametersChanged()
         Click(editor, "pushButton_Apply");
         Click(editor, "pushButton_Cancel");
     });
-    design.menu.findChild<QAction*>("action_Parameters")->trigger();
+    design.Action("action_Parameters").trigger();
     QVERIFY(design.user.IsDone());
     QCOMPARE(design.changed.count(), 1);
 }
@@ -80,7 +80,7 @@ void tst_DesignActions::ACancelledEditorTellsNothing()
 {
     Design design;
     design.user.Then([](QDialog& editor) { Click(editor, "pushButton_Cancel"); });
-    design.menu.findChild<QAction*>("action_Parameters")->trigger();
+    design.Action("action_Parameters").trigger();
     QVERIFY(design.user.IsDone());
     QCOMPARE(design.changed.count(), 0);
 }
