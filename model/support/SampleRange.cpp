@@ -6,8 +6,8 @@
 
 namespace {
 
-// The steps of a range that has no other fault; one more than the limit when there are too many.
-// The limit also stops a step that is too small to move x.
+// The number of samples of a range without other faults; one more than the limit if there are too
+// many. The limit also stops a step that is too small to change x.
 std::size_t CountSteps(const SampleRange& range)
 {
     std::size_t count = 0;

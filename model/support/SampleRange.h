@@ -1,21 +1,21 @@
 #pragma once
 
 /// @file
-/// The samples that a range gives: the rule of the sampling dialog, without the dialog.
+/// The samples of a range: the rule of the sampling dialog, without the dialog.
 
 #include <cstddef>
 #include <vector>
 
 /// A range of samples, as the sampling dialog asks for it.
 ///
-/// The samples start at the minimum and end at or before the maximum. The step is added again and
-/// again, so rounding decides whether the maximum itself is a sample. The logarithmic spacings take
-/// the logarithm of these samples: -inf of 0, not a number below 0.
+/// The samples start at the minimum and end at or before the maximum. They come from repeated
+/// addition, so rounding decides whether the maximum itself is a sample. The logarithmic spacings
+/// take the logarithm of each sample: -inf for 0, NaN for negative numbers.
 struct SampleRange
 {
     static constexpr std::size_t MaximumSamples = 1000000; ///< In one range.
 
-    /// Why a range gives no samples. Of several faults the first in this order counts.
+    /// Why a range has no samples. If there are several faults, the first in this order counts.
     enum class Fault
     {
         None,
@@ -24,7 +24,7 @@ struct SampleRange
         StepNotAbove0,        ///< The step is 0 or less.
         StepTooWide,          ///< The step is greater than the range.
         TooManySamples,       ///< There would be more than MaximumSamples.
-        SpacingNotImplemented ///< Gauss, or a code without a meaning.
+        SpacingNotImplemented ///< Gauss, or an unknown code.
     };
 
     double min = 0.0;
@@ -35,6 +35,6 @@ struct SampleRange
     /// Why Samples() is empty, or Fault::None.
     Fault FindFault() const;
 
-    /// The samples in full precision, in ascending order; empty when the range has a fault.
+    /// The samples in full precision, in ascending order; empty if the range has a fault.
     std::vector<double> Samples() const;
 };

@@ -56,7 +56,7 @@ bool IsFolderSynced(const QString& file)
     return isSynced;
 }
 
-/// A name beside @p target that nobody can guess and thus occupy.
+/// An unpredictable name in the folder of @p target, so that no other program can occupy it.
 QString TemporaryName(const QString& target)
 {
     constexpr int Letters = 6;

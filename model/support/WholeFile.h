@@ -37,8 +37,8 @@ public:
     /// is as it was, unless the disk failed only while it recorded the replacement.
     bool Write(const QByteArray& content, const std::function<QString()>& beforeReplace = {});
 
-    /// Copies the file, of whatever size, to the new file @p copy, with its permissions. Returns
-    /// false on failure, and when @p copy exists already, which then stays as it is.
+    /// Copies the file, regardless of its size, and its permissions to the new file @p copy.
+    /// Returns false on failure. If @p copy already exists, this fails and does not change it.
     bool CopyTo(const QString& copy);
 
     /// The absolute path of the file behind all symbolic links, whether it exists or not. Empty for
