@@ -31,7 +31,7 @@ ProjectActions::ProjectActions(PartModel& model, QWidget* window)
     , m_model(model)
     , m_window(window)
 {
-    connect(&m_model.UndoStack(), &QUndoStack::indexChanged, this, &ProjectActions::UpdateModified);
+    connect(&m_model.UndoStack(), &QUndoStack::cleanChanged, this, &ProjectActions::ShowModified);
 }
 
 ProjectActions::~ProjectActions() = default;
@@ -130,17 +130,23 @@ bool ProjectActions::ConfirmDiscard()
 void ProjectActions::NoteSaved()
 {
     m_savedDesign = StoredDesign();
+    m_isDesignChanged = false;
     m_model.UndoStack().setClean();
-    UpdateModified();
+    ShowModified();
 }
 
 bool ProjectActions::IsChanged() const
 {
-    return m_project.has_value() &&
-           (!m_model.UndoStack().isClean() || StoredDesign() != m_savedDesign);
+    return m_project.has_value() && (m_isDesignChanged || !m_model.UndoStack().isClean());
 }
 
 void ProjectActions::UpdateModified()
+{
+    m_isDesignChanged = StoredDesign() != m_savedDesign;
+    ShowModified();
+}
+
+void ProjectActions::ShowModified()
 {
     m_window->setWindowModified(IsChanged());
 }

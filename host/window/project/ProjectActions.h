@@ -36,7 +36,8 @@ public:
     bool ConfirmDiscard();
 
 public Q_SLOTS:
-    /// The stores tell nobody of their changes: whoever made one calls this.
+    /// To be called after a dialog has written to the parameter store or the sample registry, which
+    /// emit no signals. Changes of the features are noticed without a call.
     void UpdateModified();
 
 Q_SIGNALS:
@@ -52,11 +53,13 @@ private:
     bool SaveTo(const QString& path);
     void NoteSaved();
     bool IsChanged() const;
+    void ShowModified();
 
     PartModel& m_model;
     QWidget* m_window;
     // As it was opened: the model's relative paths are those of its folder.
     std::optional<Project> m_project;
-    QString m_path; // Where Save writes; empty where that has to be asked.
-    QJsonArray m_savedDesign;
+    QString m_path;           // Where Save writes; empty where that has to be asked.
+    QJsonArray m_savedDesign; // The stores as they were opened or saved.
+    bool m_isDesignChanged = false;
 };

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void ItsImportsAreLookedForBesideIt();
     void ImportsAreFoundAfterSavingElsewhere();
     void ChangedSamplesAreAChange();
+    void UndoingAFeatureKeepsChangedSamplesAChange();
     void SaveTellsThatItSaved();
     void AFailedSaveLosesNothing();
 };
@@ -130,6 +131,18 @@ void tst_ProjectActions::ChangedSamplesAreAChange()
     g_mapParaArrays["bolt_count"].vecValues.pop_back();
     opened.actions->UpdateModified();
     QVERIFY(!opened.window.isWindowModified());
+}
+
+void tst_ProjectActions::UndoingAFeatureKeepsChangedSamplesAChange()
+{
+    Opened opened;
+    g_mapParaArrays["bolt_count"].vecValues.push_back(12.0);
+    opened.actions->UpdateModified();
+    opened.model.Add(NewFeature("cube", FeatureKind::Box));
+    opened.model.UndoStack().undo();
+    QVERIFY(opened.window.isWindowModified());
+    opened.user.Answer(QMessageBox::Cancel);
+    QVERIFY(!opened.actions->ConfirmDiscard());
 }
 
 void tst_ProjectActions::SaveTellsThatItSaved()
