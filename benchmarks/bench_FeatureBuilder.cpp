@@ -99,7 +99,7 @@ TopoDS_Shape BuildByHand()
 template<class Builder>
 void Regenerate(benchmark::State& state, const Project& project, const Builder& build)
 {
-    project.FillStores();
+    project.FillParameterStore();
     for (auto _ : state) {
         for (int run = 0; run < int(state.range(0)); ++run) {
             ChooseRun(run);

@@ -746,6 +746,18 @@
         <translation>的样本超过一百万个</translation>
     </message>
     <message>
+        <source>the sample list of %1 %2</source>
+        <translation>%1 的样本列表%2</translation>
+    </message>
+    <message>
+        <source>has a range without limits</source>
+        <translation>的范围没有界限</translation>
+    </message>
+    <message>
+        <source>has Gauss spacing, which is not implemented</source>
+        <translation>采用高斯间隔，尚未实现</translation>
+    </message>
+    <message>
         <source>sample list %1</source>
         <translation>样本列表 %1</translation>
     </message>

@@ -15,7 +15,7 @@ public:
     static constexpr std::size_t MaximumRuns = 1000000;
     static constexpr std::size_t MaximumValues = 20 * MaximumRuns; ///< Runs times lists.
 
-    explicit FullFactorial(std::vector<std::vector<double>> lists);
+    explicit FullFactorial(std::vector<std::vector<double>> lists = {});
 
     std::size_t ListCount() const { return m_lists.size(); }
 

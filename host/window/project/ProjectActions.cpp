@@ -2,8 +2,10 @@
 
 #include "MenuActions.h"
 #include "MessageLevel.h"
+#include "ParameterJson.h"
 #include "PartModel.h"
-#include "StoredDesign.h"
+#include "SampleListJson.h"
+#include "SampleRegistry.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -16,7 +18,7 @@ namespace {
 // What the stores hold of a project's file.
 QJsonArray StoredDesign()
 {
-    return {StoredParameters(), StoredSamples()};
+    return {StoredParameters(), ToJson(RegisteredSamples())};
 }
 
 QString ProjectFilter()
@@ -59,7 +61,8 @@ void ProjectActions::Open(const Project& project)
 {
     m_project = project;
     m_path = project.Path() == Project::SamplePath() ? QString() : project.Path();
-    m_project->FillStores();
+    m_project->FillParameterStore();
+    FillSampleRegistry(m_project->SampleLists());
     m_window->setWindowTitle(tr("%1[*] - Tarn host").arg(project.Title()));
     PostMessageToChannel(InfoLevel, tr("Opened the project \"%1\"").arg(project.Title()));
     Q_EMIT Opened();
@@ -103,6 +106,7 @@ bool ProjectActions::SaveTo(const QString& path)
 {
     Project saved = *m_project;
     saved.SetFeatures(m_model.Features());
+    saved.SetSampleLists(RegisteredSamples());
     try {
         saved.Save(path);
     } catch (const ProjectError& error) {

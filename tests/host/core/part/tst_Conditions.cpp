@@ -157,7 +157,7 @@ void tst_Conditions::TheSampleTellsWhatCannotBe()
     QFETCH(QString, name);
     QFETCH(double, value);
     const Project project = Project::Load(Project::SamplePath());
-    project.FillStores();
+    project.FillParameterStore();
     EvaluateParameters();
     Store(name, value);
     QTEST(Reason(project.Conditions()), "reason");

@@ -247,7 +247,7 @@ void tst_FeatureBuilder::TheSampleFlangeHasTheVolumeOfItsFormula()
     QFETCH(double, count);
     QFETCH(double, fillet);
     const Project project = Project::Load(Project::SamplePath());
-    project.FillStores();
+    project.FillParameterStore();
     StoreScalar("bolt_count", count);
     StoreScalar("fillet_radius", fillet);
     QVERIFY(EvaluateParameters().empty());

@@ -3,6 +3,7 @@
 #include "HostApplication.h"
 #include "Project.h"
 #include "SampleAnalysis.h"
+#include "SampleRegistry.h"
 #include "TestCase.h"
 
 #include <QDir>
@@ -117,7 +118,9 @@ void tst_DialogCatalogue::FillsDialogsWithVisibleData()
 {
     const EmptyDesignStores stores;
     const SampleAnalysisFiles files;
-    Project::Load(Project::SamplePath()).FillStores();
+    const Project project = Project::Load(Project::SamplePath());
+    project.FillParameterStore();
+    FillSampleRegistry(project.SampleLists());
     for (const CatalogueEntry& entry : DialogCatalogue()) {
         if (entry.fill == nullptr)
             continue;

@@ -4,6 +4,7 @@
 #include "MessageLevel.h"
 #include "ModalDriver.h"
 #include "Project.h"
+#include "SampleRegistry.h"
 #include "TestCase.h"
 
 #include <QAction>
@@ -30,7 +31,9 @@ struct Design
 {
     Design()
     {
-        Project::Load(Project::SamplePath()).FillStores();
+        const Project project = Project::Load(Project::SamplePath());
+        project.FillParameterStore();
+        FillSampleRegistry(project.SampleLists());
         actions->FillMenu(menu);
         actions->Start();
     }

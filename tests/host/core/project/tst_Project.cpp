@@ -1,21 +1,16 @@
 #include "EmptyDesignStores.h"
 #include "FeatureBuilder.h"
-#include "FeatureKinds.h"
-#include "FullDisk.h"
 #include "GlobalParaMeterMgr.h"
-#include "ModalDriver.h"
-#include "ParameterEvaluator.h"
-#include "Project.h"
+#include "ProjectFiles.h"
+#include "SampleSpacing.h"
 #include "TestCase.h"
-#include "TestFiles.h"
-#include "sParaArrayData.h"
 
 #include <QDir>
 #include <QFile>
 
 #include <sys/stat.h>
 
-#include <limits>
+// Reading. How a project is saved is checked in tst_ProjectSaving.
 
 class tst_Project : public TestCase
 {
@@ -28,12 +23,9 @@ private Q_SLOTS:
     void EveryTypeOfParameterIsRead_data();
     void EveryTypeOfParameterIsRead();
     void LittleIsNeeded();
-    void TheStoresAreReplaced();
+    void TheParameterStoreIsReplaced();
     void ParametersKeepTheOrderOfTheFile();
-    void RangesGoThroughTheSamplingDialog_data();
-    void RangesGoThroughTheSamplingDialog();
-    void SingleValuesAreTakenAsTheyAre();
-    void ARangeThatTheDialogRefusesShowsItsNotice();
+    void SamplesAreARangeOrSingleValues();
     void BadFilesAreToldInOneLine_data();
     void BadFilesAreToldInOneLine();
     void AMissingFileIsTold();
@@ -42,35 +34,8 @@ private Q_SLOTS:
     void AHugeFileIsNotRead();
     void AnEndlessFileIsNotRead();
     void FeaturesAndConditionsAreRead();
-    void ASavedProjectIsLoadedTheSame_data();
-    void ASavedProjectIsLoadedTheSame();
-    void TheStoresAreSavedAsTheyStand();
-    void ImportsAreFoundFromAnotherFolder();
-    void WhatCouldNotBeLoadedIsNotSaved_data();
-    void WhatCouldNotBeLoadedIsNotSaved();
-    void AFileThatCannotBeWrittenIsTold();
-    void AFullDiskLeavesTheOldFile();
     void APartWithoutFeaturesIsTold();
 };
-
-static QString Write(const QByteArray& content, const QString& path = "p.json")
-{
-    Put(path, content);
-    return path;
-}
-
-// A project with this one parameter.
-static QByteArray WithParameter(const QByteArray& parameter)
-{
-    return "{\"version\": 1, \"parameters\": [" + parameter + "]}";
-}
-
-// A project with the parameter "a" and these samples.
-static QByteArray WithSamples(const QByteArray& samples)
-{
-    return "{\"version\": 1, \"parameters\": [{\"name\": \"a\", \"value\": 1}], \"samples\": [" +
-           samples + "]}";
-}
 
 static QString Reason(const QString& path)
 {
@@ -167,16 +132,14 @@ void tst_Project::LittleIsNeeded()
     QVERIFY(project.SampleLists().empty());
 }
 
-void tst_Project::TheStoresAreReplaced()
+void tst_Project::TheParameterStoreIsReplaced()
 {
     const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     GlobalParaMeterMgr::AddParameter("old", {});
-    g_mapParaArrays["old"].bChecked = 1;
-    Project::Load(Write(WithSamples(""))).FillStores();
+    Project::Load(Write(WithSamples(""))).FillParameterStore();
     QCOMPARE(GlobalParaMeterMgr::GetAllParametersName(), std::vector<QString>({"a"}));
     QCOMPARE(GlobalParaMeterMgr::GetParameterRawValue("a").toDouble(), 1.0);
-    QVERIFY(g_mapParaArrays.empty());
 }
 
 void tst_Project::ParametersKeepTheOrderOfTheFile()
@@ -185,68 +148,28 @@ void tst_Project::ParametersKeepTheOrderOfTheFile()
     EnterTemporaryDirectory();
     Project::Load(Write(WithParameter(R"({"name": "c", "value": 1}, {"name": "a", "value": 1},
                                          {"name": "b", "value": 1})")))
-        .FillStores();
+        .FillParameterStore();
     QCOMPARE(GlobalParaMeterMgr::GetAllParametersName(), std::vector<QString>({"c", "a", "b"}));
 }
 
-void tst_Project::RangesGoThroughTheSamplingDialog_data()
+void tst_Project::SamplesAreARangeOrSingleValues()
 {
-    QTest::addColumn<QByteArray>("entries");
-    QTest::addColumn<QVector<double>>("values");
-    QTest::addColumn<int>("spacing");
-    QTest::addColumn<int>("ticked");
-    const auto row = [](const char* name, const char* entries, const QVector<double>& values,
-                        int spacing, int ticked) {
-        QTest::newRow(name) << QByteArray(entries) << values << spacing << ticked;
-    };
-    row("Linear", R"("min": 16, "max": 24, "delta": 4, "spacing": "Linear")", {16, 20, 24}, 0, 1);
-    row("no spacing is Linear", R"("min": -1, "max": 0, "delta": 0.5)", {-1, -0.5, 0}, 0, 1);
-    row("Log10", R"("min": 1, "max": 100, "delta": 99, "spacing": "Log10")", {0, 2}, 1, 1);
-    row("Ln", R"("min": 1, "max": 2, "delta": 1, "spacing": "Ln")", {0, 0.693147}, 2, 1);
-    row("ticked", R"("min": 0, "max": 1, "delta": 1, "ticked": true)", {0, 1}, 0, 1);
-    row("not ticked", R"("min": 0, "max": 1, "delta": 1, "ticked": false)", {0, 1}, 0, 0);
-    row("end not reached", R"("min": 0, "max": 1, "delta": 0.3)", {0, 0.3, 0.6, 0.9}, 0, 1);
-}
-
-void tst_Project::RangesGoThroughTheSamplingDialog()
-{
-    const EmptyDesignStores stores;
-    QFETCH(QByteArray, entries);
-    QFETCH(QVector<double>, values);
     EnterTemporaryDirectory();
-    ModalDriver user;
-    Project::Load(Write(WithSamples("{\"parameter\": \"a\", " + entries + "}"))).FillStores();
-    QCOMPARE(user.Boxes(), QVector<ShownBox>());
-    const sParaArrayData& record = g_mapParaArrays.at("a");
-    QCOMPARE(QVector<double>(record.vecValues.begin(), record.vecValues.end()), values);
-    QCOMPARE(record.strName, QString("a"));
-    QTEST(record.nSampleType, "spacing");
-    QTEST(record.bChecked, "ticked");
-    QVERIFY(record.dMin < record.dMax);
-}
-
-void tst_Project::SingleValuesAreTakenAsTheyAre()
-{
-    const EmptyDesignStores stores;
-    EnterTemporaryDirectory();
-    Project::Load(Write(WithSamples(R"({"parameter": "a", "values": [8, 4.123456789, 8]})")))
-        .FillStores();
-    const sParaArrayData& record = g_mapParaArrays.at("a");
-    QCOMPARE(record.vecValues, std::vector<double>({8, 4.123456789, 8}));
-    QCOMPARE(record.strName, QString("a"));
-    QCOMPARE(record.bChecked, 1);
-}
-
-void tst_Project::ARangeThatTheDialogRefusesShowsItsNotice()
-{
-    const EmptyDesignStores stores;
-    EnterTemporaryDirectory();
-    ModalDriver user;
-    Project::Load(Write(WithSamples(
-                      R"({"parameter": "a", "min": 0, "max": 1, "delta": 1, "spacing": "Gauss"})")))
-        .FillStores();
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({ShownBox::Notice("Error", "Not implement yet")}));
-    QVERIFY(g_mapParaArrays.at("a").vecValues.empty());
+    const Project project = Project::Load(Write(R"({"version": 1,
+        "parameters": [{"name": "a", "value": 1}, {"name": "b", "value": 1}],
+        "samples": [{"parameter": "b", "min": -1, "max": 1, "delta": 0.7, "spacing": "Ln"},
+                    {"parameter": "a", "values": [8, 4.123456789, 8], "ticked": false}]})"));
+    const std::vector<SampleList>& lists = project.SampleLists();
+    QCOMPARE(lists.size(), std::size_t(2));
+    QCOMPARE(lists[0].parameter, QString("b"));
+    QCOMPARE(lists[0].range.min, -1.0);
+    QCOMPARE(lists[0].range.max, 1.0);
+    QCOMPARE(lists[0].range.step, 0.7);
+    QCOMPARE(lists[0].range.spacing, int(SampleSpacing::Ln));
+    QVERIFY(lists[0].values.empty() && lists[0].ticked);
+    QCOMPARE(lists[1].parameter, QString("a"));
+    QCOMPARE(lists[1].values, std::vector<double>({8, 4.123456789, 8}));
+    QVERIFY(!lists[1].ticked);
 }
 
 void tst_Project::BadFilesAreToldInOneLine_data()
@@ -410,206 +333,6 @@ void tst_Project::FeaturesAndConditionsAreRead()
              QString("p.json: feature 1, \"a\", has the unknown kind \"cube\""));
     QCOMPARE(Reason(Write(R"({"version": 1, "conditions": {}})")),
              QString("p.json: the project has a \"conditions\" that is not a list"));
-}
-
-// A project and the stores that it fills, as text.
-static QString Everything(const Project& project)
-{
-    project.FillStores();
-    EvaluateParameters();
-    QStringList lines = {project.Title(), QString::number(project.Density(), 'g', 17)};
-    for (const auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters)
-        lines << name << QString::number(record.m_nType) << record.m_strValue
-              << QString::number(record.m_dValue, 'g', 17)
-              << QString("%1 %2 %3").arg(record.m_dX).arg(record.m_dY).arg(record.m_dZ)
-              << QString::fromStdString(record.m_strExpression) << record.m_strExpressPara
-              << record.m_strDescription;
-    for (const auto& [name, samples] : g_mapParaArrays) {
-        lines << name << QString::number(samples.bChecked) << QString::number(samples.nSampleType);
-        for (const double value : {samples.dMin, samples.dMax, samples.dDelta})
-            lines << QString::number(value, 'g', 17);
-        for (const double value : samples.vecValues)
-            lines << QString::number(value, 'g', 17);
-    }
-    return lines.join('\n');
-}
-
-void tst_Project::ASavedProjectIsLoadedTheSame_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QFile sample(Project::SamplePath());
-    QVERIFY(sample.open(QIODevice::ReadOnly));
-    QTest::newRow("the sample") << sample.readAll();
-    QTest::newRow("little") << QByteArray("{\"version\": 1}");
-    QTest::newRow("everything") << QByteArray(R"({"version": 1, "title": "板", "density": 0.1,
-        "parameters": [
-          {"name": "z", "type": "Bool", "value": true},
-          {"name": "长", "value": 0.30000000000000004, "expression": "2*宽",
-           "expressionParameters": ["宽", "z"], "description": "a length"},
-          {"name": "宽", "expression": "1 +"},
-          {"name": "v", "type": "Vector", "value": [1, 2.5, -3]},
-          {"name": "t", "type": "Tensor", "value": "1 0; 0 1"}],
-        "samples": [
-          {"parameter": "z", "values": [8, 4.123456789012, 8], "ticked": false},
-          {"parameter": "长", "min": 0.1, "max": 10, "delta": 0.7, "spacing": "Ln"}],
-        "features": [
-          {"name": "a", "kind": "box", "fields": {"x": "长", "y": 0.1}},
-          {"name": "b", "kind": "import", "file": "parts/b.step", "suppressed": true},
-          {"name": "c", "kind": "fuse", "inputs": ["a", "b"]}],
-        "conditions": [{"expression": "z > 0", "message": "No {z}."}]})");
-}
-
-void tst_Project::ASavedProjectIsLoadedTheSame()
-{
-    const EmptyDesignStores stores;
-    QFETCH(QByteArray, content);
-    EnterTemporaryDirectory();
-    Project project = Project::Load(Write(content));
-    const QString before = Everything(project);
-    project.Save("saved.json");
-    QCOMPARE(project.Path(), QString("saved.json"));
-    Project again = Project::Load("saved.json");
-    QCOMPARE(Everything(again), before);
-    QVERIFY(again.Features() == Project::Load("p.json").Features());
-    QVERIFY(again.Conditions() == Project::Load("p.json").Conditions());
-
-    QFile file("saved.json");
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray bytes = file.readAll();
-    again.Save("saved.json");
-    QFile twice("saved.json");
-    QVERIFY(twice.open(QIODevice::ReadOnly));
-    QCOMPARE(twice.readAll(), bytes);
-}
-
-void tst_Project::TheStoresAreSavedAsTheyStand()
-{
-    const EmptyDesignStores stores;
-    EnterTemporaryDirectory();
-    Project project = Project::Load(Project::SamplePath());
-    project.FillStores();
-    GlobalParaMeterMgr::m_nameMapParameters["thickness"].m_varRawValue = 25.0;
-    GlobalParaMeterMgr::m_nameMapParameters.erase("fillet_radius");
-    g_mapParaArrays["bolt_count"].vecValues = {6};
-    FeatureList features = project.Features();
-    features.SetSuppressed(10, true);
-    project.SetFeatures(features);
-    project.Save("saved.json");
-
-    Project::Load("saved.json").FillStores();
-    QCOMPARE(GlobalParaMeterMgr::GetParameterRawValue("thickness").toDouble(), 25.0);
-    QCOMPARE(GlobalParaMeterMgr::m_nameMapParameters.count("fillet_radius"), std::size_t(0));
-    QCOMPARE(g_mapParaArrays["bolt_count"].vecValues, std::vector<double>({6}));
-    QVERIFY(Project::Load("saved.json").Features() == features);
-}
-
-void tst_Project::ImportsAreFoundFromAnotherFolder()
-{
-    const EmptyDesignStores stores;
-    const QString directory = EnterTemporaryDirectory();
-    QVERIFY(QDir().mkpath("a/b"));
-    const QByteArray content = R"({"version": 1, "features": [
-        {"name": "a", "kind": "import", "file": "parts/a.step"},
-        {"name": "b", "kind": "import", "file": "/parts/b.step"}]})";
-    Project project = Project::Load(Write(content, "a/p.json"));
-    QCOMPARE(project.Folder(), directory + "/a");
-    project.FillStores();
-    project.Save("a/q.json");
-    QCOMPARE(project.Features().At(0).file, QString("parts/a.step"));
-    project.Save("a/b/q.json");
-    QCOMPARE(project.Features().At(0).file, QString("../parts/a.step"));
-    QCOMPARE(project.Features().At(1).file, QString("/parts/b.step"));
-    project.Save("q.json");
-    QCOMPARE(Project::Load("q.json").Features().At(0).file, QString("a/parts/a.step"));
-}
-
-void tst_Project::WhatCouldNotBeLoadedIsNotSaved_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("features");
-    QTest::addColumn<QString>("reason");
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    QTest::newRow("comma in a name")
-        << "b,c" << 1.0 << 1 << "parameter 2, \"b,c\", has a comma in its name";
-    QTest::newRow("no number") << "b" << nan << 1
-                               << "parameter 2, \"b\", has a \"value\" that is not a number";
-    QTest::newRow("no name") << "" << 1.0 << 1 << "parameter 2 has no \"name\"";
-    QTest::newRow("two features of a name")
-        << "b" << 1.0 << 2 << "features: x: two features have this name.";
-}
-
-void tst_Project::WhatCouldNotBeLoadedIsNotSaved()
-{
-    const EmptyDesignStores stores;
-    QFETCH(QString, name);
-    QFETCH(double, value);
-    QFETCH(int, features);
-    QFETCH(QString, reason);
-    EnterTemporaryDirectory();
-    Project project = Project::Load(Write(WithParameter(R"({"name": "a", "value": 1})")));
-    project.FillStores();
-    ParametersDef record;
-    record.m_nType = ParametersDef::ScalarType;
-    record.m_dValue = value;
-    GlobalParaMeterMgr::AddParameter(name, record);
-    FeatureList list;
-    for (int i = 0; i < features; ++i) {
-        Feature box = FeatureKinds::MakeFeature(FeatureKind::Box);
-        box.name = "x";
-        list.Append(box);
-    }
-    project.SetFeatures(list);
-    Write("kept", "old.json");
-    try {
-        project.Save("old.json");
-        QFAIL("It was saved.");
-    } catch (const ProjectError& error) {
-        QCOMPARE(error.Reason(), "old.json: the project cannot be saved: " + reason);
-    }
-    QFile old("old.json");
-    QVERIFY(old.open(QIODevice::ReadOnly));
-    QCOMPARE(old.readAll(), QByteArray("kept"));
-    QCOMPARE(project.Path(), QString("p.json"));
-}
-
-void tst_Project::AFileThatCannotBeWrittenIsTold()
-{
-    const EmptyDesignStores stores;
-    EnterTemporaryDirectory();
-    Project project = Project::Load(Write("{\"version\": 1}"));
-    project.FillStores();
-    try {
-        project.Save("none/p.json");
-        QFAIL("It was saved.");
-    } catch (const ProjectError& error) {
-        QCOMPARE(error.Reason(),
-                 QString("none/p.json: cannot be written: No such file or directory"));
-    }
-    QCOMPARE(project.Path(), QString("p.json"));
-}
-
-void tst_Project::AFullDiskLeavesTheOldFile()
-{
-    const EmptyDesignStores stores;
-    FullDisk disk;
-    Project project =
-        Project::Load(Write(R"({"version": 1, "title": ")" + QByteArray(7000, 'x') + R"("})"));
-    project.FillStores();
-    project.Save("p.json");
-    const QByteArray before = ContentOf("p.json");
-    disk.Fill(1);
-    try {
-        project.Save("p.json");
-        QFAIL("It was saved.");
-    } catch (const ProjectError& error) {
-        QCOMPARE(error.Reason(), "p.json: cannot be written: " + disk.Reason());
-    }
-    QCOMPARE(ContentOf("p.json"), before);
-    QCOMPARE(AllFiles(), QStringList("p.json"));
-    disk.Empty();
-    project.Save("p.json");
-    QCOMPARE(ContentOf("p.json"), before);
 }
 
 void tst_Project::APartWithoutFeaturesIsTold()

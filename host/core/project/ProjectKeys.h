@@ -1,7 +1,11 @@
 #pragma once
 
-#include <QLatin1String>
+#include "ParametersDef.h"
+#include "SampleSpacing.h"
 
+#include <QString>
+
+#include <algorithm>
 #include <array>
 
 /// The words of project files.
@@ -36,5 +40,13 @@ inline const std::array<QLatin1String, 4> TypeWords = {
 /// In the order of SampleSpacing::Code.
 inline const std::array<QLatin1String, 4> SpacingWords = {
     QLatin1String("Linear"), QLatin1String("Log10"), QLatin1String("Ln"), QLatin1String("Gauss")};
+
+/// The place of @p word in the list, or -1.
+template<std::size_t Size>
+int CodeOf(const QString& word, const std::array<QLatin1String, Size>& words)
+{
+    const auto place = std::find(words.begin(), words.end(), word);
+    return place == words.end() ? -1 : int(place - words.begin());
+}
 
 } // namespace ProjectKeys

@@ -4,9 +4,11 @@
 #include "FeatureList.h"
 #include "HostError.h"
 #include "ParametersDef.h"
+#include "SampleList.h"
 
 #include <QString>
 
+#include <utility>
 #include <vector>
 
 class QJsonObject;
@@ -26,18 +28,6 @@ public:
 class Project
 {
 public:
-    /// The samples of one parameter, given as a range or one by one.
-    struct Samples
-    {
-        QString name;
-        double min = 0.0;
-        double max = 1.0;
-        double delta = 1.0;
-        int spacing = 0;            ///< As sParaArrayData::nSampleType.
-        std::vector<double> values; ///< When not empty, these count instead of the range.
-        bool ticked = true;         ///< Whether the parameter takes part in the study.
-    };
-
     static constexpr int Version = 1;                        ///< Of the files that are read.
     static constexpr int MaximumFileSize = 16 * 1024 * 1024; ///< In bytes.
     static constexpr double SteelDensity = 7850.0; ///< For files that give none, in kg/m3.
@@ -52,7 +42,8 @@ public:
     const QString& Title() const { return m_title; } ///< What the project is called.
     double Density() const { return m_density; }     ///< Of the part, in kg/m3.
     const std::vector<ParametersDef>& Parameters() const { return m_parameters; }
-    const std::vector<Samples>& SampleLists() const { return m_samples; }
+    const std::vector<SampleList>& SampleLists() const { return m_samples; }
+    void SetSampleLists(std::vector<SampleList> lists) { m_samples = std::move(lists); }
     const FeatureList& Features() const { return m_features; }
     void SetFeatures(const FeatureList& features) { m_features = features; }
     const std::vector<Condition>& Conditions() const { return m_conditions; }
@@ -64,16 +55,14 @@ public:
     /// conditions hold. @throws BuildError, also when there is nothing to build
     BuiltPart Build() const;
 
-    /// Writes the project to the file at @p path: parameters and samples as GlobalParaMeterMgr and
-    /// g_mapParaArrays hold them now, and the rest as it is here. Path() is @p path from then on;
-    /// relative paths of imports follow a change of folder. Samples without values are left out.
-    /// What Load() would refuse is not written, and a file that stands there stays until the new
-    /// one is complete. @throws ProjectError
+    /// Writes the project to the file at @p path: the parameters as GlobalParaMeterMgr holds them
+    /// now, the rest as it is here. Path() is @p path from then on; relative paths of imports
+    /// follow a change of folder. A project that Load() would refuse is not written, and an
+    /// existing file stays until the new one is complete. @throws ProjectError
     void Save(const QString& path);
 
-    /// Replaces what GlobalParaMeterMgr and g_mapParaArrays hold by this project. Ranges go through
-    /// the sampling dialog, as if a user typed them, so that dialog may show its notices here.
-    void FillStores() const;
+    /// Replaces the records of GlobalParaMeterMgr by the parameters of this project.
+    void FillParameterStore() const;
 
 private:
     Project() = default;
@@ -86,7 +75,7 @@ private:
     QString m_title;
     double m_density = SteelDensity;
     std::vector<ParametersDef> m_parameters;
-    std::vector<Samples> m_samples;
+    std::vector<SampleList> m_samples;
     FeatureList m_features;
     std::vector<Condition> m_conditions;
 };

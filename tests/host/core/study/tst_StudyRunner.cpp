@@ -1,16 +1,13 @@
-#include "DOEDlg.h"
 #include "EmptyDesignStores.h"
-#include "GlobalParaMeterMgr.h"
+#include "FlangeStudy.h"
 #include "Project.h"
 #include "ResultsTable.h"
 #include "StudyRunner.h"
 #include "TestCase.h"
+#include "TestFiles.h"
 
 #include <QDir>
 #include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 
 #include <cmath>
 
@@ -24,70 +21,19 @@ private Q_SLOTS:
     void ASecondCallPassesOverWhatIsDone();
     void ARunWithoutItsStepFileIsDoneAgain();
     void AFailedRunDoesNotStopTheStudyAndIsTriedAgain();
+    void SamplesKeepAllTheirDigits();
     void OnlyTheRunsAskedForAreDone();
     void RunsThatDoNotExistAreRefused();
     void ResultsOfAnotherStudyAreNotTouched_data();
     void ResultsOfAnotherStudyAreNotTouched();
     void AStudyWithoutRunsIsRefused();
-    void ANoticeEndsTheStudyInsteadOfBlockingIt();
+    void SamplesThatCannotBeGeneratedEndTheStudy();
     void TooManyRunsAreRefused();
     void AnExpressionThatCannotBeSettledFailsTheRun();
     void AFeatureThatCannotBeBuiltFailsTheRun_data();
     void AFeatureThatCannotBeBuiltFailsTheRun();
     void AFolderThatCannotBeMadeIsTold();
-
-    void TheProgramRunsAStudy();
-    void TheProgramTellsFailedRunsByItsExitCode();
-    void TheProgramRefusesBadInputInOneLine_data();
-    void TheProgramRefusesBadInputInOneLine();
-    void TheProgramTellsItsHelpAndVersion();
-    void TheProgramNeedsNoLocale();
 };
-
-// The features and conditions of the sample project, as entries of another one.
-static QByteArray PartOfTheSample()
-{
-    QFile file(Project::SamplePath());
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("The sample project is missing.");
-    const QJsonObject sample = QJsonDocument::fromJson(file.readAll()).object();
-    const QJsonObject part{{"features", sample["features"]}, {"conditions", sample["conditions"]}};
-    return QJsonDocument(part).toJson(QJsonDocument::Compact).mid(1).chopped(1);
-}
-
-// A flange of two thicknesses and two bores. @p bores are its samples of the bore.
-static QByteArray Flange(const QByteArray& bores = "[60, 70]", const QByteArray& density = "7850")
-{
-    return R"({ "version": 1, "density": )" + density + R"(, "parameters": [
-        { "name": "outer_diameter", "value": 200 },
-        { "name": "bore_diameter", "value": 70 },
-        { "name": "thickness", "value": 20 },
-        { "name": "bolt_count", "value": 2 },
-        { "name": "bolt_hole", "value": 18 },
-        { "name": "bolt_circle", "expression": "(outer_diameter + hub_diameter) / 2",
-          "expressionParameters": ["outer_diameter", "hub_diameter"] },
-        { "name": "hub_diameter", "value": 110 },
-        { "name": "hub_height", "expression": "1.5 * thickness",
-          "expressionParameters": ["thickness"] },
-        { "name": "fillet_radius", "value": 0 }
-      ], "samples": [
-        { "parameter": "thickness", "min": 16, "max": 20, "delta": 4 },
-        { "parameter": "bore_diameter", "values": )" +
-           bores + " } ], " + PartOfTheSample() + " }";
-}
-
-static void Write(const QByteArray& content, const QString& path = "p.json")
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("The test's file could not be written.");
-}
-
-static QByteArray Content(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
 
 /// A study in the working directory: p.json into the folder "out".
 struct Outcome
@@ -99,7 +45,7 @@ struct Outcome
 
 static Outcome RunStudy(const QByteArray& project, int first = 0, int last = 0)
 {
-    Write(project);
+    Put("p.json", project);
     Outcome outcome;
     StudyRunner::Options options;
     options.directory = "out";
@@ -169,20 +115,20 @@ void tst_StudyRunner::ASecondCallPassesOverWhatIsDone()
     const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     RunStudy(Flange(), 2, 3);
-    const QByteArray step = Content("out/run_0002.step");
-    Write("kept", "out/run_0003.step");
+    const QByteArray step = ContentOf("out/run_0002.step");
+    Put("out/run_0003.step", "kept");
     const Outcome outcome = RunStudy(Flange());
     QCOMPARE(outcome.error, QString());
     QCOMPARE(outcome.summary.ok, 2);
     QCOMPARE(outcome.summary.skipped, 2);
     QCOMPARE(outcome.told[1], QString("run 2 of 4: done before"));
-    QCOMPARE(Content("out/run_0002.step"), step);
-    QCOMPARE(Content("out/run_0003.step"), QByteArray("kept"));
+    QCOMPARE(ContentOf("out/run_0002.step"), step);
+    QCOMPARE(ContentOf("out/run_0003.step"), QByteArray("kept"));
     QCOMPARE(Results().Runs().size(), std::size_t(4));
 
-    const QByteArray table = Content("out/results.csv");
+    const QByteArray table = ContentOf("out/results.csv");
     QCOMPARE(RunStudy(Flange()).summary.skipped, 4);
-    QCOMPARE(Content("out/results.csv"), table);
+    QCOMPARE(ContentOf("out/results.csv"), table);
 }
 
 void tst_StudyRunner::ARunWithoutItsStepFileIsDoneAgain()
@@ -219,6 +165,19 @@ void tst_StudyRunner::AFailedRunDoesNotStopTheStudyAndIsTriedAgain()
     QCOMPARE(outcome.summary.failed, 2);
 }
 
+void tst_StudyRunner::SamplesKeepAllTheirDigits()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    QCOMPARE(RunStudy(Flange("[60.00001, 60.00002, 60.00003]")).summary.ok, 6);
+    const std::map<int, RunResult> runs = Results().Runs();
+    QCOMPARE(runs.at(1).values[1], 60.00001);
+    QCOMPARE(runs.at(3).values[1], 60.00002);
+    QCOMPARE(runs.at(5).values[1], 60.00003);
+    QVERIFY(runs.at(1).measures.volume > runs.at(3).measures.volume);
+    QVERIFY(runs.at(3).measures.volume > runs.at(5).measures.volume);
+}
+
 void tst_StudyRunner::OnlyTheRunsAskedForAreDone()
 {
     const EmptyDesignStores stores;
@@ -242,12 +201,13 @@ void tst_StudyRunner::ResultsOfAnotherStudyAreNotTouched_data()
 {
     QTest::addColumn<QByteArray>("project");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("other values") << Flange("[60, 71]")
-                                  << "run 3 there is not of this study; choose another folder";
-    QTest::newRow("fewer runs") << Flange("[60]")
-                                << "run 3 there is not of this study; choose another folder";
+    QTest::newRow("other values")
+        << Flange("[60, 71]") << "run 3 in it belongs to a different study; choose another folder";
+    QTest::newRow("fewer runs")
+        << Flange("[60]") << "run 3 in it belongs to a different study; choose another folder";
     QTest::newRow("another density")
-        << Flange("[60, 70]", "2700") << "run 3 there is not of this study; choose another folder";
+        << Flange("[60, 70]", "2700")
+        << "run 3 in it belongs to a different study; choose another folder";
     QTest::newRow("other parameters")
         << Flange().replace("\"parameters\": [", "\"parameters\": [{\"name\":\"x\",\"value\":1},")
         << "holds the results of another study; choose another folder";
@@ -260,9 +220,9 @@ void tst_StudyRunner::ResultsOfAnotherStudyAreNotTouched()
     QFETCH(QString, reason);
     EnterTemporaryDirectory();
     RunStudy(Flange(), 3, 3);
-    const QByteArray table = Content("out/results.csv");
+    const QByteArray table = ContentOf("out/results.csv");
     QCOMPARE(RunStudy(project).error, "out/results.csv: " + reason);
-    QCOMPARE(Content("out/results.csv"), table);
+    QCOMPARE(ContentOf("out/results.csv"), table);
     QCOMPARE(QDir("out").entryList(QDir::Files).size(), 2);
 }
 
@@ -276,13 +236,15 @@ void tst_StudyRunner::AStudyWithoutRunsIsRefused()
                                     "ticked and has samples"));
 }
 
-void tst_StudyRunner::ANoticeEndsTheStudyInsteadOfBlockingIt()
+void tst_StudyRunner::SamplesThatCannotBeGeneratedEndTheStudy()
 {
     const EmptyDesignStores stores;
     EnterTemporaryDirectory();
     const Outcome outcome =
         RunStudy(Flange().replace("\"delta\": 4", "\"delta\": 4, \"spacing\": \"Gauss\""));
-    QCOMPARE(outcome.error, QString("p.json: Not implement yet"));
+    QCOMPARE(outcome.error,
+             QString("p.json: the sample list of \"thickness\" has Gauss spacing, which "
+                     "is not implemented"));
     QVERIFY(!QFile::exists("out"));
 }
 
@@ -306,8 +268,8 @@ void tst_StudyRunner::AnExpressionThatCannotBeSettledFailsTheRun()
                                      1, 1);
     QCOMPARE(outcome.summary.failed, 1);
     QCOMPARE(outcome.told[0],
-             QString("run 1 of 4: failed: hub_height: its expression uses \"height\", which is no "
-                     "parameter"));
+             QString("run 1 of 4: failed: hub_height: its expression uses \"height\", which is not "
+                     "a parameter"));
 }
 
 void tst_StudyRunner::AFeatureThatCannotBeBuiltFailsTheRun_data()
@@ -353,133 +315,8 @@ void tst_StudyRunner::AFolderThatCannotBeMadeIsTold()
 {
     const EmptyDesignStores stores;
     EnterTemporaryDirectory();
-    Write("a file", "out");
-    QCOMPARE(RunStudy(Flange()).error, QString("out: the folder cannot be made"));
-}
-
-/// What the program did, started as a user starts it: without a display.
-struct Process
-{
-    int code = -1;
-    QString out;
-    QString error;
-};
-
-static Process RunProgram(const QStringList& arguments,
-                          const QMap<QString, QString>& variables = {})
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char* name :
-         {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR", "QT_LOGGING_RULES"})
-        environment.remove(name);
-    for (auto it = variables.begin(); it != variables.end(); ++it)
-        environment.insert(it.key(), it.value());
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(TARN_HOST_PROGRAM, arguments);
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
-        return {};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
-void tst_StudyRunner::TheProgramRunsAStudy()
-{
-    EnterTemporaryDirectory();
-    Write(Flange());
-    Process process = RunProgram({"--study", "p.json", "--out", "out", "--runs", "1-2"});
-    QCOMPARE(process.error, QString());
-    QCOMPARE(process.code, 0);
-    const QStringList lines = process.out.split('\n');
-    QCOMPARE(lines.size(), 4);
-    QVERIFY(lines[0].startsWith("run 1 of 4: ok, volume "));
-    QVERIFY(lines[1].startsWith("run 2 of 4: ok, volume "));
-    QCOMPARE(lines[2], QString("2 ok, 0 failed, 0 done before; see out/results.csv"));
-
-    process = RunProgram({"--study", "p.json", "--out", "out", "--runs", "2"});
-    QCOMPARE(process.error, QString());
-    QCOMPARE(process.out, QString("run 2 of 4: done before\n"
-                                  "0 ok, 0 failed, 1 done before; see out/results.csv\n"));
-    QCOMPARE(process.code, 0);
-}
-
-void tst_StudyRunner::TheProgramTellsFailedRunsByItsExitCode()
-{
-    EnterTemporaryDirectory();
-    Write(Flange("[150]"));
-    const Process process = RunProgram({"--study", "p.json", "--out", "out", "--runs", "1"});
-    QCOMPARE(process.error, QString());
-    QCOMPARE(process.code, 1);
-    QCOMPARE(process.out,
-             QString("run 1 of 2: failed: The bore (150) is not smaller than the hub (110).\n"
-                     "0 ok, 1 failed, 0 done before; see out/results.csv\n"));
-}
-
-void tst_StudyRunner::TheProgramRefusesBadInputInOneLine_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("reason");
-    const auto row = [](const char* name, const QStringList& arguments, const char* reason) {
-        QTest::newRow(name) << arguments << QString("tarnhost: %1\n").arg(reason);
-    };
-    row("unknown option", {"--bogus"}, "Unknown option 'bogus'.");
-    row("bad runs", {"--study", "p.json", "--out", "out", "--runs", "x"},
-        "--runs x: runs are given as 3-7 or 5, counted from 1");
-    row("runs out of range", {"--study", "p.json", "--out", "out", "--runs", "9"},
-        "p.json: the study has the runs 1 to 4, so 9-9 cannot be run");
-    row("no such file", {"--study", "none.json", "--out", "out"},
-        "none.json: cannot be opened: No such file or directory");
-    row("a folder", {"--study", ".", "--out", "out"}, ".: is a folder, not a file");
-    row("broken file", {"--study", "broken.json", "--out", "out"},
-        "broken.json: is not valid JSON: unterminated object at byte 1");
-    row("a notice", {"--study", "gauss.json", "--out", "out"}, "gauss.json: Not implement yet");
-    row("folder is a file", {"--study", "p.json", "--out", "broken.json"},
-        "broken.json: the folder cannot be made");
-    row("broken file for Chinese windows",
-        {"--screenshots", "pictures", "--lang", "zh_CN", "broken.json"},
-        "broken.json: is not valid JSON: unterminated object at byte 1");
-    row("pictures into a file", {"--screenshots", "broken.json"},
-        "broken.json: the folder cannot be made");
-    row("no display", {"p.json"},
-        "there is no display; --study and --screenshots work without one, see --help");
-}
-
-void tst_StudyRunner::TheProgramRefusesBadInputInOneLine()
-{
-    QFETCH(QStringList, arguments);
-    EnterTemporaryDirectory();
-    Write(Flange());
-    Write("{", "broken.json");
-    Write(Flange().replace("\"delta\": 4", "\"delta\": 4, \"spacing\": \"Gauss\""), "gauss.json");
-    const Process process = RunProgram(arguments);
-    QTEST(process.error, "reason");
-    QCOMPARE(process.code, 2);
-    QCOMPARE(process.out, QString());
-}
-
-void tst_StudyRunner::TheProgramTellsItsHelpAndVersion()
-{
-    Process process = RunProgram({"--help"});
-    QCOMPARE(process.error, QString());
-    QCOMPARE(process.code, 0);
-    QVERIFY(process.out.contains("--study <file>"));
-    process = RunProgram({"--version"});
-    QCOMPARE(process.code, 0);
-    QVERIFY(process.out.startsWith("tarnhost 0."));
-}
-
-void tst_StudyRunner::TheProgramNeedsNoLocale()
-{
-    EnterTemporaryDirectory();
-    Write(Flange());
-    const Process process = RunProgram({"--study", "p.json", "--out", "out", "--runs", "1"},
-                                       {{"LC_ALL", "de_DE.UTF-8"}, {"LANG", "de_DE.UTF-8"}});
-    QCOMPARE(process.error, QString());
-    QCOMPARE(process.code, 0);
-    QVERIFY(Content("out/results.csv").contains("\n1,200,60,16,2,18,155,110,24,0,"));
-    const QByteArray step = Content("out/run_0001.step");
-    QVERIFY(step.contains("CARTESIAN_POINT"));
-    QVERIFY(!step.contains(",0000"));
+    Put("out", "a file");
+    QCOMPARE(RunStudy(Flange()).error, QString("out: cannot create the folder"));
 }
 
 TARN_TEST_MAIN(tst_StudyRunner)

@@ -1,0 +1,178 @@
+#include "Project.h"
+
+#include "FeatureBuilder.h"
+#include "GlobalParaMeterMgr.h"
+#include "JsonSection.h"
+#include "ParameterJson.h"
+#include "ProjectKeys.h"
+#include "SampleListJson.h"
+#include "WholeFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QSet>
+
+using namespace ProjectKeys;
+
+// The macro wants to stand outside every namespace.
+static void InitializeSamples()
+{
+    Q_INIT_RESOURCE(samples);
+}
+
+namespace {
+
+QJsonValue ParseJson(const QByteArray& bytes)
+{
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
+    if (error.error != QJsonParseError::NoError)
+        throw JsonError(JsonError::tr("is not valid JSON: %1 at byte %2")
+                            .arg(error.errorString())
+                            .arg(error.offset));
+    return document.isObject() ? QJsonValue(document.object()) : QJsonValue();
+}
+
+} // namespace
+
+QString Project::SamplePath()
+{
+    InitializeSamples();
+    return QStringLiteral(":/samples/flange.json");
+}
+
+Project Project::Load(const QString& path)
+{
+    Project project;
+    project.m_path = path;
+    try {
+        tarn::WholeFile file(path, MaximumFileSize);
+        QByteArray bytes;
+        if (!file.Read(bytes))
+            throw JsonError(file.Error());
+        project.Read(ParseJson(bytes));
+    } catch (const JsonError& error) {
+        throw ProjectError(QStringLiteral("%1: %2").arg(path.simplified(), error.Reason()));
+    }
+    return project;
+}
+
+void Project::Read(const QJsonValue& json)
+{
+    // The version first: a newer file may have entries that are unknown here.
+    const double version = json.toObject().value(VersionKey).toDouble(Version);
+    if (version > Version)
+        throw JsonError(JsonError::tr("the project is of version %1; this program reads version %2")
+                            .arg(version)
+                            .arg(Version));
+    const JsonSection root(
+        JsonError::tr("the project"), json,
+        {VersionKey, TitleKey, DensityKey, ParametersKey, SamplesKey, FeaturesKey, ConditionsKey});
+    if (root.Number(VersionKey) != Version)
+        root.FailAt(VersionKey, QString::number(Version));
+
+    m_title = root.Text(TitleKey, QFileInfo(m_path).completeBaseName());
+    if (root.Has(DensityKey))
+        m_density = root.Number(DensityKey);
+    if (!(m_density > 0.0))
+        root.FailAt(DensityKey, JsonError::tr("above 0"));
+
+    QSet<QString> names;
+    const QJsonArray parameters = root.Array(ParametersKey);
+    for (const QJsonValue& value : parameters) {
+        m_parameters.push_back(ReadParameter(value, int(m_parameters.size()) + 1));
+        const QString& name = m_parameters.back().m_strName;
+        if (names.contains(name))
+            root.Fail(JsonError::tr("has two parameters %1").arg(Quoted(name)));
+        names.insert(name);
+    }
+
+    QSet<QString> sampled;
+    const QJsonArray samples = root.Array(SamplesKey);
+    for (const QJsonValue& value : samples) {
+        m_samples.push_back(ReadSampleList(value, int(m_samples.size()) + 1));
+        const QString& name = m_samples.back().parameter;
+        if (!names.contains(name))
+            root.Fail(JsonError::tr("has samples for %1, which is no parameter").arg(Quoted(name)));
+        if (sampled.contains(name))
+            root.Fail(JsonError::tr("has two sample lists for %1").arg(Quoted(name)));
+        sampled.insert(name);
+    }
+
+    m_features = FeatureList::FromJson(root.Array(FeaturesKey));
+    m_conditions = ReadConditions(root.Array(ConditionsKey));
+}
+
+QJsonObject Project::ToJson() const
+{
+    QJsonObject json{{VersionKey, Version},
+                     {TitleKey, m_title},
+                     {DensityKey, m_density},
+                     {ParametersKey, StoredParameters()},
+                     {SamplesKey, ::ToJson(m_samples)}};
+    if (!m_features.IsEmpty())
+        json.insert(FeaturesKey, m_features.ToJson());
+    if (!m_conditions.empty())
+        json.insert(ConditionsKey, ConditionsToJson(m_conditions));
+    return json;
+}
+
+QString Project::Folder() const
+{
+    return QFileInfo(m_path).absolutePath();
+}
+
+FeatureList Project::FeaturesSeenFrom(const QString& path) const
+{
+    const QDir before(Folder());
+    const QDir after(QFileInfo(path).absolutePath());
+    FeatureList features = m_features;
+    for (int index = 0; index < features.Size(); ++index) {
+        Feature feature = features.At(index);
+        if (before == after || feature.file.isEmpty() || QFileInfo(feature.file).isAbsolute())
+            continue;
+        feature.file = after.relativeFilePath(before.filePath(feature.file));
+        features.Replace(index, feature);
+    }
+    return features;
+}
+
+void Project::Save(const QString& path)
+{
+    const auto fail = [&](const QString& reason) {
+        throw ProjectError(QStringLiteral("%1: %2").arg(path.simplified(), reason));
+    };
+    Project written = *this;
+    written.m_path = path;
+    written.m_features = FeaturesSeenFrom(path);
+    const QByteArray bytes = QJsonDocument(written.ToJson()).toJson();
+    Project read;
+    try {
+        read.Read(ParseJson(bytes));
+    } catch (const JsonError& error) {
+        fail(JsonError::tr("the project cannot be saved: %1").arg(error.Reason()));
+    }
+
+    tarn::WholeFile file(path, MaximumFileSize);
+    if (!file.Write(bytes))
+        fail(file.Error());
+    read.m_path = path;
+    *this = read;
+}
+
+BuiltPart Project::Build() const
+{
+    CheckConditions(m_conditions);
+    BuiltPart part = FeatureBuilder::Build(m_features, Folder());
+    if (part.shape.IsNull())
+        throw BuildError(BuildError::tr("The project has no features, so there is no part."));
+    return part;
+}
+
+void Project::FillParameterStore() const
+{
+    GlobalParaMeterMgr::m_nameMapParameters.clear();
+    for (const ParametersDef& record : m_parameters)
+        GlobalParaMeterMgr::AddParameter(record.m_strName, record);
+}
