@@ -12,11 +12,11 @@ private Q_SLOTS:
     void TheMapIsACopy();
     void AnUnknownNameGivesNull();
     void ANullRecordIsIgnored();
-    void ARecordHeldAlreadyIsHeldOnce();
+    void AddingARecordTwiceHoldsItOnce();
     void ARenamedRecordIsHeldUnderItsNewName();
     void ARecordRenamedOntoAnotherWins();
     void AReplacedRecordCanBeGivenAgain();
-    void PointersLiveUntilTheStoreIsCleared();
+    void PointersStayValidUntilTheStoreIsCleared();
     void ClearingForgetsAll();
 };
 
@@ -56,7 +56,7 @@ void tst_KVPropertyData::ANullRecordIsIgnored()
     QCOMPARE(Keys(), QStringList());
 }
 
-void tst_KVPropertyData::ARecordHeldAlreadyIsHeldOnce()
+void tst_KVPropertyData::AddingARecordTwiceHoldsItOnce()
 {
     CQLTElemPropDef* const record = Record("a");
     Store().AddPropInfo(record);
@@ -102,7 +102,7 @@ void tst_KVPropertyData::AReplacedRecordCanBeGivenAgain()
     QCOMPARE(Contents(), QStringList({"a:a:1", "b:b:2"}));
 }
 
-void tst_KVPropertyData::PointersLiveUntilTheStoreIsCleared()
+void tst_KVPropertyData::PointersStayValidUntilTheStoreIsCleared()
 {
     CQLTElemPropDef* const record = Record("a", 1.0);
     Store().AddPropInfo(record);

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// A text, and the part of its widget where it is drawn.
+/// A text and the part of its widget where it is drawn.
 struct Placed
 {
     QString text;
@@ -69,7 +69,7 @@ Placed TextOf(const QWidget& widget)
     return {};
 }
 
-// What of the place the windows around it let be seen.
+// The part of @p place that the enclosing widgets leave visible.
 QRect Seen(const QWidget& widget, QRect place)
 {
     place &= widget.rect();
@@ -89,7 +89,7 @@ bool Fits(const QWidget& widget, const Placed& placed)
     const auto* const label = qobject_cast<const QLabel*>(&widget);
     if (label != nullptr && label->wordWrap())
         return label->heightForWidth(seen.width()) <= seen.height();
-    // The letters themselves: their line may be higher than a label and they fit nevertheless.
+    // The height of the letters, because a line may be higher than a label whose letters fit.
     return metrics.size(Qt::TextShowMnemonic, placed.text).width() <= seen.width() &&
            metrics.tightBoundingRect(placed.text).height() <= seen.height();
 }
@@ -123,7 +123,7 @@ QMap<QString, QString> ClippedTexts(const QWidget& window)
     QMap<QString, QString> clipped;
     const QList<QWidget*> widgets = window.findChildren<QWidget*>();
     for (const QWidget* const widget : widgets) {
-        // A page that is not on top has no size of its own yet.
+        // A hidden page has no size of its own yet.
         if (!widget->isVisible())
             continue;
         const auto* const header = qobject_cast<const QHeaderView*>(widget);

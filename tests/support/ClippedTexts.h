@@ -4,7 +4,7 @@
 #include <QString>
 #include <QWidget>
 
-/// The texts of a window that its labels, buttons, group boxes, combo boxes, tabs and column
-/// headers have no room for: by place, such as `QLabel label_2` or `QHeaderView of tableWidget,
-/// section 1`. The window has to be laid out, as it is once it was shown.
+/// The texts that labels, buttons, group boxes, combo boxes, tabs and column headers of a window
+/// cut off. The keys are places such as `QLabel label_2` or `QHeaderView of tableWidget, section
+/// 1`. The window must be laid out, as it is after it has been shown.
 QMap<QString, QString> ClippedTexts(const QWidget& window);

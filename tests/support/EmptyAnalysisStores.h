@@ -5,8 +5,8 @@
 
 #include <QtGlobal>
 
-/// Empties the stores of materials and element properties, now and when it goes: they live as long
-/// as the process.
+/// Clears the stores of materials and element properties on construction and destruction, because
+/// they live as long as the process.
 class EmptyAnalysisStores
 {
 public:

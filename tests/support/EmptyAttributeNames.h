@@ -4,7 +4,8 @@
 
 #include <QtGlobal>
 
-/// Empties the registry of attribute names, now and when it goes: it lives as long as the process.
+/// Clears the registry of attribute names on construction and destruction, because it lives as long
+/// as the process.
 class EmptyAttributeNames
 {
 public:

@@ -3,8 +3,8 @@
 #include "GlobalParaMeterMgr.h"
 #include "sParaArrayData.h"
 
-/// Empties the parameter store and the sampling registry, now and when it goes: both live as long
-/// as the process. The first line of a test function that touches them.
+/// Clears the parameter store and the sampling registry on construction and destruction, because
+/// both live as long as the process. Put it on the first line of a test function that uses them.
 class EmptyDesignStores
 {
 public:

@@ -33,7 +33,7 @@ FullDisk::FullDisk()
     : m_before(QDir::currentPath())
     , m_isMounted(Mount())
 {
-    // The filler is not to be among the files of the test.
+    // The filler must not be among the files of the test.
     const QString folder = m_directory.filePath(QStringLiteral("disk"));
     if (!QDir().mkdir(folder) || !QDir::setCurrent(folder))
         qFatal("The test's disk could not be entered.");
@@ -49,7 +49,7 @@ FullDisk::~FullDisk()
 
 bool FullDisk::Mount()
 {
-    // In a namespace of its own the system unmounts it, even if the test crashes.
+    // In a separate namespace, the system unmounts it even if the test crashes.
     return unshare(CLONE_NEWNS) == 0 &&
            mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
            mount("none", QFile::encodeName(m_directory.path()).constData(), "tmpfs", 0,

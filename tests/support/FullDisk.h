@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// While it lives, no file that this process writes can grow beyond a size, and the process gets an
+/// Limits the size of the files that this process writes, for its lifetime. The process gets an
 /// error instead of the signal.
 class FileSizeLimit
 {
@@ -21,10 +21,10 @@ private:
     rlimit m_before{};
 };
 
-/// A small disk that a test fills up. Its folder is the working directory while it lives.
+/// A small disk that a test fills up. Its folder is the working directory for its lifetime.
 ///
-/// It is a file system of its own in memory, which nobody but this process sees and which goes with
-/// the process. Without the right to mount one, a FileSizeLimit replaces it.
+/// It is a separate file system in memory, visible only to this process and removed with it.
+/// Without the right to mount one, a FileSizeLimit replaces it.
 class FullDisk
 {
 public:
@@ -38,7 +38,7 @@ public:
     /// Makes room again.
     void Empty();
 
-    /// What the system says when there is no more room.
+    /// The error text of the system for a full disk.
     QString Reason() const;
 
 private:

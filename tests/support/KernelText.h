@@ -7,8 +7,8 @@
 
 #include <cmath>
 
-/// Values of the kernel as text of 12 significant digits, for QCOMPARE: equal within that, and
-/// readable where they are not.
+/// Formats kernel values with 12 significant digits, so that QCOMPARE ignores smaller differences
+/// and prints readable values.
 inline QString KernelText(const gp_XYZ& value)
 {
     const auto number = [](double x) {
@@ -33,7 +33,7 @@ inline QString KernelText(const gp_Ax1& axis)
     return KernelText(axis.Location()) + QStringLiteral(" along ") + KernelText(axis.Direction());
 }
 
-/// What the transformation makes of the origin and of the three unit points.
+/// The images of the origin and of the three unit points.
 inline QString KernelText(const gp_Trsf& transform)
 {
     QStringList images;
