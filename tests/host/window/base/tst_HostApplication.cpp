@@ -25,7 +25,7 @@ namespace {
 const QString DialogFont = QStringLiteral("微软雅黑");
 
 // What the application object left behind, noted before the test framework sets its own locale.
-bool g_decimalSignIsFullStop = false;
+bool g_hasDecimalPoint = false;
 bool g_codePageIsUtf8 = false;
 
 const QEvent::Type FailingEvent = QEvent::Type(QEvent::registerEventType());
@@ -56,9 +56,9 @@ class tst_HostApplication : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void NumbersHaveAFullStopUnderEverySystemLocale();
+    void NumbersHaveADecimalPointInEverySystemLocale();
     void EightBitTextsAreUtf8();
-    void TheDialogFontHasASubstituteThatKnowsItsCharacters();
+    void TheDialogFontHasASubstituteWithItsCharacters();
     void TheApplicationHasNameVersionAndIcon();
 
     void AnExceptionBecomesAMessage_data();
@@ -67,13 +67,13 @@ private Q_SLOTS:
     void APostedEventMayFail();
     void ATimerMayFailInsideAnEventLoop();
     void AKernelFailureNamesItsKind();
-    void AConstructionErrorIsToldInTheWordsGiven();
-    void APerCentSignInAReasonIsNoFormat();
+    void AConstructionErrorIsReportedWithTheGivenText();
+    void APercentSignInAReasonIsNotAFormat();
 };
 
-void tst_HostApplication::NumbersHaveAFullStopUnderEverySystemLocale()
+void tst_HostApplication::NumbersHaveADecimalPointInEverySystemLocale()
 {
-    QVERIFY(g_decimalSignIsFullStop);
+    QVERIFY(g_hasDecimalPoint);
 }
 
 void tst_HostApplication::EightBitTextsAreUtf8()
@@ -81,7 +81,7 @@ void tst_HostApplication::EightBitTextsAreUtf8()
     QVERIFY(g_codePageIsUtf8);
 }
 
-void tst_HostApplication::TheDialogFontHasASubstituteThatKnowsItsCharacters()
+void tst_HostApplication::TheDialogFontHasASubstituteWithItsCharacters()
 {
     if (QFontDatabase().hasFamily(DialogFont)) {
         QVERIFY(QFont::substitutes(DialogFont).isEmpty());
@@ -169,8 +169,7 @@ void tst_HostApplication::ATimerMayFailInsideAnEventLoop()
     timer.setSingleShot(true);
     connect(&timer, &QTimer::timeout, this, [] { throw std::runtime_error("timer"); });
     timer.start(0);
-    QTest::qWait(20);
-    QCOMPARE(messages.count(), 1);
+    QTRY_COMPARE(messages.count(), 1);
 }
 
 void tst_HostApplication::AKernelFailureNamesItsKind()
@@ -182,7 +181,7 @@ void tst_HostApplication::AKernelFailureNamesItsKind()
     QVERIFY(messages[0][1].toString().contains("Standard_ConstructionError"));
 }
 
-void tst_HostApplication::AConstructionErrorIsToldInTheWordsGiven()
+void tst_HostApplication::AConstructionErrorIsReportedWithTheGivenText()
 {
     FailingObject zeroDirection([] { gp_Dir(0.0, 0.0, 0.0); });
     FailingObject other([] { throw std::runtime_error("other"); });
@@ -203,7 +202,7 @@ void tst_HostApplication::AConstructionErrorIsToldInTheWordsGiven()
     QVERIFY(posted[2][1].toString().contains("Standard_ConstructionError"));
 }
 
-void tst_HostApplication::APerCentSignInAReasonIsNoFormat()
+void tst_HostApplication::APercentSignInAReasonIsNotAFormat()
 {
     FailingObject object([] { throw std::runtime_error("%s at 100%n"); });
     QSignalSpy messages(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
@@ -219,7 +218,7 @@ int main(int argc, char** argv)
     qputenv("LC_ALL", "de_DE.UTF-8");
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO 8859-1"));
     HostApplication application(argc, argv);
-    g_decimalSignIsFullStop = std::localeconv()->decimal_point == QByteArray(".");
+    g_hasDecimalPoint = std::localeconv()->decimal_point == QByteArray(".");
     g_codePageIsUtf8 = QTextCodec::codecForLocale()->name() == "UTF-8";
     tst_HostApplication test;
     return QTest::qExec(&test, argc, argv);

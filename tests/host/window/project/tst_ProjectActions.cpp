@@ -1,18 +1,16 @@
 #include "DrawerOutput.h"
 #include "EmptyDesignStores.h"
+#include "FileChoice.h"
 #include "ModalDriver.h"
 #include "NewFeature.h"
 #include "PartModel.h"
 #include "ProjectActions.h"
 #include "TestCase.h"
+#include "TestFiles.h"
 
 #include <QAction>
-#include <QDialogButtonBox>
 #include <QDir>
-#include <QFile>
-#include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
 #include <QSignalSpy>
 
 class tst_ProjectActions : public TestCase
@@ -44,11 +42,7 @@ struct Opened
 
     void SaveAs(const QString& path)
     {
-        user.Then([path](QDialog& dialog) {
-            Find<QLineEdit>(dialog, "fileNameEdit").setText(path);
-            auto& buttons = Find<QDialogButtonBox>(dialog, "buttonBox");
-            QTest::mouseClick(buttons.button(QDialogButtonBox::Save), Qt::LeftButton);
-        });
+        ChooseFile(user, path);
         Trigger("action_SaveProjectAs");
         QVERIFY(user.IsDone());
     }
@@ -60,13 +54,6 @@ struct Opened
     ProjectActions* actions = new ProjectActions(model, &window);
     ModalDriver user;
 };
-
-void WriteFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 const QByteArray ProjectWithImport =
     R"({ "version": 1, "title": "Nut", "density": 1000, "parameters": [],
@@ -100,7 +87,7 @@ void tst_ProjectActions::AnOpenedProjectFillsStoresAndModel()
 void tst_ProjectActions::ItsImportsAreLookedForBesideIt()
 {
     const QString directory = EnterTemporaryDirectory();
-    WriteFile("nut.json", ProjectWithImport);
+    Put("nut.json", ProjectWithImport);
     const Opened opened(directory + "/nut.json");
     QCOMPARE(QDir(opened.model.Folder()), QDir(directory));
     QCOMPARE(opened.actions->Density(), 1000.0);
@@ -110,7 +97,7 @@ void tst_ProjectActions::ImportsAreFoundAfterSavingElsewhere()
 {
     const QString directory = EnterTemporaryDirectory();
     QVERIFY(QDir().mkpath("a") && QDir().mkpath("b/c"));
-    WriteFile("a/nut.json", ProjectWithImport);
+    Put("a/nut.json", ProjectWithImport);
     Opened opened(directory + "/a/nut.json");
     // Twice: what was saved first does not change what the second one finds.
     for (const char* const name : {"/b/c/first.json", "/b/second.json"}) {
