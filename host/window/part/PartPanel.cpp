@@ -19,7 +19,7 @@ constexpr double SquareMillimetresPerSquareCentimetre = 1e2;
 // A bounding box has tiny rests where a shape ends at 0.
 QString LengthText(double millimetres)
 {
-    const double rounded = qRound64(millimetres * 1e3) / 1e3;
+    const double rounded = double(qRound64(millimetres * 1e3)) / 1e3;
     return ShortText(rounded);
 }
 

@@ -570,7 +570,7 @@ static FeatureList RandomList(unsigned seed)
 {
     std::mt19937 random(seed);
     const auto number = [&](double least, double greatest) {
-        return least + (greatest - least) * (random() / 4294967296.0);
+        return least + (greatest - least) * (double(random()) / 4294967296.0);
     };
     const auto text = [&](double least, double greatest) {
         return QString::number(number(least, greatest), 'f', 3);
