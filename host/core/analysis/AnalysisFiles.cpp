@@ -1,17 +1,12 @@
 #include "AnalysisFiles.h"
 
+#include "BuiltInFiles.h"
 #include "KVMaterialData.h"
 #include "KVPropertyData.h"
 #include "WholeFile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-
-// Outside every namespace, as the macro needs it: the file comes with a static library.
-static void LoadBuiltInFile()
-{
-    Q_INIT_RESOURCE(materials);
-}
 
 namespace {
 
@@ -27,8 +22,7 @@ QString InstalledSystemMaterials()
                         QStringLiteral(TARN_DATA_FROM_PROGRAM "/SysMaterial.xml");
     if (QFileInfo(installed).isFile())
         return installed;
-    LoadBuiltInFile();
-    return QStringLiteral(":/SysMaterial.xml");
+    return BuiltInPath(QStringLiteral("SysMaterial.xml"));
 }
 
 bool ProvideSystemMaterials(const QString& library)

@@ -1,19 +1,14 @@
 #include "Language.h"
 
+#include "BuiltInFiles.h"
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 
-// Outside every namespace, as the macro needs it: the texts come with a static library.
-static void LoadBuiltInTexts()
-{
-    Q_INIT_RESOURCE(translations);
-}
-
 Language::Language(const QString& name)
 {
-    LoadBuiltInTexts();
-    const QString own = QStringLiteral(":/translations");
+    const QString own = BuiltInPath(QStringLiteral("translations"));
     const auto add = [this, &name](const QString& texts, const QString& directory) {
         auto translator = std::make_unique<QTranslator>();
         // The host's and the toolkit's own texts are English already.

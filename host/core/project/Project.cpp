@@ -1,5 +1,6 @@
 #include "Project.h"
 
+#include "BuiltInFiles.h"
 #include "FeatureBuilder.h"
 #include "GlobalParaMeterMgr.h"
 #include "JsonSection.h"
@@ -14,12 +15,6 @@
 #include <QSet>
 
 using namespace ProjectKeys;
-
-// The macro wants to stand outside every namespace.
-static void InitializeSamples()
-{
-    Q_INIT_RESOURCE(samples);
-}
 
 namespace {
 
@@ -38,8 +33,7 @@ QJsonValue ParseJson(const QByteArray& bytes)
 
 QString Project::SamplePath()
 {
-    InitializeSamples();
-    return QStringLiteral(":/samples/flange.json");
+    return BuiltInPath(QStringLiteral("samples/flange.json"));
 }
 
 Project Project::Load(const QString& path)
