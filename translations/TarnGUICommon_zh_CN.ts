@@ -330,10 +330,10 @@
     </message>
 </context>
 <context>
-    <name>ExpressionError</name>
+    <name>ExpressionText</name>
     <message>
-        <source>the expression cannot be evaluated</source>
-        <translation>表达式无法计算</translation>
+        <source>Position 1: the expression cannot be evaluated</source>
+        <translation>位置 1：表达式无法计算</translation>
     </message>
     <message>
         <source>Position %1: %2</source>
@@ -356,8 +356,8 @@
         <translation>数值过大</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is a variable here and no function</source>
-        <translation>&apos;%1&apos; 在此处是变量，不是函数</translation>
+        <source>%1 is a variable here, not a function</source>
+        <translation>%1 在此处是变量，不是函数</translation>
     </message>
     <message>
         <source>the name %1 is unknown</source>
@@ -396,15 +396,15 @@
         <translation>没有函数 %1</translation>
     </message>
     <message>
-        <source>this &apos;:&apos; has no &apos;?&apos; before it</source>
+        <source>&apos;:&apos; without a matching &apos;?&apos;</source>
         <translation>此 &apos;:&apos; 之前没有 &apos;?&apos;</translation>
     </message>
     <message>
-        <source>more than one value; &apos;,&apos; stands only between the values of a function, and the decimal sign is the full stop</source>
+        <source>more than one value; &apos;,&apos; is only used between the values of a function, and the decimal sign is the full stop</source>
         <translation>有多个值；&apos;,&apos; 只能用在函数的各个值之间，小数点为句点</translation>
     </message>
     <message>
-        <source>this &apos;)&apos; has no &apos;(&apos; before it</source>
+        <source>&apos;)&apos; without a matching &apos;(&apos;</source>
         <translation>此 &apos;)&apos; 之前没有 &apos;(&apos;</translation>
     </message>
     <message>
@@ -416,20 +416,16 @@
         <translation>表达式在应有值的位置结束</translation>
     </message>
     <message>
-        <source>the function &apos;%1&apos; takes %2 value(s), not %3</source>
-        <translation>函数 &apos;%1&apos; 需要 %2 个值，而不是 %3 个</translation>
+        <source>the function %1 takes %2 value(s), not %3</source>
+        <translation>函数 %1 需要 %2 个值，而不是 %3 个</translation>
     </message>
     <message>
-        <source>this &apos;?&apos; has no &apos;:&apos; after it</source>
+        <source>&apos;?&apos; without a matching &apos;:&apos;</source>
         <translation>此 &apos;?&apos; 之后没有 &apos;:&apos;</translation>
     </message>
     <message>
-        <source>this &apos;(&apos; has no &apos;)&apos; after it</source>
+        <source>&apos;(&apos; without a matching &apos;)&apos;</source>
         <translation>此 &apos;(&apos; 之后没有 &apos;)&apos;</translation>
-    </message>
-    <message>
-        <source>the call of &apos;%1&apos; has no &apos;)&apos; at its end</source>
-        <translation>对 &apos;%1&apos; 的调用末尾缺少 &apos;)&apos;</translation>
     </message>
 </context>
 <context>

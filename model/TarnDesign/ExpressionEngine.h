@@ -7,24 +7,24 @@
 #include <map>
 #include <string>
 
-/// Evaluates the expressions of design parameters.
+/// Evaluates the expressions of design parameters; docs/expressions.md describes their language.
 ///
-/// Texts are in the local 8-bit code page. The language (operators, functions, constants) is told
-/// in docs/expressions.md. The decimal sign is the full stop under every locale.
+/// Texts are in the local 8-bit code page. The decimal sign is the full stop under every locale.
 class TARNDESIGN_EXPORT ExpressionEngine
 {
 public:
     ExpressionEngine() = delete;
 
-    /// The value of @p expression with the given @p variables, which are not changed.
+    /// Returns the value of @p expression with @p variables, which are not changed. Never throws.
     ///
-    /// A variable wins over a function or constant of the same name; entries whose name is no
-    /// identifier are passed over. Whatever has no finite value gives NaN, and LastError() says
-    /// why. Never throws.
+    /// A variable hides a function or constant of the same name; entries whose name is not an
+    /// identifier are ignored. If there is no finite value, returns NaN; LastError() gives the
+    /// reason.
     static double CalculateExpress(const std::string& expression,
                                    std::map<std::string, double>& variables);
 
-    /// Why the last CalculateExpress() gave NaN, with the position in the text counted in
-    /// characters from 1; empty after a success. In the language of the installed translators.
+    /// Returns why the last CalculateExpress() gave NaN, in the language of the installed
+    /// translators and with the position in characters from 1, or an empty text if it gave a
+    /// number.
     static QString LastError();
 };

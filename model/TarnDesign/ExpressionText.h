@@ -1,32 +1,66 @@
 #pragma once
 
-#include <cstddef>
+#include <QCoreApplication>
+
+#include <stdexcept>
 #include <string>
+#include <vector>
 
-class QTextCodec;
-
-/// The text of an expression: read in the local 8-bit code page, kept in UTF-8.
+/// The tokens of an expression, checked for their order: the parser's own errors have no exact
+/// positions and no translations.
 ///
-/// In some code pages the second byte of a letter looks like an operator or a digit, so nothing
-/// may be looked for in the bytes themselves. Bytes that the code page cannot read, or would not
-/// write back the same, are taken as Latin-1, one letter each.
+/// In some code pages the second byte of a letter looks like an operator or a digit, so the bytes
+/// are decoded first. Bytes that the local code page cannot decode, or would not encode back to the
+/// same bytes, are read as Latin-1, one letter each.
 class ExpressionText
 {
+    Q_DECLARE_TR_FUNCTIONS(ExpressionText)
+
 public:
-    explicit ExpressionText(const std::string& bytes);
+    static constexpr int MaxCharacters = 10000;
 
-    const std::string& Utf8() const { return m_utf8; }
+    /// Any other token has its first character as kind. A call is a name with its bracket.
+    enum Kind : char
+    {
+        End,
+        Name,
+        Call,
+        Number,
+        Unknown
+    };
 
-    /// The bytes with which the text's code page writes @p name, a part of Utf8().
-    std::string LocalName(const std::string& name) const;
+    struct Token
+    {
+        char kind;
+        int begin;
+        std::string text; ///< With underscores for characters beyond ASCII.
+        std::string key;  ///< The text in the code page, in which the variables have their names.
+        int values = 1;   ///< How many values the call has so far.
+        int wanted = 0;   ///< How many values the function takes; 0 means any number.
 
-    /// How many characters there are before @p offset of Utf8(), and one more.
-    int PositionOf(std::size_t offset) const;
+        bool IsSame(const Token& other) const { return kind == other.kind && key == other.key; }
+    };
 
-    /// True when @p bytes mean the same in every code page.
-    static bool IsAscii(const std::string& bytes);
+    /// All functions throw std::runtime_error; its text is for the user.
+    explicit ExpressionText(const QByteArray& bytes);
+
+    /// Returns the next token. A chain of signs is one minus sign or nothing.
+    Token Next();
+
+    /// Sets how many values the call takes that Next() returned last.
+    void Expect(int values) { m_open.back().wanted = values; }
+
+    /// Throws @p reason with the position of @p token, which replaces %1.
+    [[noreturn]] void Refuse(const Token& token, QString reason) const;
 
 private:
-    std::string m_utf8;
-    const QTextCodec* m_codec = nullptr; // Null for what is ASCII throughout.
+    Token Read() const;
+    void Check(const Token& token);
+
+    QString m_text;
+    bool m_isLocal;      // Rather than Latin-1.
+    std::string m_ascii; // As long as m_text.
+    std::size_t m_offset = 0;
+    bool m_needsValue = true;
+    std::vector<Token> m_open; // Brackets, and question marks that wait for their colon.
 };
