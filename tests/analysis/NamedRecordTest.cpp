@@ -1,63 +1,151 @@
 #include "NamedRecordTest.h"
 
 #include "AttributeCommonMgr.h"
-#include "EmptyAttributeNames.h"
-#include "Heap.h"
+#include "FormDescription.h"
+#include "TextRecorder.h"
 
 #include <QLineEdit>
 
+#include <utility>
+
 namespace {
 
-void Register(const QByteArray& name)
-{
-    AttributeCommonMgr::GetInstance()->AddName(name.toStdString());
-}
-
-// Through the field, which can hold what nobody can type.
+// Sets what nobody can type.
 void SetName(const QDialog& editor, const QString& name)
 {
     Find<QLineEdit>(editor, "lied_Name").setText(name);
 }
 
-// Confirms, and leaves where that was refused; gives exec()'s result.
-int Confirm(QDialog& editor, ModalDriver& user)
+} // namespace
+
+NamedRecordChecks::NamedRecordChecks(FormFacts form, RecordFacts record)
+    : With(std::move(form))
+    , m_record(std::move(record))
 {
-    user.Then([&user](QDialog& shown) {
-        const int boxes = user.Boxes().size();
+}
+
+void NamedRecordChecks::Register(const QByteArray& name)
+{
+    AttributeCommonMgr::GetInstance()->AddName(name.toStdString());
+}
+
+void NamedRecordChecks::CompareAfterEnter(QDialog& editor)
+{
+    FormChecks::CompareAfterEnter(editor);
+    QCOMPARE(NameOf(editor), m_record.name);
+}
+
+// Confirms, and cancels if that is refused; returns the result of exec().
+int NamedRecordChecks::Confirm(QDialog& editor)
+{
+    Then([this](QDialog& shown) {
+        const int boxes = Boxes().size();
         Click(shown, "okButton");
-        if (user.Boxes().size() > boxes)
+        if (Boxes().size() > boxes)
             Click(shown, "cancelButton");
     });
     return editor.exec();
 }
 
-} // namespace
-
-NamedRecordChecks::NamedRecordChecks(const char* name, const ShownBox& refusal)
-    : m_name(name)
-    , m_refusal(refusal)
+void NamedRecordChecks::MessagesAreTranslatedInTheContextOfTheClass()
 {
+    Register(QByteArray::fromStdString(m_record.name));
+    const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
+    const TextRecorder recorder;
+    QCOMPARE(Confirm(*editor), int(QDialog::Rejected));
+    QCOMPARE(recorder.TextsOf(m_record.context), QStringList({m_record.refusal, "Warning"}));
 }
 
-void NamedRecordChecks::OnePressOfOkAsksOnce()
+void NamedRecordChecks::TheRecordIsInitiallyADefaultOne()
 {
-    const EmptyAttributeNames names;
-    Register(QByteArray::fromStdString(m_name));
-    ModalDriver user;
-    const std::unique_ptr<QDialog> editor = NewEditor();
-    QCOMPARE(Confirm(*editor, user), int(QDialog::Rejected));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({m_refusal}));
+    const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
+    QCOMPARE(NameOf(*editor), std::string());
+    QCOMPARE(ValuesOf(*editor), m_record.unset);
+}
+
+void NamedRecordChecks::OKStoresTheDefaults()
+{
+    const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
+    QCOMPARE(RunAndPress(*editor, "okButton"), int(QDialog::Accepted));
+    QCOMPARE(NameOf(*editor), m_record.name);
+    QCOMPARE(ValuesOf(*editor), m_record.accepted);
+}
+
+void NamedRecordChecks::LeavingKeepsTheRecord_data()
+{
+    AddWaysToLeave();
+}
+
+void NamedRecordChecks::LeavingKeepsTheRecord()
+{
+    QFETCH(QString, way);
+    for (const bool isGiven : {false, true}) {
+        const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
+        if (isGiven)
+            Give(*editor);
+        Then([&](QDialog& shown) {
+            Type(shown, "lied_Name", "typed");
+            m_record.change(shown);
+            Leave(shown, way, "cancelButton");
+        });
+        QCOMPARE(editor->exec(), int(QDialog::Rejected));
+        QCOMPARE(NameOf(*editor), std::string(isGiven ? "given" : ""));
+        QCOMPARE(ValuesOf(*editor), isGiven ? m_record.given : m_record.unset);
+    }
+}
+
+void NamedRecordChecks::ATakenNameIsRefusedEveryTime()
+{
+    Register(QByteArray::fromStdString(m_record.name));
+    const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
+    Then([this](QDialog& shown) {
+        m_record.change(shown);
+        const QStringList before = DescribeForm(shown);
+        for (int i = 0; i < 2; ++i) {
+            Click(shown, "okButton");
+            QVERIFY(shown.isVisible());
+            QCOMPARE(DescribeForm(shown), before);
+        }
+        Type(shown, "lied_Name", "other");
+        Click(shown, "okButton");
+    });
+    QCOMPARE(editor->exec(), int(QDialog::Accepted));
+    QCOMPARE(Boxes(), ShownBoxes({Refusal(), Refusal()}));
+    QCOMPARE(NameOf(*editor), std::string("other"));
+    QCOMPARE(ValuesOf(*editor), m_record.changed);
+}
+
+void NamedRecordChecks::ARefusalKeepsTheGivenRecord()
+{
+    for (const std::string& shownName : {m_record.name, std::string("given")})
+        Register(QByteArray::fromStdString(shownName));
+    const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
+    Give(*editor);
+    Then([this](QDialog& shown) {
+        m_record.change(shown);
+        Click(shown, "okButton");
+        Click(shown, "cancelButton");
+    });
+    QCOMPARE(editor->exec(), int(QDialog::Rejected));
+    QCOMPARE(Boxes(), ShownBoxes({Refusal()}));
+    QCOMPARE(NameOf(*editor), std::string("given"));
+    QCOMPARE(ValuesOf(*editor), m_record.given);
+}
+
+void NamedRecordChecks::OnePressOfOKShowsOneBox()
+{
+    Register(QByteArray::fromStdString(m_record.name));
+    const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
+    QCOMPARE(Confirm(*editor), int(QDialog::Rejected));
+    QCOMPARE(Boxes(), ShownBoxes({Refusal()}));
 }
 
 void NamedRecordChecks::TheRegistryIsNotWritten()
 {
-    const EmptyAttributeNames names;
-    ModalDriver user;
-    const std::unique_ptr<QDialog> editor = NewEditor();
-    QCOMPARE(Confirm(*editor, user), int(QDialog::Accepted));
-    QCOMPARE(NameOf(*editor), m_name);
-    QVERIFY(!AttributeCommonMgr::GetInstance()->FindName(m_name));
+    const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
+    QCOMPARE(Confirm(*editor), int(QDialog::Accepted));
+    QCOMPARE(NameOf(*editor), m_record.name);
+    QVERIFY(!AttributeCommonMgr::GetInstance()->FindName(m_record.name));
 }
 
 void NamedRecordChecks::TheNameIsTakenAsTyped_data()
@@ -65,13 +153,13 @@ void NamedRecordChecks::TheNameIsTakenAsTyped_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QByteArray>("registered");
     QTest::addColumn<int>("boxes");
-    QTest::newRow("blanks stay") << " wall " << QByteArray("wall") << 0;
-    QTest::newRow("case counts") << "Wall" << QByteArray("wall") << 0;
-    QTest::newRow("empty") << "" << QByteArray("wall") << 0;
-    QTest::newRow("blank") << " " << QByteArray("") << 0;
-    QTest::newRow("empty and taken") << "" << QByteArray("") << 1;
-    QTest::newRow("exactly taken") << "wall" << QByteArray("wall") << 1;
-    QTest::newRow("begins like a taken one") << "wall" << QByteArray("wall2") << 0;
+    NewRow("blanks stay", " wall ", QByteArray("wall"), 0);
+    NewRow("case counts", "Wall", QByteArray("wall"), 0);
+    NewRow("empty", "", QByteArray("wall"), 0);
+    NewRow("blank", " ", QByteArray(""), 0);
+    NewRow("empty and taken", "", QByteArray(""), 1);
+    NewRow("exactly taken", "wall", QByteArray("wall"), 1);
+    NewRow("begins like a taken one", "wall", QByteArray("wall2"), 0);
 }
 
 void NamedRecordChecks::TheNameIsTakenAsTyped()
@@ -79,34 +167,29 @@ void NamedRecordChecks::TheNameIsTakenAsTyped()
     QFETCH(QString, typed);
     QFETCH(QByteArray, registered);
     QFETCH(int, boxes);
-    const EmptyAttributeNames names;
     Register(registered);
-    ModalDriver user;
-    const std::unique_ptr<QDialog> editor = NewEditor();
-    user.Then([&](QDialog& shown) {
+    const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
+    Then([&](QDialog& shown) {
         Type(shown, "lied_Name", typed);
         Click(shown, "okButton");
         if (boxes > 0)
             Click(shown, "cancelButton");
     });
     QCOMPARE(editor->exec(), int(boxes > 0 ? QDialog::Rejected : QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>(boxes, m_refusal));
+    QCOMPARE(Boxes(), ShownBoxes(boxes, Refusal()));
     QCOMPARE(NameOf(*editor), boxes > 0 ? std::string() : typed.toStdString());
 }
 
 void NamedRecordChecks::TheNameEndsAtTheFirstZero()
 {
-    const EmptyAttributeNames names;
-    ModalDriver user;
-    const std::unique_ptr<QDialog> editor = NewEditor();
+    const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
     SetName(*editor, QString("ab") + QChar(0) + "cd");
-    QCOMPARE(Confirm(*editor, user), int(QDialog::Accepted));
+    QCOMPARE(Confirm(*editor), int(QDialog::Accepted));
     QCOMPARE(NameOf(*editor), std::string("ab"));
 
     Register("ab");
-    QCOMPARE(Confirm(*editor, user), int(QDialog::Rejected));
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({m_refusal}));
+    QCOMPARE(Confirm(*editor), int(QDialog::Rejected));
+    QCOMPARE(Boxes(), ShownBoxes({Refusal()}));
 }
 
 void NamedRecordChecks::NamesAreBytesOfTheLocalCodePage_data()
@@ -114,14 +197,13 @@ void NamedRecordChecks::NamesAreBytesOfTheLocalCodePage_data()
     QTest::addColumn<QByteArray>("codePage");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("UTF-8") << QByteArray("UTF-8") << "固定"
-                           << QByteArray("\xE5\x9B\xBA\xE5\xAE\x9A");
-    QTest::newRow("GB18030") << QByteArray("GB18030") << "固定" << QByteArray("\xB9\xCC\xB6\xA8");
-    QTest::newRow("GB18030, four bytes")
-        << QByteArray("GB18030") << "😀" << QByteArray("\x94\x39\xFC\x36");
-    QTest::newRow("Latin-1") << QByteArray("ISO 8859-1") << "Träger" << QByteArray("Tr\xE4ger");
-    QTest::newRow("Latin-1 lacks the characters")
-        << QByteArray("ISO 8859-1") << "固定" << QByteArray("??");
+    const QByteArray gb18030("GB18030");
+    const QByteArray latin1("ISO 8859-1");
+    NewRow("UTF-8", QByteArray("UTF-8"), "固定", QByteArray("\xE5\x9B\xBA\xE5\xAE\x9A"));
+    NewRow("GB18030", gb18030, "固定", QByteArray("\xB9\xCC\xB6\xA8"));
+    NewRow("GB18030, four bytes", gb18030, "😀", QByteArray("\x94\x39\xFC\x36"));
+    NewRow("Latin-1", latin1, "Träger", QByteArray("Tr\xE4ger"));
+    NewRow("Latin-1 lacks the characters", latin1, "固定", QByteArray("??"));
 }
 
 void NamedRecordChecks::NamesAreBytesOfTheLocalCodePage()
@@ -130,59 +212,21 @@ void NamedRecordChecks::NamesAreBytesOfTheLocalCodePage()
     QFETCH(QString, typed);
     QFETCH(QByteArray, bytes);
     UseCodePage(codePage);
-    const EmptyAttributeNames names;
-    ModalDriver user;
-    const std::unique_ptr<QDialog> editor = NewEditor();
+    const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
     SetName(*editor, typed);
-    QCOMPARE(Confirm(*editor, user), int(QDialog::Accepted));
+    QCOMPARE(Confirm(*editor), int(QDialog::Accepted));
     QCOMPARE(QByteArray::fromStdString(NameOf(*editor)), bytes);
 
     Register(bytes);
-    QCOMPARE(Confirm(*editor, user), int(QDialog::Rejected));
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({m_refusal}));
+    QCOMPARE(Confirm(*editor), int(QDialog::Rejected));
+    QCOMPARE(Boxes(), ShownBoxes({Refusal()}));
 }
 
 void NamedRecordChecks::ATakenNameIsFoundByItsBytes()
 {
-    const EmptyAttributeNames names;
     // The same text in another code page is another name.
     Register("\xB9\xCC\xB6\xA8");
-    ModalDriver user;
-    const std::unique_ptr<QDialog> editor = NewEditor();
+    const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
     SetName(*editor, "固定");
-    QCOMPARE(Confirm(*editor, user), int(QDialog::Accepted));
-}
-
-void NamedRecordChecks::EnterConfirmsFromEverywhere_data()
-{
-    QTest::addColumn<QByteArray>("focus");
-    const QStringList widgets = TabOrder(*NewEditor());
-    for (const QString& name : widgets)
-        QTest::newRow(name.toLatin1()) << name.toLatin1();
-}
-
-void NamedRecordChecks::EnterConfirmsFromEverywhere()
-{
-    QFETCH(QByteArray, focus);
-    const EmptyAttributeNames names;
-    ModalDriver user;
-    const std::unique_ptr<QDialog> editor = NewEditor();
-    user.Then([&](QDialog& shown) {
-        auto& widget = Find<QWidget>(shown, focus);
-        widget.setFocus();
-        QTest::keyClick(&widget, Qt::Key_Return);
-    });
-    QCOMPARE(editor->exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    QCOMPARE(NameOf(*editor), m_name);
-}
-
-void NamedRecordChecks::OpeningAThousandTimesTakesNoMemory()
-{
-    const std::ptrdiff_t growth = HeapGrowth([this] {
-        const std::unique_ptr<QDialog> editor = NewEditor();
-        editor->show();
-        editor->close();
-    });
-    QVERIFY2(growth < 16 * 1000, qPrintable(QString::number(growth)));
+    QCOMPARE(Confirm(*editor), int(QDialog::Accepted));
 }

@@ -1,31 +1,61 @@
 #pragma once
 
-#include "ModalDriver.h"
-#include "TestCase.h"
+#include "EmptyAttributeNames.h"
+#include "FormTest.h"
 
 #include <QDialog>
 
+#include <functional>
 #include <memory>
 #include <string>
+
+/// What an editor of a named record shows and stores.
+struct RecordFacts
+{
+    const char* context; ///< Of the texts in messages.
+    std::string name;    ///< What the form starts with.
+    QString refusal;     ///< The text of the box for a name that is taken.
+
+    QString unset;    ///< The values of a new editor's record.
+    QString accepted; ///< The values that OK stores at once.
+    QString given;    ///< The values of the record that Give() passes.
+
+    std::function<void(const QDialog&)> change; ///< Changes a value as a user does;
+    QString changed;                            ///< the values that OK stores then.
+};
 
 /// What holds for both editors of a record whose name must not be taken, a support or a load.
 ///
 /// A test class derives from NamedRecordTest; these functions then run before its own.
-class NamedRecordChecks : public TestCase
+class NamedRecordChecks : public With<FormChecks, EmptyAttributeNames>
 {
     Q_OBJECT
 
 protected:
-    /// @p name is what the form starts with, @p refusal the box for one that is taken.
-    NamedRecordChecks(const char* name, const ShownBox& refusal);
+    NamedRecordChecks(FormFacts form, RecordFacts record);
 
-    const ShownBox& Duplicate() const { return m_refusal; }
+    ShownBox Refusal() const { return ShownBox::Notice("Warning", m_record.refusal); }
 
-    virtual std::unique_ptr<QDialog> NewEditor() const = 0;
+    /// Registers a name, as another part of the host does.
+    static void Register(const QByteArray& name);
+
+    /// Passes a record named "given" to the editor.
+    virtual void Give(QDialog& editor) const = 0;
     virtual std::string NameOf(const QDialog& editor) const = 0;
+    /// The values of the editor's record as one text, without the name.
+    virtual QString ValuesOf(const QDialog& editor) const = 0;
+
+    void CompareAfterEnter(QDialog& editor) override;
 
 private Q_SLOTS:
-    void OnePressOfOkAsksOnce();
+    void MessagesAreTranslatedInTheContextOfTheClass();
+    void TheRecordIsInitiallyADefaultOne();
+    void OKStoresTheDefaults();
+    void LeavingKeepsTheRecord_data();
+    void LeavingKeepsTheRecord();
+    void ATakenNameIsRefusedEveryTime();
+    void ARefusalKeepsTheGivenRecord();
+    void OnePressOfOKShowsOneBox();
     void TheRegistryIsNotWritten();
     void TheNameIsTakenAsTyped_data();
     void TheNameIsTakenAsTyped();
@@ -33,13 +63,11 @@ private Q_SLOTS:
     void NamesAreBytesOfTheLocalCodePage_data();
     void NamesAreBytesOfTheLocalCodePage();
     void ATakenNameIsFoundByItsBytes();
-    void EnterConfirmsFromEverywhere_data();
-    void EnterConfirmsFromEverywhere();
-    void OpeningAThousandTimesTakesNoMemory();
 
 private:
-    std::string m_name;
-    ShownBox m_refusal;
+    int Confirm(QDialog& editor);
+
+    const RecordFacts m_record;
 };
 
 template<class Editor>
@@ -48,15 +76,9 @@ class NamedRecordTest : public NamedRecordChecks
 protected:
     using NamedRecordChecks::NamedRecordChecks;
 
-    virtual std::string NameIn(const Editor& editor) const = 0;
-
 private:
-    std::unique_ptr<QDialog> NewEditor() const override
+    std::unique_ptr<QDialog> NewDialog(QDialog* parent) const override
     {
-        return std::make_unique<Editor>(nullptr);
-    }
-    std::string NameOf(const QDialog& editor) const override
-    {
-        return NameIn(static_cast<const Editor&>(editor));
+        return std::make_unique<Editor>(parent);
     }
 };

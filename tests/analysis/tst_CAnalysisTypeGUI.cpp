@@ -1,20 +1,46 @@
 #include "CAnalysisTypeGUI.h"
-#include "DialogFacts.h"
-#include "Heap.h"
-#include "ModalDriver.h"
-#include "TestCase.h"
+#include "FormTest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
-#include <QVBoxLayout>
 
 using Pair = std::pair<int, int>;
 Q_DECLARE_METATYPE(Pair)
 
 namespace {
+
+FormFacts Form()
+{
+    FormFacts form;
+    form.name = "CAnalysisTypeGUI";
+    form.title = "Analysis Type";
+    form.size = {240, 430};
+    form.lines = {
+        "QGroupBox grpb_Mechanics in CAnalysisTypeGUI: Solver Type",
+        "QWidget layoutWidget in grpb_Mechanics: ",
+        "QRadioButton rad_Static in layoutWidget at verticalLayout[0]: Static, disabled",
+        "QRadioButton rad_NonLineStatic in layoutWidget at verticalLayout[1]: NonLinear Static, "
+        "disabled",
+        "QRadioButton radioButton_10 in layoutWidget at verticalLayout[2]: Flow CFD, disabled",
+        "QRadioButton rad_Vibration in layoutWidget at verticalLayout[3]: Vibration, checked",
+        "QRadioButton rad_HeatTransf in layoutWidget at verticalLayout[4]: Heat Transfer, disabled",
+        "QRadioButton rad_Bucking in layoutWidget at verticalLayout[5]: Buckling, disabled",
+        "QRadioButton rad_Freq in layoutWidget at verticalLayout[6]: Frequecny Response, disabled",
+        "QRadioButton rad_Transient in layoutWidget at verticalLayout[7]: Transient, disabled",
+        "QRadioButton rad_ComplexEig in layoutWidget at verticalLayout[8]: Complex EigenValue, "
+        "disabled",
+        "QPushButton ok_push_button in CAnalysisTypeGUI: OK",
+        "QPushButton cancael_push_button in CAnalysisTypeGUI: Cancel",
+    };
+    form.tabOrder = {"rad_Vibration", "ok_push_button", "cancael_push_button"};
+    form.enter = "ok_push_button";
+    form.methods = {"public slot OnOKButtonPush()", "public slot OnCloseButtonPush()"};
+    form.hasIcon = true;
+    return form;
+}
 
 Pair SolverType(const CAnalysisTypeGUI& dialog)
 {
@@ -49,22 +75,20 @@ public:
 
 } // namespace
 
-class tst_CAnalysisTypeGUI : public TestCase
+class tst_CAnalysisTypeGUI : public FormTest<CAnalysisTypeGUI>
 {
     Q_OBJECT
 
+public:
+    tst_CAnalysisTypeGUI()
+        : FormTest(Form())
+    {
+    }
+
 private Q_SLOTS:
-    void TheFormIsAsGiven_data();
-    void TheFormIsAsGiven();
-    void TheFormHoldsNothingElse();
-    void TheButtonsAreStackedInOrder();
-    void TheWindowIsAsGiven();
-    void TheTextsBelongToTheForm();
-    void TheClassHasItsTwoSlots();
-    void TheHostsWindowIsTheParent();
     void TheWindowIconIsReadFromBesideTheWorkingDirectory();
-    void AMissingWindowIconIsPassedOver();
-    void ThePairIsZeroAtFirst();
+    void AMissingWindowIconIsIgnored();
+    void ThePairIsInitiallyZero();
     void OnlyVibrationCanBeChosen_data();
     void OnlyVibrationCanBeChosen();
     void InitDataStoresThePairAndChecksItsButton_data();
@@ -82,99 +106,17 @@ private Q_SLOTS:
     void LeavingKeepsThePair_data();
     void LeavingKeepsThePair();
     void TheDialogCanRunAgain();
-    void TabFollowsReadingOrder();
-    void EnterConfirmsFromEverywhere_data();
-    void EnterConfirmsFromEverywhere();
-    void OpeningAThousandTimesTakesNoMemory();
+    void TabFollowsTheReadingOrderOfEnabledTypes();
+
+private:
+    void CompareAfterEnter(QDialog& dialog) override;
 };
 
-void tst_CAnalysisTypeGUI::TheFormIsAsGiven_data()
+// OK hides the dialog without accepting it.
+void tst_CAnalysisTypeGUI::CompareAfterEnter(QDialog& dialog)
 {
-    AddFormColumns();
-    QTest::newRow("grpb_Mechanics")
-        << "QGroupBox"
-        << "CAnalysisTypeGUI" << QRect() << "Solver Type" << true << false;
-    QTest::newRow("layoutWidget") << "QWidget"
-                                  << "grpb_Mechanics" << QRect() << "" << true << false;
-    const char* const radio = "QRadioButton";
-    const char* const box = "layoutWidget";
-    QTest::newRow("rad_Static") << radio << box << QRect() << "Static" << false << false;
-    QTest::newRow("rad_NonLineStatic")
-        << radio << box << QRect() << "NonLinear Static" << false << false;
-    QTest::newRow("radioButton_10") << radio << box << QRect() << "Flow CFD" << false << false;
-    QTest::newRow("rad_Vibration") << radio << box << QRect() << "Vibration" << true << true;
-    QTest::newRow("rad_HeatTransf") << radio << box << QRect() << "Heat Transfer" << false << false;
-    QTest::newRow("rad_Bucking") << radio << box << QRect() << "Buckling" << false << false;
-    QTest::newRow("rad_Freq") << radio << box << QRect() << "Frequecny Response" << false << false;
-    QTest::newRow("rad_Transient") << radio << box << QRect() << "Transient" << false << false;
-    QTest::newRow("rad_ComplexEig")
-        << radio << box << QRect() << "Complex EigenValue" << false << false;
-    QTest::newRow("ok_push_button") << "QPushButton"
-                                    << "CAnalysisTypeGUI" << QRect() << "OK" << true << false;
-    QTest::newRow("cancael_push_button")
-        << "QPushButton"
-        << "CAnalysisTypeGUI" << QRect() << "Cancel" << true << false;
-}
-
-void tst_CAnalysisTypeGUI::TheFormIsAsGiven()
-{
-    const CAnalysisTypeGUI dialog(nullptr);
-    CompareFormRow(dialog);
-}
-
-void tst_CAnalysisTypeGUI::TheFormHoldsNothingElse()
-{
-    const CAnalysisTypeGUI dialog(nullptr);
-    QCOMPARE(FormWidgets(dialog),
-             QStringList({"cancael_push_button", "grpb_Mechanics", "layoutWidget", "ok_push_button",
-                          "rad_Bucking", "rad_ComplexEig", "rad_Freq", "rad_HeatTransf",
-                          "rad_NonLineStatic", "rad_Static", "rad_Transient", "rad_Vibration",
-                          "radioButton_10"}));
-}
-
-void tst_CAnalysisTypeGUI::TheButtonsAreStackedInOrder()
-{
-    const CAnalysisTypeGUI dialog(nullptr);
-    const auto* const layout =
-        qobject_cast<QVBoxLayout*>(Find<QWidget>(dialog, "layoutWidget").layout());
-    QVERIFY(layout != nullptr);
-    QCOMPARE(layout->objectName(), "verticalLayout");
-    QStringList names;
-    for (int i = 0; i < layout->count(); ++i)
-        names << layout->itemAt(i)->widget()->objectName();
-    QCOMPARE(names, QStringList({"rad_Static", "rad_NonLineStatic", "radioButton_10",
-                                 "rad_Vibration", "rad_HeatTransf", "rad_Bucking", "rad_Freq",
-                                 "rad_Transient", "rad_ComplexEig"}));
-}
-
-void tst_CAnalysisTypeGUI::TheWindowIsAsGiven()
-{
-    CompareWindow(CAnalysisTypeGUI(nullptr), "CAnalysisTypeGUI", "Analysis Type", QSize(240, 430));
-}
-
-void tst_CAnalysisTypeGUI::TheTextsBelongToTheForm()
-{
-    const TextRecorder recorder;
-    const CAnalysisTypeGUI dialog(nullptr);
-    QCOMPARE(recorder.TextsOf("CAnalysisTypeGUI"),
-             QStringList({"Analysis Type", "Buckling", "Cancel", "Complex EigenValue", "Flow CFD",
-                          "Frequecny Response", "Heat Transfer", "NonLinear Static", "OK",
-                          "Solver Type", "Static", "Transient", "Vibration"}));
-}
-
-void tst_CAnalysisTypeGUI::TheClassHasItsTwoSlots()
-{
-    const QMetaObject& meta = CAnalysisTypeGUI::staticMetaObject;
-    QCOMPARE(meta.superClass(), &QDialog::staticMetaObject);
-    QCOMPARE(OwnMethods(meta),
-             QStringList({"public slot OnOKButtonPush()", "public slot OnCloseButtonPush()"}));
-}
-
-void tst_CAnalysisTypeGUI::TheHostsWindowIsTheParent()
-{
-    QWidget window;
-    const CAnalysisTypeGUI dialog(&window);
-    QCOMPARE(dialog.parentWidget(), &window);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(SolverType(static_cast<CAnalysisTypeGUI&>(dialog)), Pair(1, 2));
 }
 
 void tst_CAnalysisTypeGUI::TheWindowIconIsReadFromBesideTheWorkingDirectory()
@@ -195,7 +137,7 @@ void tst_CAnalysisTypeGUI::TheWindowIconIsReadFromBesideTheWorkingDirectory()
     QCOMPARE(icon.pixmap(picture.size()).toImage(), picture.toImage());
 }
 
-void tst_CAnalysisTypeGUI::AMissingWindowIconIsPassedOver()
+void tst_CAnalysisTypeGUI::AMissingWindowIconIsIgnored()
 {
     EnterTemporaryDirectory();
     CAnalysisTypeGUI dialog(nullptr);
@@ -204,32 +146,27 @@ void tst_CAnalysisTypeGUI::AMissingWindowIconIsPassedOver()
     dialog.close();
 }
 
-void tst_CAnalysisTypeGUI::ThePairIsZeroAtFirst()
+void tst_CAnalysisTypeGUI::ThePairIsInitiallyZero()
 {
     QCOMPARE(SolverType(CAnalysisTypeGUI(nullptr)), Pair(0, 0));
 }
 
 void tst_CAnalysisTypeGUI::OnlyVibrationCanBeChosen_data()
 {
-    QTest::addColumn<QByteArray>("button");
-    for (const char* const name :
-         {"rad_Static", "rad_NonLineStatic", "radioButton_10", "rad_HeatTransf", "rad_Bucking",
-          "rad_Freq", "rad_Transient", "rad_ComplexEig"})
-        QTest::newRow(name) << QByteArray(name);
+    NewNameRows("button", {"rad_Static", "rad_NonLineStatic", "radioButton_10", "rad_HeatTransf",
+                           "rad_Bucking", "rad_Freq", "rad_Transient", "rad_ComplexEig"});
 }
 
 void tst_CAnalysisTypeGUI::OnlyVibrationCanBeChosen()
 {
     QFETCH(QByteArray, button);
-    ModalDriver user;
     CAnalysisTypeGUI dialog(nullptr);
-    user.Then([&](QDialog& shown) {
+    Then([&](QDialog& shown) {
         Click(shown, button);
         QCOMPARE(CheckedButton(shown), "rad_Vibration");
         Click(shown, "ok_push_button");
     });
     dialog.exec();
-    QVERIFY(user.IsDone());
     QCOMPARE(SolverType(dialog), Pair(1, 2));
 }
 
@@ -237,21 +174,21 @@ void tst_CAnalysisTypeGUI::InitDataStoresThePairAndChecksItsButton_data()
 {
     QTest::addColumn<Pair>("pair");
     QTest::addColumn<QString>("checked");
-    QTest::newRow("1, 1") << Pair(1, 1) << "rad_Static";
-    QTest::newRow("1, 2") << Pair(1, 2) << "rad_Vibration";
-    QTest::newRow("1, 3") << Pair(1, 3) << "rad_Bucking";
-    QTest::newRow("1, 4") << Pair(1, 4) << "rad_Transient";
-    QTest::newRow("1, 5 has no button") << Pair(1, 5) << "rad_Vibration";
-    QTest::newRow("1, 6") << Pair(1, 6) << "rad_Freq";
-    QTest::newRow("1, 7") << Pair(1, 7) << "rad_ComplexEig";
-    QTest::newRow("1, 8 has no button") << Pair(1, 8) << "rad_Vibration";
-    QTest::newRow("1, 0 has no button") << Pair(1, 0) << "rad_Vibration";
-    QTest::newRow("1, -1 has no button") << Pair(1, -1) << "rad_Vibration";
+    NewRow("1, 1", Pair(1, 1), "rad_Static");
+    NewRow("1, 2", Pair(1, 2), "rad_Vibration");
+    NewRow("1, 3", Pair(1, 3), "rad_Bucking");
+    NewRow("1, 4", Pair(1, 4), "rad_Transient");
+    NewRow("1, 5 has no button", Pair(1, 5), "rad_Vibration");
+    NewRow("1, 6", Pair(1, 6), "rad_Freq");
+    NewRow("1, 7", Pair(1, 7), "rad_ComplexEig");
+    NewRow("1, 8 has no button", Pair(1, 8), "rad_Vibration");
+    NewRow("1, 0 has no button", Pair(1, 0), "rad_Vibration");
+    NewRow("1, -1 has no button", Pair(1, -1), "rad_Vibration");
     // What OK gives for Complex EigenValue is deliberately not shown again.
-    QTest::newRow("7, 7 has no button") << Pair(7, 7) << "rad_Vibration";
-    QTest::newRow("7, 1 has no button") << Pair(7, 1) << "rad_Vibration";
-    QTest::newRow("0, 1 has no button") << Pair(0, 1) << "rad_Vibration";
-    QTest::newRow("-1, 1 has no button") << Pair(-1, 1) << "rad_Vibration";
+    NewRow("7, 7 has no button", Pair(7, 7), "rad_Vibration");
+    NewRow("7, 1 has no button", Pair(7, 1), "rad_Vibration");
+    NewRow("0, 1 has no button", Pair(0, 1), "rad_Vibration");
+    NewRow("-1, 1 has no button", Pair(-1, 1), "rad_Vibration");
 }
 
 void tst_CAnalysisTypeGUI::InitDataStoresThePairAndChecksItsButton()
@@ -280,46 +217,40 @@ void tst_CAnalysisTypeGUI::OkGivesThePairOfTheCheckedButton_data()
 {
     QTest::addColumn<QByteArray>("button");
     QTest::addColumn<Pair>("pair");
-    QTest::newRow("Static") << QByteArray("rad_Static") << Pair(1, 1);
-    QTest::newRow("Vibration") << QByteArray("rad_Vibration") << Pair(1, 2);
-    QTest::newRow("Buckling") << QByteArray("rad_Bucking") << Pair(1, 3);
-    QTest::newRow("Transient") << QByteArray("rad_Transient") << Pair(1, 4);
-    QTest::newRow("Frequency") << QByteArray("rad_Freq") << Pair(1, 6);
-    QTest::newRow("Complex EigenValue") << QByteArray("rad_ComplexEig") << Pair(7, 7);
+    NewRow("Static", QByteArray("rad_Static"), Pair(1, 1));
+    NewRow("Vibration", QByteArray("rad_Vibration"), Pair(1, 2));
+    NewRow("Buckling", QByteArray("rad_Bucking"), Pair(1, 3));
+    NewRow("Transient", QByteArray("rad_Transient"), Pair(1, 4));
+    NewRow("Frequency", QByteArray("rad_Freq"), Pair(1, 6));
+    NewRow("Complex EigenValue", QByteArray("rad_ComplexEig"), Pair(7, 7));
 }
 
 void tst_CAnalysisTypeGUI::OkGivesThePairOfTheCheckedButton()
 {
     QFETCH(QByteArray, button);
     QFETCH(Pair, pair);
-    ModalDriver user;
     CAnalysisTypeGUI dialog(nullptr);
     dialog.InitData(3, 9);
     Find<QRadioButton>(dialog, button).setChecked(true);
-    user.Then([](QDialog& shown) { Click(shown, "ok_push_button"); });
-    dialog.exec();
-    QVERIFY(user.IsDone());
+    RunAndPress(dialog, "ok_push_button");
     QCOMPARE(SolverType(dialog), pair);
 }
 
 void tst_CAnalysisTypeGUI::OkKeepsThePairOfAButtonWithoutOne_data()
 {
     QTest::addColumn<QByteArray>("button");
-    QTest::newRow("NonLinear Static") << QByteArray("rad_NonLineStatic");
-    QTest::newRow("Flow CFD") << QByteArray("radioButton_10");
-    QTest::newRow("Heat Transfer") << QByteArray("rad_HeatTransf");
+    NewRow("NonLinear Static", QByteArray("rad_NonLineStatic"));
+    NewRow("Flow CFD", QByteArray("radioButton_10"));
+    NewRow("Heat Transfer", QByteArray("rad_HeatTransf"));
 }
 
 void tst_CAnalysisTypeGUI::OkKeepsThePairOfAButtonWithoutOne()
 {
     QFETCH(QByteArray, button);
-    ModalDriver user;
     CAnalysisTypeGUI dialog(nullptr);
     dialog.InitData(3, 9);
     Find<QRadioButton>(dialog, button).setChecked(true);
-    user.Then([](QDialog& shown) { Click(shown, "ok_push_button"); });
-    dialog.exec();
-    QVERIFY(user.IsDone());
+    RunAndPress(dialog, "ok_push_button");
     QVERIFY(!dialog.isVisible());
     QCOMPARE(SolverType(dialog), Pair(3, 9));
 }
@@ -328,54 +259,46 @@ void tst_CAnalysisTypeGUI::OkAfterInitData_data()
 {
     QTest::addColumn<Pair>("given");
     QTest::addColumn<Pair>("taken");
-    QTest::newRow("1, 1") << Pair(1, 1) << Pair(1, 1);
-    QTest::newRow("1, 2") << Pair(1, 2) << Pair(1, 2);
-    QTest::newRow("1, 3") << Pair(1, 3) << Pair(1, 3);
-    QTest::newRow("1, 4") << Pair(1, 4) << Pair(1, 4);
-    QTest::newRow("1, 5 becomes Vibration") << Pair(1, 5) << Pair(1, 2);
-    QTest::newRow("1, 6") << Pair(1, 6) << Pair(1, 6);
-    QTest::newRow("1, 7 becomes 7, 7") << Pair(1, 7) << Pair(7, 7);
-    QTest::newRow("7, 7 becomes Vibration") << Pair(7, 7) << Pair(1, 2);
+    NewRow("1, 1", Pair(1, 1), Pair(1, 1));
+    NewRow("1, 2", Pair(1, 2), Pair(1, 2));
+    NewRow("1, 3", Pair(1, 3), Pair(1, 3));
+    NewRow("1, 4", Pair(1, 4), Pair(1, 4));
+    NewRow("1, 5 becomes Vibration", Pair(1, 5), Pair(1, 2));
+    NewRow("1, 6", Pair(1, 6), Pair(1, 6));
+    NewRow("1, 7 becomes 7, 7", Pair(1, 7), Pair(7, 7));
+    NewRow("7, 7 becomes Vibration", Pair(7, 7), Pair(1, 2));
 }
 
 void tst_CAnalysisTypeGUI::OkAfterInitData()
 {
     QFETCH(Pair, given);
     QFETCH(Pair, taken);
-    ModalDriver user;
     CAnalysisTypeGUI dialog(nullptr);
     dialog.InitData(given.first, given.second);
-    user.Then([](QDialog& shown) { Click(shown, "ok_push_button"); });
-    dialog.exec();
-    QVERIFY(user.IsDone());
+    RunAndPress(dialog, "ok_push_button");
     QCOMPARE(SolverType(dialog), taken);
 }
 
 void tst_CAnalysisTypeGUI::TheUserMayGoBackToVibration()
 {
-    ModalDriver user;
     CAnalysisTypeGUI dialog(nullptr);
     dialog.InitData(1, 6);
-    user.Then([](QDialog& shown) {
+    Then([](QDialog& shown) {
         Click(shown, "rad_Vibration");
         QCOMPARE(CheckedButton(shown), "rad_Vibration");
         Click(shown, "ok_push_button");
     });
     dialog.exec();
-    QVERIFY(user.IsDone());
     QCOMPARE(SolverType(dialog), Pair(1, 2));
 }
 
 void tst_CAnalysisTypeGUI::OkHidesWithoutAcceptingOrRejecting()
 {
-    ModalDriver user;
     CAnalysisTypeGUI dialog(nullptr);
     const QSignalSpy accepted(&dialog, SIGNAL(accepted()));
     const QSignalSpy rejected(&dialog, SIGNAL(rejected()));
     const QSignalSpy finished(&dialog, SIGNAL(finished(int)));
-    user.Then([](QDialog& shown) { Click(shown, "ok_push_button"); });
-    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    QVERIFY(user.IsDone());
+    QCOMPARE(RunAndPress(dialog, "ok_push_button"), int(QDialog::Rejected));
     QVERIFY(!dialog.isVisible());
     QCOMPARE(accepted.count() + rejected.count() + finished.count(), 0);
     QCOMPARE(SolverType(dialog), Pair(1, 2));
@@ -409,81 +332,33 @@ void tst_CAnalysisTypeGUI::LeavingKeepsThePair()
     QFETCH(Pair, given);
     QFETCH(Pair, kept);
     QFETCH(QString, way);
-    ModalDriver user;
     CAnalysisTypeGUI dialog(nullptr);
     dialog.InitData(given.first, given.second);
-    user.Then([&](QDialog& shown) {
-        if (way == "Cancel")
-            Click(shown, "cancael_push_button");
-        else if (way == "Escape")
-            QTest::keyClick(&shown, Qt::Key_Escape);
-        else
-            shown.close();
-    });
+    Then([&](QDialog& shown) { Leave(shown, way, "cancael_push_button"); });
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    QVERIFY(user.IsDone());
     QVERIFY(!dialog.isVisible());
     QCOMPARE(SolverType(dialog), kept);
 }
 
 void tst_CAnalysisTypeGUI::TheDialogCanRunAgain()
 {
-    ModalDriver user;
     CAnalysisTypeGUI dialog(nullptr);
-    user.Then([](QDialog& shown) { Click(shown, "ok_push_button"); });
-    dialog.exec();
+    RunAndPress(dialog, "ok_push_button");
     dialog.InitData(1, 4);
-    user.Then([](QDialog& shown) { Click(shown, "ok_push_button"); });
-    dialog.exec();
-    QVERIFY(user.IsDone());
+    RunAndPress(dialog, "ok_push_button");
     QCOMPARE(SolverType(dialog), Pair(1, 4));
 }
 
-void tst_CAnalysisTypeGUI::TabFollowsReadingOrder()
+void tst_CAnalysisTypeGUI::TabFollowsTheReadingOrderOfEnabledTypes()
 {
     CAnalysisTypeGUI dialog(nullptr);
     const QList<QRadioButton*> buttons = dialog.findChildren<QRadioButton*>();
-    QCOMPARE(TabOrder(dialog),
-             QStringList({"rad_Vibration", "ok_push_button", "cancael_push_button"}));
-    // As it would be if a host enabled the others.
     for (QRadioButton* const button : buttons)
         button->setEnabled(true);
     QCOMPARE(TabOrder(dialog),
              QStringList({"rad_Static", "rad_NonLineStatic", "radioButton_10", "rad_Vibration",
                           "rad_HeatTransf", "rad_Bucking", "rad_Freq", "rad_Transient",
                           "rad_ComplexEig", "ok_push_button", "cancael_push_button"}));
-}
-
-void tst_CAnalysisTypeGUI::EnterConfirmsFromEverywhere_data()
-{
-    QTest::addColumn<QByteArray>("focus");
-    for (const char* const name : {"rad_Vibration", "ok_push_button", "cancael_push_button"})
-        QTest::newRow(name) << QByteArray(name);
-}
-
-void tst_CAnalysisTypeGUI::EnterConfirmsFromEverywhere()
-{
-    QFETCH(QByteArray, focus);
-    ModalDriver user;
-    CAnalysisTypeGUI dialog(nullptr);
-    user.Then([&](QDialog& shown) {
-        auto& widget = Find<QWidget>(shown, focus);
-        widget.setFocus();
-        QTest::keyClick(&widget, Qt::Key_Return);
-    });
-    dialog.exec();
-    QVERIFY(user.IsDone());
-    QCOMPARE(SolverType(dialog), Pair(1, 2));
-}
-
-void tst_CAnalysisTypeGUI::OpeningAThousandTimesTakesNoMemory()
-{
-    const std::ptrdiff_t growth = HeapGrowth([] {
-        CAnalysisTypeGUI dialog(nullptr);
-        dialog.show();
-        dialog.close();
-    });
-    QVERIFY2(growth < 16 * 1000, qPrintable(QString::number(growth)));
 }
 
 TARN_TEST_MAIN(tst_CAnalysisTypeGUI)

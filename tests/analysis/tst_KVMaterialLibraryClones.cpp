@@ -1,18 +1,11 @@
-#include "DialogFacts.h"
-#include "EmptyAnalysisStores.h"
-#include "KVMaterialLibrary.h"
-#include "MaterialTable.h"
-#include "ModalDriver.h"
-#include "TestCase.h"
+#include "MaterialLibrary.h"
+#include "TextRecorder.h"
 
 #include <QLineEdit>
-#include <QPushButton>
 
-// Cloning counts as long as the process lives, so one test function walks through all the counts.
+// The count of clones lives as long as the process, so one test function goes through all counts.
 
 namespace {
-
-const char* const UserFile = "./UserMaterial.xml";
 
 struct Proposal
 {
@@ -58,19 +51,14 @@ const QVector<Proposal>& Proposals()
 
 const QStringList BaseNames = {"Steel", "Steel0", "Steel9", "Steel10", "Steel99", "AB", "A", ""};
 
+ShownBox Rename()
+{
+    return ShownBox::Notice("Warning", "Material rename!");
+}
+
 ShownBox TooMany()
 {
     return ShownBox::Notice("Warning", "Too many add");
-}
-
-KVMaterialData& Store()
-{
-    return *KVMaterialData::GetInstance();
-}
-
-QTableWidget& Table(const QWidget& library)
-{
-    return Find<QTableWidget>(library, "tableWidget");
 }
 
 void WriteBaseMaterials()
@@ -81,22 +69,9 @@ void WriteBaseMaterials()
     WriteMaterials(UserFile, materials);
 }
 
-/// What cloning the material of that name proposes; the clone is cancelled.
-QString ProposedName(ModalDriver& user, QDialog& library, const QString& name)
-{
-    QString proposed = "nothing was proposed";
-    user.Then([&](QDialog& editor) {
-        proposed = Find<QLineEdit>(editor, "lineEditName").text();
-        Click(editor, "pushButton_2");
-    });
-    ClickRow(Table(library), BaseNames.indexOf(name));
-    Click(library, "pushButton_3");
-    return proposed;
-}
-
 } // namespace
 
-class tst_KVMaterialLibraryClones : public TestCase
+class tst_KVMaterialLibraryClones : public With<DialogTest, TemporaryDirectory, EmptyAnalysisStores>
 {
     Q_OBJECT
 
@@ -105,40 +80,47 @@ private Q_SLOTS:
 
 private:
     void CountUpTo(int count);
-    void TheFirstCloneIsEnteredAsAnAdditionIs();
-    void AProposalThatIsHeldIsRefused();
+    void TheFirstCloneIsEnteredLikeAnAddition();
+    void AProposedNameThatIsHeldIsRefused();
     void NoMoreThan101ClonesAreMade();
+    QString ProposedName(QDialog& library, const QString& name);
 };
+
+/// What cloning the material of that name proposes; the clone is cancelled.
+QString tst_KVMaterialLibraryClones::ProposedName(QDialog& library, const QString& name)
+{
+    QString proposed = "nothing was proposed";
+    Then([&](QDialog& editor) {
+        proposed = Find<QLineEdit>(editor, "lineEditName").text();
+        Click(editor, "pushButton_2");
+    });
+    ClickRow(Table(library), BaseNames.indexOf(name));
+    Click(library, "pushButton_3");
+    return proposed;
+}
 
 void tst_KVMaterialLibraryClones::ClonesAreProposedAndCounted()
 {
-    EnterTemporaryDirectory();
-    const EmptyAnalysisStores stores;
     WriteBaseMaterials();
-    // Each part goes on with the count of the one before.
-    TheFirstCloneIsEnteredAsAnAdditionIs();
-    if (!QTest::currentTestFailed())
-        CountUpTo(11);
-    if (!QTest::currentTestFailed())
-        AProposalThatIsHeldIsRefused();
-    if (!QTest::currentTestFailed())
-        CountUpTo(101);
-    if (!QTest::currentTestFailed())
-        NoMoreThan101ClonesAreMade();
+    // Each part continues the count of the one before.
+    TheFirstCloneIsEnteredLikeAnAddition();
+    CountUpTo(11);
+    AProposedNameThatIsHeldIsRefused();
+    CountUpTo(101);
+    NoMoreThan101ClonesAreMade();
 }
 
-void tst_KVMaterialLibraryClones::TheFirstCloneIsEnteredAsAnAdditionIs()
+void tst_KVMaterialLibraryClones::TheFirstCloneIsEnteredLikeAnAddition()
 {
-    ModalDriver user;
     KVMaterialLibrary library;
     library.Reset();
-    user.Then([&](QDialog& shown) {
+    Then([&](QDialog& shown) {
         for (const Proposal& row : Proposals()) {
             // None of these is confirmed, so the count stays at 0.
             if (row.count == 0)
-                QCOMPARE(ProposedName(user, shown, row.name), row.proposed);
+                QCOMPARE(ProposedName(shown, row.name), row.proposed);
         }
-        user.Then([&](QDialog& editor) {
+        Then([&](QDialog& editor) {
             QCOMPARE(editor.parentWidget(), &shown);
             QCOMPARE(RowTexts(Table(editor), 0).at(1), "1e11");
             QCOMPARE(RowTexts(Table(editor), 1).at(1), "0.34");
@@ -156,24 +138,21 @@ void tst_KVMaterialLibraryClones::TheFirstCloneIsEnteredAsAnAdditionIs()
         Click(shown, "pushButton_8");
     });
     library.exec();
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>());
 }
 
 /// Clones until the count is reached, and compares what is proposed on the way. The count goes on
 /// in another dialog.
 void tst_KVMaterialLibraryClones::CountUpTo(int count)
 {
-    ModalDriver user;
     KVMaterialLibrary library;
     library.Reset();
-    user.Then([&](QDialog& shown) {
+    Then([&](QDialog& shown) {
         for (int i = count == 11 ? 1 : 11; i < count && !QTest::currentTestFailed(); ++i) {
             for (const Proposal& row : Proposals()) {
                 if (row.count == i)
-                    QCOMPARE(ProposedName(user, shown, row.name), row.proposed);
+                    QCOMPARE(ProposedName(shown, row.name), row.proposed);
             }
-            user.Then([i](QDialog& editor) {
+            Then([i](QDialog& editor) {
                 Find<QLineEdit>(editor, "lineEditName").setText(QStringLiteral("clone %1").arg(i));
                 Click(editor, "pushButton");
             });
@@ -184,17 +163,14 @@ void tst_KVMaterialLibraryClones::CountUpTo(int count)
         Click(shown, "pushButton_8");
     });
     library.exec();
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>());
 }
 
-void tst_KVMaterialLibraryClones::AProposalThatIsHeldIsRefused()
+void tst_KVMaterialLibraryClones::AProposedNameThatIsHeldIsRefused()
 {
-    ModalDriver user;
     KVMaterialLibrary library;
     library.Reset();
-    user.Then([&](QDialog& shown) {
-        user.Then([](QDialog& editor) {
+    Then([&](QDialog& shown) {
+        Then([](QDialog& editor) {
             QCOMPARE(Find<QLineEdit>(editor, "lineEditName").text(), "A");
             Click(editor, "pushButton");
             QVERIFY(editor.isVisible());
@@ -203,22 +179,20 @@ void tst_KVMaterialLibraryClones::AProposalThatIsHeldIsRefused()
         ClickRow(Table(shown), BaseNames.indexOf("A"));
         Click(shown, "pushButton_3");
         // The count has stayed at 11.
-        QCOMPARE(ProposedName(user, shown, "Steel"), "Ste11");
+        QCOMPARE(ProposedName(shown, "Steel"), "Ste11");
         Click(shown, "pushButton_8");
     });
     library.exec();
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({ShownBox::Notice("Warning", "Material rename!")}));
+    QCOMPARE(Boxes(), ShownBoxes({Rename()}));
 }
 
 void tst_KVMaterialLibraryClones::NoMoreThan101ClonesAreMade()
 {
     const TextRecorder recorder;
-    ModalDriver user;
     KVMaterialLibrary library;
     library.Reset();
     const int materials = Store().MapDataRow();
-    user.Then([&](QDialog& shown) {
+    Then([&](QDialog& shown) {
         ClickRow(Table(shown), 0);
         Click(shown, "pushButton_3");
         Click(shown, "pushButton_3");
@@ -226,8 +200,7 @@ void tst_KVMaterialLibraryClones::NoMoreThan101ClonesAreMade()
         Click(shown, "pushButton_8");
     });
     library.exec();
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({TooMany(), TooMany()}));
+    QCOMPARE(Boxes(), ShownBoxes({Rename(), TooMany(), TooMany()}));
     QCOMPARE(Store().MapDataRow(), materials);
     QVERIFY(recorder.TextsOf("KVMaterialLibrary").contains("Too many add"));
 }

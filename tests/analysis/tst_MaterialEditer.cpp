@@ -1,22 +1,38 @@
-#include "DialogFacts.h"
 #include "EmptyAnalysisStores.h"
-#include "Heap.h"
+#include "FormTest.h"
 #include "MaterialEditer.h"
-#include "MaterialTable.h"
-#include "ModalDriver.h"
-#include "TestCase.h"
+#include "MaterialFiles.h"
+#include "Tables.h"
+#include "TextRecorder.h"
 
-#include <QApplication>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
-#include <QPushButton>
-#include <QTimer>
 
 #include <memory>
 
 namespace {
+
+FormFacts Form()
+{
+    FormFacts form;
+    form.name = "Editconductor";
+    form.title = "Edit Material";
+    form.size = {553, 424};
+    form.lines = {
+        "QLabel label in Editconductor at 30,10 54x31: Name:, for lineEditName",
+        "QLineEdit lineEditName in Editconductor at 80,20 113x20: Material",
+        "QGroupBox groupBox in Editconductor at 10,50 531x331: Properties of the Material",
+        "QFrame frame_2 in groupBox at 0,20 531x301: ",
+        "QTableWidget tableWidget in frame_2 at 10,10 511x291: ",
+        "QPushButton pushButton in Editconductor at 150,390 75x23: OK",
+        "QPushButton pushButton_2 in Editconductor at 310,390 75x23: Cancel",
+    };
+    form.tabOrder = {"lineEditName", "tableWidget", "pushButton", "pushButton_2"};
+    form.methods = {"private slot onOkButtonClicked()", "private slot onCancelButtonClicked()"};
+    form.untranslated = {"Material", "Name", "Value"};
+    return form;
+}
 
 ShownBox Rename()
 {
@@ -42,56 +58,25 @@ QStringList Record(const MaterialEditer& editor)
             material->m_strLibDensity};
 }
 
-void Hold(const QStringList& names, int type = MATERIAL_USER)
-{
-    for (const QString& name : names) {
-        auto* const material = new KVMaterialInfo;
-        material->m_nType = type;
-        material->m_strName = name;
-        KVMaterialData::GetInstance()->AddMaterialInfo(material);
-    }
-}
-
-/// Types into a cell and leaves it as told: with Enter, or by pressing the button of that name.
-void TypeCell(QWidget& editor, int row, int column, const QString& text, const char* leave)
-{
-    QTableWidget& table = Table(editor);
-    QApplication::setActiveWindow(&editor);
-    DoubleClickCell(table, row, column);
-    auto* const field = table.viewport()->findChild<QLineEdit*>();
-    QVERIFY(field != nullptr);
-    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(field, Qt::Key_Delete);
-    QTest::keyClicks(field, text);
-    if (qstrcmp(leave, "Enter") == 0) {
-        QTest::keyClick(field, Qt::Key_Return);
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    } else {
-        Click(editor, leave);
-    }
-}
-
 } // namespace
 
-class tst_MaterialEditer : public TestCase
+class tst_MaterialEditer : public With<FormTest<MaterialEditer>, EmptyAnalysisStores>
 {
     Q_OBJECT
 
+public:
+    tst_MaterialEditer()
+        : With(Form())
+    {
+    }
+
 private Q_SLOTS:
-    void TheFormIsAsGiven_data();
-    void TheFormIsAsGiven();
-    void TheFormHoldsNothingElse();
-    void TheWindowIsAsGiven();
     void TheFrameIsSunken();
-    void TheTableIsSetUpAsGiven();
-    void TheTextsBelongToTheForm();
+    void TheTableIsSetUpAsDesigned();
     void TheNoticeIsNotTranslated();
-    void TheClassHasItsTwoSlots();
-    void TheHostsWindowIsTheParent();
     void ANewMaterialStartsWithTheDefaults();
     void AMaterialIsShown();
-    void MoreThanThreeValuesArePassedOver();
+    void ValuesBeyondTheThirdAreIgnored();
     void AShortListEndsTheProgram_data();
     void AShortListEndsTheProgram();
     void TheRecordHoldsWhatTheFieldsHold();
@@ -107,53 +92,8 @@ private Q_SLOTS:
     void ACellBeingTypedCounts();
     void AClearedCellIsAnEmptyValue();
     void PropertyNamesCanBeTypedButAreNotRead();
-    void TabFollowsReadingOrder();
     void TabLeavesTheTable();
-    void EnterPressesNothing_data();
-    void EnterPressesNothing();
-    void OpeningAndClosingKeepsTheHeap();
 };
-
-void tst_MaterialEditer::TheFormIsAsGiven_data()
-{
-    AddFormColumns();
-    const char* const dialog = "Editconductor";
-    QTest::newRow("label") << "QLabel" << dialog << QRect(30, 10, 54, 31) << "Name:" << true
-                           << false;
-    QTest::newRow("lineEditName") << "QLineEdit" << dialog << QRect(80, 20, 113, 20) << "Material"
-                                  << true << false;
-    QTest::newRow("groupBox") << "QGroupBox" << dialog << QRect(10, 50, 531, 331)
-                              << "Properties of the Material" << true << false;
-    QTest::newRow("frame_2") << "QFrame"
-                             << "groupBox" << QRect(0, 20, 531, 301) << "" << true << false;
-    QTest::newRow("tableWidget") << "QTableWidget"
-                                 << "frame_2" << QRect(10, 10, 511, 291) << "" << true << false;
-    QTest::newRow("pushButton") << "QPushButton" << dialog << QRect(150, 390, 75, 23) << "OK"
-                                << true << false;
-    QTest::newRow("pushButton_2") << "QPushButton" << dialog << QRect(310, 390, 75, 23) << "Cancel"
-                                  << true << false;
-}
-
-void tst_MaterialEditer::TheFormIsAsGiven()
-{
-    const MaterialEditer editor(nullptr);
-    CompareFormRow(editor);
-}
-
-void tst_MaterialEditer::TheFormHoldsNothingElse()
-{
-    const MaterialEditer editor(nullptr);
-    QCOMPARE(FormWidgets(editor), QStringList({"frame_2", "groupBox", "label", "lineEditName",
-                                               "pushButton", "pushButton_2", "tableWidget"}));
-    QCOMPARE(Find<QLabel>(editor, "label").buddy(), &Find<QLineEdit>(editor, "lineEditName"));
-}
-
-void tst_MaterialEditer::TheWindowIsAsGiven()
-{
-    const MaterialEditer editor(nullptr);
-    CompareWindow(editor, "Editconductor", "Edit Material", QSize(553, 424));
-    QVERIFY(editor.windowIcon().isNull());
-}
 
 void tst_MaterialEditer::TheFrameIsSunken()
 {
@@ -164,7 +104,7 @@ void tst_MaterialEditer::TheFrameIsSunken()
     QCOMPARE(frame.lineWidth(), 2);
 }
 
-void tst_MaterialEditer::TheTableIsSetUpAsGiven()
+void tst_MaterialEditer::TheTableIsSetUpAsDesigned()
 {
     const MaterialEditer editor(nullptr);
     const QTableWidget& table = Table(editor);
@@ -182,45 +122,18 @@ void tst_MaterialEditer::TheTableIsSetUpAsGiven()
     QVERIFY(table.verticalHeader()->isHidden());
 }
 
-void tst_MaterialEditer::TheTextsBelongToTheForm()
-{
-    const TextRecorder recorder;
-    const MaterialEditer editor(nullptr);
-    QCOMPARE(recorder.TextsOf("Editconductor"),
-             QStringList({"Cancel", "Edit Material", "Name:", "OK", "Properties of the Material"}));
-    // Neither the headers nor the rows are translated.
-    QCOMPARE(recorder.TextsOf("MaterialEditer"), QStringList());
-}
-
 void tst_MaterialEditer::TheNoticeIsNotTranslated()
 {
-    const EmptyAnalysisStores stores;
-    Hold({"Material"});
+    HoldMaterial("Material");
     const TextRecorder recorder;
-    ModalDriver user;
     MaterialEditer editor(nullptr);
-    user.Then([](QDialog& shown) {
+    Then([](QDialog& shown) {
         Click(shown, "pushButton");
         Click(shown, "pushButton_2");
     });
     QCOMPARE(editor.exec(), int(QDialog::Rejected));
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Rename()}));
+    QCOMPARE(Boxes(), ShownBoxes({Rename()}));
     QCOMPARE(recorder.TextsOf("MaterialEditer"), QStringList());
-}
-
-void tst_MaterialEditer::TheClassHasItsTwoSlots()
-{
-    const QMetaObject& meta = MaterialEditer::staticMetaObject;
-    QCOMPARE(meta.superClass(), &QDialog::staticMetaObject);
-    QCOMPARE(OwnMethods(meta), QStringList({"private slot onOkButtonClicked()",
-                                            "private slot onCancelButtonClicked()"}));
-}
-
-void tst_MaterialEditer::TheHostsWindowIsTheParent()
-{
-    QWidget window;
-    const MaterialEditer editor(&window);
-    QCOMPARE(editor.parentWidget(), &window);
 }
 
 void tst_MaterialEditer::ANewMaterialStartsWithTheDefaults()
@@ -242,7 +155,7 @@ void tst_MaterialEditer::AMaterialIsShown()
     QCOMPARE(RowTexts(Table(editor), 2), QStringList({"Density", "7850"}));
 }
 
-void tst_MaterialEditer::MoreThanThreeValuesArePassedOver()
+void tst_MaterialEditer::ValuesBeyondTheThirdAreIgnored()
 {
     MaterialEditer editor(nullptr);
     editor.SetMaterialData("Steel", {"1", "2", "3", "4"});
@@ -253,9 +166,9 @@ void tst_MaterialEditer::MoreThanThreeValuesArePassedOver()
 void tst_MaterialEditer::AShortListEndsTheProgram_data()
 {
     QTest::addColumn<int>("count");
-    QTest::newRow("no value") << 0;
-    QTest::newRow("one value") << 1;
-    QTest::newRow("two values") << 2;
+    NewRow("no value", 0);
+    NewRow("one value", 1);
+    NewRow("two values", 2);
 }
 
 void tst_MaterialEditer::AShortListEndsTheProgram()
@@ -283,18 +196,15 @@ void tst_MaterialEditer::AShortListEndsTheProgram()
 
 void tst_MaterialEditer::TheRecordHoldsWhatTheFieldsHold()
 {
-    const EmptyAnalysisStores stores;
-    ModalDriver user;
     MaterialEditer editor(nullptr);
-    user.Then([](QDialog& shown) {
+    Then([](QDialog& shown) {
         Type(shown, "lineEditName", "Bronze");
-        TypeCell(shown, 0, 1, "1.1e11", "Enter");
-        TypeCell(shown, 1, 1, "0.34", "Enter");
-        TypeCell(shown, 2, 1, "8800", "Enter");
+        TypeIntoCell(Table(shown), 0, 1, "1.1e11");
+        TypeIntoCell(Table(shown), 1, 1, "0.34");
+        TypeIntoCell(Table(shown), 2, 1, "8800");
         Click(shown, "pushButton");
     });
     QCOMPARE(editor.exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
     QCOMPARE(Record(editor), QStringList({"1", "Bronze", "1.1e11", "0.34", "8800", "", "", ""}));
 }
 
@@ -311,35 +221,23 @@ void tst_MaterialEditer::AnyTextIsAccepted_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("value");
-    QTest::newRow("numbers") << "Steel"
-                             << "-1e400";
-    QTest::newRow("words") << "Steel"
-                           << "about 7";
-    QTest::newRow("empty value") << "Steel"
-                                 << "";
-    QTest::newRow("empty name") << ""
-                                << "1";
-    QTest::newRow("blank name") << " "
-                                << "1";
-    QTest::newRow("Chinese") << "结构钢"
-                             << "约七";
-    QTest::newRow("markup") << "<b>x</b>"
-                            << "&amp;";
+    NewRow("numbers", "Steel", "-1e400");
+    NewRow("words", "Steel", "about 7");
+    NewRow("empty value", "Steel", "");
+    NewRow("empty name", "", "1");
+    NewRow("blank name", " ", "1");
+    NewRow("Chinese", "结构钢", "约七");
+    NewRow("markup", "<b>x</b>", "&amp;");
 }
 
 void tst_MaterialEditer::AnyTextIsAccepted()
 {
     QFETCH(QString, name);
     QFETCH(QString, value);
-    const EmptyAnalysisStores stores;
-    Hold({"other"});
-    ModalDriver user;
+    HoldMaterial("other");
     MaterialEditer editor(nullptr);
     editor.SetMaterialData(name, {value, value, value});
-    user.Then([](QDialog& shown) { Click(shown, "pushButton"); });
-    QCOMPARE(editor.exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>());
+    QCOMPARE(RunAndPress(editor, "pushButton"), int(QDialog::Accepted));
     QCOMPARE(Record(editor), QStringList({"1", name, value, value, value, "", "", ""}));
 }
 
@@ -350,17 +248,17 @@ void tst_MaterialEditer::ANameThatTheStoreHoldsIsRefused_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("refused");
     const QStringList three = {"Steel", "Bronze", "Glass"};
-    QTest::newRow("an empty store") << QStringList() << 1 << "Steel" << false;
-    QTest::newRow("the first") << three << 1 << "Steel" << true;
-    QTest::newRow("one between") << three << 1 << "Bronze" << true;
-    QTest::newRow("the last") << three << 1 << "Glass" << true;
-    QTest::newRow("a system material") << three << 0 << "Bronze" << true;
-    QTest::newRow("one that is never shown") << three << 7 << "Bronze" << true;
-    QTest::newRow("another case") << three << 1 << "steel" << false;
-    QTest::newRow("with a blank") << three << 1 << "Steel " << false;
-    QTest::newRow("the beginning of one") << three << 1 << "Stee" << false;
-    QTest::newRow("empty and held") << QStringList({""}) << 1 << "" << true;
-    QTest::newRow("empty and not held") << three << 1 << "" << false;
+    NewRow("an empty store", QStringList(), 1, "Steel", false);
+    NewRow("the first", three, 1, "Steel", true);
+    NewRow("one between", three, 1, "Bronze", true);
+    NewRow("the last", three, 1, "Glass", true);
+    NewRow("a system material", three, 0, "Bronze", true);
+    NewRow("one that is never shown", three, 7, "Bronze", true);
+    NewRow("another case", three, 1, "steel", false);
+    NewRow("with a blank", three, 1, "Steel ", false);
+    NewRow("the beginning of one", three, 1, "Stee", false);
+    NewRow("empty and held", QStringList({""}), 1, "", true);
+    NewRow("empty and not held", three, 1, "", false);
 }
 
 void tst_MaterialEditer::ANameThatTheStoreHoldsIsRefused()
@@ -369,11 +267,10 @@ void tst_MaterialEditer::ANameThatTheStoreHoldsIsRefused()
     QFETCH(int, type);
     QFETCH(QString, name);
     QFETCH(bool, refused);
-    const EmptyAnalysisStores stores;
-    Hold(held, type);
-    ModalDriver user;
+    for (const QString& other : held)
+        HoldMaterial(other, type);
     MaterialEditer editor(nullptr);
-    user.Then([&](QDialog& shown) {
+    Then([&](QDialog& shown) {
         Type(shown, "lineEditName", name);
         auto& field = Find<QLineEdit>(shown, "lineEditName");
         QStringList texts;
@@ -388,87 +285,66 @@ void tst_MaterialEditer::ANameThatTheStoreHoldsIsRefused()
         }
     });
     QCOMPARE(editor.exec(), int(refused ? QDialog::Rejected : QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>(refused ? 1 : 0, Rename()));
+    QCOMPARE(Boxes(), ShownBoxes(refused ? 1 : 0, Rename()));
 }
 
 void tst_MaterialEditer::ARefusalRepeatsUntilTheNameChanges()
 {
-    const EmptyAnalysisStores stores;
-    Hold({"Material"});
-    ModalDriver user;
+    HoldMaterial("Material");
     MaterialEditer editor(nullptr);
-    user.Then([](QDialog& shown) {
+    Then([](QDialog& shown) {
         Click(shown, "pushButton");
-        TypeCell(shown, 2, 1, "7", "pushButton");
+        TypeInCell(Table(shown), 2, 1, "7");
+        Click(shown, "pushButton");
         QVERIFY(shown.isVisible());
         Type(shown, "lineEditName", "Material2");
         Click(shown, "pushButton");
     });
     QCOMPARE(editor.exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({Rename(), Rename()}));
+    QCOMPARE(Boxes(), ShownBoxes({Rename(), Rename()}));
     QCOMPARE(Record(editor), QStringList({"1", "Material2", "58000000", "1", "7", "", "", ""}));
 }
 
 void tst_MaterialEditer::LeavingRejects_data()
 {
-    QTest::addColumn<QString>("way");
-    for (const char* const way : {"Cancel", "Escape", "close"})
-        QTest::newRow(way) << way;
+    AddWaysToLeave();
 }
 
 void tst_MaterialEditer::LeavingRejects()
 {
     QFETCH(QString, way);
-    ModalDriver user;
     MaterialEditer editor(nullptr);
-    user.Then([&](QDialog& shown) {
-        if (way == "Cancel")
-            Click(shown, "pushButton_2");
-        else if (way == "Escape")
-            QTest::keyClick(&Find<QLineEdit>(shown, "lineEditName"), Qt::Key_Escape);
-        else
-            shown.close();
-    });
+    Then([&](QDialog& shown) { Leave(shown, way, "pushButton_2"); });
     QCOMPARE(editor.exec(), int(QDialog::Rejected));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), QVector<ShownBox>());
 }
 
 void tst_MaterialEditer::TheStoreIsNotWritten()
 {
-    const EmptyAnalysisStores stores;
-    ModalDriver user;
     MaterialEditer editor(nullptr);
-    user.Then([](QDialog& shown) { Click(shown, "pushButton"); });
-    QCOMPARE(editor.exec(), int(QDialog::Accepted));
+    QCOMPARE(RunAndPress(editor, "pushButton"), int(QDialog::Accepted));
     const std::unique_ptr<KVMaterialInfo> material(editor.CreateMaterialInfo());
     QCOMPARE(KVMaterialData::GetInstance()->MapDataRow(), 0);
 }
 
 void tst_MaterialEditer::ACellBeingTypedCounts()
 {
-    const EmptyAnalysisStores stores;
-    ModalDriver user;
     MaterialEditer editor(nullptr);
-    user.Then([](QDialog& shown) { TypeCell(shown, 1, 1, "0.25", "pushButton"); });
+    Then([](QDialog& shown) {
+        TypeInCell(Table(shown), 1, 1, "0.25");
+        Click(shown, "pushButton");
+    });
     QCOMPARE(editor.exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
     QCOMPARE(Record(editor).at(3), "0.25");
 }
 
 void tst_MaterialEditer::AClearedCellIsAnEmptyValue()
 {
-    const EmptyAnalysisStores stores;
-    ModalDriver user;
     MaterialEditer editor(nullptr);
-    user.Then([](QDialog& shown) {
-        TypeCell(shown, 0, 1, "", "Enter");
+    Then([](QDialog& shown) {
+        TypeIntoCell(Table(shown), 0, 1, "");
         Click(shown, "pushButton");
     });
     QCOMPARE(editor.exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
     QCOMPARE(Record(editor), QStringList({"1", "Material", "", "1", "0", "", "", ""}));
     // A cell that is missing altogether counts as empty, too.
     delete Table(editor).takeItem(1, 1);
@@ -477,75 +353,26 @@ void tst_MaterialEditer::AClearedCellIsAnEmptyValue()
 
 void tst_MaterialEditer::PropertyNamesCanBeTypedButAreNotRead()
 {
-    const EmptyAnalysisStores stores;
-    ModalDriver user;
     MaterialEditer editor(nullptr);
-    user.Then([](QDialog& shown) {
-        TypeCell(shown, 0, 0, "Density", "Enter");
+    Then([](QDialog& shown) {
+        TypeIntoCell(Table(shown), 0, 0, "Density");
         Click(shown, "pushButton");
     });
     QCOMPARE(editor.exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
     QCOMPARE(RowTexts(Table(editor), 0), QStringList({"Density", "58000000"}));
     QCOMPARE(Record(editor), QStringList({"1", "Material", "58000000", "1", "0", "", "", ""}));
 }
 
-void tst_MaterialEditer::TabFollowsReadingOrder()
-{
-    MaterialEditer editor(nullptr);
-    QCOMPARE(TabOrder(editor),
-             QStringList({"lineEditName", "tableWidget", "pushButton", "pushButton_2"}));
-}
-
 void tst_MaterialEditer::TabLeavesTheTable()
 {
-    ModalDriver user;
     MaterialEditer editor(nullptr);
-    user.Then([](QDialog& shown) {
+    Then([](QDialog& shown) {
         Table(shown).setFocus();
         QTest::keyClick(&Table(shown), Qt::Key_Tab);
         QCOMPARE(shown.focusWidget()->objectName(), "pushButton");
         shown.reject();
     });
     editor.exec();
-    QVERIFY(user.IsDone());
-}
-
-void tst_MaterialEditer::EnterPressesNothing_data()
-{
-    QTest::addColumn<QByteArray>("focus");
-    for (const char* const name : {"lineEditName", "tableWidget", "pushButton", "pushButton_2"})
-        QTest::newRow(name) << QByteArray(name);
-}
-
-void tst_MaterialEditer::EnterPressesNothing()
-{
-    QFETCH(QByteArray, focus);
-    const EmptyAnalysisStores stores;
-    ModalDriver user;
-    MaterialEditer editor(nullptr);
-    user.Then([&](QDialog& shown) {
-        auto& widget = Find<QWidget>(shown, focus);
-        widget.setFocus();
-        QTest::keyClick(&widget, Qt::Key_Return);
-        QTest::keyClick(&widget, Qt::Key_Enter);
-        QVERIFY(shown.isVisible());
-        shown.done(7);
-    });
-    QCOMPARE(editor.exec(), 7);
-    QVERIFY(user.IsDone());
-}
-
-void tst_MaterialEditer::OpeningAndClosingKeepsTheHeap()
-{
-    const EmptyAnalysisStores stores;
-    const auto growth = HeapGrowth([] {
-        MaterialEditer editor(nullptr);
-        editor.SetMaterialData("Steel", {"1", "2", "3"});
-        QTimer::singleShot(0, &editor, &QDialog::reject);
-        editor.exec();
-    });
-    QVERIFY2(growth < 50000, qPrintable(QString::number(growth)));
 }
 
 TARN_TEST_MAIN(tst_MaterialEditer)

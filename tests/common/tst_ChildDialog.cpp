@@ -1,42 +1,39 @@
 #include "ChildDialog.h"
-#include "ModalDriver.h"
-#include "TestCase.h"
+#include "DialogTest.h"
 
 #include <QMessageBox>
 
-class tst_ChildDialog : public TestCase
+class tst_ChildDialog : public DialogTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void ItTellsWhetherTheUserAccepted_data();
-    void ItTellsWhetherTheUserAccepted();
-    void ItGoesWithItsScope();
+    void ItReturnsWhetherTheUserAccepted_data();
+    void ItReturnsWhetherTheUserAccepted();
+    void ItIsDestroyedWithItsScope();
     void ItSurvivesItsParent_data();
     void ItSurvivesItsParent();
-    void ItPassesTheArgumentsOn();
+    void ItPassesOnTheArguments();
 };
 
-void tst_ChildDialog::ItTellsWhetherTheUserAccepted_data()
+void tst_ChildDialog::ItReturnsWhetherTheUserAccepted_data()
 {
     QTest::addColumn<bool>("accepts");
-    QTest::newRow("accepted") << true;
-    QTest::newRow("rejected") << false;
+    NewRow("accepted", true);
+    NewRow("rejected", false);
 }
 
-void tst_ChildDialog::ItTellsWhetherTheUserAccepted()
+void tst_ChildDialog::ItReturnsWhetherTheUserAccepted()
 {
     QFETCH(bool, accepts);
     QDialog parent;
-    ModalDriver user;
-    user.Then([accepts](QDialog& shown) { shown.done(int(accepts)); });
+    Then([accepts](QDialog& shown) { shown.done(int(accepts)); });
     tarn::ChildDialog<QDialog> child(&parent);
     QCOMPARE(child->parentWidget(), &parent);
     QCOMPARE(child.RunToAccept(), accepts);
-    QVERIFY(user.IsDone());
 }
 
-void tst_ChildDialog::ItGoesWithItsScope()
+void tst_ChildDialog::ItIsDestroyedWithItsScope()
 {
     QDialog parent;
     QPointer<QDialog> dialog;
@@ -51,16 +48,15 @@ void tst_ChildDialog::ItGoesWithItsScope()
 void tst_ChildDialog::ItSurvivesItsParent_data()
 {
     QTest::addColumn<bool>("accepts");
-    QTest::newRow("accepted before") << true;
-    QTest::newRow("still open") << false;
+    NewRow("accepted before", true);
+    NewRow("still open", false);
 }
 
 void tst_ChildDialog::ItSurvivesItsParent()
 {
     QFETCH(bool, accepts);
     auto* const parent = new QDialog;
-    ModalDriver user;
-    user.Then([parent, accepts](QDialog& shown) {
+    Then([parent, accepts](QDialog& shown) {
         if (accepts)
             shown.accept();
         delete parent;
@@ -68,10 +64,9 @@ void tst_ChildDialog::ItSurvivesItsParent()
     tarn::ChildDialog<QDialog> child(parent);
     QVERIFY(!child.RunToAccept());
     QVERIFY(child.Get() == nullptr);
-    QVERIFY(user.IsDone());
 }
 
-void tst_ChildDialog::ItPassesTheArgumentsOn()
+void tst_ChildDialog::ItPassesOnTheArguments()
 {
     QDialog parent;
     const tarn::ChildDialog<QMessageBox> box(QMessageBox::Warning, QString("Title"),

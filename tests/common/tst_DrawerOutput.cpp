@@ -73,10 +73,10 @@ void tst_DrawerOutput::AFormattedLineIsEmittedWithItsLevel()
 void tst_DrawerOutput::TheLevelPassesUnchanged_data()
 {
     QTest::addColumn<int>("level");
-    QTest::newRow("negative") << -7;
-    QTest::newRow("zero") << 0;
-    QTest::newRow("largest") << std::numeric_limits<int>::max();
-    QTest::newRow("smallest") << std::numeric_limits<int>::min();
+    NewRow("negative", -7);
+    NewRow("zero", 0);
+    NewRow("largest", std::numeric_limits<int>::max());
+    NewRow("smallest", std::numeric_limits<int>::min());
 }
 
 void tst_DrawerOutput::TheLevelPassesUnchanged()
@@ -103,12 +103,9 @@ void tst_DrawerOutput::BytesAreReadInTheLocalCodePage_data()
     QTest::addColumn<QByteArray>("codePage");
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("text");
-    QTest::newRow("UTF-8") << QByteArray("UTF-8") << QByteArray("\xE9\x95\xBF")
-                           << QStringLiteral("长");
-    QTest::newRow("GB18030") << QByteArray("GB18030") << QByteArray("\xB3\xA4")
-                             << QStringLiteral("长");
-    QTest::newRow("Latin-1") << QByteArray("ISO 8859-1") << QByteArray("\xE9")
-                             << QStringLiteral("é");
+    NewRow("UTF-8", QByteArray("UTF-8"), QByteArray("\xE9\x95\xBF"), QStringLiteral("长"));
+    NewRow("GB18030", QByteArray("GB18030"), QByteArray("\xB3\xA4"), QStringLiteral("长"));
+    NewRow("Latin-1", QByteArray("ISO 8859-1"), QByteArray("\xE9"), QStringLiteral("é"));
 }
 
 void tst_DrawerOutput::BytesAreReadInTheLocalCodePage()
@@ -132,7 +129,7 @@ void tst_DrawerOutput::GetQStringFromCharFormatsAndEmitsNothing()
 
 void tst_DrawerOutput::TheDecimalSignIsTheFullStopUnderEveryLocale()
 {
-    QVERIFY2(UseLocale("de_DE.UTF-8"), "the test needs a locale with a decimal comma");
+    UseLocale("de_DE.UTF-8");
     QCOMPARE(DrawerOutput::GetQStringFromChar("%.3f", 1.0), QStringLiteral("1.000"));
     // The locale of the host is not disturbed.
     QCOMPARE(std::localeconv()->decimal_point, ",");
@@ -142,9 +139,9 @@ void tst_DrawerOutput::ALongTextIsCutAt1023Bytes_data()
 {
     QTest::addColumn<int>("length");
     QTest::addColumn<int>("kept");
-    QTest::newRow("fits") << 1023 << 1023;
-    QTest::newRow("one too many") << 1024 << 1023;
-    QTest::newRow("far too many") << 100000 << 1023;
+    NewRow("fits", 1023, 1023);
+    NewRow("one too many", 1024, 1023);
+    NewRow("far too many", 100000, 1023);
 }
 
 void tst_DrawerOutput::ALongTextIsCutAt1023Bytes()

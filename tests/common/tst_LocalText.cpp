@@ -16,13 +16,12 @@ void tst_LocalText::TextsAreConvertedInTheLocalCodePage_data()
     QTest::addColumn<QByteArray>("codePage");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("empty") << QByteArray("UTF-8") << QString() << QByteArray();
-    QTest::newRow("UTF-8") << QByteArray("UTF-8") << QStringLiteral("长度")
-                           << QByteArray("\xE9\x95\xBF\xE5\xBA\xA6");
-    QTest::newRow("GB18030") << QByteArray("GB18030") << QStringLiteral("长度")
-                             << QByteArray("\xB3\xA4\xB6\xC8");
-    QTest::newRow("blanks are kept")
-        << QByteArray("UTF-8") << QStringLiteral(" a ") << QByteArray(" a ");
+    NewRow("empty", QByteArray("UTF-8"), QString(), QByteArray());
+    NewRow("UTF-8", QByteArray("UTF-8"), QStringLiteral("长度"),
+           QByteArray("\xE9\x95\xBF\xE5\xBA\xA6"));
+    NewRow("GB18030", QByteArray("GB18030"), QStringLiteral("长度"),
+           QByteArray("\xB3\xA4\xB6\xC8"));
+    NewRow("blanks are kept", QByteArray("UTF-8"), QStringLiteral(" a "), QByteArray(" a "));
 }
 
 void tst_LocalText::TextsAreConvertedInTheLocalCodePage()

@@ -1,8 +1,7 @@
-#include "ModalDriver.h"
+#include "DialogTest.h"
 #include "Notice.h"
-#include "TestCase.h"
 
-class tst_Notice : public TestCase
+class tst_Notice : public DialogTest
 {
     Q_OBJECT
 
@@ -14,7 +13,6 @@ private Q_SLOTS:
 
 void tst_Notice::ANoticeIsAnInformationBoxWithOneOkButtonAndNoParent()
 {
-    ModalDriver user;
     tarn::ShowNotice("Warning", "Some text");
     ShownBox expected;
     expected.title = "Warning";
@@ -22,23 +20,20 @@ void tst_Notice::ANoticeIsAnInformationBoxWithOneOkButtonAndNoParent()
     expected.icon = QMessageBox::Information;
     expected.buttons = QMessageBox::Ok;
     expected.parent = nullptr;
-    QCOMPARE(user.Boxes(), QVector<ShownBox>({expected}));
+    QCOMPARE(Boxes(), ShownBoxes({expected}));
 }
 
 void tst_Notice::ANoticeIsClosedWithItsCloseButtonToo()
 {
-    ModalDriver user;
-    user.Answer(QMessageBox::Close);
+    User().Answer(QMessageBox::Close);
     tarn::ShowNotice("Warning", "Some text");
-    QCOMPARE(user.Boxes().size(), 1);
-    QVERIFY(user.IsDone());
+    QCOMPARE(Boxes().size(), 1);
 }
 
 void tst_Notice::EventsAreDeliveredBehindANotice()
 {
-    ModalDriver user;
     bool delivered = false;
-    user.WhileBoxOpen([&delivered](QMessageBox&) {
+    User().WhileBoxOpen([&delivered](QMessageBox&) {
         QObject context;
         QMetaObject::invokeMethod(
             &context, [&delivered] { delivered = true; }, Qt::QueuedConnection);
@@ -46,7 +41,6 @@ void tst_Notice::EventsAreDeliveredBehindANotice()
     });
     tarn::ShowNotice("Warning", "Some text");
     QVERIFY(delivered);
-    QVERIFY(user.IsDone());
 }
 
 TARN_TEST_MAIN(tst_Notice)

@@ -1,4 +1,5 @@
 #include "TableSelection.h"
+#include "Tables.h"
 #include "TestCase.h"
 
 #include <QApplication>
@@ -15,15 +16,6 @@ void Fill(QTableWidget& table)
         for (int column = 0; column < table.columnCount(); ++column)
             table.setItem(row, column, tarn::NewTextItem("MMMM"));
     }
-}
-
-QVector<int> Rows(const QTableWidget& table)
-{
-    QVector<int> rows;
-    const QModelIndexList indexes = table.selectionModel()->selectedRows();
-    for (const QModelIndex& index : indexes)
-        rows << index.row();
-    return rows;
 }
 
 /// How many times the style sheet of a widget was set.
@@ -47,18 +39,18 @@ class tst_TableSelection : public TestCase
 
 private Q_SLOTS:
     void TheWholeRowIsSelectedAndCurrent();
-    void ARowThatIsNotThereLeavesTheSelection_data();
-    void ARowThatIsNotThereLeavesTheSelection();
-    void TheGroundIsCyanEvenWithoutARow();
+    void AMissingRowKeepsTheSelection_data();
+    void AMissingRowKeepsTheSelection();
+    void TheSelectionIsCyanEvenWithoutARow();
     void TheSheetIsSetOnce();
-    void TheRowIsCurrentBeforeTheSelectionTells();
+    void TheRowIsCurrentBeforeTheSelectionChanges();
     void HeldKeysDoNotExtendTheSelection_data();
     void HeldKeysDoNotExtendTheSelection();
-    void TheRowIsScrolledTo();
+    void TheRowIsScrolledIntoView();
     void TextStaysReadableOnCyan_data();
     void TextStaysReadableOnCyan();
-    void ACellTellsItsTextInFull_data();
-    void ACellTellsItsTextInFull();
+    void TheToolTipShowsTheTextInFull_data();
+    void TheToolTipShowsTheTextInFull();
 };
 
 void tst_TableSelection::TheWholeRowIsSelectedAndCurrent()
@@ -67,31 +59,31 @@ void tst_TableSelection::TheWholeRowIsSelectedAndCurrent()
     tarn::SelectRow(table, 1);
     QCOMPARE(table.currentRow(), 1);
     QCOMPARE(table.currentColumn(), 0);
-    QCOMPARE(Rows(table), QVector<int>({1}));
+    QCOMPARE(SelectedRows(table), QVector<int>({1}));
     tarn::SelectRow(table, 2);
     QCOMPARE(table.currentRow(), 2);
-    QCOMPARE(Rows(table), QVector<int>({2}));
+    QCOMPARE(SelectedRows(table), QVector<int>({2}));
 }
 
-void tst_TableSelection::ARowThatIsNotThereLeavesTheSelection_data()
+void tst_TableSelection::AMissingRowKeepsTheSelection_data()
 {
     QTest::addColumn<int>("row");
-    QTest::newRow("before the first") << -1;
-    QTest::newRow("after the last") << 3;
-    QTest::newRow("far away") << 1000000;
+    NewRow("before the first", -1);
+    NewRow("after the last", 3);
+    NewRow("far away", 1000000);
 }
 
-void tst_TableSelection::ARowThatIsNotThereLeavesTheSelection()
+void tst_TableSelection::AMissingRowKeepsTheSelection()
 {
     QFETCH(int, row);
     QTableWidget table(3, 4);
     tarn::SelectRow(table, 1);
     tarn::SelectRow(table, row);
     QCOMPARE(table.currentRow(), 1);
-    QCOMPARE(Rows(table), QVector<int>({1}));
+    QCOMPARE(SelectedRows(table), QVector<int>({1}));
 }
 
-void tst_TableSelection::TheGroundIsCyanEvenWithoutARow()
+void tst_TableSelection::TheSelectionIsCyanEvenWithoutARow()
 {
     QTableWidget table;
     tarn::SelectRow(table, 0);
@@ -112,22 +104,23 @@ void tst_TableSelection::TheSheetIsSetOnce()
     QCOMPARE(table.styleSheet(), Sheet);
 }
 
-void tst_TableSelection::TheRowIsCurrentBeforeTheSelectionTells()
+void tst_TableSelection::TheRowIsCurrentBeforeTheSelectionChanges()
 {
     QTableWidget table(3, 4);
-    QVector<int> told;
-    connect(&table, &QTableWidget::itemSelectionChanged, this, [&] { told << table.currentRow(); });
+    QVector<int> currentRows;
+    connect(&table, &QTableWidget::itemSelectionChanged, this,
+            [&] { currentRows << table.currentRow(); });
     tarn::SelectRow(table, 2);
     tarn::SelectRow(table, 0);
     tarn::SelectRow(table, 0);
-    QCOMPARE(told, QVector<int>({2, 0}));
+    QCOMPARE(currentRows, QVector<int>({2, 0}));
 }
 
 void tst_TableSelection::HeldKeysDoNotExtendTheSelection_data()
 {
     QTest::addColumn<Qt::KeyboardModifiers>("modifier");
-    QTest::newRow("Shift, as for a capital letter") << Qt::KeyboardModifiers(Qt::ShiftModifier);
-    QTest::newRow("Control") << Qt::KeyboardModifiers(Qt::ControlModifier);
+    NewRow("Shift, as for a capital letter", Qt::KeyboardModifiers(Qt::ShiftModifier));
+    NewRow("Control", Qt::KeyboardModifiers(Qt::ControlModifier));
 }
 
 void tst_TableSelection::HeldKeysDoNotExtendTheSelection()
@@ -140,10 +133,10 @@ void tst_TableSelection::HeldKeysDoNotExtendTheSelection()
     QCOMPARE(QApplication::keyboardModifiers(), modifier);
     tarn::SelectRow(table, 3);
     QTest::keyRelease(&table, Qt::Key_F12);
-    QCOMPARE(Rows(table), QVector<int>({3}));
+    QCOMPARE(SelectedRows(table), QVector<int>({3}));
 }
 
-void tst_TableSelection::TheRowIsScrolledTo()
+void tst_TableSelection::TheRowIsScrolledIntoView()
 {
     QTableWidget table(500, 2);
     Fill(table);
@@ -160,8 +153,8 @@ void tst_TableSelection::TextStaysReadableOnCyan_data()
 {
     QTest::addColumn<QColor>("base");
     QTest::addColumn<QColor>("text");
-    QTest::newRow("light") << QColor(Qt::white) << QColor(Qt::black);
-    QTest::newRow("dark") << QColor(30, 30, 30) << QColor(Qt::white);
+    NewRow("light", QColor(Qt::white), QColor(Qt::black));
+    NewRow("dark", QColor(30, 30, 30), QColor(Qt::white));
 }
 
 void tst_TableSelection::TextStaysReadableOnCyan()
@@ -195,16 +188,16 @@ void tst_TableSelection::TextStaysReadableOnCyan()
     QApplication::setPalette(before);
 }
 
-void tst_TableSelection::ACellTellsItsTextInFull_data()
+void tst_TableSelection::TheToolTipShowsTheTextInFull_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::newRow("a name") << "Steel S235JR";
-    QTest::newRow("a long name") << QString(300, 'x');
-    QTest::newRow("markup") << "<b>bold</b> & <i>";
-    QTest::newRow("Chinese") << "结构钢";
+    NewRow("a name", "Steel S235JR");
+    NewRow("a long name", QString(300, 'x'));
+    NewRow("markup", "<b>bold</b> & <i>");
+    NewRow("Chinese", "结构钢");
 }
 
-void tst_TableSelection::ACellTellsItsTextInFull()
+void tst_TableSelection::TheToolTipShowsTheTextInFull()
 {
     QFETCH(QString, text);
     QTableWidget table(1, 1);

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "DialogTest.h"
 #include "EmptyDesignStores.h"
-#include "ModalDriver.h"
 #include "OneParameterDlg.h"
-#include "TestCase.h"
+#include "Tables.h"
 
 #include <QLineEdit>
 #include <QRadioButton>
@@ -13,8 +13,6 @@
 
 inline const ShownBox BadInput = ShownBox::Notice("Error", "Check input data!");
 inline const ShownBox NoGauss = ShownBox::Notice("Error", "Not implement yet");
-
-using Boxes = QVector<ShownBox>;
 
 using namespace SampleSpacing;
 
@@ -28,12 +26,7 @@ inline QTableWidget& Table(const QWidget& dialog)
 
 inline QStringList Rows(const QWidget& dialog)
 {
-    QStringList texts;
-    for (int row = 0; row < Table(dialog).rowCount(); ++row) {
-        const QTableWidgetItem* const item = Table(dialog).item(row, 0);
-        texts << (item != nullptr ? item->text() : QStringLiteral("(no item)"));
-    }
-    return texts;
+    return ColumnTexts(Table(dialog));
 }
 
 inline QStringList Fields(const QWidget& dialog)

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "GlobalParaMeterMgr.h"
-#include "TestCase.h"
+#include "DialogTest.h"
+#include "EmptyDesignStores.h"
+#include "ParameterEditor.h"
+#include "Tables.h"
 
-#include <QApplication>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QTableWidget>
 #include <QTranslator>
 
 /// What the tests of the parameter editor share: its table and the store behind it.
@@ -28,15 +27,13 @@ inline QTableWidget& Table(const QWidget& editor)
 
 inline QComboBox& Combo(const QWidget& editor, int row)
 {
-    return *qobject_cast<QComboBox*>(Table(editor).cellWidget(row, TypeColumn));
+    return CellWidget<QComboBox>(Table(editor), row, TypeColumn);
 }
 
 inline QStringList RowTexts(const QWidget& editor, int row)
 {
-    QStringList texts;
-    for (int column = NameColumn; column <= DescriptionColumn; ++column)
-        texts << (column == TypeColumn ? Combo(editor, row).currentText()
-                                       : Table(editor).item(row, column)->text());
+    QStringList texts = RowTexts(Table(editor), row);
+    texts[TypeColumn] = Combo(editor, row).currentText();
     return texts;
 }
 
@@ -55,25 +52,51 @@ inline ParametersDef& Stored(const QString& name)
     return GlobalParaMeterMgr::m_nameMapParameters.at(name);
 }
 
-/// Types into a cell as a user does, and leaves it with Enter.
-inline void TypeIntoCell(QWidget& editor, int row, int column, const QString& text)
+inline void TypeIntoCell(const QWidget& editor, int row, int column, const QString& text)
 {
-    QTableWidget& table = Table(editor);
-    table.setCurrentCell(row, column);
-    editor.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&editor));
-    table.setFocus();
-    QTest::keyClick(&table, Qt::Key_F2);
-    auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    QVERIFY(field != nullptr);
-    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(field, Qt::Key_Delete);
-    field->insert(text); // and not by keys, which have no full-width digits
-    QTest::keyClick(field, Qt::Key_Enter);
-    QCoreApplication::processEvents();
+    TypeIntoCell(Table(editor), row, column, text);
 }
 
-/// Translates every text of every context, so that a text that stays shows itself.
+inline const ShownBox VectorBox = ShownBox::Notice("Error", "invalid coordinate type");
+inline const ShownBox EmptyNameBox =
+    ShownBox::Notice("Error", "Please input parameters name for expression");
+inline const ShownBox DigitalBox = ShownBox::Notice("Error", "Digital is not allowed as paramter");
+
+inline ShownBox UnknownBox(const QString& name)
+{
+    return ShownBox::Notice("Error", "Not find parameter: " + name);
+}
+
+/// Appends a filled row. No cell is current, so numbers are not checked.
+inline void AddRow(ParameterEditor& editor, const QString& name, const QString& value,
+                   const QString& type = "Scalar", const QString& expression = QString(),
+                   const QString& names = QString())
+{
+    editor.m_Slot_Add();
+    const int row = Table(editor).rowCount() - 1;
+    const QTableWidget& table = Table(editor);
+    Cell(table, row, NameColumn).setText(name);
+    Cell(table, row, ValueColumn).setText(value);
+    Combo(editor, row).setCurrentText(type);
+    Cell(table, row, ExpressionColumn).setText(expression);
+    Cell(table, row, ExpressionParaColumn).setText(names);
+}
+
+inline void AddExpression(ParameterEditor& editor, const QString& name, const QString& expression,
+                          const QString& names, const QString& value = QString())
+{
+    AddRow(editor, name, value, "Scalar", expression, names);
+}
+
+inline QStringList StoredNames()
+{
+    QStringList names;
+    for (const auto& entry : GlobalParaMeterMgr::m_nameMapParameters)
+        names << entry.first;
+    return names;
+}
+
+/// Translates every text into its context and itself, which reveals the untranslated ones.
 class Marker : public QTranslator
 {
 public:

@@ -1,23 +1,51 @@
-#include "DOEDlg.h"
-#include "DialogFacts.h"
-#include "EmptyDesignStores.h"
-#include "ModalDriver.h"
-#include "TestCase.h"
+#include "DOEDlgTables.h"
+#include "FormDescription.h"
+#include "FormTest.h"
+#include "TextRecorder.h"
 
 #include <QCheckBox>
-#include <QGridLayout>
-#include <QGroupBox>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTableWidget>
 
-// The window. What it computes stands in tst_DOEDlgRuns.
+// The window and its rows of parameters. tst_DOEDlgRuns tests the runs, tst_DOEDlgGenerate
+// "Generate".
 
 namespace {
 
-using Boxes = QVector<ShownBox>;
+FormFacts Form()
+{
+    FormFacts form;
+    form.name = "DOEDlg";
+    form.title = "DOE Dialog";
+    form.size = {883, 595};
+    form.lines = {
+        "QTabWidget tabWidget in DOEDlg at gridLayout[0,0]: ",
+        "QWidget tab_3 in qt_tabwidget_stackedwidget: ",
+        "QWidget tab_2 in qt_tabwidget_stackedwidget: ",
+        "QTableWidget tableWidget_Combine in tab_2 at gridLayout_3[0,0]: ",
+        "QWidget tab in qt_tabwidget_stackedwidget: ",
+        "QTableWidget tableWidget_Parameters in tab at gridLayout_4[0,0]: ",
+        "QGroupBox groupBox in tab at gridLayout_4[0,1 1x3]: ",
+        "QTableWidget tableWidget_Final in groupBox at gridLayout_2[0,0 1x3]: ",
+        "QPushButton pushButton_Add in groupBox at gridLayout_2[1,0]: Add",
+        "QPushButton pushButton_Delete in groupBox at gridLayout_2[1,1]: Delete",
+        "QPushButton pushButton_RefreshData in tab at gridLayout_4[1,2]: Refresh Data",
+        "QPushButton pushButton_GenGeo in tab at gridLayout_4[1,3]: Generate",
+        "QSpacerItem at gridLayout_4[1,1]: 305x20, horizontal",
+        "QSpacerItem at gridLayout_2[1,2]: 40x20, horizontal",
+    };
+    form.tabOrder = {"tabWidget",        "tableWidget_Parameters", "tableWidget_Final",
+                     "pushButton_Add",   "pushButton_Delete",      "pushButton_RefreshData",
+                     "pushButton_GenGeo"};
+    form.methods = {
+        "public signal m_Signal_RegenerateGeo()", "private slot m_slot_ProcessCheck()",
+        "private slot m_slot_ProcessButton()",    "private slot m_Slot_Add()",
+        "private slot m_Slot_Delete()",           "private slot m_Refresh_Final_Table()",
+        "private slot m_Slot_UpdateGeoemtry()"};
+    return form;
+}
 
 enum Column
 {
@@ -26,41 +54,14 @@ enum Column
     SetColumn
 };
 
-void AddParameters(const QStringList& names)
-{
-    for (const QString& name : names) {
-        ParametersDef record;
-        record.m_strName = name;
-        GlobalParaMeterMgr::AddParameter(name, record);
-    }
-}
-
-void AddRecord(const QString& name, int checked, const std::vector<double>& values)
-{
-    sParaArrayData& record = g_mapParaArrays[name];
-    record.bChecked = checked;
-    record.strName = name;
-    record.vecValues = values;
-}
-
-QTableWidget& Parameters(const QWidget& dialog)
-{
-    return Find<QTableWidget>(dialog, "tableWidget_Parameters");
-}
-
-QTableWidget& Runs(const QWidget& dialog)
-{
-    return Find<QTableWidget>(dialog, "tableWidget_Final");
-}
-
 QCheckBox& Check(const QWidget& dialog, int row)
 {
-    return *qobject_cast<QCheckBox*>(Parameters(dialog).cellWidget(row, StatusColumn));
+    return CellWidget<QCheckBox>(Parameters(dialog), row, StatusColumn);
 }
 
 QPushButton& SetArray(const QWidget& dialog, int row)
 {
-    return *qobject_cast<QPushButton*>(Parameters(dialog).cellWidget(row, SetColumn));
+    return CellWidget<QPushButton>(Parameters(dialog), row, SetColumn);
 }
 
 void ClickCheck(const QWidget& dialog, int row)
@@ -71,10 +72,7 @@ void ClickCheck(const QWidget& dialog, int row)
 
 QStringList Names(const QWidget& dialog)
 {
-    QStringList names;
-    for (int row = 0; row < Parameters(dialog).rowCount(); ++row)
-        names << Parameters(dialog).item(row, NameColumn)->text();
-    return names;
+    return ColumnTexts(Parameters(dialog), NameColumn);
 }
 
 // Which rows are ticked, and which have their button enabled: "x" and "-".
@@ -94,34 +92,25 @@ QString EnabledButtons(const QWidget& dialog)
     return enabled;
 }
 
-QSize RunTableSize(const QWidget& dialog)
-{
-    return {Runs(dialog).columnCount(), Runs(dialog).rowCount()};
-}
-
 } // namespace
 
-class tst_DOEDlg : public TestCase
+class tst_DOEDlg : public With<FormTest<DOEDlg>, EmptyDesignStores>
 {
     Q_OBJECT
 
+public:
+    tst_DOEDlg()
+        : With(Form())
+    {
+    }
+
 private Q_SLOTS:
-    void TheFormHoldsItsWidgets_data();
-    void TheFormHoldsItsWidgets();
-    void TheWidgetsStandInTheirGrids_data();
-    void TheWidgetsStandInTheirGrids();
-    void TheSpacersStandInTheirGrids_data();
-    void TheSpacersStandInTheirGrids();
-    void TheWindowHasItsTitleAndSize();
-    void EveryTextIsTranslatable();
+    void MessagesAreTranslatedInTheContextOfTheClass();
     void TheFontIsSetOnTheTabs();
-    void TheTabsStandInTheirOrder();
+    void TheTabsAreInTheirOrder();
     void TheTablesHaveTheirHeaders();
     void TheParametersHeaderIsSet();
-    void TabFollowsTheReadingOrder();
     void NoButtonIsPressedByEnter();
-    void SignalAndSlotsStandInTheirOrder();
-    void AParentIsTaken();
 
     void EveryParameterHasARow();
     void ARowHoldsItsWidgets();
@@ -145,119 +134,13 @@ private Q_SLOTS:
     void SetArrayOfANamelessParameterIsRefused();
     void SlotsWithoutASenderReturn_data();
     void SlotsWithoutASenderReturn();
-
-    void AddAppendsAnEmptyRow();
-    void AddWorksOnAnEmptyTable();
-    void DeleteRemovesTheCurrentRow();
-    void DeleteWithoutACurrentRowIsRefused();
-    void TheNextBuildDiscardsAddedAndDeletedRows();
-    void EnterInTheRunTablePressesNothing();
-    void EscapeLeaves();
 };
 
-void tst_DOEDlg::TheFormHoldsItsWidgets_data()
+void tst_DOEDlg::MessagesAreTranslatedInTheContextOfTheClass()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("tabWidget") << "QTabWidget" << QString();
-    QTest::newRow("tab_2") << "QWidget" << QString();
-    QTest::newRow("tab_3") << "QWidget" << QString();
-    QTest::newRow("tableWidget_Parameters") << "QTableWidget" << QString();
-    QTest::newRow("tableWidget_Final") << "QTableWidget" << QString();
-    QTest::newRow("tableWidget_Combine") << "QTableWidget" << QString();
-    QTest::newRow("groupBox") << "QGroupBox" << QString();
-    QTest::newRow("pushButton_Add") << "QPushButton"
-                                    << "Add";
-    QTest::newRow("pushButton_Delete") << "QPushButton"
-                                       << "Delete";
-    QTest::newRow("pushButton_RefreshData") << "QPushButton"
-                                            << "Refresh Data";
-    QTest::newRow("pushButton_GenGeo") << "QPushButton"
-                                       << "Generate";
-}
-
-void tst_DOEDlg::TheFormHoldsItsWidgets()
-{
-    const EmptyDesignStores stores;
-    QFETCH(QString, type);
-    QFETCH(QString, text);
-    const DOEDlg dialog(nullptr);
-    const auto& widget = Find<QWidget>(dialog, QTest::currentDataTag());
-    QCOMPARE(QString(widget.metaObject()->className()), type);
-    const char* const property = type == "QGroupBox" ? "title" : "text";
-    QCOMPARE(widget.property(property).toString(), text);
-}
-
-void tst_DOEDlg::TheWidgetsStandInTheirGrids_data()
-{
-    QTest::addColumn<QString>("grid");
-    QTest::addColumn<QRect>("cells"); // column, row, columns, rows
-    QTest::newRow("tabWidget") << "gridLayout" << QRect(0, 0, 1, 1);
-    QTest::newRow("tableWidget_Parameters") << "gridLayout_4" << QRect(0, 0, 1, 1);
-    QTest::newRow("groupBox") << "gridLayout_4" << QRect(1, 0, 3, 1);
-    QTest::newRow("pushButton_RefreshData") << "gridLayout_4" << QRect(2, 1, 1, 1);
-    QTest::newRow("pushButton_GenGeo") << "gridLayout_4" << QRect(3, 1, 1, 1);
-    QTest::newRow("tableWidget_Final") << "gridLayout_2" << QRect(0, 0, 3, 1);
-    QTest::newRow("pushButton_Add") << "gridLayout_2" << QRect(0, 1, 1, 1);
-    QTest::newRow("pushButton_Delete") << "gridLayout_2" << QRect(1, 1, 1, 1);
-    QTest::newRow("tableWidget_Combine") << "gridLayout_3" << QRect(0, 0, 1, 1);
-}
-
-void tst_DOEDlg::TheWidgetsStandInTheirGrids()
-{
-    const EmptyDesignStores stores;
-    QFETCH(QString, grid);
-    QFETCH(QRect, cells);
-    const DOEDlg dialog(nullptr);
-    auto& widget = Find<QWidget>(dialog, QTest::currentDataTag());
-    const auto* const layout = qobject_cast<QGridLayout*>(widget.parentWidget()->layout());
-    QVERIFY(layout != nullptr);
-    QCOMPARE(layout->objectName(), grid);
-    int row = 0;
-    int column = 0;
-    int rows = 0;
-    int columns = 0;
-    layout->getItemPosition(layout->indexOf(&widget), &row, &column, &rows, &columns);
-    QCOMPARE(QRect(column, row, columns, rows), cells);
-}
-
-void tst_DOEDlg::TheSpacersStandInTheirGrids_data()
-{
-    QTest::addColumn<QString>("grid");
-    QTest::addColumn<QPoint>("cell"); // column, row
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("below the parameters") << "gridLayout_4" << QPoint(1, 1) << QSize(305, 20);
-    QTest::newRow("below the runs") << "gridLayout_2" << QPoint(2, 1) << QSize(40, 20);
-}
-
-void tst_DOEDlg::TheSpacersStandInTheirGrids()
-{
-    const EmptyDesignStores stores;
-    QFETCH(QString, grid);
-    QFETCH(QPoint, cell);
-    QFETCH(QSize, size);
-    const DOEDlg dialog(nullptr);
-    const auto* const layout = dialog.findChild<QGridLayout*>(grid);
-    QLayoutItem* const item = layout->itemAtPosition(cell.y(), cell.x());
-    QVERIFY(item != nullptr && item->spacerItem() != nullptr);
-    QCOMPARE(item->sizeHint(), size);
-    QCOMPARE(item->expandingDirections(), Qt::Horizontal);
-}
-
-void tst_DOEDlg::TheWindowHasItsTitleAndSize()
-{
-    const EmptyDesignStores stores;
-    const DOEDlg dialog(nullptr);
-    CompareWindow(dialog, "DOEDlg", "DOE Dialog", QSize(883, 595));
-    QVERIFY(dialog.windowIcon().isNull());
-}
-
-void tst_DOEDlg::EveryTextIsTranslatable()
-{
-    const EmptyDesignStores stores;
+    const QStringList formTexts = ShownTexts(*NewDialog(nullptr));
     AddParameters({"a"});
     const TextRecorder recorder;
-    ModalDriver user;
     const DOEDlg dialog(nullptr);
     Click(dialog, "pushButton_Delete");
     Click(dialog, "pushButton_GenGeo");
@@ -265,27 +148,25 @@ void tst_DOEDlg::EveryTextIsTranslatable()
     Runs(dialog).setColumnCount(1);
     Runs(dialog).setCurrentCell(0, 0);
     Click(dialog, "pushButton_GenGeo");
-    AddRecord("a", 1, std::vector<double>(DOEDlg::MaximumRuns + 1));
-    Click(dialog, "pushButton_RefreshData");
-    QCOMPARE(user.Boxes().size(), 4);
-    QCOMPARE(recorder.TextsOf("DOEDlg"),
-             QStringList({"Add", "Combine", "Combine Name", "DOE Dialog", "Delete", "Generate",
-                          "Name", "Notify", "Number not equal", "Parameters", "Refresh Data",
-                          "Result", "Select one row first", "Select one row first!", "Set",
-                          "Set Array", "Status", "Too many runs", "Warning"}));
+    AddRecord("a", 1, Values(DOEDlg::MaximumRuns + 1));
+    Refresh(dialog);
+    QCOMPARE(Boxes().size(), 4);
+    QStringList texts = recorder.TextsOf("DOEDlg");
+    for (const QString& text : formTexts)
+        texts.removeAll(text);
+    QCOMPARE(texts,
+             QStringList({"Notify", "Number not equal", "Select one row first",
+                          "Select one row first!", "Set Array", "Too many runs", "Warning"}));
 }
 
 void tst_DOEDlg::TheFontIsSetOnTheTabs()
 {
-    const EmptyDesignStores stores;
     const DOEDlg dialog(nullptr);
     QCOMPARE(Find<QTabWidget>(dialog, "tabWidget").font().family(), QStringLiteral("微软雅黑"));
-    QCOMPARE(dialog.font(), QApplication::font());
 }
 
-void tst_DOEDlg::TheTabsStandInTheirOrder()
+void tst_DOEDlg::TheTabsAreInTheirOrder()
 {
-    const EmptyDesignStores stores;
     const DOEDlg dialog(nullptr);
     const auto& tabs = Find<QTabWidget>(dialog, "tabWidget");
     QCOMPARE(tabs.count(), 3);
@@ -300,43 +181,24 @@ void tst_DOEDlg::TheTabsStandInTheirOrder()
 
 void tst_DOEDlg::TheTablesHaveTheirHeaders()
 {
-    const EmptyDesignStores stores;
     const DOEDlg dialog(nullptr);
-    const QTableWidget& parameters = Parameters(dialog);
-    QCOMPARE(parameters.columnCount(), 3);
-    QCOMPARE(parameters.horizontalHeaderItem(NameColumn)->text(), QStringLiteral("Name"));
-    QCOMPARE(parameters.horizontalHeaderItem(StatusColumn)->text(), QStringLiteral("Status"));
-    QCOMPARE(parameters.horizontalHeaderItem(SetColumn)->text(), QStringLiteral("Set"));
+    QCOMPARE(HeaderTexts(Parameters(dialog)), QStringList({"Name", "Status", "Set"}));
     const auto& combine = Find<QTableWidget>(dialog, "tableWidget_Combine");
-    QCOMPARE(combine.columnCount(), 1);
-    QCOMPARE(combine.horizontalHeaderItem(0)->text(), QStringLiteral("Combine Name"));
+    QCOMPARE(HeaderTexts(combine), QStringList({"Combine Name"}));
     QCOMPARE(combine.rowCount(), 0);
     QCOMPARE(RunTableSize(dialog), QSize(0, 0));
 }
 
 void tst_DOEDlg::TheParametersHeaderIsSet()
 {
-    const EmptyDesignStores stores;
     const DOEDlg dialog(nullptr);
     const QHeaderView& header = *Parameters(dialog).horizontalHeader();
     QVERIFY(header.stretchLastSection());
     QCOMPARE(header.sectionSize(NameColumn), 70);
 }
 
-void tst_DOEDlg::TabFollowsTheReadingOrder()
-{
-    const EmptyDesignStores stores;
-    DOEDlg dialog(nullptr);
-    dialog.show();
-    QCOMPARE(
-        TabOrder(dialog),
-        QStringList({"tabWidget", "tableWidget_Parameters", "tableWidget_Final", "pushButton_Add",
-                     "pushButton_Delete", "pushButton_RefreshData", "pushButton_GenGeo"}));
-}
-
 void tst_DOEDlg::NoButtonIsPressedByEnter()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a", "b"});
     DOEDlg dialog(nullptr);
     dialog.show();
@@ -346,30 +208,8 @@ void tst_DOEDlg::NoButtonIsPressedByEnter()
         QVERIFY2(!button->autoDefault() && !button->isDefault(), qPrintable(button->text()));
 }
 
-void tst_DOEDlg::SignalAndSlotsStandInTheirOrder()
-{
-    const QMetaObject& meta = DOEDlg::staticMetaObject;
-    QCOMPARE(meta.superClass(), &QDialog::staticMetaObject);
-    QCOMPARE(
-        OwnMethods(meta),
-        QStringList({"public signal m_Signal_RegenerateGeo()", "private slot m_slot_ProcessCheck()",
-                     "private slot m_slot_ProcessButton()", "private slot m_Slot_Add()",
-                     "private slot m_Slot_Delete()", "private slot m_Refresh_Final_Table()",
-                     "private slot m_Slot_UpdateGeoemtry()"}));
-}
-
-void tst_DOEDlg::AParentIsTaken()
-{
-    const EmptyDesignStores stores;
-    QWidget parent;
-    const DOEDlg dialog(&parent);
-    QCOMPARE(dialog.parentWidget(), &parent);
-    QVERIFY(dialog.isWindow());
-}
-
 void tst_DOEDlg::EveryParameterHasARow()
 {
-    const EmptyDesignStores stores;
     AddParameters({"width", "height", "长度", "a b"});
     const DOEDlg dialog(nullptr);
     QCOMPARE(Names(dialog), QStringList({"width", "height", "长度", "a b"}));
@@ -377,7 +217,6 @@ void tst_DOEDlg::EveryParameterHasARow()
 
 void tst_DOEDlg::ARowHoldsItsWidgets()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a", "b", "c"});
     const DOEDlg dialog(nullptr);
     for (int row = 0; row < 3; ++row) {
@@ -392,23 +231,19 @@ void tst_DOEDlg::ARowHoldsItsWidgets()
 
 void tst_DOEDlg::NamesCannotBeEdited()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a"});
     DOEDlg dialog(nullptr);
     dialog.show();
     QTableWidget& table = Parameters(dialog);
     QVERIFY((table.item(0, NameColumn)->flags() & Qt::ItemIsEditable) == 0);
     QVERIFY((table.item(0, NameColumn)->flags() & Qt::ItemIsSelectable) != 0);
-    const QPoint place = table.visualItemRect(table.item(0, NameColumn)).center();
-    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, place);
-    QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, place);
+    DoubleClickCell(table, 0, NameColumn);
     QVERIFY(!table.isPersistentEditorOpen(table.item(0, NameColumn)));
     QVERIFY(table.findChildren<QLineEdit*>().isEmpty());
 }
 
 void tst_DOEDlg::AnEmptyStoreLeavesTheTablesEmpty()
 {
-    const EmptyDesignStores stores;
     AddRecord("a", 1, {});
     const DOEDlg dialog(nullptr);
     QCOMPARE(Names(dialog), QStringList());
@@ -418,7 +253,6 @@ void tst_DOEDlg::AnEmptyStoreLeavesTheTablesEmpty()
 void tst_DOEDlg::TicksAreShownByPosition()
 {
     // The store's order is c, a, b: the first record, a, marks the row of c.
-    const EmptyDesignStores stores;
     AddParameters({"c", "a", "b"});
     AddRecord("a", 1, {1});
     AddRecord("b", 0, {1});
@@ -442,7 +276,6 @@ void tst_DOEDlg::TicksAreShownByPosition()
 
 void tst_DOEDlg::TicksOutliveTheDialog()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a", "b"});
     AddRecord("a", 0, {1, 2});
     AddRecord("b", 0, {3});
@@ -457,7 +290,6 @@ void tst_DOEDlg::TicksOutliveTheDialog()
 
 void tst_DOEDlg::ARegistryLargerThanTheTableStopsAtTheLastRow()
 {
-    const EmptyDesignStores stores;
     AddParameters({"b"});
     for (const char* const name : {"a", "b", "c", "d"})
         AddRecord(name, 1, {1, 2});
@@ -469,7 +301,6 @@ void tst_DOEDlg::ARegistryLargerThanTheTableStopsAtTheLastRow()
 
 void tst_DOEDlg::AnyNumberButZeroIsATick()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a", "b", "c"});
     AddRecord("a", -1, {1, 2});
     AddRecord("b", 0, {1, 2});
@@ -481,7 +312,6 @@ void tst_DOEDlg::AnyNumberButZeroIsATick()
 
 void tst_DOEDlg::ATickEntersARecord()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a", "b"});
     const DOEDlg dialog(nullptr);
     QVERIFY(g_mapParaArrays.empty());
@@ -496,19 +326,17 @@ void tst_DOEDlg::ATickEntersARecord()
 
 void tst_DOEDlg::ATickTakenBackLeavesTheRecord()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a"});
     AddRecord("a", 1, {1, 2});
     const DOEDlg dialog(nullptr);
     ClickCheck(dialog, 0);
     QCOMPARE(EnabledButtons(dialog), QStringLiteral("-"));
     QCOMPARE(g_mapParaArrays.at("a").bChecked, 0);
-    QCOMPARE(g_mapParaArrays.at("a").vecValues, std::vector<double>({1, 2}));
+    QCOMPARE(g_mapParaArrays.at("a").vecValues, Values({1, 2}));
 }
 
 void tst_DOEDlg::ATickRebuildsTheRunTable()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a", "b"});
     AddRecord("a", 0, {1, 2});
     AddRecord("b", 0, {3, 4, 5});
@@ -527,7 +355,6 @@ void tst_DOEDlg::ATickRebuildsTheRunTable()
 
 void tst_DOEDlg::ATickWithoutSamplesEmptiesTheRunTable()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a", "b"});
     AddRecord("a", 1, {1, 2});
     const DOEDlg dialog(nullptr);
@@ -540,7 +367,6 @@ void tst_DOEDlg::ATickWithoutSamplesEmptiesTheRunTable()
 
 void tst_DOEDlg::TheSpaceBarTicks()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a"});
     const DOEDlg dialog(nullptr);
     QTest::keyClick(&Check(dialog, 0), Qt::Key_Space);
@@ -550,7 +376,6 @@ void tst_DOEDlg::TheSpaceBarTicks()
 
 void tst_DOEDlg::ATickedParameterMayLeaveTheStore()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a", "b"});
     AddRecord("a", 1, {1, 2});
     const DOEDlg dialog(nullptr);
@@ -566,7 +391,6 @@ void tst_DOEDlg::ATickedParameterMayLeaveTheStore()
 
 void tst_DOEDlg::ANameWithoutItemIsEmpty()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a"});
     const DOEDlg dialog(nullptr);
     delete Parameters(dialog).takeItem(0, NameColumn);
@@ -577,181 +401,76 @@ void tst_DOEDlg::ANameWithoutItemIsEmpty()
 
 void tst_DOEDlg::SetArrayOpensTheSamplingDialog()
 {
-    const EmptyDesignStores stores;
     AddParameters({"b", "a"});
-    ModalDriver user;
     DOEDlg dialog(nullptr);
-    user.Then([&](QDialog& shown) {
+    Then([&](QDialog& shown) {
         ClickCheck(shown, 1);
-        user.Then([&](QDialog& sampling) {
+        Then([&](QDialog& sampling) {
             QCOMPARE(sampling.objectName(), QStringLiteral("OneParameterDlg"));
             QVERIFY(sampling.parentWidget() == nullptr);
             Type(sampling, "lineEdit_Max", "3");
             Click(sampling, "pushButton_OK");
         });
         QTest::mouseClick(&SetArray(shown, 1), Qt::LeftButton);
-        QVERIFY(user.IsDone());
         QTest::mouseClick(&SetArray(shown, 0), Qt::LeftButton); // disabled: opens nothing
         shown.reject();
     });
     dialog.exec();
-    QVERIFY(user.IsDone());
     QCOMPARE(g_mapParaArrays.size(), std::size_t(1));
     QCOMPARE(g_mapParaArrays.at("a").strName, QStringLiteral("a"));
-    QCOMPARE(g_mapParaArrays.at("a").vecValues, std::vector<double>({0, 1, 2, 3}));
+    QCOMPARE(g_mapParaArrays.at("a").vecValues, Values({0, 1, 2, 3}));
 }
 
 void tst_DOEDlg::SetArrayDoesNotRebuildTheRunTable()
 {
-    const EmptyDesignStores stores;
     AddParameters({"a"});
     AddRecord("a", 1, {7});
-    ModalDriver user;
     DOEDlg dialog(nullptr);
-    user.Then([&](QDialog& shown) {
-        user.Then([](QDialog& sampling) { Click(sampling, "pushButton_OK"); });
+    Then([&](QDialog& shown) {
+        Then([](QDialog& sampling) { Click(sampling, "pushButton_OK"); });
         QTest::mouseClick(&SetArray(shown, 0), Qt::LeftButton);
-        QCOMPARE(g_mapParaArrays.at("a").vecValues, std::vector<double>({0, 1}));
+        QCOMPARE(g_mapParaArrays.at("a").vecValues, Values({0, 1}));
         QCOMPARE(RunTableSize(shown), QSize(1, 1));
         QCOMPARE(Runs(shown).item(0, 0)->text(), QStringLiteral("7"));
-        Click(shown, "pushButton_RefreshData");
+        Refresh(shown);
         QCOMPARE(RunTableSize(shown), QSize(1, 2));
         shown.reject();
     });
     dialog.exec();
-    QVERIFY(user.IsDone());
 }
 
 void tst_DOEDlg::SetArrayOfANamelessParameterIsRefused()
 {
-    const EmptyDesignStores stores;
     AddParameters({""});
     AddRecord("", 1, {});
-    ModalDriver user;
     DOEDlg dialog(nullptr);
-    user.Then([&](QDialog& shown) {
-        user.Then([](QDialog& sampling) { sampling.reject(); });
+    Then([&](QDialog& shown) {
+        Then([](QDialog& sampling) { sampling.reject(); });
         QTest::mouseClick(&SetArray(shown, 0), Qt::LeftButton);
         shown.reject();
     });
     dialog.exec();
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), Boxes({ShownBox::Notice("Error", "No parameter input")}));
+    QCOMPARE(Boxes(), ShownBoxes({ShownBox::Notice("Error", "No parameter input")}));
 }
 
 void tst_DOEDlg::SlotsWithoutASenderReturn_data()
 {
     QTest::addColumn<bool>("parameters");
-    QTest::newRow("m_slot_ProcessCheck, empty table") << false;
-    QTest::newRow("m_slot_ProcessCheck, parameters") << true;
-    QTest::newRow("m_slot_ProcessButton, empty table") << false;
-    QTest::newRow("m_slot_ProcessButton, parameters") << true;
+    NewRow("m_slot_ProcessCheck, empty table", false);
+    NewRow("m_slot_ProcessCheck, parameters", true);
+    NewRow("m_slot_ProcessButton, empty table", false);
+    NewRow("m_slot_ProcessButton, parameters", true);
 }
 
 void tst_DOEDlg::SlotsWithoutASenderReturn()
 {
-    const EmptyDesignStores stores;
     QFETCH(bool, parameters);
     if (parameters)
         AddParameters({"a"});
-    ModalDriver user;
     DOEDlg dialog(nullptr);
     const QByteArray slot = QByteArray(QTest::currentDataTag()).split(',').constFirst();
     QVERIFY(QMetaObject::invokeMethod(&dialog, slot.constData()));
     QVERIFY(g_mapParaArrays.empty());
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), Boxes());
-}
-
-void tst_DOEDlg::AddAppendsAnEmptyRow()
-{
-    const EmptyDesignStores stores;
-    AddRecord("a", 1, {1, 2});
-    const DOEDlg dialog(nullptr);
-    Runs(dialog).setCurrentCell(0, 0);
-    Click(dialog, "pushButton_Add");
-    QCOMPARE(RunTableSize(dialog), QSize(1, 3));
-    QCOMPARE(Runs(dialog).item(1, 0)->text(), QStringLiteral("2"));
-    QVERIFY(Runs(dialog).item(2, 0) == nullptr);
-}
-
-void tst_DOEDlg::AddWorksOnAnEmptyTable()
-{
-    const EmptyDesignStores stores;
-    const DOEDlg dialog(nullptr);
-    Click(dialog, "pushButton_Add");
-    QCOMPARE(RunTableSize(dialog), QSize(0, 1));
-}
-
-void tst_DOEDlg::DeleteRemovesTheCurrentRow()
-{
-    const EmptyDesignStores stores;
-    AddRecord("a", 1, {1, 2, 3});
-    ModalDriver user;
-    const DOEDlg dialog(nullptr);
-    Runs(dialog).setCurrentCell(1, 0);
-    Click(dialog, "pushButton_Delete");
-    QCOMPARE(RunTableSize(dialog), QSize(1, 2));
-    QCOMPARE(Runs(dialog).item(0, 0)->text(), QStringLiteral("1"));
-    QCOMPARE(Runs(dialog).item(1, 0)->text(), QStringLiteral("3"));
-    QCOMPARE(user.Boxes(), Boxes());
-    QCOMPARE(g_mapParaArrays.at("a").vecValues.size(), std::size_t(3));
-}
-
-void tst_DOEDlg::DeleteWithoutACurrentRowIsRefused()
-{
-    const EmptyDesignStores stores;
-    AddRecord("a", 1, {1, 2});
-    ModalDriver user;
-    const DOEDlg dialog(nullptr);
-    Click(dialog, "pushButton_Delete");
-    QCOMPARE(user.Boxes(), Boxes({ShownBox::Notice("Notify", "Select one row first!")}));
-    QCOMPARE(RunTableSize(dialog), QSize(1, 2));
-}
-
-void tst_DOEDlg::TheNextBuildDiscardsAddedAndDeletedRows()
-{
-    const EmptyDesignStores stores;
-    AddRecord("a", 1, {1, 2});
-    const DOEDlg dialog(nullptr);
-    Runs(dialog).setCurrentCell(0, 0);
-    Click(dialog, "pushButton_Delete");
-    Click(dialog, "pushButton_Add");
-    Click(dialog, "pushButton_Add");
-    Click(dialog, "pushButton_RefreshData");
-    QCOMPARE(RunTableSize(dialog), QSize(1, 2));
-    QCOMPARE(Runs(dialog).item(0, 0)->text(), QStringLiteral("1"));
-    QCOMPARE(Runs(dialog).item(1, 0)->text(), QStringLiteral("2"));
-}
-
-void tst_DOEDlg::EnterInTheRunTablePressesNothing()
-{
-    const EmptyDesignStores stores;
-    AddRecord("a", 1, {1, 2});
-    ModalDriver user;
-    DOEDlg dialog(nullptr);
-    user.Then([](QDialog& shown) {
-        Runs(shown).setFocus();
-        QTest::keyClick(&Runs(shown), Qt::Key_Return);
-        QTest::keyClick(&Parameters(shown), Qt::Key_Enter);
-        QTest::keyClick(&shown, Qt::Key_Return);
-        QVERIFY(shown.isVisible());
-        QCOMPARE(RunTableSize(shown), QSize(1, 2));
-        shown.reject();
-    });
-    dialog.exec();
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), Boxes());
-}
-
-void tst_DOEDlg::EscapeLeaves()
-{
-    const EmptyDesignStores stores;
-    ModalDriver user;
-    DOEDlg dialog(nullptr);
-    user.Then([](QDialog& shown) { QTest::keyClick(&shown, Qt::Key_Escape); });
-    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    QVERIFY(user.IsDone());
 }
 
 TARN_TEST_MAIN(tst_DOEDlg)

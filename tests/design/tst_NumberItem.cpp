@@ -1,9 +1,9 @@
 #include "NumberItem.h"
+#include "Tables.h"
 #include "TestCase.h"
 
 #include <QDataStream>
 #include <QSignalSpy>
-#include <QTableWidget>
 
 #include <limits>
 #include <memory>
@@ -43,13 +43,13 @@ void tst_NumberItem::TheNumberIsShownWithSixDigits_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<QString>("text");
-    QTest::newRow("zero") << 0.0 << "0";
-    QTest::newRow("negative zero") << -0.0 << "0";
-    QTest::newRow("short") << 0.1 << "0.1";
-    QTest::newRow("rounded") << 1.0 / 3 << "0.333333";
-    QTest::newRow("large") << 1234567.0 << "1.23457e+06";
-    QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN() << "nan";
-    QTest::newRow("infinite") << -std::numeric_limits<double>::infinity() << "-inf";
+    NewRow("zero", 0.0, "0");
+    NewRow("negative zero", -0.0, "0");
+    NewRow("short", 0.1, "0.1");
+    NewRow("rounded", 1.0 / 3, "0.333333");
+    NewRow("large", 1234567.0, "1.23457e+06");
+    NewRow("no number", std::numeric_limits<double>::quiet_NaN(), "nan");
+    NewRow("infinite", -std::numeric_limits<double>::infinity(), "-inf");
 }
 
 void tst_NumberItem::TheNumberIsShownWithSixDigits()
@@ -77,10 +77,10 @@ void tst_NumberItem::OtherRolesAreThoseOfAnOrdinaryItem()
 void tst_NumberItem::AnEditedTextIsKeptAsTyped_data()
 {
     QTest::addColumn<QString>("typed");
-    QTest::newRow("number") << "7.50";
-    QTest::newRow("many digits") << "0.123456789";
-    QTest::newRow("no number") << "seven";
-    QTest::newRow("empty") << "";
+    NewRow("number", "7.50");
+    NewRow("many digits", "0.123456789");
+    NewRow("no number", "seven");
+    NewRow("empty", "");
 }
 
 void tst_NumberItem::AnEditedTextIsKeptAsTyped()
@@ -88,19 +88,11 @@ void tst_NumberItem::AnEditedTextIsKeptAsTyped()
     QFETCH(QString, typed);
     QTableWidget table(1, 1);
     table.setItem(0, 0, new NumberItem(2.5));
-    table.setCurrentCell(0, 0);
     table.show();
-    QVERIFY(QTest::qWaitForWindowActive(&table));
     QSignalSpy changed(&table, SIGNAL(cellChanged(int, int)));
 
-    table.editItem(table.item(0, 0));
-    QWidget* const editor = QApplication::focusWidget();
-    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(editor, Qt::Key_Delete);
-    QTest::keyClicks(editor, typed);
-    QTest::keyClick(editor, Qt::Key_Return);
-
-    QTRY_COMPARE(table.item(0, 0)->text(), typed);
+    TypeIntoCell(table, 0, 0, typed);
+    QCOMPARE(table.item(0, 0)->text(), typed);
     QCOMPARE(table.item(0, 0)->data(Qt::EditRole).toString(), typed);
     QCOMPARE(changed.count(), 1);
     table.item(0, 0)->setText("8");
@@ -140,10 +132,7 @@ void tst_NumberItem::ItemsSortAsOrdinaryOnes()
     }
     for (const int column : {0, 1}) {
         table.sortItems(column);
-        QStringList texts;
-        for (row = 0; row < table.rowCount(); ++row)
-            texts << table.item(row, column)->text();
-        QCOMPARE(texts, QStringList({"-1", "0.5", "10", "9"}));
+        QCOMPARE(ColumnTexts(table, column), QStringList({"-1", "0.5", "10", "9"}));
     }
     QVERIFY(NumberItem(10.0) < QTableWidgetItem("9"));
     QVERIFY(QTableWidgetItem("10") < NumberItem(9.0));

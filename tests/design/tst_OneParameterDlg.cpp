@@ -1,15 +1,50 @@
-#include "DialogFacts.h"
+#include "FormDescription.h"
+#include "FormTest.h"
 #include "OneParameterDlgTable.h"
+#include "TextRecorder.h"
 
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
+#include <QRadioButton>
 
-// The window and what OK stores. The samples stand in tst_OneParameterDlgSamples.
+// The window and what OK stores. tst_OneParameterDlgSamples tests the samples.
 
 namespace {
+
+FormFacts Form()
+{
+    FormFacts form;
+    form.name = "OneParameterDlg";
+    form.title = "OneParameterDlg";
+    form.size = {300, 560};
+    form.lines = {
+        "QGroupBox groupBox in OneParameterDlg at gridLayout_4[0,0]: Type",
+        "QRadioButton radioButton_Log in groupBox at verticalLayout[0]: Log10",
+        "QRadioButton radioButton_Linear in groupBox at verticalLayout[1]: Linear, checked",
+        "QRadioButton radioButton_Ln in groupBox at verticalLayout[2]: Ln",
+        "QRadioButton radioButton_Gauss in groupBox at verticalLayout[3]: Gauss",
+        "QGroupBox groupBox_2 in OneParameterDlg at gridLayout_4[0,1 1x2]: Range",
+        "QLabel label in groupBox_2 at gridLayout[0,0]: Min, for lineEdit_Min",
+        "QLineEdit lineEdit_Min in groupBox_2 at gridLayout[0,1]: 0",
+        "QLabel label_2 in groupBox_2 at gridLayout[1,0]: Max, for lineEdit_Max",
+        "QLineEdit lineEdit_Max in groupBox_2 at gridLayout[1,1]: 1",
+        "QLabel label_3 in groupBox_2 at gridLayout[2,0]: Delta, for lineEdit_Deta",
+        "QLineEdit lineEdit_Deta in groupBox_2 at gridLayout[2,1]: 1",
+        "QGroupBox groupBox_3 in OneParameterDlg at gridLayout_4[1,0 1x3]: Table",
+        "QTableWidget tableWidget in groupBox_3 at gridLayout_2[0,0 1x2]: ",
+        "QPushButton pushButton_Add in groupBox_3 at gridLayout_2[1,0]: Add",
+        "QPushButton pushButton_Delete in groupBox_3 at gridLayout_2[1,1]: Delete",
+        "QPushButton pushButton_OK in OneParameterDlg at gridLayout_4[2,1]: OK",
+        "QPushButton pushButton_Cancel in OneParameterDlg at gridLayout_4[2,2]: Cancel",
+    };
+    form.tabOrder = {"radioButton_Log",   "radioButton_Linear", "radioButton_Ln",
+                     "radioButton_Gauss", "lineEdit_Min",       "lineEdit_Max",
+                     "lineEdit_Deta",     "tableWidget",        "pushButton_Add",
+                     "pushButton_Delete", "pushButton_OK",      "pushButton_Cancel"};
+    form.methods = {"public slot RefreshTableData()", "public slot m_Slot_OK()",
+                    "public slot m_Slot_Cancel()",    "public slot InitGUIData()",
+                    "public slot m_Slot_Add()",       "public slot m_Slot_Delete()"};
+    form.hasFont = true;
+    return form;
+}
 
 const ShownBox NoRow = ShownBox::Notice("Notify", "Select one row first!");
 
@@ -17,29 +52,25 @@ using Values = std::vector<double>;
 
 } // namespace
 
-class tst_OneParameterDlg : public TestCase
+class tst_OneParameterDlg : public With<FormChecks, EmptyDesignStores>
 {
     Q_OBJECT
 
+public:
+    tst_OneParameterDlg()
+        : With(Form())
+    {
+    }
+
 private Q_SLOTS:
-    void TheFormHoldsItsWidgets_data();
-    void TheFormHoldsItsWidgets();
-    void TheWindowHasItsTitleAndFont();
-    void TheGroupsStandInTheirGrid_data();
-    void TheGroupsStandInTheirGrid();
-    void TheTypesStandOneAboveTheOther();
-    void TheFieldsHaveNoValidators();
-    void TheLabelsHaveTheirFieldsAsBuddies();
-    void TabFollowsTheReadingOrder();
-    void NoButtonIsPressedByEnter();
-    void TheSlotsStandInTheirOrder();
-    void EveryTextIsTranslatable();
+    void TheTableHasOneColumn();
+    void MessagesAreTranslatedInTheContextOfTheClass();
 
     void AnEmptyNameIsRefused();
     void TheDialogOfAnEmptyNameIsInert();
     void ANewParameterOpensWithTheDefaults();
-    void TheEntryIsMadeByTheOpeningAlone_data();
-    void TheEntryIsMadeByTheOpeningAlone();
+    void OpeningAloneMakesTheEntry_data();
+    void OpeningAloneMakesTheEntry();
     void TheStoredRangeIsShownWithSixDigits();
     void TheStoredTypeIsChecked_data();
     void TheStoredTypeIsChecked();
@@ -56,244 +87,47 @@ private Q_SLOTS:
     void OkStoresEditedRows();
     void ARowWithoutItemCountsAsZero();
     void OkStoresTheRowsAsShown();
-    void OkOfGaussStoresTheRowsThatAreThere();
+    void OkOfGaussStoresTheExistingRows();
     void CancelLeavesTheRegistryAlone_data();
     void CancelLeavesTheRegistryAlone();
     void TheHostMayChangeTheRegistryBehindABox();
     void TheHostMayDestroyTheDialogBehindABox_data();
     void TheHostMayDestroyTheDialogBehindABox();
+
+private:
+    std::unique_ptr<QDialog> NewDialog(QDialog* parent) const override
+    {
+        return std::make_unique<OneParameterDlg>(parent, "a");
+    }
 };
 
-void tst_OneParameterDlg::TheFormHoldsItsWidgets_data()
+void tst_OneParameterDlg::TheTableHasOneColumn()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("parent");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("groupBox") << "QGroupBox"
-                              << "OneParameterDlg"
-                              << "Type";
-    QTest::newRow("groupBox_2") << "QGroupBox"
-                                << "OneParameterDlg"
-                                << "Range";
-    QTest::newRow("groupBox_3") << "QGroupBox"
-                                << "OneParameterDlg"
-                                << "Table";
-    QTest::newRow("radioButton_Log") << "QRadioButton"
-                                     << "groupBox"
-                                     << "Log10";
-    QTest::newRow("radioButton_Linear") << "QRadioButton"
-                                        << "groupBox"
-                                        << "Linear";
-    QTest::newRow("radioButton_Ln") << "QRadioButton"
-                                    << "groupBox"
-                                    << "Ln";
-    QTest::newRow("radioButton_Gauss") << "QRadioButton"
-                                       << "groupBox"
-                                       << "Gauss";
-    QTest::newRow("label") << "QLabel"
-                           << "groupBox_2"
-                           << "Min";
-    QTest::newRow("label_2") << "QLabel"
-                             << "groupBox_2"
-                             << "Max";
-    QTest::newRow("label_3") << "QLabel"
-                             << "groupBox_2"
-                             << "Delta";
-    QTest::newRow("lineEdit_Min") << "QLineEdit"
-                                  << "groupBox_2"
-                                  << "0";
-    QTest::newRow("lineEdit_Max") << "QLineEdit"
-                                  << "groupBox_2"
-                                  << "1";
-    QTest::newRow("lineEdit_Deta") << "QLineEdit"
-                                   << "groupBox_2"
-                                   << "1";
-    QTest::newRow("pushButton_Add") << "QPushButton"
-                                    << "groupBox_3"
-                                    << "Add";
-    QTest::newRow("pushButton_Delete") << "QPushButton"
-                                       << "groupBox_3"
-                                       << "Delete";
-    QTest::newRow("pushButton_OK") << "QPushButton"
-                                   << "OneParameterDlg"
-                                   << "OK";
-    QTest::newRow("pushButton_Cancel") << "QPushButton"
-                                       << "OneParameterDlg"
-                                       << "Cancel";
+    QCOMPARE(HeaderTexts(Table(OneParameterDlg(nullptr, "a"))), QStringList({"Value"}));
 }
 
-void tst_OneParameterDlg::TheFormHoldsItsWidgets()
+void tst_OneParameterDlg::MessagesAreTranslatedInTheContextOfTheClass()
 {
-    const EmptyDesignStores stores;
-    QFETCH(QString, type);
-    QFETCH(QString, parent);
-    QFETCH(QString, text);
-    const OneParameterDlg dialog(nullptr, "a");
-    const auto& widget = Find<QWidget>(dialog, QTest::currentDataTag());
-    QCOMPARE(QString(widget.metaObject()->className()), type);
-    QCOMPARE(widget.parentWidget()->objectName(), parent);
-    const char* const property = type == "QGroupBox" ? "title" : "text";
-    QCOMPARE(widget.property(property).toString(), text);
-}
-
-void tst_OneParameterDlg::TheWindowHasItsTitleAndFont()
-{
-    const EmptyDesignStores stores;
-    QWidget parent;
-    const OneParameterDlg dialog(&parent, "a");
-    QCOMPARE(dialog.objectName(), QStringLiteral("OneParameterDlg"));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("OneParameterDlg"));
-    QCOMPARE(dialog.font().family(), QStringLiteral("微软雅黑"));
-    QCOMPARE(dialog.font().pointSize(), QApplication::font().pointSize());
-    QCOMPARE(dialog.parentWidget(), &parent);
-    QVERIFY(!dialog.isModal());
-    QVERIFY(!dialog.testAttribute(Qt::WA_DeleteOnClose));
-    QCOMPARE(Table(dialog).columnCount(), 1);
-    QCOMPARE(Table(dialog).horizontalHeaderItem(0)->text(), QStringLiteral("Value"));
-}
-
-void tst_OneParameterDlg::TheGroupsStandInTheirGrid_data()
-{
-    QTest::addColumn<QString>("grid");
-    QTest::addColumn<QRect>("cells"); // column, row, columns, rows
-    QTest::newRow("groupBox") << "gridLayout_4" << QRect(0, 0, 1, 1);
-    QTest::newRow("groupBox_2") << "gridLayout_4" << QRect(1, 0, 2, 1);
-    QTest::newRow("groupBox_3") << "gridLayout_4" << QRect(0, 1, 3, 1);
-    QTest::newRow("pushButton_OK") << "gridLayout_4" << QRect(1, 2, 1, 1);
-    QTest::newRow("pushButton_Cancel") << "gridLayout_4" << QRect(2, 2, 1, 1);
-    QTest::newRow("label") << "gridLayout" << QRect(0, 0, 1, 1);
-    QTest::newRow("lineEdit_Min") << "gridLayout" << QRect(1, 0, 1, 1);
-    QTest::newRow("label_2") << "gridLayout" << QRect(0, 1, 1, 1);
-    QTest::newRow("lineEdit_Max") << "gridLayout" << QRect(1, 1, 1, 1);
-    QTest::newRow("label_3") << "gridLayout" << QRect(0, 2, 1, 1);
-    QTest::newRow("lineEdit_Deta") << "gridLayout" << QRect(1, 2, 1, 1);
-    QTest::newRow("tableWidget") << "gridLayout_2" << QRect(0, 0, 2, 1);
-    QTest::newRow("pushButton_Add") << "gridLayout_2" << QRect(0, 1, 1, 1);
-    QTest::newRow("pushButton_Delete") << "gridLayout_2" << QRect(1, 1, 1, 1);
-}
-
-void tst_OneParameterDlg::TheGroupsStandInTheirGrid()
-{
-    const EmptyDesignStores stores;
-    QFETCH(QString, grid);
-    QFETCH(QRect, cells);
-    const OneParameterDlg dialog(nullptr, "a");
-    auto& widget = Find<QWidget>(dialog, QTest::currentDataTag());
-    const auto* const layout = qobject_cast<QGridLayout*>(widget.parentWidget()->layout());
-    QVERIFY(layout != nullptr);
-    QCOMPARE(layout->objectName(), grid);
-    int row = 0;
-    int column = 0;
-    int rows = 0;
-    int columns = 0;
-    layout->getItemPosition(layout->indexOf(&widget), &row, &column, &rows, &columns);
-    QCOMPARE(QRect(column, row, columns, rows), cells);
-}
-
-void tst_OneParameterDlg::TheTypesStandOneAboveTheOther()
-{
-    const EmptyDesignStores stores;
-    const OneParameterDlg dialog(nullptr, "a");
-    const auto* const layout =
-        qobject_cast<QVBoxLayout*>(Find<QGroupBox>(dialog, "groupBox").layout());
-    QVERIFY(layout != nullptr);
-    QStringList texts;
-    for (int i = 0; i < layout->count(); ++i)
-        texts << qobject_cast<QRadioButton*>(layout->itemAt(i)->widget())->text();
-    QCOMPARE(texts, QStringList({"Log10", "Linear", "Ln", "Gauss"}));
-}
-
-void tst_OneParameterDlg::TheFieldsHaveNoValidators()
-{
-    const EmptyDesignStores stores;
-    const OneParameterDlg dialog(nullptr, "a");
-    for (const char* const name : {"lineEdit_Min", "lineEdit_Max", "lineEdit_Deta"})
-        QVERIFY(Find<QLineEdit>(dialog, name).validator() == nullptr);
-}
-
-void tst_OneParameterDlg::TheLabelsHaveTheirFieldsAsBuddies()
-{
-    const EmptyDesignStores stores;
-    const OneParameterDlg dialog(nullptr, "a");
-    QCOMPARE(Find<QLabel>(dialog, "label").buddy(), &Find<QLineEdit>(dialog, "lineEdit_Min"));
-    QCOMPARE(Find<QLabel>(dialog, "label_2").buddy(), &Find<QLineEdit>(dialog, "lineEdit_Max"));
-    QCOMPARE(Find<QLabel>(dialog, "label_3").buddy(), &Find<QLineEdit>(dialog, "lineEdit_Deta"));
-}
-
-void tst_OneParameterDlg::TabFollowsTheReadingOrder()
-{
-    const EmptyDesignStores stores;
-    OneParameterDlg dialog(nullptr, "a");
-    QCOMPARE(
-        TabOrder(dialog),
-        QStringList({"radioButton_Log", "radioButton_Linear", "radioButton_Ln", "radioButton_Gauss",
-                     "lineEdit_Min", "lineEdit_Max", "lineEdit_Deta", "tableWidget",
-                     "pushButton_Add", "pushButton_Delete", "pushButton_OK", "pushButton_Cancel"}));
-}
-
-void tst_OneParameterDlg::NoButtonIsPressedByEnter()
-{
-    const EmptyDesignStores stores;
-    OneParameterDlg dialog(nullptr, "a");
-    dialog.show();
-    const auto buttons = dialog.findChildren<QPushButton*>();
-    QCOMPARE(buttons.size(), 4);
-    for (const QPushButton* const button : buttons)
-        QVERIFY2(!button->autoDefault() && !button->isDefault(), qPrintable(button->text()));
-}
-
-void tst_OneParameterDlg::TheSlotsStandInTheirOrder()
-{
-    QCOMPARE(OwnMethods(OneParameterDlg::staticMetaObject),
-             QStringList({"public slot RefreshTableData()", "public slot m_Slot_OK()",
-                          "public slot m_Slot_Cancel()", "public slot InitGUIData()",
-                          "public slot m_Slot_Add()", "public slot m_Slot_Delete()"}));
-}
-
-void tst_OneParameterDlg::EveryTextIsTranslatable()
-{
-    const EmptyDesignStores stores;
-    const TextRecorder recorder;
-    ModalDriver user;
-    const OneParameterDlg inert(nullptr, "");
+    const QStringList formTexts = ShownTexts(*NewDialog(nullptr));
     StoreRange("a", 1, 0, 1);
     StoreRange("b", 0, 1, 1, Gauss);
+    const TextRecorder recorder;
+    const OneParameterDlg inert(nullptr, "");
     const OneParameterDlg refused(nullptr, "a");
     const OneParameterDlg dialog(nullptr, "b");
     Click(dialog, "pushButton_Delete");
-    QCOMPARE(user.Boxes().size(), 4);
-    QCOMPARE(recorder.TextsOf("OneParameterDlg"), QStringList({"0",
-                                                               "1",
-                                                               "Add",
-                                                               "Cancel",
-                                                               "Check input data!",
-                                                               "Delete",
-                                                               "Delta",
-                                                               "Error",
-                                                               "Gauss",
-                                                               "Linear",
-                                                               "Ln",
-                                                               "Log10",
-                                                               "Max",
-                                                               "Min",
-                                                               "No parameter input",
-                                                               "Not implement yet",
-                                                               "Notify",
-                                                               "OK",
-                                                               "OneParameterDlg",
-                                                               "Range",
-                                                               "Select one row first!",
-                                                               "Table",
-                                                               "Type",
-                                                               "Value"}));
+    QCOMPARE(Boxes().size(), 4);
+    QStringList texts = recorder.TextsOf("OneParameterDlg");
+    for (const QString& text : formTexts)
+        texts.removeAll(text);
+    QCOMPARE(texts, QStringList({"Check input data!", "Error", "No parameter input",
+                                 "Not implement yet", "Notify", "Select one row first!"}));
 }
 
 void tst_OneParameterDlg::AnEmptyNameIsRefused()
 {
-    const EmptyDesignStores stores;
-    ModalDriver user;
     const OneParameterDlg dialog(nullptr, QString());
-    QCOMPARE(user.Boxes(), Boxes({ShownBox::Notice("Error", "No parameter input")}));
+    QCOMPARE(Boxes(), ShownBoxes({ShownBox::Notice("Error", "No parameter input")}));
     QVERIFY(g_mapParaArrays.empty());
     QCOMPARE(Fields(dialog), QStringList({"0", "1", "1"}));
     QCOMPARE(CheckedTypes(dialog), QStringList({"Linear"}));
@@ -302,10 +136,8 @@ void tst_OneParameterDlg::AnEmptyNameIsRefused()
 
 void tst_OneParameterDlg::TheDialogOfAnEmptyNameIsInert()
 {
-    const EmptyDesignStores stores;
-    ModalDriver user;
     OneParameterDlg dialog(nullptr, "");
-    user.Then([](QDialog& shown) {
+    Then([](QDialog& shown) {
         Type(shown, "lineEdit_Max", "-5");
         for (const char* const name : {"radioButton_Log", "pushButton_Add", "pushButton_Delete",
                                        "pushButton_OK", "pushButton_Cancel"})
@@ -315,38 +147,31 @@ void tst_OneParameterDlg::TheDialogOfAnEmptyNameIsInert()
         QTest::keyClick(&shown, Qt::Key_Escape);
     });
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes().size(), 1);
+    QCOMPARE(Boxes().size(), 1);
     QVERIFY(g_mapParaArrays.empty());
 }
 
 void tst_OneParameterDlg::ANewParameterOpensWithTheDefaults()
 {
-    const EmptyDesignStores stores;
-    ModalDriver user;
     const OneParameterDlg dialog(nullptr, "a");
     QCOMPARE(Fields(dialog), QStringList({"0", "1", "1"}));
     QCOMPARE(CheckedTypes(dialog), QStringList({"Linear"}));
     QCOMPARE(Rows(dialog), QStringList({"0", "1"}));
-    QCOMPARE(user.Boxes(), Boxes());
 }
 
-void tst_OneParameterDlg::TheEntryIsMadeByTheOpeningAlone_data()
+void tst_OneParameterDlg::OpeningAloneMakesTheEntry_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("letters") << "height";
-    QTest::newRow("Chinese") << "长度";
-    QTest::newRow("a blank") << " ";
+    NewRow("letters", "height");
+    NewRow("Chinese", "长度");
+    NewRow("a blank", " ");
 }
 
-void tst_OneParameterDlg::TheEntryIsMadeByTheOpeningAlone()
+void tst_OneParameterDlg::OpeningAloneMakesTheEntry()
 {
-    const EmptyDesignStores stores;
     QFETCH(QString, name);
-    ModalDriver user;
     OneParameterDlg dialog(nullptr, name);
-    user.Then([](QDialog& shown) { Click(shown, "pushButton_Cancel"); });
-    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+    QCOMPARE(RunAndPress(dialog, "pushButton_Cancel"), int(QDialog::Rejected));
     QCOMPARE(g_mapParaArrays.size(), std::size_t(1));
     const sParaArrayData& record = g_mapParaArrays.at(name);
     QCOMPARE(record.bChecked, 0);
@@ -356,7 +181,6 @@ void tst_OneParameterDlg::TheEntryIsMadeByTheOpeningAlone()
 
 void tst_OneParameterDlg::TheStoredRangeIsShownWithSixDigits()
 {
-    const EmptyDesignStores stores;
     StoreRange("a", 0.123456789, 1234567.0, 200000.0);
     const OneParameterDlg dialog(nullptr, "a");
     QCOMPARE(Fields(dialog), QStringList({"0.123457", "1.23457e+06", "200000"}));
@@ -367,31 +191,28 @@ void tst_OneParameterDlg::TheStoredTypeIsChecked_data()
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("checked");
     QTest::addColumn<QStringList>("rows");
-    QTest::newRow("Linear") << 0 << "Linear" << QStringList({"1", "10"});
-    QTest::newRow("Log10") << 1 << "Log10" << QStringList({"0", "1"});
-    QTest::newRow("Ln") << 2 << "Ln" << QStringList({"0", "2.30259"});
-    QTest::newRow("Gauss") << 3 << "Gauss" << QStringList();
-    QTest::newRow("unknown") << 4 << "Linear" << QStringList({"1", "10"});
-    QTest::newRow("negative") << -1 << "Linear" << QStringList({"1", "10"});
+    NewRow("Linear", 0, "Linear", QStringList({"1", "10"}));
+    NewRow("Log10", 1, "Log10", QStringList({"0", "1"}));
+    NewRow("Ln", 2, "Ln", QStringList({"0", "2.30259"}));
+    NewRow("Gauss", 3, "Gauss", QStringList());
+    NewRow("unknown", 4, "Linear", QStringList({"1", "10"}));
+    NewRow("negative", -1, "Linear", QStringList({"1", "10"}));
 }
 
 void tst_OneParameterDlg::TheStoredTypeIsChecked()
 {
-    const EmptyDesignStores stores;
     QFETCH(int, type);
     QFETCH(QString, checked);
     QFETCH(QStringList, rows);
     StoreRange("a", 1, 10, 9, type);
-    ModalDriver user;
     const OneParameterDlg dialog(nullptr, "a");
     QCOMPARE(CheckedTypes(dialog), QStringList(checked));
     QCOMPARE(Rows(dialog), rows);
-    QCOMPARE(user.Boxes(), type == Gauss ? Boxes({NoGauss}) : Boxes());
+    QCOMPARE(Boxes(), type == Gauss ? ShownBoxes({NoGauss}) : ShownBoxes());
 }
 
 void tst_OneParameterDlg::StoredValuesAreNotShownAgain()
 {
-    const EmptyDesignStores stores;
     StoreRange("a", 0, 2, 1);
     g_mapParaArrays["a"].vecValues = {7, 8};
     const OneParameterDlg dialog(nullptr, "a");
@@ -401,18 +222,15 @@ void tst_OneParameterDlg::StoredValuesAreNotShownAgain()
 
 void tst_OneParameterDlg::AddAppendsAnEmptyRow()
 {
-    const EmptyDesignStores stores;
     OneParameterDlg dialog(nullptr, "a");
     Table(dialog).setCurrentCell(0, 0);
     Click(dialog, "pushButton_Add");
-    QCOMPARE(Rows(dialog), QStringList({"0", "1", "(no item)"}));
+    QCOMPARE(Rows(dialog), QStringList({"0", "1", "-"}));
 }
 
 void tst_OneParameterDlg::DeleteRemovesTheCurrentRow()
 {
-    const EmptyDesignStores stores;
     StoreRange("a", 0, 3, 1);
-    ModalDriver user;
     OneParameterDlg dialog(nullptr, "a");
     Table(dialog).setCurrentCell(1, 0);
     Click(dialog, "pushButton_Delete");
@@ -420,26 +238,21 @@ void tst_OneParameterDlg::DeleteRemovesTheCurrentRow()
     Table(dialog).setCurrentCell(2, 0);
     Click(dialog, "pushButton_Delete");
     QCOMPARE(Rows(dialog), QStringList({"0", "2"}));
-    QCOMPARE(user.Boxes(), Boxes());
 }
 
 void tst_OneParameterDlg::DeleteWithoutACurrentRowIsRefused()
 {
-    const EmptyDesignStores stores;
-    ModalDriver user;
     OneParameterDlg dialog(nullptr, "a");
     Click(dialog, "pushButton_Delete");
-    QCOMPARE(user.Boxes(), Boxes({NoRow}));
+    QCOMPARE(Boxes(), ShownBoxes({NoRow}));
     QCOMPARE(Rows(dialog), QStringList({"0", "1"}));
 }
 
 void tst_OneParameterDlg::OkStoresTheRecord()
 {
-    const EmptyDesignStores stores;
     g_mapParaArrays["b"].bChecked = 0;
-    ModalDriver user;
     OneParameterDlg dialog(nullptr, "a");
-    user.Then([](QDialog& shown) {
+    Then([](QDialog& shown) {
         Type(shown, "lineEdit_Min", "1");
         Type(shown, "lineEdit_Max", "2");
         Type(shown, "lineEdit_Deta", "0.25");
@@ -449,8 +262,7 @@ void tst_OneParameterDlg::OkStoresTheRecord()
     });
     // The first edit leaves min = max, which is refused on the way.
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), Boxes({BadInput}));
+    QCOMPARE(Boxes(), ShownBoxes({BadInput}));
     const sParaArrayData& record = g_mapParaArrays.at("a");
     QCOMPARE(record.bChecked, 1);
     QCOMPARE(record.strName, QStringLiteral("a"));
@@ -466,42 +278,32 @@ void tst_OneParameterDlg::OkStoresTheRecord()
 void tst_OneParameterDlg::TheNextOkReplacesTheSamples()
 {
     // The same dialog, run twice.
-    const EmptyDesignStores stores;
-    ModalDriver user;
     OneParameterDlg dialog(nullptr, "a");
-    user.Then([](QDialog& shown) { Click(shown, "pushButton_OK"); });
-    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QCOMPARE(RunAndPress(dialog, "pushButton_OK"), int(QDialog::Accepted));
     QCOMPARE(g_mapParaArrays.at("a").vecValues, Values({0, 1}));
     Table(dialog).item(1, 0)->setText("5");
-    user.Then([](QDialog& shown) { Click(shown, "pushButton_OK"); });
-    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QCOMPARE(RunAndPress(dialog, "pushButton_OK"), int(QDialog::Accepted));
     QCOMPARE(g_mapParaArrays.at("a").vecValues, Values({0, 5}));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(), Boxes());
 }
 
 void tst_OneParameterDlg::OkChecksNothing_data()
 {
     QTest::addColumn<QStringList>("fields");
     QTest::addColumn<Values>("stored");
-    QTest::newRow("max below min") << QStringList({"2", "1", "0.5"}) << Values({2, 1, 0.5});
-    QTest::newRow("step 0") << QStringList({"0", "1", "0"}) << Values({0, 1, 0});
-    QTest::newRow("text") << QStringList({"a", "", "1,5"}) << Values({0, 0, 0});
-    QTest::newRow("many digits") << QStringList({"0.123456789", "1e9", "1"})
-                                 << Values({0.123456789, 1e9, 1});
+    NewRow("max below min", QStringList({"2", "1", "0.5"}), Values({2, 1, 0.5}));
+    NewRow("step 0", QStringList({"0", "1", "0"}), Values({0, 1, 0}));
+    NewRow("text", QStringList({"a", "", "1,5"}), Values({0, 0, 0}));
+    NewRow("many digits", QStringList({"0.123456789", "1e9", "1"}), Values({0.123456789, 1e9, 1}));
 }
 
 void tst_OneParameterDlg::OkChecksNothing()
 {
-    const EmptyDesignStores stores;
     QFETCH(QStringList, fields);
     QFETCH(Values, stored);
-    ModalDriver user;
     OneParameterDlg dialog(nullptr, "a");
     SetFields(dialog, fields[0], fields[1], fields[2]);
     Click(dialog, "pushButton_OK");
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    QCOMPARE(user.Boxes(), Boxes());
     const sParaArrayData& record = g_mapParaArrays.at("a");
     QCOMPARE(Values({record.dMin, record.dMax, record.dDelta}), stored);
     QCOMPARE(record.vecValues, Values({0, 1}));
@@ -509,7 +311,6 @@ void tst_OneParameterDlg::OkChecksNothing()
 
 void tst_OneParameterDlg::OkStoresEditedRows()
 {
-    const EmptyDesignStores stores;
     OneParameterDlg dialog(nullptr, "a");
     Table(dialog).item(0, 0)->setText("0.123456789");
     Table(dialog).item(1, 0)->setText("none");
@@ -519,7 +320,6 @@ void tst_OneParameterDlg::OkStoresEditedRows()
 
 void tst_OneParameterDlg::ARowWithoutItemCountsAsZero()
 {
-    const EmptyDesignStores stores;
     OneParameterDlg dialog(nullptr, "a");
     Click(dialog, "pushButton_Add");
     Click(dialog, "pushButton_Add");
@@ -531,23 +331,20 @@ void tst_OneParameterDlg::ARowWithoutItemCountsAsZero()
 void tst_OneParameterDlg::OkStoresTheRowsAsShown()
 {
     // What is shown with six digits is stored with six digits.
-    const EmptyDesignStores stores;
     StoreRange("a", 1, 3, 2, Ln);
     OneParameterDlg dialog(nullptr, "a");
     Click(dialog, "pushButton_OK");
     QCOMPARE(g_mapParaArrays["a"].vecValues, Values({0, 1.09861}));
 }
 
-void tst_OneParameterDlg::OkOfGaussStoresTheRowsThatAreThere()
+void tst_OneParameterDlg::OkOfGaussStoresTheExistingRows()
 {
-    const EmptyDesignStores stores;
     StoreRange("a", 0, 1, 1, Gauss);
-    ModalDriver user;
     OneParameterDlg dialog(nullptr, "a");
     Click(dialog, "pushButton_Add");
     Table(dialog).setItem(0, 0, new QTableWidgetItem("4.5"));
     Click(dialog, "pushButton_OK");
-    QCOMPARE(user.Boxes(), Boxes({NoGauss}));
+    QCOMPARE(Boxes(), ShownBoxes({NoGauss}));
     QCOMPARE(g_mapParaArrays["a"].nSampleType, int(Gauss));
     QCOMPARE(g_mapParaArrays["a"].vecValues, Values({4.5}));
 }
@@ -555,18 +352,16 @@ void tst_OneParameterDlg::OkOfGaussStoresTheRowsThatAreThere()
 void tst_OneParameterDlg::CancelLeavesTheRegistryAlone_data()
 {
     QTest::addColumn<bool>("escape");
-    QTest::newRow("Cancel") << false;
-    QTest::newRow("Escape") << true;
+    NewRow("Cancel", false);
+    NewRow("Escape", true);
 }
 
 void tst_OneParameterDlg::CancelLeavesTheRegistryAlone()
 {
-    const EmptyDesignStores stores;
     QFETCH(bool, escape);
     g_mapParaArrays["a"] = {0, "kept", {4, 5}, 1, 2, 0.5, Log10};
-    ModalDriver user;
     OneParameterDlg dialog(nullptr, "a");
-    user.Then([&](QDialog& shown) {
+    Then([&](QDialog& shown) {
         Type(shown, "lineEdit_Max", "3");
         Click(shown, "radioButton_Linear");
         Click(shown, "pushButton_Add");
@@ -576,7 +371,6 @@ void tst_OneParameterDlg::CancelLeavesTheRegistryAlone()
             Click(shown, "pushButton_Cancel");
     });
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    QVERIFY(user.IsDone());
     const sParaArrayData& record = g_mapParaArrays.at("a");
     QCOMPARE(record.bChecked, 0);
     QCOMPARE(record.strName, QStringLiteral("kept"));
@@ -587,12 +381,9 @@ void tst_OneParameterDlg::CancelLeavesTheRegistryAlone()
 
 void tst_OneParameterDlg::TheHostMayChangeTheRegistryBehindABox()
 {
-    const EmptyDesignStores stores;
     StoreRange("a", 2, 1, 0.5);
-    ModalDriver user;
-    user.WhileBoxOpen([](QMessageBox&) { g_mapParaArrays.clear(); });
+    User().WhileBoxOpen([](QMessageBox&) { g_mapParaArrays.clear(); });
     OneParameterDlg dialog(nullptr, "a");
-    QVERIFY(user.IsDone());
     QVERIFY(g_mapParaArrays.empty());
     QCOMPARE(Fields(dialog), QStringList({"2", "1", "0.5"}));
     Click(dialog, "pushButton_OK");
@@ -604,26 +395,23 @@ void tst_OneParameterDlg::TheHostMayDestroyTheDialogBehindABox_data()
 {
     QTest::addColumn<QString>("max");
     QTest::addColumn<QString>("text");
-    QTest::newRow("RefreshTableData, bad range") << "-1" << BadInput.text;
-    QTest::newRow("RefreshTableData, Gauss") << "1" << NoGauss.text;
-    QTest::newRow("m_Slot_Delete") << "1" << NoRow.text;
+    NewRow("RefreshTableData, bad range", "-1", BadInput.text);
+    NewRow("RefreshTableData, Gauss", "1", NoGauss.text);
+    NewRow("m_Slot_Delete", "1", NoRow.text);
 }
 
 void tst_OneParameterDlg::TheHostMayDestroyTheDialogBehindABox()
 {
-    const EmptyDesignStores stores;
     QFETCH(QString, max);
     QFETCH(QString, text);
     auto* const dialog = new OneParameterDlg(nullptr, "a");
     SetFields(*dialog, "0", max, "1");
     Find<QRadioButton>(*dialog, "radioButton_Gauss").setChecked(true);
-    ModalDriver user;
-    user.WhileBoxOpen([dialog](QMessageBox&) { delete dialog; });
+    User().WhileBoxOpen([dialog](QMessageBox&) { delete dialog; });
     const QByteArray slot = QByteArray(QTest::currentDataTag()).split(',').constFirst();
     QVERIFY(QMetaObject::invokeMethod(dialog, slot.constData()));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes().size(), 1);
-    QCOMPARE(user.Boxes().first().text, text);
+    QCOMPARE(Boxes().size(), 1);
+    QCOMPARE(Boxes().first().text, text);
 }
 
 TARN_TEST_MAIN(tst_OneParameterDlg)

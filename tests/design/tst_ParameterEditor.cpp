@@ -1,27 +1,59 @@
-#include "DialogFacts.h"
-#include "EmptyDesignStores.h"
-#include "ModalDriver.h"
-#include "ParameterEditor.h"
+#include "FormTest.h"
 #include "ParameterEditorTable.h"
 
-#include <QGridLayout>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 
-/// The form, the buttons and the rows.
-class tst_ParameterEditor : public TestCase
+// The form, the buttons and the rows.
+
+namespace {
+
+FormFacts Form()
+{
+    FormFacts form;
+    form.name = "ParameterEditor";
+    form.title = "ParameterEditor";
+    form.size = {651, 300};
+    form.lines = {
+        "QTableWidget tableWidget in ParameterEditor at gridLayout[0,0 1x6]: ",
+        "QPushButton pushButton_Add in ParameterEditor at gridLayout[1,0]: Add",
+        "QPushButton pushButton_Del in ParameterEditor at gridLayout[1,1]: Delete",
+        "QPushButton pushButton_Apply in ParameterEditor at gridLayout[1,2]: Apply",
+        "QPushButton pushButton_OK in ParameterEditor at gridLayout[1,3]: OK",
+        "QPushButton pushButton_Cancel in ParameterEditor at gridLayout[1,4]: Cancel",
+        "QGridLayout gridLayout: spacing 6, margins 11 11 11 11",
+        "QSpacerItem at gridLayout[1,5]: 277x20, horizontal",
+    };
+    form.tabOrder = {"tableWidget",      "pushButton_Add", "pushButton_Del",
+                     "pushButton_Apply", "pushButton_OK",  "pushButton_Cancel"};
+    form.methods = {"public signal m_Signal_Apply()",
+                    "public slot m_Slot_Apply()",
+                    "public slot m_Slot_Delete()",
+                    "public slot m_Slot_Add()",
+                    "public slot m_Slot_OK()",
+                    "public slot m_Slot_Cancel()",
+                    "public slot m_Slot_ProcessExp()",
+                    "public slot m_Slot_RefreshGUI()",
+                    "public slot m_Slot_NoNumber(QTableWidgetItem*)"};
+    form.hasFont = true;
+    return form;
+}
+
+} // namespace
+
+class tst_ParameterEditor : public With<FormTest<ParameterEditor>, EmptyDesignStores>
 {
     Q_OBJECT
 
+public:
+    tst_ParameterEditor()
+        : With(Form())
+    {
+    }
+
 private Q_SLOTS:
-    void TheWindowIsAsDesigned();
-    void TheButtonsAreAsDesigned_data();
-    void TheButtonsAreAsDesigned();
-    void TheSpacerFillsTheRestOfTheButtonRow();
     void TheHeadersAreAsDesigned();
-    void TabFollowsReadingOrder();
-    void SlotsAndSignalStandInTheirOrder();
     void TheTableOpensEmpty();
     void RefreshShowsTheStoreInItsOrder();
     void RefreshKeepsHeadersAndAdaptsTheRows();
@@ -32,115 +64,25 @@ private Q_SLOTS:
     void AnAddedRowIsAnEmptyScalar();
     void DeleteRemovesTheCurrentRowOfTheTableOnly();
     void DeleteWithoutACurrentRowRemovesNothing();
-    void ApplyWritesRebuildsAndTellsTheHostAndMayBeRepeated();
-    void OkAppliesAndAcceptsAlsoAfterARefusal();
+    void ApplyWritesAndNotifiesTheHostEachTime();
+    void OkAppliesAndAcceptsEvenAfterARefusal();
     void CancelWritesNothingAndRejects_data();
     void CancelWritesNothingAndRejects();
-    void TheHostMayDestroyTheEditorWhenItIsTold_data();
-    void TheHostMayDestroyTheEditorWhenItIsTold();
+    void TheHostMayDestroyTheEditorOnASignal_data();
+    void TheHostMayDestroyTheEditorOnASignal();
     void PressingACellOpensNothingAndChangesNothing();
     void EnterInACellPressesNoButton();
-    void EscapeLeaves();
     void TheTextsAreTranslatable();
 };
 
-void tst_ParameterEditor::TheWindowIsAsDesigned()
-{
-    const ParameterEditor editor(nullptr);
-    QVERIFY(qobject_cast<const QDialog*>(&editor) != nullptr);
-    QCOMPARE(ParameterEditor::staticMetaObject.superClass(), &QDialog::staticMetaObject);
-    QCOMPARE(editor.objectName(), "ParameterEditor");
-    QCOMPARE(editor.windowTitle(), "ParameterEditor");
-    QCOMPARE(editor.size(), QSize(651, 300));
-    QCOMPARE(editor.font().family(), QStringLiteral("微软雅黑"));
-    QCOMPARE(editor.font().pointSize(), QApplication::font().pointSize());
-    QVERIFY(!editor.isModal());
-    QVERIFY(!editor.testAttribute(Qt::WA_DeleteOnClose));
-    const auto* const layout = qobject_cast<QGridLayout*>(editor.layout());
-    QCOMPARE(layout->objectName(), "gridLayout");
-    QCOMPARE(layout->horizontalSpacing(), 6);
-    QCOMPARE(layout->verticalSpacing(), 6);
-    QCOMPARE(layout->contentsMargins(), QMargins(11, 11, 11, 11));
-
-    QWidget parent;
-    QCOMPARE(ParameterEditor(&parent).parentWidget(), &parent);
-}
-
-void tst_ParameterEditor::TheButtonsAreAsDesigned_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("column");
-    QTest::newRow("Add") << "pushButton_Add"
-                         << "Add" << 0;
-    QTest::newRow("Delete") << "pushButton_Del"
-                            << "Delete" << 1;
-    QTest::newRow("Apply") << "pushButton_Apply"
-                           << "Apply" << 2;
-    QTest::newRow("OK") << "pushButton_OK"
-                        << "OK" << 3;
-    QTest::newRow("Cancel") << "pushButton_Cancel"
-                            << "Cancel" << 4;
-}
-
-void tst_ParameterEditor::TheButtonsAreAsDesigned()
-{
-    QFETCH(QString, name);
-    QFETCH(int, column);
-    const ParameterEditor editor(nullptr);
-    auto& button = Find<QPushButton>(editor, qPrintable(name));
-    QTEST(button.text(), "text");
-    QVERIFY(!button.autoDefault());
-    QVERIFY(!button.isDefault());
-    auto* const layout = qobject_cast<QGridLayout*>(editor.layout());
-    QCOMPARE(layout->itemAtPosition(1, column)->widget(), &button);
-}
-
-void tst_ParameterEditor::TheSpacerFillsTheRestOfTheButtonRow()
-{
-    const ParameterEditor editor(nullptr);
-    auto* const layout = qobject_cast<QGridLayout*>(editor.layout());
-    QCOMPARE(layout->columnCount(), 6);
-    const QSpacerItem* const spacer = layout->itemAtPosition(1, 5)->spacerItem();
-    QCOMPARE(spacer->sizeHint(), QSize(277, 20));
-    QCOMPARE(spacer->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
-    QCOMPARE(spacer->sizePolicy().verticalPolicy(), QSizePolicy::Minimum);
-    for (int column = 0; column < 6; ++column)
-        QCOMPARE(layout->itemAtPosition(0, column)->widget(), &Table(editor));
-}
-
 void tst_ParameterEditor::TheHeadersAreAsDesigned()
 {
-    const ParameterEditor editor(nullptr);
-    QStringList headers;
-    for (int column = 0; column < Table(editor).columnCount(); ++column)
-        headers << Table(editor).horizontalHeaderItem(column)->text();
-    QCOMPARE(headers,
+    QCOMPARE(HeaderTexts(Table(ParameterEditor(nullptr))),
              QStringList({"Name", "Value", "Type", "Expression", "Expression Para", "Desciption"}));
-}
-
-void tst_ParameterEditor::TabFollowsReadingOrder()
-{
-    const EmptyDesignStores stores;
-    ParameterEditor editor(nullptr);
-    QCOMPARE(TabOrder(editor),
-             QStringList({"tableWidget", "pushButton_Add", "pushButton_Del", "pushButton_Apply",
-                          "pushButton_OK", "pushButton_Cancel"}));
-}
-
-void tst_ParameterEditor::SlotsAndSignalStandInTheirOrder()
-{
-    QCOMPARE(OwnMethods(ParameterEditor::staticMetaObject),
-             QStringList({"public signal m_Signal_Apply()", "public slot m_Slot_Apply()",
-                          "public slot m_Slot_Delete()", "public slot m_Slot_Add()",
-                          "public slot m_Slot_OK()", "public slot m_Slot_Cancel()",
-                          "public slot m_Slot_ProcessExp()", "public slot m_Slot_RefreshGUI()",
-                          "public slot m_Slot_NoNumber(QTableWidgetItem*)"}));
 }
 
 void tst_ParameterEditor::TheTableOpensEmpty()
 {
-    const EmptyDesignStores stores;
     Store("a", "1");
     const ParameterEditor editor(nullptr);
     QCOMPARE(Table(editor).rowCount(), 0);
@@ -148,7 +90,6 @@ void tst_ParameterEditor::TheTableOpensEmpty()
 
 void tst_ParameterEditor::RefreshShowsTheStoreInItsOrder()
 {
-    const EmptyDesignStores stores;
     Store("b", "2.50");
     Store("a", "1,2,3", 2);
     Stored("b").m_strExpression = QStringLiteral("长度*2").toLocal8Bit().toStdString();
@@ -164,7 +105,6 @@ void tst_ParameterEditor::RefreshShowsTheStoreInItsOrder()
 
 void tst_ParameterEditor::RefreshKeepsHeadersAndAdaptsTheRows()
 {
-    const EmptyDesignStores stores;
     for (const char* const name : {"a", "b", "c"})
         Store(name, "1");
     ParameterEditor editor(nullptr);
@@ -183,17 +123,16 @@ void tst_ParameterEditor::TheTypeCodeChoosesTheComboEntry_data()
 {
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("entry");
-    QTest::newRow("Bool") << 0 << "Bool";
-    QTest::newRow("Scalar") << 1 << "Scalar";
-    QTest::newRow("Vector") << 2 << "Vector";
-    QTest::newRow("Tensor") << 3 << "Tensor";
-    QTest::newRow("too large") << 4 << "Scalar";
-    QTest::newRow("negative") << -1 << "Scalar";
+    NewRow("Bool", 0, "Bool");
+    NewRow("Scalar", 1, "Scalar");
+    NewRow("Vector", 2, "Vector");
+    NewRow("Tensor", 3, "Tensor");
+    NewRow("too large", 4, "Scalar");
+    NewRow("negative", -1, "Scalar");
 }
 
 void tst_ParameterEditor::TheTypeCodeChoosesTheComboEntry()
 {
-    const EmptyDesignStores stores;
     QFETCH(int, code);
     Store("a", "1", code);
     ParameterEditor editor(nullptr);
@@ -206,17 +145,16 @@ void tst_ParameterEditor::TheComboEntryGivesTheTypeCode_data()
     QTest::addColumn<int>("index");
     QTest::addColumn<int>("code");
     QTest::addColumn<double>("value");
-    QTest::newRow("Scalar") << 0 << 1 << 7.5;
-    QTest::newRow("Tensor") << 2 << 3 << 0.0;
-    QTest::newRow("Bool") << 3 << 0 << 0.0;
-    QTest::newRow("none") << -1 << 1 << 0.0;
-    QTest::newRow("an entry that does not belong there") << 4 << 1 << 0.0;
-    QTest::newRow("no combo box") << -2 << 1 << 0.0;
+    NewRow("Scalar", 0, 1, 7.5);
+    NewRow("Tensor", 2, 3, 0.0);
+    NewRow("Bool", 3, 0, 0.0);
+    NewRow("none", -1, 1, 0.0);
+    NewRow("an entry that does not belong there", 4, 1, 0.0);
+    NewRow("no combo box", -2, 1, 0.0);
 }
 
 void tst_ParameterEditor::TheComboEntryGivesTheTypeCode()
 {
-    const EmptyDesignStores stores;
     QFETCH(int, index);
     ParameterEditor editor(nullptr);
     editor.m_Slot_Add();
@@ -237,7 +175,6 @@ void tst_ParameterEditor::TheComboEntryGivesTheTypeCode()
 
 void tst_ParameterEditor::AnAddedRowIsAnEmptyScalar()
 {
-    const EmptyDesignStores stores;
     ParameterEditor editor(nullptr);
     editor.show();
     Click(editor, "pushButton_Add");
@@ -259,7 +196,6 @@ void tst_ParameterEditor::AnAddedRowIsAnEmptyScalar()
 
 void tst_ParameterEditor::DeleteRemovesTheCurrentRowOfTheTableOnly()
 {
-    const EmptyDesignStores stores;
     for (const char* const name : {"a", "b", "c"})
         Store(name, "1");
     Stored("c").m_nType = ParametersDef::BoolType;
@@ -280,7 +216,6 @@ void tst_ParameterEditor::DeleteRemovesTheCurrentRowOfTheTableOnly()
 
 void tst_ParameterEditor::DeleteWithoutACurrentRowRemovesNothing()
 {
-    const EmptyDesignStores stores;
     Store("a", "1");
     ParameterEditor editor(nullptr);
     editor.m_Slot_Delete();
@@ -289,14 +224,13 @@ void tst_ParameterEditor::DeleteWithoutACurrentRowRemovesNothing()
     QCOMPARE(Table(editor).rowCount(), 1);
 }
 
-void tst_ParameterEditor::ApplyWritesRebuildsAndTellsTheHostAndMayBeRepeated()
+void tst_ParameterEditor::ApplyWritesAndNotifiesTheHostEachTime()
 {
-    const EmptyDesignStores stores;
     ParameterEditor editor(nullptr);
     editor.show();
-    int rowsWhenTold = -1;
+    int rowsWhenNotified = -1;
     connect(&editor, &ParameterEditor::m_Signal_Apply,
-            [&] { rowsWhenTold = Table(editor).rowCount(); });
+            [&] { rowsWhenNotified = Table(editor).rowCount(); });
     QSignalSpy spy(&editor, SIGNAL(m_Signal_Apply()));
     Store("stored", "4");
     Click(editor, "pushButton_Add");
@@ -305,7 +239,7 @@ void tst_ParameterEditor::ApplyWritesRebuildsAndTellsTheHostAndMayBeRepeated()
     TypeIntoCell(editor, 0, DescriptionColumn, "free text");
     Click(editor, "pushButton_Apply");
     QCOMPARE(spy.count(), 1);
-    QCOMPARE(rowsWhenTold, 2);
+    QCOMPARE(rowsWhenNotified, 2);
     QCOMPARE(RowTexts(editor, 0).constFirst(), "stored");
     QCOMPARE(Stored("a").m_strName, "a");
     QCOMPARE(Stored("a").m_dValue, 2.5);
@@ -319,25 +253,22 @@ void tst_ParameterEditor::ApplyWritesRebuildsAndTellsTheHostAndMayBeRepeated()
     editor.close();
 }
 
-void tst_ParameterEditor::OkAppliesAndAcceptsAlsoAfterARefusal()
+void tst_ParameterEditor::OkAppliesAndAcceptsEvenAfterARefusal()
 {
-    const EmptyDesignStores stores;
-    ModalDriver user;
     ParameterEditor editor(nullptr);
     QSignalSpy spy(&editor, SIGNAL(m_Signal_Apply()));
-    bool openWhenTold = false;
-    connect(&editor, &ParameterEditor::m_Signal_Apply, [&] { openWhenTold = editor.isVisible(); });
-    user.Then([](QDialog& shown) {
+    bool openWhenNotified = false;
+    connect(&editor, &ParameterEditor::m_Signal_Apply,
+            [&] { openWhenNotified = editor.isVisible(); });
+    Then([](QDialog& shown) {
         Click(shown, "pushButton_Add");
         Combo(shown, 0).setCurrentText("Vector");
         Click(shown, "pushButton_OK");
     });
     QCOMPARE(editor.exec(), int(QDialog::Accepted));
-    QVERIFY(user.IsDone());
-    QCOMPARE(user.Boxes(),
-             QVector<ShownBox>({ShownBox::Notice("Error", "invalid coordinate type")}));
+    QCOMPARE(Boxes(), ShownBoxes({ShownBox::Notice("Error", "invalid coordinate type")}));
     QCOMPARE(spy.count(), 1);
-    QVERIFY(openWhenTold);
+    QVERIFY(openWhenNotified);
     QCOMPARE(Table(editor).rowCount(), 0);
 }
 
@@ -345,13 +276,12 @@ void tst_ParameterEditor::CancelWritesNothingAndRejects_data()
 {
     QTest::addColumn<bool>("visible");
     QTest::addColumn<int>("times");
-    QTest::newRow("visible, told by the slot and by closing") << true << 2;
-    QTest::newRow("hidden") << false << 1;
+    NewRow("visible, reported by the slot and by closing", true, 2);
+    NewRow("hidden", false, 1);
 }
 
 void tst_ParameterEditor::CancelWritesNothingAndRejects()
 {
-    const EmptyDesignStores stores;
     QFETCH(bool, visible);
     Store("a", "1");
     ParameterEditor editor(nullptr);
@@ -363,9 +293,8 @@ void tst_ParameterEditor::CancelWritesNothingAndRejects()
         Table(shown).item(0, ValueColumn)->setText("9");
         Click(shown, "pushButton_Cancel");
     };
-    ModalDriver user;
     if (visible) {
-        user.Then(cancel);
+        Then(cancel);
         QCOMPARE(editor.exec(), int(QDialog::Rejected));
         QCOMPARE(finished.count(), 1);
     } else {
@@ -377,16 +306,15 @@ void tst_ParameterEditor::CancelWritesNothingAndRejects()
     QCOMPARE(Stored("a").m_strValue, "1");
 }
 
-void tst_ParameterEditor::TheHostMayDestroyTheEditorWhenItIsTold_data()
+void tst_ParameterEditor::TheHostMayDestroyTheEditorOnASignal_data()
 {
     QTest::addColumn<QByteArray>("button");
     for (const char* const button : {"pushButton_Apply", "pushButton_OK", "pushButton_Cancel"})
-        QTest::newRow(button) << QByteArray(button);
+        NewRow(button, QByteArray(button));
 }
 
-void tst_ParameterEditor::TheHostMayDestroyTheEditorWhenItIsTold()
+void tst_ParameterEditor::TheHostMayDestroyTheEditorOnASignal()
 {
-    const EmptyDesignStores stores;
     QFETCH(QByteArray, button);
     const QPointer<ParameterEditor> editor = new ParameterEditor(nullptr);
     const auto destroy = [editor] {
@@ -401,7 +329,6 @@ void tst_ParameterEditor::TheHostMayDestroyTheEditorWhenItIsTold()
 
 void tst_ParameterEditor::PressingACellOpensNothingAndChangesNothing()
 {
-    const EmptyDesignStores stores;
     Store("a", "1");
     ParameterEditor editor(nullptr);
     editor.m_Slot_RefreshGUI();
@@ -417,7 +344,6 @@ void tst_ParameterEditor::PressingACellOpensNothingAndChangesNothing()
 
 void tst_ParameterEditor::EnterInACellPressesNoButton()
 {
-    const EmptyDesignStores stores;
     Store("a", "1");
     ParameterEditor editor(nullptr);
     editor.m_Slot_RefreshGUI();
@@ -435,15 +361,6 @@ void tst_ParameterEditor::EnterInACellPressesNoButton()
     editor.close();
 }
 
-void tst_ParameterEditor::EscapeLeaves()
-{
-    ModalDriver user;
-    ParameterEditor editor(nullptr);
-    user.Then([](QDialog& shown) { QTest::keyClick(&Table(shown), Qt::Key_Escape); });
-    QCOMPARE(editor.exec(), int(QDialog::Rejected));
-    QVERIFY(user.IsDone());
-}
-
 void tst_ParameterEditor::TheTextsAreTranslatable()
 {
     const Marker translator;
@@ -456,11 +373,10 @@ void tst_ParameterEditor::TheTextsAreTranslatable()
     QCOMPARE(ParameterEditor::tr("text"), "ParameterEditor:text");
 
     Table(editor).setCurrentCell(0, ValueColumn);
-    ModalDriver user;
     Table(editor).item(0, ValueColumn)->setText("x");
-    QCOMPARE(user.Boxes(),
-             QVector<ShownBox>({ShownBox::Notice(
-                 "ParameterEditor:Notify", "ParameterEditor:Please Input a digital number")}));
+    QCOMPARE(Boxes(),
+             ShownBoxes({ShownBox::Notice("ParameterEditor:Notify",
+                                          "ParameterEditor:Please Input a digital number")}));
 }
 
 TARN_TEST_MAIN(tst_ParameterEditor)

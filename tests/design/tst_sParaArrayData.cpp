@@ -2,16 +2,16 @@
 #include "TestCase.h"
 #include "sParaArrayData.h"
 
-class tst_sParaArrayData : public TestCase
+class tst_sParaArrayData : public With<TestCase, EmptyDesignStores>
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void ANewRecordHasItsDefaults();
-    void TheMembersStandInTheirOrder();
+    void TheMembersAreInTheirOrder();
     void TheSpacingsHaveTheirCodes();
     void LookingUpANameEntersADefaultRecord();
-    void TheRegistryIsOrderedByName();
+    void TheRegistryIsSortedByName();
 };
 
 void tst_sParaArrayData::ANewRecordHasItsDefaults()
@@ -26,7 +26,7 @@ void tst_sParaArrayData::ANewRecordHasItsDefaults()
     QCOMPARE(record.nSampleType, 0);
 }
 
-void tst_sParaArrayData::TheMembersStandInTheirOrder()
+void tst_sParaArrayData::TheMembersAreInTheirOrder()
 {
     const sParaArrayData record = {1, "a", {2.5}, -1.0, 4.0, 0.5, 3};
     QCOMPARE(record.bChecked, 1);
@@ -48,14 +48,12 @@ void tst_sParaArrayData::TheSpacingsHaveTheirCodes()
 
 void tst_sParaArrayData::LookingUpANameEntersADefaultRecord()
 {
-    const EmptyDesignStores stores;
     QCOMPARE(g_mapParaArrays["new"].bChecked, 0);
     QCOMPARE(g_mapParaArrays.size(), std::size_t(1));
 }
 
-void tst_sParaArrayData::TheRegistryIsOrderedByName()
+void tst_sParaArrayData::TheRegistryIsSortedByName()
 {
-    const EmptyDesignStores stores;
     for (const char* const name : {"b", "a10", "B", "a2", "长", ""})
         g_mapParaArrays[name];
     QStringList names;

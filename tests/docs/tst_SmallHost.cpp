@@ -51,7 +51,7 @@ void UseTheHost()
             window = found;
     }
     if (window == nullptr)
-        qFatal("The small host has no window");
+        FailTest("The small host has no window");
     const QList<QAction*> actions = window->menuBar()->actions().first()->menu()->actions();
 
     ModalDriver user;
@@ -98,7 +98,7 @@ void tst_SmallHost::ItEditsParametersAndSurvivesTheKernel()
 int main(int argc, char** argv)
 {
     PrepareTestProgram(); // Without an application object: the small host creates its own.
-    tst_SmallHost test;
+    GuardedTest<tst_SmallHost> test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -43,7 +43,7 @@ QDomElement tst_Forms::Root(const QString& form)
     QFile file(SourcePath("forms/%1.ui").arg(form));
     QDomDocument document;
     if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file))
-        qFatal("%s cannot be read", qPrintable(file.fileName()));
+        FailTest(file.fileName() + " cannot be read");
     return document.documentElement();
 }
 

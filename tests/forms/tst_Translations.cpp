@@ -42,7 +42,7 @@ QVector<Message> Read(const QString& path)
     QFile file(path);
     QDomDocument document;
     if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file))
-        qFatal("%s cannot be read", qPrintable(path));
+        FailTest(path + " cannot be read");
     QVector<Message> messages;
     const QDomNodeList elements = document.elementsByTagName("message");
     for (int i = 0; i < elements.size(); ++i) {
@@ -61,13 +61,13 @@ QVector<Message> Updated(const QString& name, const QString& folders)
     const QString copy = QDir::current().filePath(name + ".ts");
     if (!QFile::copy(SourceFile(name), copy) ||
         !QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner))
-        qFatal("%s cannot be copied", qPrintable(name));
+        FailTest(name + " cannot be copied");
     QProcess update;
     update.setWorkingDirectory(SourcePath({}));
     update.start(TARN_LUPDATE, QStringList({"-silent", "-locations", "none"}) + folders.split(',') +
                                    QStringList({"-ts", copy}));
     if (!update.waitForFinished() || update.exitCode() != 0)
-        qFatal("lupdate failed: %s", update.readAllStandardError().constData());
+        FailTest("lupdate failed: " + QString::fromLocal8Bit(update.readAllStandardError()));
     return Read(copy);
 }
 

@@ -6,17 +6,62 @@
 #include <QLineEdit>
 #include <Standard_ConstructionError.hxx>
 
+namespace {
+
+FormFacts Form()
+{
+    FormFacts form;
+    form.name = "ExtrudInputDlg";
+    form.title = "拉伸参数输入";
+    form.lines = {
+        "QGroupBox groupBox in ExtrudInputDlg: Extrude Direction",
+        "QLabel label in groupBox: dx, for lineEdit_XDir",
+        "QLineEdit lineEdit_XDir in groupBox: 0",
+        "QLabel label_2 in groupBox: dy, for lineEdit_YDir",
+        "QLineEdit lineEdit_YDir in groupBox: 0",
+        "QLabel label_3 in groupBox: dz, for lineEdit_ZDir",
+        "QLineEdit lineEdit_ZDir in groupBox: 1",
+        "QLabel label_4 in ExtrudInputDlg: Extrude Length, for lineEdit_Height",
+        "QLineEdit lineEdit_Height in ExtrudInputDlg: 10",
+        "QPushButton pushButton_OK in ExtrudInputDlg: OK",
+        "QPushButton pushButton_Cancel in ExtrudInputDlg: Cancel",
+    };
+    form.tabOrder = {"lineEdit_XDir",   "lineEdit_YDir", "lineEdit_ZDir",
+                     "lineEdit_Height", "pushButton_OK", "pushButton_Cancel"};
+    form.enter = "pushButton_OK";
+    form.methods = {"private slot m_Slot_OK_Pushed()"};
+    form.hasFont = true;
+    return form;
+}
+
+InputFacts Input()
+{
+    InputFacts input;
+    input.unset = "0 along (1, 0, 0)";
+    input.defaults = "10 along (0, 0, 1)";
+    input.typed = {{"lineEdit_XDir", "3"},
+                   {"lineEdit_YDir", "0"},
+                   {"lineEdit_ZDir", "-4"},
+                   {"lineEdit_Height", "-2.5"}};
+    input.entered = "-2.5 along (0.6, 0, -0.8)";
+    input.converted = {"lineEdit_Height"};
+    input.conversion = "%1 along (0, 0, 1)";
+    return input;
+}
+
+} // namespace
+
 class tst_ExtrudInputDlg : public InputFormTest<ExtrudInputDlg>
 {
     Q_OBJECT
 
 public:
-    tst_ExtrudInputDlg();
+    tst_ExtrudInputDlg()
+        : InputFormTest(Form(), Input())
+    {
+    }
 
 private Q_SLOTS:
-    void TheFormIsAsGiven();
-    void TextIsConverted_data() { AddConversionRows(); }
-    void TextIsConverted();
     void TheGroupBoxHasTenPoints();
     void TheDirectionIsNormalised();
     void AZeroDirectionRaisesTheKernelsError_data();
@@ -26,54 +71,10 @@ private:
     QString Values(const ExtrudInputDlg& dialog) const override;
 };
 
-tst_ExtrudInputDlg::tst_ExtrudInputDlg()
-    : InputFormTest({"m_Slot_OK_Pushed()",
-                     "0 along (1, 0, 0)",
-                     "10 along (0, 0, 1)",
-                     {{"lineEdit_XDir", "3"},
-                      {"lineEdit_YDir", "0"},
-                      {"lineEdit_ZDir", "-4"},
-                      {"lineEdit_Height", "-2.5"}},
-                     "-2.5 along (0.6, 0, -0.8)"})
-{
-}
-
 QString tst_ExtrudInputDlg::Values(const ExtrudInputDlg& dialog) const
 {
     return QStringLiteral("%1 along %2")
         .arg(AllDigits(dialog.GetHeightValue()), KernelText(dialog.GetExtrudeDirection()));
-}
-
-void tst_ExtrudInputDlg::TheFormIsAsGiven()
-{
-    CompareForm<ExtrudInputDlg>("ExtrudInputDlg");
-    const ExtrudInputDlg dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QString("拉伸参数输入"));
-    QCOMPARE(DescribeForm(dialog, false),
-             QStringList({
-                 "QGroupBox groupBox in ExtrudInputDlg: Extrude Direction",
-                 "QLabel label in groupBox: dx",
-                 "QLabel label_2 in groupBox: dy",
-                 "QLabel label_3 in groupBox: dz",
-                 "QLabel label_4 in ExtrudInputDlg: Extrude Length",
-                 "QLineEdit lineEdit_Height in ExtrudInputDlg: 10",
-                 "QLineEdit lineEdit_XDir in groupBox: 0",
-                 "QLineEdit lineEdit_YDir in groupBox: 0",
-                 "QLineEdit lineEdit_ZDir in groupBox: 1",
-                 "QPushButton pushButton_Cancel in ExtrudInputDlg: Cancel",
-                 "QPushButton pushButton_OK in ExtrudInputDlg: OK",
-             }));
-}
-
-void tst_ExtrudInputDlg::TextIsConverted()
-{
-    QFETCH(QByteArray, locale);
-    QFETCH(QString, text);
-    QFETCH(double, number);
-    QVERIFY(UseLocale(locale));
-    ExtrudInputDlg dialog(nullptr);
-    FillAndPress(dialog, {{"lineEdit_Height", text}}, "pushButton_OK");
-    QCOMPARE(Values(dialog), QStringLiteral("%1 along (0, 0, 1)").arg(AllDigits(number)));
 }
 
 void tst_ExtrudInputDlg::TheGroupBoxHasTenPoints()

@@ -1,15 +1,48 @@
-#include "DialogChecks.h"
-#include "DialogFacts.h"
+#include "Conversions.h"
+#include "FormTest.h"
 #include "KernelText.h"
 #include "MirrorDialog.h"
-#include "ModalDriver.h"
-#include "TestCase.h"
 
-#include <QApplication>
 #include <QRadioButton>
 #include <Standard_ConstructionError.hxx>
 
 namespace {
+
+FormFacts Form()
+{
+    FormFacts form;
+    form.name = "MirrorDialog";
+    form.title = "Input";
+    form.size = {437, 226};
+    form.lines = {
+        "QRadioButton radioButton in MirrorDialog: Mirror By Point",
+        "QGroupBox groupBox in MirrorDialog: ",
+        "QLineEdit lineEdit_Ptx in groupBox: 0",
+        "QLineEdit lineEdit_Pty in groupBox: 0",
+        "QLineEdit lineEdit_Ptz in groupBox: 0",
+        "QRadioButton radioButton_2 in MirrorDialog: Mirror By Axis, checked",
+        "QGroupBox groupBox_2 in MirrorDialog: ",
+        "QLabel label in groupBox_2: Direction, for lineEdit_axisX",
+        "QLineEdit lineEdit_axisX in groupBox_2: 0",
+        "QLineEdit lineEdit_axisY in groupBox_2: 0",
+        "QLineEdit lineEdit_axisZ in groupBox_2: 1",
+        "QLabel label_2 in groupBox_2: Point On Axis, for lineEdit_axisPtX",
+        "QLineEdit lineEdit_axisPtX in groupBox_2: 0",
+        "QLineEdit lineEdit_axisPtY in groupBox_2: 0",
+        "QLineEdit lineEdit_axisPtZ in groupBox_2: 0",
+        "QRadioButton radioButton_3 in MirrorDialog: Pick One Face",
+        "QPushButton pushButton_OK in MirrorDialog: OK",
+        "QPushButton pushButton_Cancel in MirrorDialog: Cancel",
+    };
+    form.tabOrder = {"radioButton",      "lineEdit_Ptx",     "lineEdit_Pty",     "lineEdit_Ptz",
+                     "radioButton_2",    "lineEdit_axisX",   "lineEdit_axisY",   "lineEdit_axisZ",
+                     "lineEdit_axisPtX", "lineEdit_axisPtY", "lineEdit_axisPtZ", "radioButton_3",
+                     "pushButton_OK",    "pushButton_Cancel"};
+    form.enter = "pushButton_OK";
+    form.methods = {"private slot m_Slot_OK_Pushed()"};
+    form.hasFont = true;
+    return form;
+}
 
 // The images of the origin and of the three unit points.
 const char* const Identity = "(0, 0, 0) (1, 0, 0) (0, 1, 0) (0, 0, 1)";
@@ -26,110 +59,55 @@ QString MirrorData(const MirrorDialog& dialog)
 
 } // namespace
 
-class tst_MirrorDialog : public TestCase
+class tst_MirrorDialog : public FormTest<MirrorDialog>
 {
     Q_OBJECT
 
+public:
+    tst_MirrorDialog()
+        : FormTest(Form())
+    {
+    }
+
 private Q_SLOTS:
-    void TheFormIsAsGiven();
-    void TheFontIsSetOnTheDialog();
-    void TabFollowsTheReadingOrder();
-    void EnterConfirmsAndEscapeLeaves();
-    void TheSlotsAreAsGiven();
     void TheModesExcludeOneAnother();
     void TheTransformIsTheIdentityBeforeOK();
     void TheDefaultIsTheSymmetryAboutTheZAxis();
     void ThePointModeAlwaysMirrorsThroughTheOrigin_data();
     void ThePointModeAlwaysMirrorsThroughTheOrigin();
-    void TheAxisModeMirrorsAboutTheAxisEntered();
+    void TheAxisModeMirrorsAboutTheEnteredAxis();
     void TheFaceModeLeavesTheIdentity();
     void TheFaceModeLeavesTheResultOfAnEarlierOK();
     void CancelDoesNothing();
-    void TheTitleBarRejects();
+    void LeavingStoresNothing_data();
+    void LeavingStoresNothing();
     void AxisTextIsConverted_data() { AddConversionRows(); }
     void AxisTextIsConverted();
     void AZeroAxisDirectionRaisesTheKernelsError();
-    void AZeroAxisDirectionIsOfNoAccountInTheOtherModes();
+    void TheOtherModesIgnoreAZeroAxisDirection();
 
 private:
-    // Runs the dialog as a user who picks a mode, fills the fields and presses OK.
-    static int PickFillAndOK(MirrorDialog& dialog, const char* mode, const FieldTexts& fields);
+    void CompareAfterEnter(QDialog& dialog) override;
+
+    /// Runs the dialog as a user who picks a mode, fills the fields and presses OK.
+    int PickFillAndOK(MirrorDialog& dialog, const char* mode, const FieldTexts& fields);
 };
+
+void tst_MirrorDialog::CompareAfterEnter(QDialog& dialog)
+{
+    FormTest::CompareAfterEnter(dialog);
+    QCOMPARE(MirrorData(static_cast<MirrorDialog&>(dialog)), QString(AboutZAxis));
+}
 
 int tst_MirrorDialog::PickFillAndOK(MirrorDialog& dialog, const char* mode,
                                     const FieldTexts& fields)
 {
-    ModalDriver user;
-    user.Then([&](QDialog& shown) {
+    Then([&](QDialog& shown) {
         Click(shown, mode);
-        for (const auto& field : fields)
-            Type(shown, field.first, field.second);
+        Fill(shown, fields);
         Click(shown, "pushButton_OK");
     });
     return dialog.exec();
-}
-
-void tst_MirrorDialog::TheFormIsAsGiven()
-{
-    CompareForm<MirrorDialog>("MirrorDialog");
-    const MirrorDialog dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QString("Input"));
-    QCOMPARE(dialog.size(), QSize(437, 226));
-    QCOMPARE(DescribeForm(dialog, false),
-             QStringList({
-                 "QGroupBox groupBox in MirrorDialog: ",
-                 "QGroupBox groupBox_2 in MirrorDialog: ",
-                 "QLabel label in groupBox_2: Direction",
-                 "QLabel label_2 in groupBox_2: Point On Axis",
-                 "QLineEdit lineEdit_Ptx in groupBox: 0",
-                 "QLineEdit lineEdit_Pty in groupBox: 0",
-                 "QLineEdit lineEdit_Ptz in groupBox: 0",
-                 "QLineEdit lineEdit_axisPtX in groupBox_2: 0",
-                 "QLineEdit lineEdit_axisPtY in groupBox_2: 0",
-                 "QLineEdit lineEdit_axisPtZ in groupBox_2: 0",
-                 "QLineEdit lineEdit_axisX in groupBox_2: 0",
-                 "QLineEdit lineEdit_axisY in groupBox_2: 0",
-                 "QLineEdit lineEdit_axisZ in groupBox_2: 1",
-                 "QPushButton pushButton_Cancel in MirrorDialog: Cancel",
-                 "QPushButton pushButton_OK in MirrorDialog: OK",
-                 "QRadioButton radioButton in MirrorDialog: Mirror By Point",
-                 "QRadioButton radioButton_2 in MirrorDialog: Mirror By Axis, checked",
-                 "QRadioButton radioButton_3 in MirrorDialog: Pick One Face",
-             }));
-}
-
-void tst_MirrorDialog::TheFontIsSetOnTheDialog()
-{
-    const MirrorDialog dialog(nullptr);
-    QCOMPARE(dialog.font().family(), QString("微软雅黑"));
-    QCOMPARE(dialog.font().pointSize(), QApplication::font().pointSize());
-}
-
-void tst_MirrorDialog::TabFollowsTheReadingOrder()
-{
-    MirrorDialog dialog(nullptr);
-    QCOMPARE(TabOrder(dialog),
-             QStringList({"radioButton", "lineEdit_Ptx", "lineEdit_Pty", "lineEdit_Ptz",
-                          "radioButton_2", "lineEdit_axisX", "lineEdit_axisY", "lineEdit_axisZ",
-                          "lineEdit_axisPtX", "lineEdit_axisPtY", "lineEdit_axisPtZ",
-                          "radioButton_3", "pushButton_OK", "pushButton_Cancel"}));
-}
-
-void tst_MirrorDialog::EnterConfirmsAndEscapeLeaves()
-{
-    MirrorDialog dialog(nullptr);
-    QCOMPARE(EnterButtons(dialog), QStringList({"pushButton_OK*"}));
-    QCOMPARE(PressKey(dialog, "lineEdit_Ptx", Qt::Key_Escape), int(QDialog::Rejected));
-    QCOMPARE(MirrorData(dialog), QString(Identity));
-    QCOMPARE(PressKey(dialog, "lineEdit_Ptx", Qt::Key_Return), int(QDialog::Accepted));
-    QCOMPARE(MirrorData(dialog), QString(AboutZAxis));
-}
-
-void tst_MirrorDialog::TheSlotsAreAsGiven()
-{
-    QCOMPARE(OwnMethods(MirrorDialog::staticMetaObject),
-             QStringList({"private slot m_Slot_OK_Pushed()"}));
-    QCOMPARE(MirrorDialog::staticMetaObject.superClass(), &QDialog::staticMetaObject);
 }
 
 void tst_MirrorDialog::TheModesExcludeOneAnother()
@@ -151,7 +129,7 @@ void tst_MirrorDialog::TheTransformIsTheIdentityBeforeOK()
 void tst_MirrorDialog::TheDefaultIsTheSymmetryAboutTheZAxis()
 {
     MirrorDialog dialog(nullptr);
-    QCOMPARE(FillAndPress(dialog, {}, "pushButton_OK"), int(QDialog::Accepted));
+    QCOMPARE(RunAndPress(dialog, "pushButton_OK"), int(QDialog::Accepted));
     QCOMPARE(MirrorData(dialog), QString(AboutZAxis));
 }
 
@@ -172,7 +150,7 @@ void tst_MirrorDialog::ThePointModeAlwaysMirrorsThroughTheOrigin()
     QCOMPARE(MirrorData(dialog), QString(ThroughOrigin));
 }
 
-void tst_MirrorDialog::TheAxisModeMirrorsAboutTheAxisEntered()
+void tst_MirrorDialog::TheAxisModeMirrorsAboutTheEnteredAxis()
 {
     MirrorDialog dialog(nullptr);
     const FieldTexts fields = {{"lineEdit_axisX", "5"},    {"lineEdit_axisZ", "0"},
@@ -200,21 +178,30 @@ void tst_MirrorDialog::TheFaceModeLeavesTheResultOfAnEarlierOK()
 void tst_MirrorDialog::CancelDoesNothing()
 {
     MirrorDialog dialog(nullptr);
-    ModalDriver user;
-    user.Then([](QDialog& shown) {
+    Then([](QDialog& shown) {
         Click(shown, "pushButton_Cancel");
         QVERIFY(shown.isVisible());
         QTest::keyClick(&shown, Qt::Key_Escape);
     });
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    QVERIFY(user.IsDone());
 }
 
-void tst_MirrorDialog::TheTitleBarRejects()
+void tst_MirrorDialog::LeavingStoresNothing_data()
 {
+    QTest::addColumn<QString>("way");
+    // Cancel is no way to leave.
+    NewRow("Escape", "Escape");
+    NewRow("close", "close");
+}
+
+void tst_MirrorDialog::LeavingStoresNothing()
+{
+    QFETCH(QString, way);
     MirrorDialog dialog(nullptr);
-    ModalDriver user;
-    user.Then([](QDialog& shown) { shown.close(); });
+    Then([&](QDialog& shown) {
+        Type(shown, "lineEdit_axisPtX", "9");
+        Leave(shown, way, nullptr);
+    });
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
     QCOMPARE(MirrorData(dialog), QString(Identity));
 }
@@ -224,7 +211,7 @@ void tst_MirrorDialog::AxisTextIsConverted()
     QFETCH(QByteArray, locale);
     QFETCH(QString, text);
     QFETCH(double, number);
-    QVERIFY(UseLocale(locale));
+    UseLocale(locale);
     MirrorDialog dialog(nullptr);
     QCOMPARE(PickFillAndOK(dialog, "radioButton_2", {{"lineEdit_axisPtY", text}}),
              int(QDialog::Accepted));
@@ -250,7 +237,7 @@ void tst_MirrorDialog::AZeroAxisDirectionRaisesTheKernelsError()
     QCOMPARE(MirrorData(dialog), QString(ThroughOrigin));
 }
 
-void tst_MirrorDialog::AZeroAxisDirectionIsOfNoAccountInTheOtherModes()
+void tst_MirrorDialog::TheOtherModesIgnoreAZeroAxisDirection()
 {
     MirrorDialog dialog(nullptr);
     QCOMPARE(PickFillAndOK(dialog, "radioButton", {{"lineEdit_axisZ", "0"}}),

@@ -1,33 +1,35 @@
-#include "DialogChecks.h"
-#include "DialogFacts.h"
-#include "ModalDriver.h"
+#include "Conversions.h"
+#include "FormTest.h"
 #include "MoveInput.h"
-#include "TestCase.h"
 
-#include <QApplication>
+namespace {
 
-class tst_MoveInput : public TestCase
+FormFacts Form()
 {
-    Q_OBJECT
+    FormFacts form;
+    form.name = "MoveInput";
+    form.title = "Input Move Parameter";
+    form.size = {216, 157};
+    form.lines = {
+        "QGroupBox groupBox in MoveInput: ",
+        "QLabel label in groupBox: dx, for lineEdit_Dx",
+        "QLineEdit lineEdit_Dx in groupBox: 0.0",
+        "QLabel label_2 in groupBox: dy, for lineEdit_Dy",
+        "QLineEdit lineEdit_Dy in groupBox: 0.0",
+        "QLabel label_3 in groupBox: dz, for lineEdit_Dz",
+        "QLineEdit lineEdit_Dz in groupBox: 0.0",
+        "QPushButton pushButton_OK in MoveInput: OK",
+        "QPushButton pushButton_Cancel in MoveInput: Cancel",
+    };
+    form.tabOrder = {"lineEdit_Dx", "lineEdit_Dy", "lineEdit_Dz", "pushButton_OK",
+                     "pushButton_Cancel"};
+    form.enter = "pushButton_OK";
+    form.methods = {"private slot m_Slot_OK()", "private slot m_Slot_Cancel()"};
+    form.hasFont = true;
+    return form;
+}
 
-private Q_SLOTS:
-    void TheFormIsAsGiven();
-    void TheFontsAreAsGiven();
-    void TabFollowsTheReadingOrder();
-    void EnterConfirmsAndEscapeLeaves();
-    void TheSlotsAreAsGiven();
-    void TheFieldsAreReadWithoutARun();
-    void OKAcceptsAndCancelRejects();
-    void TheFieldsAreReadAfterACancelledRun();
-    void TheFieldsAreReadAtTheMomentOfTheCall();
-    void TextIsConverted_data() { AddConversionRows(); }
-    void TextIsConverted();
-
-private:
-    static QString MoveData(const MoveInput& dialog);
-};
-
-QString tst_MoveInput::MoveData(const MoveInput& dialog)
+QString MoveData(const MoveInput& dialog)
 {
     double dx = -1.0;
     double dy = -1.0;
@@ -36,56 +38,35 @@ QString tst_MoveInput::MoveData(const MoveInput& dialog)
     return QStringLiteral("%1 %2 %3").arg(AllDigits(dx), AllDigits(dy), AllDigits(dz));
 }
 
-void tst_MoveInput::TheFormIsAsGiven()
-{
-    CompareForm<MoveInput>("MoveInput");
-    const MoveInput dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QString("Input Move Parameter"));
-    QCOMPARE(dialog.size(), QSize(216, 157));
-    QCOMPARE(DescribeForm(dialog, false), QStringList({
-                                              "QGroupBox groupBox in MoveInput: ",
-                                              "QLabel label in groupBox: dx",
-                                              "QLabel label_2 in groupBox: dy",
-                                              "QLabel label_3 in groupBox: dz",
-                                              "QLineEdit lineEdit_Dx in groupBox: 0.0",
-                                              "QLineEdit lineEdit_Dy in groupBox: 0.0",
-                                              "QLineEdit lineEdit_Dz in groupBox: 0.0",
-                                              "QPushButton pushButton_Cancel in MoveInput: Cancel",
-                                              "QPushButton pushButton_OK in MoveInput: OK",
-                                          }));
-}
+} // namespace
 
-void tst_MoveInput::TheFontsAreAsGiven()
+class tst_MoveInput : public FormTest<MoveInput>
+{
+    Q_OBJECT
+
+public:
+    tst_MoveInput()
+        : FormTest(Form())
+    {
+    }
+
+private Q_SLOTS:
+    void TheGroupHasTenPoints();
+    void TheFieldsAreReadWithoutARun();
+    void OKAcceptsAndCancelRejects();
+    void TheFieldsAreReadAfterACancelledRun();
+    void TheFieldsAreReadAtTheMomentOfTheCall();
+    void TextIsConverted_data() { AddConversionRows(); }
+    void TextIsConverted();
+};
+
+void tst_MoveInput::TheGroupHasTenPoints()
 {
     const MoveInput dialog(nullptr);
-    QCOMPARE(dialog.font().family(), QString("微软雅黑"));
-    QCOMPARE(dialog.font().pointSize(), QApplication::font().pointSize());
     for (const char* const name : {"groupBox", "label", "label_2", "label_3"}) {
         QCOMPARE(Find<QWidget>(dialog, name).font().family(), QString("微软雅黑"));
         QCOMPARE(Find<QWidget>(dialog, name).font().pointSize(), 10);
     }
-}
-
-void tst_MoveInput::TabFollowsTheReadingOrder()
-{
-    MoveInput dialog(nullptr);
-    QCOMPARE(TabOrder(dialog), QStringList({"lineEdit_Dx", "lineEdit_Dy", "lineEdit_Dz",
-                                            "pushButton_OK", "pushButton_Cancel"}));
-}
-
-void tst_MoveInput::EnterConfirmsAndEscapeLeaves()
-{
-    MoveInput dialog(nullptr);
-    QCOMPARE(EnterButtons(dialog), QStringList({"pushButton_OK*"}));
-    QCOMPARE(PressKey(dialog, "lineEdit_Dy", Qt::Key_Return), int(QDialog::Accepted));
-    QCOMPARE(PressKey(dialog, "lineEdit_Dy", Qt::Key_Escape), int(QDialog::Rejected));
-}
-
-void tst_MoveInput::TheSlotsAreAsGiven()
-{
-    QCOMPARE(OwnMethods(MoveInput::staticMetaObject),
-             QStringList({"private slot m_Slot_OK()", "private slot m_Slot_Cancel()"}));
-    QCOMPARE(MoveInput::staticMetaObject.superClass(), &QDialog::staticMetaObject);
 }
 
 void tst_MoveInput::TheFieldsAreReadWithoutARun()
@@ -97,8 +78,8 @@ void tst_MoveInput::TheFieldsAreReadWithoutARun()
 void tst_MoveInput::OKAcceptsAndCancelRejects()
 {
     MoveInput dialog(nullptr);
-    QCOMPARE(FillAndPress(dialog, {}, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(FillAndPress(dialog, {}, "pushButton_Cancel"), int(QDialog::Rejected));
+    QCOMPARE(RunAndPress(dialog, "pushButton_OK"), int(QDialog::Accepted));
+    QCOMPARE(RunAndPress(dialog, "pushButton_Cancel"), int(QDialog::Rejected));
 }
 
 void tst_MoveInput::TheFieldsAreReadAfterACancelledRun()
@@ -122,7 +103,7 @@ void tst_MoveInput::TextIsConverted()
     QFETCH(QByteArray, locale);
     QFETCH(QString, text);
     QFETCH(double, number);
-    QVERIFY(UseLocale(locale));
+    UseLocale(locale);
     MoveInput dialog(nullptr);
     FillAndPress(dialog, {{"lineEdit_Dx", text}, {"lineEdit_Dy", text}, {"lineEdit_Dz", text}},
                  "pushButton_OK");

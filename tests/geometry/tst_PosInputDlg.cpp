@@ -1,10 +1,9 @@
-#include "DialogChecks.h"
-#include "DialogFacts.h"
+#include "FormDescription.h"
 #include "PosInputDlg.h"
 #include "TestCase.h"
+#include "TextRecorder.h"
 
 #include <QApplication>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -13,8 +12,8 @@ class tst_PosInputDlg : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void TheFormIsAsGiven();
-    void TheLayoutIsOneRow();
+    void TheWindowIsAsDesigned();
+    void TheFieldsAreInOneRow();
     void TabFollowsTheReadingOrder();
     void ItHasNoSlotsAndNoSignals();
     void EveryCallOfGetInstanceGivesTheOneObject();
@@ -25,37 +24,36 @@ private Q_SLOTS:
     void TheHostReachesTheFields();
 };
 
-void tst_PosInputDlg::TheFormIsAsGiven()
+void tst_PosInputDlg::TheWindowIsAsDesigned()
 {
-    CompareForm<PosInputDlg, QWidget>("PosInputDlg");
+    const TextRecorder recorder;
     const PosInputDlg input(nullptr);
+    const QWidget plain;
+    QCOMPARE(input.objectName(), QString("PosInputDlg"));
     QCOMPARE(input.windowTitle(), QString("PosInputDlg"));
     QCOMPARE(input.size(), QSize(400, 46));
     QCOMPARE(input.font(), QApplication::font());
-    QCOMPARE(DescribeForm(input, false), QStringList({
-                                             "QLabel label in PosInputDlg: x",
-                                             "QLabel label_2 in PosInputDlg: y",
-                                             "QLabel label_3 in PosInputDlg: z",
-                                             "QLineEdit lineEdit in PosInputDlg: ",
-                                             "QLineEdit lineEdit_2 in PosInputDlg: ",
-                                             "QLineEdit lineEdit_3 in PosInputDlg: ",
-                                         }));
+    QCOMPARE(input.windowFlags(), plain.windowFlags());
+    QCOMPARE(input.windowModality(), plain.windowModality());
+    QVERIFY(!input.testAttribute(Qt::WA_DeleteOnClose));
+    QVERIFY(input.windowIcon().isNull());
+    QCOMPARE(recorder.TextsOf("PosInputDlg"), ShownTexts(input));
 }
 
-void tst_PosInputDlg::TheLayoutIsOneRow()
+void tst_PosInputDlg::TheFieldsAreInOneRow()
 {
     const PosInputDlg input(nullptr);
-    const auto* const layout = qobject_cast<QGridLayout*>(input.layout());
-    QVERIFY(layout != nullptr);
-    QCOMPARE(layout->objectName(), QString("gridLayout"));
-    QCOMPARE(layout->spacing(), 6);
-    QCOMPARE(layout->contentsMargins(), QMargins(11, 11, 11, 11));
-    QCOMPARE(layout->rowCount(), 1);
-    QStringList cells;
-    for (int column = 0; column < layout->columnCount(); ++column)
-        cells << layout->itemAtPosition(0, column)->widget()->objectName();
-    QCOMPARE(cells,
-             QStringList({"label", "lineEdit", "label_2", "lineEdit_2", "label_3", "lineEdit_3"}));
+    QCOMPARE(DescribeForm(input).filter("gridLayout"),
+             QStringList({
+                 "QLabel label in PosInputDlg at gridLayout[0,0]: x, for lineEdit",
+                 "QLineEdit lineEdit in PosInputDlg at gridLayout[0,1]: ",
+                 "QLabel label_2 in PosInputDlg at gridLayout[0,2]: y, for lineEdit_2",
+                 "QLineEdit lineEdit_2 in PosInputDlg at gridLayout[0,3]: ",
+                 "QLabel label_3 in PosInputDlg at gridLayout[0,4]: z, for lineEdit_3",
+                 "QLineEdit lineEdit_3 in PosInputDlg at gridLayout[0,5]: ",
+                 "QGridLayout gridLayout: spacing 6, margins 11 11 11 11",
+             }));
+    QCOMPARE(WidgetNames(input).size(), 6);
 }
 
 void tst_PosInputDlg::TabFollowsTheReadingOrder()

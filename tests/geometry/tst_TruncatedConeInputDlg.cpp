@@ -3,17 +3,58 @@
 
 #include <QLineEdit>
 
+namespace {
+
+FormFacts Form()
+{
+    FormFacts form;
+    form.name = "TruncatedConeInputDlg";
+    form.title = "Input";
+    form.lines = {
+        "QGroupBox groupBox in TruncatedConeInputDlg: ",
+        "QLabel label in groupBox: Height:, for lineEdit_Height",
+        "QLineEdit lineEdit_Height in groupBox: 10",
+        "QLabel label_2 in groupBox: Top Radius, for lineEdit_TopRadius",
+        "QLineEdit lineEdit_TopRadius in groupBox: 5",
+        "QLabel label_3 in groupBox: Angle, for lineEdit_Angle",
+        "QLineEdit lineEdit_Angle in groupBox: 360",
+        "QPushButton pushButton_OK in TruncatedConeInputDlg: OK",
+        "QPushButton pushButton_Cancel in TruncatedConeInputDlg: Cancel",
+    };
+    form.tabOrder = {"lineEdit_Height", "lineEdit_TopRadius", "lineEdit_Angle", "pushButton_OK",
+                     "pushButton_Cancel"};
+    form.enter = "pushButton_OK";
+    form.methods = {"private slot m_Slot_OK()"};
+    form.hasFont = true;
+    return form;
+}
+
+InputFacts Input()
+{
+    InputFacts input;
+    input.unset = "0 0 0";
+    input.defaults = "10 5 360";
+    input.typed = {
+        {"lineEdit_Height", "-2.5"}, {"lineEdit_TopRadius", "0"}, {"lineEdit_Angle", "1000"}};
+    input.entered = "-2.5 0 1000";
+    input.converted = {"lineEdit_Height", "lineEdit_TopRadius", "lineEdit_Angle"};
+    input.conversion = "%1 %1 %1";
+    return input;
+}
+
+} // namespace
+
 class tst_TruncatedConeInputDlg : public InputFormTest<TruncatedConeInputDlg>
 {
     Q_OBJECT
 
 public:
-    tst_TruncatedConeInputDlg();
+    tst_TruncatedConeInputDlg()
+        : InputFormTest(Form(), Input())
+    {
+    }
 
 private Q_SLOTS:
-    void TheFormIsAsGiven();
-    void TextIsConverted_data() { AddConversionRows(); }
-    void TextIsConverted();
     void AConeCanBeFullOnly();
     void CollectDataReadsTheFieldsAndLeavesTheDialogOpen();
 
@@ -21,53 +62,11 @@ private:
     QString Values(const TruncatedConeInputDlg& dialog) const override;
 };
 
-tst_TruncatedConeInputDlg::tst_TruncatedConeInputDlg()
-    : InputFormTest(
-          {"m_Slot_OK()",
-           "0 0 0",
-           "10 5 360",
-           {{"lineEdit_Height", "-2.5"}, {"lineEdit_TopRadius", "0"}, {"lineEdit_Angle", "1000"}},
-           "-2.5 0 1000"})
-{
-}
-
 QString tst_TruncatedConeInputDlg::Values(const TruncatedConeInputDlg& dialog) const
 {
     return QStringLiteral("%1 %2 %3")
         .arg(AllDigits(dialog.GetHeightValue()), AllDigits(dialog.GetTopRadius()),
              AllDigits(dialog.GetAngle()));
-}
-
-void tst_TruncatedConeInputDlg::TheFormIsAsGiven()
-{
-    CompareForm<TruncatedConeInputDlg>("TruncatedConeInputDlg");
-    const TruncatedConeInputDlg dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QString("Input"));
-    QCOMPARE(DescribeForm(dialog, false),
-             QStringList({
-                 "QGroupBox groupBox in TruncatedConeInputDlg: ",
-                 "QLabel label in groupBox: Height:",
-                 "QLabel label_2 in groupBox: Top Radius",
-                 "QLabel label_3 in groupBox: Angle",
-                 "QLineEdit lineEdit_Angle in groupBox: 360",
-                 "QLineEdit lineEdit_Height in groupBox: 10",
-                 "QLineEdit lineEdit_TopRadius in groupBox: 5",
-                 "QPushButton pushButton_Cancel in TruncatedConeInputDlg: Cancel",
-                 "QPushButton pushButton_OK in TruncatedConeInputDlg: OK",
-             }));
-}
-
-void tst_TruncatedConeInputDlg::TextIsConverted()
-{
-    QFETCH(QByteArray, locale);
-    QFETCH(QString, text);
-    QFETCH(double, number);
-    QVERIFY(UseLocale(locale));
-    TruncatedConeInputDlg dialog(nullptr);
-    FillAndPress(
-        dialog, {{"lineEdit_Height", text}, {"lineEdit_TopRadius", text}, {"lineEdit_Angle", text}},
-        "pushButton_OK");
-    QCOMPARE(Values(dialog), QStringLiteral("%1 %1 %1").arg(AllDigits(number)));
 }
 
 void tst_TruncatedConeInputDlg::AConeCanBeFullOnly()

@@ -1,133 +1,99 @@
-#include "DialogChecks.h"
-#include "DialogFacts.h"
+#include "InputFormTest.h"
 #include "KernelText.h"
-#include "TestCase.h"
 #include "rotateInputDlg.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <Standard_ConstructionError.hxx>
 
-class tst_rotateInputDlg : public TestCase
+namespace {
+
+constexpr double Pi = 3.141592653589793;
+
+FormFacts Form()
+{
+    FormFacts form;
+    form.name = "rotateInputDlg";
+    form.title = "Input";
+    form.size = {446, 182};
+    form.lines = {
+        "QGroupBox groupBox in rotateInputDlg: Rotation Axis",
+        "QLabel label_4 in groupBox: Point On Axis, for lineEdit_xPt",
+        "QLineEdit lineEdit_xPt in groupBox: 0",
+        "QLineEdit lineEdit_yPt in groupBox: 0",
+        "QLineEdit lineEdit_zPt in groupBox: 0",
+        "QLabel label_3 in groupBox: Direction, for lineEdit_xDir",
+        "QLineEdit lineEdit_xDir in groupBox: 0",
+        "QLineEdit lineEdit_yDir in groupBox: 0",
+        "QLineEdit lineEdit_zDir in groupBox: 1",
+        "QLabel label in rotateInputDlg: Angle, for lineEdit_Degree",
+        "QLineEdit lineEdit_Degree in rotateInputDlg: 90",
+        "QLabel label_2 in rotateInputDlg: Degree",
+        "QPushButton pushButton_OK in rotateInputDlg: OK",
+        "QPushButton pushButton_Cancel in rotateInputDlg: Cancel",
+    };
+    form.tabOrder = {"lineEdit_xPt",    "lineEdit_yPt",  "lineEdit_zPt",
+                     "lineEdit_xDir",   "lineEdit_yDir", "lineEdit_zDir",
+                     "lineEdit_Degree", "pushButton_OK", "pushButton_Cancel"};
+    form.enter = "pushButton_OK";
+    form.methods = {"private slot m_Slot_OK()"};
+    form.hasFont = true;
+    return form;
+}
+
+InputFacts Input()
+{
+    InputFacts input;
+    // There is an axis before the first OK, and it is not made of the point and the direction.
+    input.unset = "0 | (0, 0, 0) | (1, 0, 0) | (0, 0, 0) along (0, 0, 1)";
+    input.defaults = "1.5707963267948966 | (0, 0, 0) | (0, 0, 1) | (0, 0, 0) along (0, 0, 1)";
+    input.typed = {{"lineEdit_xPt", "1"},     {"lineEdit_yPt", "-2"},  {"lineEdit_zPt", "3.5"},
+                   {"lineEdit_xDir", "3"},    {"lineEdit_yDir", "-4"}, {"lineEdit_zDir", "0"},
+                   {"lineEdit_Degree", "180"}};
+    input.entered = "3.1415926535897931 | (1, -2, 3.5) | (0.6, -0.8, 0) | "
+                    "(1, -2, 3.5) along (0.6, -0.8, 0)";
+    input.converted = {"lineEdit_xPt", "lineEdit_yPt", "lineEdit_zPt"};
+    input.conversion = "1.5707963267948966 | (%1, %1, %1) | (0, 0, 1) | "
+                       "(%3, %3, %3) along (0, 0, 1)";
+    return input;
+}
+
+} // namespace
+
+class tst_rotateInputDlg : public InputFormTest<rotateInputDlg>
 {
     Q_OBJECT
 
+public:
+    tst_rotateInputDlg()
+        : InputFormTest(Form(), Input())
+    {
+    }
+
 private Q_SLOTS:
-    void TheFormIsAsGiven();
-    void TheFontIsSetOnTheDialog();
-    void TabFollowsTheReadingOrder();
-    void EnterConfirmsAndEscapeLeaves();
-    void TheSlotsAreAsGiven();
-    void TheGettersHaveValuesBeforeOK();
-    void TheDefaultsAreAQuarterTurnAboutTheZAxis();
-    void ThePointAndTheNormalisedDirectionMakeTheAxis();
-    void CancelLeavesTheValues();
+    void TheLabelsHaveTheFontOfTheDialog();
     void TheAngleIsConverted_data() { AddConversionRows(); }
     void TheAngleIsConverted();
-    void CoordinatesAreConverted_data() { AddConversionRows(); }
-    void CoordinatesAreConverted();
     void AZeroDirectionRaisesTheKernelsError_data();
     void AZeroDirectionRaisesTheKernelsError();
     void TheShortestDirectionIsNormalised();
+
+private:
+    QString Values(const rotateInputDlg& dialog) const override;
 };
 
-void tst_rotateInputDlg::TheFormIsAsGiven()
+QString tst_rotateInputDlg::Values(const rotateInputDlg& dialog) const
 {
-    CompareForm<rotateInputDlg>("rotateInputDlg");
-    const rotateInputDlg dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QString("Input"));
-    QCOMPARE(dialog.size(), QSize(446, 182));
-    QCOMPARE(DescribeForm(dialog, false),
-             QStringList({
-                 "QGroupBox groupBox in rotateInputDlg: Rotation Axis",
-                 "QLabel label in rotateInputDlg: Angle",
-                 "QLabel label_2 in rotateInputDlg: Degree",
-                 "QLabel label_3 in groupBox: Direction",
-                 "QLabel label_4 in groupBox: Point On Axis",
-                 "QLineEdit lineEdit_Degree in rotateInputDlg: 90",
-                 "QLineEdit lineEdit_xDir in groupBox: 0",
-                 "QLineEdit lineEdit_xPt in groupBox: 0",
-                 "QLineEdit lineEdit_yDir in groupBox: 0",
-                 "QLineEdit lineEdit_yPt in groupBox: 0",
-                 "QLineEdit lineEdit_zDir in groupBox: 1",
-                 "QLineEdit lineEdit_zPt in groupBox: 0",
-                 "QPushButton pushButton_Cancel in rotateInputDlg: Cancel",
-                 "QPushButton pushButton_OK in rotateInputDlg: OK",
-             }));
+    const gp_Pnt point = dialog.GetBasePt();
+    return QStringLiteral("%1 | (%2, %3, %4) | %5 | %6")
+        .arg(AllDigits(dialog.GetAngle()), AllDigits(point.X()), AllDigits(point.Y()),
+             AllDigits(point.Z()), KernelText(dialog.GetRotateDir()),
+             KernelText(dialog.GetRotateAxis()));
 }
 
-void tst_rotateInputDlg::TheFontIsSetOnTheDialog()
+void tst_rotateInputDlg::TheLabelsHaveTheFontOfTheDialog()
 {
     const rotateInputDlg dialog(nullptr);
-    QCOMPARE(dialog.font().family(), QString("微软雅黑"));
-    QCOMPARE(dialog.font().pointSize(), QApplication::font().pointSize());
     QCOMPARE(Find<QLabel>(dialog, "label_4").font(), dialog.font());
-}
-
-void tst_rotateInputDlg::TabFollowsTheReadingOrder()
-{
-    rotateInputDlg dialog(nullptr);
-    QCOMPARE(TabOrder(dialog),
-             QStringList({"lineEdit_xPt", "lineEdit_yPt", "lineEdit_zPt", "lineEdit_xDir",
-                          "lineEdit_yDir", "lineEdit_zDir", "lineEdit_Degree", "pushButton_OK",
-                          "pushButton_Cancel"}));
-}
-
-void tst_rotateInputDlg::EnterConfirmsAndEscapeLeaves()
-{
-    rotateInputDlg dialog(nullptr);
-    QCOMPARE(EnterButtons(dialog), QStringList({"pushButton_OK*"}));
-    QCOMPARE(PressKey(dialog, "lineEdit_yPt", Qt::Key_Escape), int(QDialog::Rejected));
-    QCOMPARE(dialog.GetAngle(), 0.0);
-    QCOMPARE(PressKey(dialog, "lineEdit_yPt", Qt::Key_Return), int(QDialog::Accepted));
-    QVERIFY(dialog.GetAngle() > 0.0);
-}
-
-void tst_rotateInputDlg::TheSlotsAreAsGiven()
-{
-    QCOMPARE(OwnMethods(rotateInputDlg::staticMetaObject),
-             QStringList({"private slot m_Slot_OK()"}));
-    QCOMPARE(rotateInputDlg::staticMetaObject.superClass(), &QDialog::staticMetaObject);
-}
-
-void tst_rotateInputDlg::TheGettersHaveValuesBeforeOK()
-{
-    const rotateInputDlg dialog(nullptr);
-    QCOMPARE(KernelText(dialog.GetBasePt()), QString("(0, 0, 0)"));
-    QCOMPARE(KernelText(dialog.GetRotateDir()), QString("(1, 0, 0)"));
-    QCOMPARE(KernelText(dialog.GetRotateAxis()), QString("(0, 0, 0) along (0, 0, 1)"));
-}
-
-void tst_rotateInputDlg::TheDefaultsAreAQuarterTurnAboutTheZAxis()
-{
-    rotateInputDlg dialog(nullptr);
-    QCOMPARE(FillAndPress(dialog, {}, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(dialog.GetAngle(), 3.141592653589793 / 2);
-    QCOMPARE(KernelText(dialog.GetBasePt()), QString("(0, 0, 0)"));
-    QCOMPARE(KernelText(dialog.GetRotateDir()), QString("(0, 0, 1)"));
-    QCOMPARE(KernelText(dialog.GetRotateAxis()), QString("(0, 0, 0) along (0, 0, 1)"));
-}
-
-void tst_rotateInputDlg::ThePointAndTheNormalisedDirectionMakeTheAxis()
-{
-    rotateInputDlg dialog(nullptr);
-    const FieldTexts fields = {{"lineEdit_xPt", "1"},   {"lineEdit_yPt", "-2"},
-                               {"lineEdit_zPt", "3.5"}, {"lineEdit_xDir", "3"},
-                               {"lineEdit_yDir", "-4"}, {"lineEdit_zDir", "0"}};
-    QCOMPARE(FillAndPress(dialog, fields, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(KernelText(dialog.GetBasePt()), QString("(1, -2, 3.5)"));
-    QCOMPARE(KernelText(dialog.GetRotateDir()), QString("(0.6, -0.8, 0)"));
-    QCOMPARE(KernelText(dialog.GetRotateAxis()), QString("(1, -2, 3.5) along (0.6, -0.8, 0)"));
-}
-
-void tst_rotateInputDlg::CancelLeavesTheValues()
-{
-    rotateInputDlg dialog(nullptr);
-    FillAndPress(dialog, {{"lineEdit_xPt", "1"}}, "pushButton_OK");
-    const FieldTexts fields = {{"lineEdit_xPt", "7"}, {"lineEdit_Degree", "7"}};
-    QCOMPARE(FillAndPress(dialog, fields, "pushButton_Cancel"), int(QDialog::Rejected));
-    QCOMPARE(KernelText(dialog.GetBasePt()), QString("(1, 0, 0)"));
-    QCOMPARE(dialog.GetAngle(), 3.141592653589793 / 2);
 }
 
 void tst_rotateInputDlg::TheAngleIsConverted()
@@ -135,42 +101,22 @@ void tst_rotateInputDlg::TheAngleIsConverted()
     QFETCH(QByteArray, locale);
     QFETCH(QString, text);
     QFETCH(double, number);
-    QVERIFY(UseLocale(locale));
+    UseLocale(locale);
     rotateInputDlg dialog(nullptr);
     FillAndPress(dialog, {{"lineEdit_Degree", text}}, "pushButton_OK");
-    QCOMPARE(AllDigits(dialog.GetAngle()), AllDigits(number * 3.141592653589793 / 180));
-}
-
-void tst_rotateInputDlg::CoordinatesAreConverted()
-{
-    QFETCH(QByteArray, locale);
-    QFETCH(QString, text);
-    QFETCH(double, number);
-    QVERIFY(UseLocale(locale));
-    rotateInputDlg dialog(nullptr);
-    FillAndPress(dialog, {{"lineEdit_xPt", text}, {"lineEdit_yPt", text}, {"lineEdit_zPt", text}},
-                 "pushButton_OK");
-    QCOMPARE(AllDigits(dialog.GetBasePt().X()), AllDigits(number));
-    QCOMPARE(AllDigits(dialog.GetBasePt().Y()), AllDigits(number));
-    QCOMPARE(AllDigits(dialog.GetBasePt().Z()), AllDigits(number));
+    QCOMPARE(AllDigits(dialog.GetAngle()), AllDigits(number * Pi / 180));
 }
 
 void tst_rotateInputDlg::AZeroDirectionRaisesTheKernelsError_data()
 {
     QTest::addColumn<QString>("x");
     QTest::addColumn<QString>("z");
-    QTest::newRow("zeros") << "0"
-                           << "0";
-    QTest::newRow("negative zero") << "0"
-                                   << "-0";
-    QTest::newRow("empty") << ""
-                           << "";
-    QTest::newRow("no numbers") << "abc"
-                                << "1,0";
-    QTest::newRow("squares vanish") << "0"
-                                    << "1e-200";
-    QTest::newRow("at the limit") << "0"
-                                  << "2.2250738585072014e-308";
+    NewRow("zeros", "0", "0");
+    NewRow("negative zero", "0", "-0");
+    NewRow("empty", "", "");
+    NewRow("no numbers", "abc", "1,0");
+    NewRow("squares vanish", "0", "1e-200");
+    NewRow("at the limit", "0", "2.2250738585072014e-308");
 }
 
 void tst_rotateInputDlg::AZeroDirectionRaisesTheKernelsError()
@@ -185,10 +131,8 @@ void tst_rotateInputDlg::AZeroDirectionRaisesTheKernelsError()
     QVERIFY_EXCEPTION_THROWN(FillAndPress(dialog, fields, "pushButton_OK"),
                              Standard_ConstructionError);
     QVERIFY(dialog.isVisible());
-    QCOMPARE(dialog.GetAngle(), 3.141592653589793);
-    QCOMPARE(KernelText(dialog.GetBasePt()), QString("(1, 2, 3)"));
-    QCOMPARE(KernelText(dialog.GetRotateDir()), QString("(1, 0, 0)"));
-    QCOMPARE(KernelText(dialog.GetRotateAxis()), QString("(0, 0, 0) along (0, 0, 1)"));
+    QCOMPARE(Values(dialog), QString("3.1415926535897931 | (1, 2, 3) | (1, 0, 0) | "
+                                     "(0, 0, 0) along (0, 0, 1)"));
 }
 
 void tst_rotateInputDlg::TheShortestDirectionIsNormalised()

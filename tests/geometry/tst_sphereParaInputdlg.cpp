@@ -4,17 +4,61 @@
 #include <QDoubleValidator>
 #include <QLineEdit>
 
+namespace {
+
+FormFacts Form()
+{
+    FormFacts form;
+    form.name = "sphereParaInputdlg";
+    form.title = "Input";
+    form.lines = {
+        "QGroupBox groupBox in sphereParaInputdlg: ",
+        "QLabel label in groupBox: Angle1, for lineEdit_Angle1",
+        "QLineEdit lineEdit_Angle1 in groupBox: -90, with QDoubleValidator",
+        "QLabel label_2 in groupBox: Degree  Range：[-90, 0)",
+        "QLabel label_3 in groupBox: Angle2, for lineEdit_Angle2",
+        "QLineEdit lineEdit_Angle2 in groupBox: 90",
+        "QLabel label_4 in groupBox: Degree  Range：(0, 90)",
+        "QLabel label_5 in groupBox: Angle3, for lineEdit_Angle3",
+        "QLineEdit lineEdit_Angle3 in groupBox: 360",
+        "QLabel label_6 in groupBox: Degree  Range：(0, 360]",
+        "QPushButton pushButton_OK in sphereParaInputdlg: OK",
+        "QPushButton pushButton_Cancel in sphereParaInputdlg: Cancel",
+    };
+    form.tabOrder = {"lineEdit_Angle1", "lineEdit_Angle2", "lineEdit_Angle3", "pushButton_OK",
+                     "pushButton_Cancel"};
+    form.enter = "pushButton_OK";
+    form.methods = {"private slot m_Slot_OKPushed()"};
+    form.hasFont = true;
+    return form;
+}
+
+InputFacts Input()
+{
+    InputFacts input;
+    input.unset = "0 0 0";
+    input.defaults = "-90 90 360";
+    input.typed = {
+        {"lineEdit_Angle1", "-45.5"}, {"lineEdit_Angle2", "400"}, {"lineEdit_Angle3", "-7"}};
+    input.entered = "-45.5 400 -7";
+    input.converted = {"lineEdit_Angle2", "lineEdit_Angle3"};
+    input.conversion = "-90 %1 %1";
+    return input;
+}
+
+} // namespace
+
 class tst_sphereParaInputdlg : public InputFormTest<sphereParaInputdlg>
 {
     Q_OBJECT
 
 public:
-    tst_sphereParaInputdlg();
+    tst_sphereParaInputdlg()
+        : InputFormTest(Form(), Input())
+    {
+    }
 
 private Q_SLOTS:
-    void TheFormIsAsGiven();
-    void TextIsConverted_data() { AddConversionRows(); }
-    void TextIsConverted();
     void TheFirstAngleHasTheOnlyValidator();
     void TheFirstAngleTakesNoDecimalComma();
     void TheFirstAngleRefusesTyping_data();
@@ -24,16 +68,6 @@ private:
     QString Values(const sphereParaInputdlg& dialog) const override;
 };
 
-tst_sphereParaInputdlg::tst_sphereParaInputdlg()
-    : InputFormTest(
-          {"m_Slot_OKPushed()",
-           "0 0 0",
-           "-90 90 360",
-           {{"lineEdit_Angle1", "-45.5"}, {"lineEdit_Angle2", "400"}, {"lineEdit_Angle3", "-7"}},
-           "-45.5 400 -7"})
-{
-}
-
 QString tst_sphereParaInputdlg::Values(const sphereParaInputdlg& dialog) const
 {
     return QStringLiteral("%1 %2 %3")
@@ -41,42 +75,9 @@ QString tst_sphereParaInputdlg::Values(const sphereParaInputdlg& dialog) const
              AllDigits(dialog.GetAngle3()));
 }
 
-void tst_sphereParaInputdlg::TheFormIsAsGiven()
-{
-    CompareForm<sphereParaInputdlg>("sphereParaInputdlg");
-    const sphereParaInputdlg dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QString("Input"));
-    QCOMPARE(DescribeForm(dialog, false),
-             QStringList({
-                 "QGroupBox groupBox in sphereParaInputdlg: ",
-                 "QLabel label in groupBox: Angle1",
-                 "QLabel label_2 in groupBox: Degree  Range：[-90, 0)",
-                 "QLabel label_3 in groupBox: Angle2",
-                 "QLabel label_4 in groupBox: Degree  Range：(0, 90)",
-                 "QLabel label_5 in groupBox: Angle3",
-                 "QLabel label_6 in groupBox: Degree  Range：(0, 360]",
-                 "QLineEdit lineEdit_Angle1 in groupBox: -90",
-                 "QLineEdit lineEdit_Angle2 in groupBox: 90",
-                 "QLineEdit lineEdit_Angle3 in groupBox: 360",
-                 "QPushButton pushButton_Cancel in sphereParaInputdlg: Cancel",
-                 "QPushButton pushButton_OK in sphereParaInputdlg: OK",
-             }));
-}
-
-void tst_sphereParaInputdlg::TextIsConverted()
-{
-    QFETCH(QByteArray, locale);
-    QFETCH(QString, text);
-    QFETCH(double, number);
-    QVERIFY(UseLocale(locale));
-    sphereParaInputdlg dialog(nullptr);
-    FillAndPress(dialog, {{"lineEdit_Angle2", text}, {"lineEdit_Angle3", text}}, "pushButton_OK");
-    QCOMPARE(Values(dialog), QStringLiteral("-90 %1 %1").arg(AllDigits(number)));
-}
-
 void tst_sphereParaInputdlg::TheFirstAngleHasTheOnlyValidator()
 {
-    QVERIFY(UseLocale("de_DE.UTF-8"));
+    UseLocale("de_DE.UTF-8");
     const sphereParaInputdlg dialog(nullptr);
     const auto& edit = Find<QLineEdit>(dialog, "lineEdit_Angle1");
     const auto* const validator = qobject_cast<const QDoubleValidator*>(edit.validator());
@@ -93,7 +94,7 @@ void tst_sphereParaInputdlg::TheFirstAngleHasTheOnlyValidator()
 
 void tst_sphereParaInputdlg::TheFirstAngleTakesNoDecimalComma()
 {
-    QVERIFY(UseLocale("de_DE.UTF-8"));
+    UseLocale("de_DE.UTF-8");
     sphereParaInputdlg dialog(nullptr);
     auto& edit = Find<QLineEdit>(dialog, "lineEdit_Angle1");
     edit.setText("-45,5");
@@ -144,7 +145,7 @@ void tst_sphereParaInputdlg::TheFirstAngleRefusesTyping()
     QFETCH(QString, typed);
     QFETCH(QString, shown);
     QFETCH(double, angle);
-    QVERIFY(UseLocale(locale));
+    UseLocale(locale);
     sphereParaInputdlg dialog(nullptr);
     QCOMPARE(FillAndPress(dialog, {{"lineEdit_Angle1", typed}}, "pushButton_OK"),
              int(QDialog::Accepted));

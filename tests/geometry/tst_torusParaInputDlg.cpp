@@ -3,80 +3,77 @@
 
 #include <QLineEdit>
 
+namespace {
+
+FormFacts Form()
+{
+    FormFacts form;
+    form.name = "torusParaInputDlg";
+    form.title = "Input";
+    form.lines = {
+        "QGroupBox groupBox in torusParaInputDlg: ",
+        "QLabel label in groupBox: Sweep Radius, for lineEdit_RadiusSweep",
+        "QLineEdit lineEdit_RadiusSweep in groupBox: 3",
+        "QLabel label_2 in groupBox: Angle1, for lineEdit_Angle1",
+        "QLineEdit lineEdit_Angle1 in groupBox: -180",
+        "QLabel label_3 in groupBox: Degree  [-180,0)",
+        "QLabel label_4 in groupBox: Angle2, for lineEdit_Angle2",
+        "QLineEdit lineEdit_Angle2 in groupBox: 180",
+        "QLabel label_5 in groupBox: Degree  (0,180]",
+        "QLabel label_6 in groupBox: Angle3, for lineEdit_Angle3",
+        "QLineEdit lineEdit_Angle3 in groupBox: 360",
+        "QLabel label_7 in groupBox: Degree  (0,360]",
+        "QPushButton pushButton_OK in torusParaInputDlg: OK",
+        "QPushButton pushButton_Cancel in torusParaInputDlg: Cancel",
+    };
+    form.tabOrder = {"lineEdit_RadiusSweep", "lineEdit_Angle1", "lineEdit_Angle2",
+                     "lineEdit_Angle3",      "pushButton_OK",   "pushButton_Cancel"};
+    form.enter = "pushButton_OK";
+    form.methods = {"private slot m_OK_Pushed()"};
+    form.hasFont = true;
+    return form;
+}
+
+InputFacts Input()
+{
+    InputFacts input;
+    input.unset = "0 | 0 0 0";
+    input.defaults = "3 | -180 180 360";
+    input.typed = {{"lineEdit_RadiusSweep", "-2.5"},
+                   {"lineEdit_Angle1", "190"},
+                   {"lineEdit_Angle2", "-200"},
+                   {"lineEdit_Angle3", "720"}};
+    input.entered = "-2.5 | 190 -200 720";
+    input.converted = {"lineEdit_RadiusSweep", "lineEdit_Angle1", "lineEdit_Angle2",
+                       "lineEdit_Angle3"};
+    input.conversion = "%1 | %1 %1 %1";
+    return input;
+}
+
+} // namespace
+
 class tst_torusParaInputDlg : public InputFormTest<torusParaInputDlg>
 {
     Q_OBJECT
 
 public:
-    tst_torusParaInputDlg();
+    tst_torusParaInputDlg()
+        : InputFormTest(Form(), Input())
+    {
+    }
 
 private Q_SLOTS:
-    void TheFormIsAsGiven();
-    void TextIsConverted_data() { AddConversionRows(); }
-    void TextIsConverted();
     void ATorusCanBeFullOnly();
 
 private:
     QString Values(const torusParaInputDlg& dialog) const override;
 };
 
-tst_torusParaInputDlg::tst_torusParaInputDlg()
-    : InputFormTest({"m_OK_Pushed()",
-                     "0 | 0 0 0",
-                     "3 | -180 180 360",
-                     {{"lineEdit_RadiusSweep", "-2.5"},
-                      {"lineEdit_Angle1", "190"},
-                      {"lineEdit_Angle2", "-200"},
-                      {"lineEdit_Angle3", "720"}},
-                     "-2.5 | 190 -200 720"})
-{
-}
-
 QString tst_torusParaInputDlg::Values(const torusParaInputDlg& dialog) const
 {
     return QStringLiteral("%1 | %2 %3 %4")
         .arg(AllDigits(dialog.GetSweepRadius()), AllDigits(dialog.GetAngle1()),
              AllDigits(dialog.GetAngle2()), AllDigits(dialog.GetAngle3()));
-}
-
-void tst_torusParaInputDlg::TheFormIsAsGiven()
-{
-    CompareForm<torusParaInputDlg>("torusParaInputDlg");
-    const torusParaInputDlg dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QString("Input"));
-    QCOMPARE(DescribeForm(dialog, false),
-             QStringList({
-                 "QGroupBox groupBox in torusParaInputDlg: ",
-                 "QLabel label in groupBox: Sweep Radius",
-                 "QLabel label_2 in groupBox: Angle1",
-                 "QLabel label_3 in groupBox: Degree  [-180,0)",
-                 "QLabel label_4 in groupBox: Angle2",
-                 "QLabel label_5 in groupBox: Degree  (0,180]",
-                 "QLabel label_6 in groupBox: Angle3",
-                 "QLabel label_7 in groupBox: Degree  (0,360]",
-                 "QLineEdit lineEdit_Angle1 in groupBox: -180",
-                 "QLineEdit lineEdit_Angle2 in groupBox: 180",
-                 "QLineEdit lineEdit_Angle3 in groupBox: 360",
-                 "QLineEdit lineEdit_RadiusSweep in groupBox: 3",
-                 "QPushButton pushButton_Cancel in torusParaInputDlg: Cancel",
-                 "QPushButton pushButton_OK in torusParaInputDlg: OK",
-             }));
-}
-
-void tst_torusParaInputDlg::TextIsConverted()
-{
-    QFETCH(QByteArray, locale);
-    QFETCH(QString, text);
-    QFETCH(double, number);
-    QVERIFY(UseLocale(locale));
-    torusParaInputDlg dialog(nullptr);
-    FillAndPress(dialog,
-                 {{"lineEdit_RadiusSweep", text},
-                  {"lineEdit_Angle1", text},
-                  {"lineEdit_Angle2", text},
-                  {"lineEdit_Angle3", text}},
-                 "pushButton_OK");
-    QCOMPARE(Values(dialog), QStringLiteral("%1 | %1 %1 %1").arg(AllDigits(number)));
 }
 
 void tst_torusParaInputDlg::ATorusCanBeFullOnly()

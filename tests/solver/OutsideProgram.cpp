@@ -2,13 +2,32 @@
 // there, then does what OUTSIDE_PROGRAM_ACTION says.
 #include <unistd.h>
 
-#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <string>
-#include <thread>
+
+namespace {
+
+// Until a byte comes through the pipe "go".
+void Wait()
+{
+    std::puts("waiting");
+    std::fflush(stdout);
+    std::ifstream("go").get();
+}
+
+void WriteMuch()
+{
+    const std::string block(1 << 20, 'x');
+    for (int i = 0; i < 20; ++i) {
+        std::fwrite(block.data(), 1, block.size(), stdout);
+        std::fwrite(block.data(), 1, block.size(), stderr);
+    }
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -27,16 +46,9 @@ int main(int argc, char** argv)
     if (action == "crash")
         std::raise(SIGKILL);
     if (action == "wait")
-        std::this_thread::sleep_for(std::chrono::milliseconds(500));
-    if (action == "wait long")
-        std::this_thread::sleep_for(std::chrono::seconds(31));
-    if (action == "write") {
-        const std::string block(1 << 20, 'x');
-        for (int i = 0; i < 20; ++i) {
-            std::fwrite(block.data(), 1, block.size(), stdout);
-            std::fwrite(block.data(), 1, block.size(), stderr);
-        }
-    }
+        Wait();
+    if (action == "write")
+        WriteMuch();
     record << "ended\n";
     return 0;
 }

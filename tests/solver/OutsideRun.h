@@ -1,46 +1,52 @@
 #pragma once
 
 #include "ModalDriver.h"
-#include "TestCase.h"
 
-#include <QFile>
-#include <QLineEdit>
+#include <QByteArray>
+#include <QDialog>
+#include <QString>
 
-/// What OutsideProgram does, while this lives.
+/// What OutsideProgram does while this lives.
 class OutsideAction
 {
 public:
     explicit OutsideAction(const QByteArray& action) { qputenv(Name, action); }
     ~OutsideAction() { qunsetenv(Name); }
+    Q_DISABLE_COPY(OutsideAction)
 
 private:
     static constexpr const char* Name = "OUTSIDE_PROGRAM_ACTION";
 };
 
-/// Presses Browse and picks the path in the file dialog; an empty path cancels.
-inline void Browse(QDialog& dialog, const QString& path)
+/// While this lives, OutsideProgram runs until the test program itself waits for its end.
+class WaitForTheWait
 {
-    ModalDriver user;
-    user.Then([&](QDialog& picker) {
-        auto& name = Find<QLineEdit>(picker, "fileNameEdit");
-        name.setText(path);
-        QTest::keyClick(&name, path.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
-    });
-    Click(dialog, "pushButton_Browse");
-    QVERIFY(user.IsDone());
-}
+public:
+    WaitForTheWait();
+    ~WaitForTheWait();
+    Q_DISABLE_COPY(WaitForTheWait)
 
-/// Presses Run and gives the boxes that came up.
-inline QVector<ShownBox> PressRun(QDialog& dialog)
-{
-    ModalDriver user;
-    Click(dialog, "pushButton_Run");
-    return user.Boxes();
-}
+    /// The test program waited, and OutsideProgram may end.
+    bool IsOver() const { return m_isOver; }
+
+    /// The test program would have given up after some time.
+    bool HasTimeLimit() const { return m_hasTimeLimit; }
+
+    /// The test program waits for events of its child processes.
+    void Note(bool hasTimeLimit);
+
+private:
+    const OutsideAction m_action{"wait"};
+    int m_pipe = -1;
+    bool m_isOver = false;
+    bool m_hasTimeLimit = false;
+};
+
+/// Presses Browse and picks the path in the file dialog; an empty path cancels.
+void Browse(QDialog& dialog, const QString& path);
+
+/// Presses Run and returns the boxes that came up.
+ShownBoxes PressRun(QDialog& dialog);
 
 /// What OutsideProgram wrote in the working directory.
-inline QString RunRecord()
-{
-    QFile file(QStringLiteral("run.txt"));
-    return file.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(file.readAll()) : QString();
-}
+QString RunRecord();

@@ -1,65 +1,82 @@
 #include "ProgramFormTest.h"
 
-#include "DialogChecks.h"
+#include "Heap.h"
 #include "OutsideRun.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
+#include <QLineEdit>
+#include <QPointer>
 
-ProgramFormChecks::ProgramFormChecks(const Facts& facts)
-    : m_facts(facts)
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+FormFacts Form(const ProgramFacts& program)
+{
+    const auto line = [&](const char* text) {
+        return QString(text).arg(program.form);
+    };
+    FormFacts form;
+    form.name = program.form;
+    form.title = program.title;
+    form.lines = {
+        line("QLabel label in %1: ") + program.program + ", for lineEdit_Path",
+        line("QLineEdit lineEdit_Path in %1: , read-only"),
+        line("QPushButton pushButton_Browse in %1: Browse"),
+        line("QPushButton pushButton_Run in %1: Run"),
+        line("QPushButton pushButton_Close in %1: Close"),
+    };
+    form.tabOrder = {"lineEdit_Path", "pushButton_Browse", "pushButton_Run", "pushButton_Close"};
+    form.enter = "pushButton_Run";
+    form.methods = {QString("public slot %1()").arg(program.slot), "public slot RunCommand()"};
+    return form;
+}
+
+QString ShownPath(const QDialog& dialog)
+{
+    return Find<QLineEdit>(dialog, "lineEdit_Path").text();
+}
+
+} // namespace
+
+ProgramFormChecks::ProgramFormChecks(const ProgramFacts& facts)
+    : With(Form(facts))
+    , m_program(facts)
 {
 }
 
-void ProgramFormChecks::TheFormHasAPathAndThreeButtons()
+std::unique_ptr<QDialog> ProgramFormChecks::NewDialogWithProgram() const
 {
-    const TextRecorder recorder;
-    const std::unique_ptr<QDialog> dialog(NewDialog());
-    CompareForm(*dialog, m_facts.name, QDialog(), recorder.TextsOf(m_facts.name));
-    QCOMPARE(dialog->windowTitle(), QString(m_facts.title));
-    QStringList widgets = {
-        "QLabel label in %1: %2",
-        "QLineEdit lineEdit_Path in %1: ", "QPushButton pushButton_Browse in %1: Browse",
-        "QPushButton pushButton_Close in %1: Close", "QPushButton pushButton_Run in %1: Run"};
-    widgets.replaceInStrings("%1", m_facts.name).replaceInStrings("%2", m_facts.program);
-    QCOMPARE(DescribeForm(*dialog, false), widgets);
-    QCOMPARE(dialog->font(), QApplication::font());
-    QVERIFY(Find<QLineEdit>(*dialog, "lineEdit_Path").isReadOnly());
+    std::unique_ptr<QDialog> dialog = NewDialog(nullptr);
+    dialog->show();
+    Browse(*dialog, OUTSIDE_PROGRAM);
+    return dialog;
 }
 
-void ProgramFormChecks::TabFollowsTheReadingOrder()
+void ProgramFormChecks::CompareAfterEnter(QDialog& dialog)
 {
-    const std::unique_ptr<QDialog> dialog(NewDialog());
-    QCOMPARE(TabOrder(*dialog), QStringList({"lineEdit_Path", "pushButton_Browse", "pushButton_Run",
-                                             "pushButton_Close"}));
+    QVERIFY(dialog.isVisible());
+    // Both kinds of Enter have run the program that is not there.
+    QCOMPARE(Boxes(), m_program.ending + m_program.ending);
 }
 
 void ProgramFormChecks::CloseRejects()
 {
-    const std::unique_ptr<QDialog> dialog(NewDialog());
-    QCOMPARE(FillAndPress(*dialog, {}, "pushButton_Close"), int(QDialog::Rejected));
-}
-
-void ProgramFormChecks::TheSlotsAreAsGiven()
-{
-    const std::unique_ptr<QDialog> dialog(NewDialog());
-    QCOMPARE(
-        OwnMethods(*dialog->metaObject()),
-        QStringList({QString("public slot %1()").arg(m_facts.slot), "public slot RunCommand()"}));
-    QCOMPARE(dialog->metaObject()->superClass(), &QDialog::staticMetaObject);
+    QCOMPARE(RunAndPress(*NewDialog(nullptr), "pushButton_Close"), int(QDialog::Rejected));
 }
 
 void ProgramFormChecks::TheFileDialogIsPlain()
 {
-    EnterTemporaryDirectory();
-    const std::unique_ptr<QDialog> dialog(NewDialog());
+    const std::unique_ptr<QDialog> dialog = NewDialog(nullptr);
     dialog->show();
-    ModalDriver user;
-    user.Then([this](QDialog& shown) {
+    Then([this](QDialog& shown) {
         auto* const picker = qobject_cast<QFileDialog*>(&shown);
         QVERIFY(picker != nullptr);
         QVERIFY(picker->parentWidget() == nullptr);
-        QVERIFY(picker->windowTitle() != QString(m_facts.caption));
+        QVERIFY(picker->windowTitle() != QString(m_program.caption));
         QCOMPARE(picker->acceptMode(), QFileDialog::AcceptOpen);
         QCOMPARE(picker->fileMode(), QFileDialog::ExistingFile);
         QCOMPARE(picker->directory().canonicalPath(), QDir().canonicalPath());
@@ -68,19 +85,18 @@ void ProgramFormChecks::TheFileDialogIsPlain()
         picker->reject();
     });
     Click(*dialog, "pushButton_Browse");
-    QVERIFY(user.IsDone());
 }
 
-void ProgramFormChecks::TheCaptionReachesAHiddenDialogOnly()
+void ProgramFormChecks::OnlyAHiddenFileDialogHasTheCaption()
 {
-    const std::unique_ptr<QDialog> dialog(NewDialog());
+    const std::unique_ptr<QDialog> dialog = NewDialog(nullptr);
     dialog->show();
     for (int selections = 1; selections <= 2; ++selections) {
         Browse(*dialog, QString());
         const auto kept = dialog->findChildren<QFileDialog*>(QString(), Qt::FindDirectChildrenOnly);
         QCOMPARE(kept.size(), selections);
         for (const QFileDialog* const hidden : kept) {
-            QCOMPARE(hidden->windowTitle(), QString(m_facts.caption));
+            QCOMPARE(hidden->windowTitle(), QString(m_program.caption));
             QVERIFY(!hidden->isVisible());
             QVERIFY(!hidden->testAttribute(Qt::WA_WState_ExplicitShowHide));
         }
@@ -89,22 +105,126 @@ void ProgramFormChecks::TheCaptionReachesAHiddenDialogOnly()
 
 void ProgramFormChecks::TheChosenPathIsShown()
 {
-    const std::unique_ptr<QDialog> dialog(NewDialog());
-    dialog->show();
-    Browse(*dialog, OUTSIDE_PROGRAM);
-    const auto& path = Find<QLineEdit>(*dialog, "lineEdit_Path");
-    QCOMPARE(path.text(), QString(OUTSIDE_PROGRAM));
-    QCOMPARE(path.toolTip(), QString(OUTSIDE_PROGRAM));
+    const std::unique_ptr<QDialog> dialog = NewDialogWithProgram();
+    QCOMPARE(ShownPath(*dialog), QString(OUTSIDE_PROGRAM));
+    QCOMPARE(Find<QLineEdit>(*dialog, "lineEdit_Path").toolTip(), QString(OUTSIDE_PROGRAM));
+}
+
+void ProgramFormChecks::CancellingTheFileDialogEmptiesThePath()
+{
+    const std::unique_ptr<QDialog> dialog = NewDialogWithProgram();
+    Browse(*dialog, QString());
+    QCOMPARE(ShownPath(*dialog), QString());
+    QCOMPARE(Find<QLineEdit>(*dialog, "lineEdit_Path").toolTip(), QString());
+    QCOMPARE(PressRun(*dialog), m_program.ending);
+    QCOMPARE(RunRecord(), QString());
 }
 
 void ProgramFormChecks::TheHostMayDestroyTheDialogBehindTheFileDialog()
 {
-    QDialog* const dialog = NewDialog();
-    ModalDriver user;
-    user.Then([dialog](QDialog& picker) {
+    const QPointer<QDialog> dialog = NewDialog(nullptr).release();
+    Then([dialog](QDialog& picker) {
         delete dialog;
         picker.reject();
     });
-    QMetaObject::invokeMethod(dialog, m_facts.slot);
-    QVERIFY(user.IsDone());
+    QMetaObject::invokeMethod(dialog, m_program.slot);
+    QVERIFY(!dialog);
+}
+
+void ProgramFormChecks::TheProgramRunsOnTheModelInTheWorkingDirectory()
+{
+    const std::unique_ptr<QDialog> dialog = NewDialogWithProgram();
+    QCOMPARE(PressRun(*dialog), m_program.ending);
+    QCOMPARE(RunRecord(),
+             QString("in %1\nargument %2\nended\n").arg(QDir().canonicalPath(), m_program.model));
+    QVERIFY(dialog->isVisible());
+}
+
+void ProgramFormChecks::EveryEndIsReportedAsDesigned_data()
+{
+    QTest::addColumn<QByteArray>("action");
+    QTest::addColumn<bool>("isNormal");
+    NewRow("exit code 0", QByteArray(), true);
+    NewRow("exit code 3", QByteArray("exit 3"), true);
+    NewRow("crash", QByteArray("crash"), false);
+    NewRow("much output", QByteArray("write"), true);
+}
+
+void ProgramFormChecks::EveryEndIsReportedAsDesigned()
+{
+    QFETCH(QByteArray, action);
+    QFETCH(bool, isNormal);
+    const OutsideAction playing(action);
+    const std::unique_ptr<QDialog> dialog = NewDialogWithProgram();
+    for (int run = 1; run <= 2; ++run) {
+        QCOMPARE(PressRun(*dialog), isNormal ? m_program.ending : ShownBoxes());
+        QCOMPARE(RunRecord().count(QString("argument %1\n").arg(m_program.model)), run);
+        QVERIFY(dialog->isVisible());
+    }
+}
+
+void ProgramFormChecks::AProgramThatCannotStartIsReportedAsDesigned_data()
+{
+    QTest::addColumn<bool>("pickFile");
+    NewRow("no path", false);
+    NewRow("no program", true);
+}
+
+void ProgramFormChecks::AProgramThatCannotStartIsReportedAsDesigned()
+{
+    QFETCH(bool, pickFile);
+    const std::unique_ptr<QDialog> dialog = NewDialog(nullptr);
+    dialog->show();
+    if (pickFile) {
+        QFile file(QDir::current().filePath("text"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        Browse(*dialog, file.fileName());
+    }
+    QCOMPARE(PressRun(*dialog), m_program.ending);
+}
+
+void ProgramFormChecks::TheRunLastsUntilTheProgramEnds()
+{
+    const WaitForTheWait wait;
+    const std::unique_ptr<QDialog> dialog = NewDialogWithProgram();
+    QString record;
+    if (!m_program.ending.isEmpty())
+        User().WhileBoxOpen([&record](QMessageBox&) { record = RunRecord(); });
+    Click(*dialog, "pushButton_Run");
+    if (m_program.ending.isEmpty())
+        record = RunRecord();
+    QCOMPARE(Boxes(), m_program.ending);
+    QVERIFY(wait.IsOver());
+    QVERIFY2(record.endsWith("ended\n"), qPrintable(record));
+}
+
+// By default the toolkit gives up after half a minute.
+void ProgramFormChecks::TheRunHasNoTimeLimit()
+{
+    const WaitForTheWait wait;
+    PressRun(*NewDialogWithProgram());
+    QVERIFY(wait.IsOver());
+    QVERIFY(!wait.HasTimeLimit());
+}
+
+void ProgramFormChecks::TheOutputIsNotKept()
+{
+    const std::unique_ptr<QDialog> dialog = NewDialogWithProgram();
+    // Of three runs the one with the least growth counts: what is made once is not in it.
+    const auto growthBy = [&](const char* action) {
+        const OutsideAction playing(action);
+        auto least = std::numeric_limits<std::ptrdiff_t>::max();
+        for (int run = 0; run < 3; ++run) {
+            const std::size_t before = HeapInUse();
+            PressRun(*dialog);
+            least = std::min(least, std::ptrdiff_t(HeapInUse()) - std::ptrdiff_t(before));
+        }
+        return least;
+    };
+    // Each run keeps its process.
+    const std::ptrdiff_t silent = growthBy("");
+    const std::ptrdiff_t talkative = growthBy("write"); // 20 MB to each channel
+    QCOMPARE(RunRecord().count("ended"), 6);
+    QVERIFY2(talkative < silent + 1000, qPrintable(QString::number(talkative - silent)));
 }

@@ -1,46 +1,55 @@
 #pragma once
 
-#include "TestCase.h"
+#include "FormTest.h"
 
 #include <QDialog>
 
-#include <memory>
+/// What a form that runs an outside program shows and does.
+struct ProgramFacts
+{
+    const char* form;    ///< Name of the form.
+    const char* title;   ///< Of the window.
+    const char* program; ///< The label before the path.
+    const char* slot;    ///< That Browse calls.
+    const char* caption; ///< Of the file dialog.
+    const char* model;   ///< The file that the program is given.
+    ShownBoxes ending;   ///< The boxes after a normal end.
+};
 
 /// What holds for both forms that ask for an outside program and run it.
 ///
-/// A test class derives from ProgramFormTest and gives the facts of its form; these functions then
+/// A test class derives from ProgramFormTest and passes the facts of its form; these functions then
 /// run before its own.
-class ProgramFormChecks : public TestCase
+class ProgramFormChecks : public With<FormChecks, TemporaryDirectory>
 {
     Q_OBJECT
 
-public:
-    struct Facts
-    {
-        const char* name;    ///< Of the form.
-        const char* title;   ///< Of the window.
-        const char* program; ///< The label before the path.
-        const char* slot;    ///< That Browse calls.
-        const char* caption; ///< Of the file dialog.
-    };
-
 protected:
-    explicit ProgramFormChecks(const Facts& facts);
+    explicit ProgramFormChecks(const ProgramFacts& facts);
 
-    virtual QDialog* NewDialog() const = 0;
+    /// A dialog on the screen with OutsideProgram as its program.
+    std::unique_ptr<QDialog> NewDialogWithProgram() const;
+
+    void CompareAfterEnter(QDialog& dialog) override;
 
 private Q_SLOTS:
-    void TheFormHasAPathAndThreeButtons();
-    void TabFollowsTheReadingOrder();
     void CloseRejects();
-    void TheSlotsAreAsGiven();
     void TheFileDialogIsPlain();
-    void TheCaptionReachesAHiddenDialogOnly();
+    void OnlyAHiddenFileDialogHasTheCaption();
     void TheChosenPathIsShown();
+    void CancellingTheFileDialogEmptiesThePath();
     void TheHostMayDestroyTheDialogBehindTheFileDialog();
+    void TheProgramRunsOnTheModelInTheWorkingDirectory();
+    void EveryEndIsReportedAsDesigned_data();
+    void EveryEndIsReportedAsDesigned();
+    void AProgramThatCannotStartIsReportedAsDesigned_data();
+    void AProgramThatCannotStartIsReportedAsDesigned();
+    void TheRunLastsUntilTheProgramEnds();
+    void TheRunHasNoTimeLimit();
+    void TheOutputIsNotKept();
 
 private:
-    Facts m_facts;
+    const ProgramFacts m_program;
 };
 
 template<class Dialog>
@@ -50,5 +59,8 @@ protected:
     using ProgramFormChecks::ProgramFormChecks;
 
 private:
-    QDialog* NewDialog() const override { return new Dialog(nullptr); }
+    std::unique_ptr<QDialog> NewDialog(QDialog* parent) const override
+    {
+        return std::make_unique<Dialog>(parent);
+    }
 };

@@ -22,8 +22,8 @@ void tst_ExternalSolver::TheDialogsAreMade_data()
 {
     QTest::addColumn<Create>("create");
     QTest::addColumn<QString>("className");
-    QTest::newRow("solver") << &CreateSolverSetting << "SolverSetting";
-    QTest::newRow("result viewer") << &CreateResultSetting << "ResultSetting";
+    NewRow("solver", &CreateSolverSetting, "SolverSetting");
+    NewRow("result viewer", &CreateResultSetting, "ResultSetting");
 }
 
 void tst_ExternalSolver::TheDialogsAreMade()

@@ -1,24 +1,33 @@
 #pragma once
 
-#include <malloc.h>
-
+#include <algorithm>
 #include <cstddef>
+#include <limits>
 
 /// The bytes that the process has allocated and not freed.
-inline std::size_t HeapInUse()
-{
-    return mallinfo2().uordblks;
-}
+std::size_t HeapInUse();
 
-/// How much the heap grows while @p run is called 1,000 times, after it has been called often
-/// enough for whatever the toolkit makes once.
+/// A leak of this many bytes in each call is more than chance.
+constexpr double SmallestLeak = 16.0;
+
+/// How many bytes each call of @p run leaves on the heap.
+///
+/// The first calls fill the caches of the toolkit. Of the rounds after them the one with the least
+/// growth counts: a leak shows in every round, a cache that grows now and then does not.
 template<class Run>
-std::ptrdiff_t HeapGrowth(const Run& run)
+double HeapGrowth(const Run& run)
 {
-    for (int i = 0; i < 100; ++i)
+    constexpr int WarmUp = 100;
+    constexpr int Rounds = 3;
+    constexpr int Calls = 100;
+    for (int i = 0; i < WarmUp; ++i)
         run();
-    const std::size_t before = HeapInUse();
-    for (int i = 0; i < 1000; ++i)
-        run();
-    return std::ptrdiff_t(HeapInUse()) - std::ptrdiff_t(before);
+    double least = std::numeric_limits<double>::infinity();
+    for (int round = 0; round < Rounds; ++round) {
+        const std::size_t before = HeapInUse();
+        for (int i = 0; i < Calls; ++i)
+            run();
+        least = std::min(least, (double(HeapInUse()) - double(before)) / Calls);
+    }
+    return least;
 }

@@ -1,66 +1,77 @@
 #include "InputFormTest.h"
 
-#include "DialogFacts.h"
-
 #include <utility>
 
-InputFormChecks::InputFormChecks(Facts facts)
-    : m_facts(std::move(facts))
+InputFormChecks::InputFormChecks(FormFacts form, InputFacts input)
+    : FormChecks(std::move(form))
+    , m_input(std::move(input))
 {
 }
 
-void InputFormChecks::TheFontIsSetOnTheDialog()
+void InputFormChecks::CompareAfterEnter(QDialog& dialog)
 {
-    const std::unique_ptr<QDialog> dialog = NewDialog();
-    QCOMPARE(dialog->font().family(), QString("微软雅黑"));
-    QCOMPARE(dialog->font().pointSize(), QApplication::font().pointSize());
-}
-
-void InputFormChecks::TabFollowsTheReadingOrder()
-{
-    QStringList names;
-    for (const auto& field : std::as_const(m_facts.typed))
-        names << field.first;
-    QCOMPARE(TabOrder(*NewDialog()), names + QStringList({"pushButton_OK", "pushButton_Cancel"}));
-}
-
-void InputFormChecks::EnterConfirmsAndEscapeLeaves()
-{
-    const std::unique_ptr<QDialog> dialog = NewDialog();
-    const char* const field = m_facts.typed.first().first;
-    QCOMPARE(EnterButtons(*dialog), QStringList({"pushButton_OK*"}));
-    QCOMPARE(PressKey(*dialog, field, Qt::Key_Escape), int(QDialog::Rejected));
-    QCOMPARE(ValuesOf(*dialog), m_facts.unset);
-    QCOMPARE(PressKey(*dialog, field, Qt::Key_Return), int(QDialog::Accepted));
-    QCOMPARE(ValuesOf(*dialog), m_facts.defaults);
-}
-
-void InputFormChecks::TheSlotsAreAsGiven()
-{
-    const std::unique_ptr<QDialog> dialog = NewDialog();
-    QCOMPARE(OwnMethods(*dialog->metaObject()), QStringList({"private slot " + m_facts.slot}));
-    QCOMPARE(dialog->metaObject()->superClass(), &QDialog::staticMetaObject);
+    FormChecks::CompareAfterEnter(dialog);
+    QCOMPARE(ValuesOf(dialog), m_input.defaults);
 }
 
 void InputFormChecks::OKStoresTheDefaults()
 {
-    const std::unique_ptr<QDialog> dialog = NewDialog();
-    QCOMPARE(ValuesOf(*dialog), m_facts.unset);
-    QCOMPARE(FillAndPress(*dialog, {}, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(ValuesOf(*dialog), m_facts.defaults);
+    const std::unique_ptr<QDialog> dialog = NewDialog(nullptr);
+    QCOMPARE(ValuesOf(*dialog), m_input.unset);
+    QCOMPARE(FillAndPress(*dialog, {}, qPrintable(Facts().enter)), int(QDialog::Accepted));
+    QCOMPARE(ValuesOf(*dialog), m_input.defaults);
 }
 
 void InputFormChecks::OKStoresTheFields()
 {
-    const std::unique_ptr<QDialog> dialog = NewDialog();
-    QCOMPARE(FillAndPress(*dialog, m_facts.typed, "pushButton_OK"), int(QDialog::Accepted));
-    QCOMPARE(ValuesOf(*dialog), m_facts.entered);
+    const std::unique_ptr<QDialog> dialog = NewDialog(nullptr);
+    QCOMPARE(FillAndPress(*dialog, m_input.typed, qPrintable(Facts().enter)),
+             int(QDialog::Accepted));
+    QCOMPARE(ValuesOf(*dialog), m_input.entered);
 }
 
-void InputFormChecks::CancelStoresNothing()
+void InputFormChecks::LeavingStoresNothing_data()
 {
-    const std::unique_ptr<QDialog> dialog = NewDialog();
-    FillAndPress(*dialog, {}, "pushButton_OK");
-    QCOMPARE(FillAndPress(*dialog, m_facts.typed, "pushButton_Cancel"), int(QDialog::Rejected));
-    QCOMPARE(ValuesOf(*dialog), m_facts.defaults);
+    AddWaysToLeave();
+}
+
+void InputFormChecks::LeavingStoresNothing()
+{
+    QFETCH(QString, way);
+    const std::unique_ptr<QDialog> unconfirmed = NewDialog(nullptr);
+    const std::unique_ptr<QDialog> confirmed = NewDialog(nullptr);
+    FillAndPress(*confirmed, {}, qPrintable(Facts().enter));
+    for (QDialog* const dialog : {unconfirmed.get(), confirmed.get()}) {
+        const QString before = ValuesOf(*dialog);
+        Then([&](QDialog& shown) {
+            Fill(shown, m_input.typed);
+            Leave(shown, way, m_input.cancel);
+        });
+        QCOMPARE(dialog->exec(), int(QDialog::Rejected));
+        QCOMPARE(ValuesOf(*dialog), before);
+    }
+}
+
+void InputFormChecks::TextIsConverted_data()
+{
+    AddConversionRows();
+}
+
+void InputFormChecks::TextIsConverted()
+{
+    QFETCH(QByteArray, locale);
+    QFETCH(QString, text);
+    QFETCH(double, number);
+    QFETCH(int, integer);
+    UseLocale(locale);
+    const std::unique_ptr<QDialog> dialog = NewDialog(nullptr);
+    FieldTexts fields;
+    for (const char* const field : m_input.converted)
+        fields << qMakePair(field, text);
+    QCOMPARE(FillAndPress(*dialog, fields, qPrintable(Facts().enter)), int(QDialog::Accepted));
+    QString expected = m_input.conversion;
+    expected.replace(QLatin1String("%1"), AllDigits(number));
+    expected.replace(QLatin1String("%2"), QString::number(integer));
+    expected.replace(QLatin1String("%3"), QString::number(number, 'g', 12));
+    QCOMPARE(ValuesOf(*dialog), expected);
 }

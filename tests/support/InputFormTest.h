@@ -1,51 +1,52 @@
 #pragma once
 
-#include "DialogChecks.h"
-#include "TestCase.h"
+#include "Conversions.h"
+#include "FormTest.h"
 
-#include <QDialog>
+/// How a form that keeps its values on OK, and nothing on Cancel, is filled in.
+struct InputFacts
+{
+    QString unset;    ///< The values before the first OK.
+    QString defaults; ///< The values of the form as it opens.
+    FieldTexts typed; ///< Other texts,
+    QString entered;  ///< and the values that they give.
 
-#include <memory>
+    /// Fields that take any text, and the values when all of them hold the same text: %1 is the
+    /// number that it converts to, %2 the integer, %3 the number as KernelText() shows it.
+    QVector<const char*> converted;
+    QString conversion;
 
-/// What holds for every small form that keeps its numbers on OK, and nothing on Cancel.
+    const char* cancel = "pushButton_Cancel";
+};
+
+/// The checks that all small forms for numbers have in common.
 ///
-/// A test class derives from InputFormTest and gives the facts of its form; these functions then
+/// A test class derives from InputFormTest and passes the facts of its form; these functions then
 /// run before its own.
-class InputFormChecks : public TestCase
+class InputFormChecks : public FormChecks
 {
     Q_OBJECT
 
-public:
-    /// Values are texts as the test class writes them.
-    struct Facts
-    {
-        QString slot;     ///< The only one: OK's.
-        QString unset;    ///< The values before the first OK.
-        QString defaults; ///< The values of the form as it opens.
-        FieldTexts typed; ///< Other texts for all line edits, in the order of the Tab key,
-        QString entered;  ///< and the values that they give.
-    };
-
 protected:
-    explicit InputFormChecks(Facts facts);
+    InputFormChecks(FormFacts form, InputFacts input);
 
-    virtual std::unique_ptr<QDialog> NewDialog() const = 0;
+    /// The values as the getters return them, as one text.
     virtual QString ValuesOf(const QDialog& dialog) const = 0;
 
+    void CompareAfterEnter(QDialog& dialog) override;
+
 private Q_SLOTS:
-    void TheFontIsSetOnTheDialog();
-    void TabFollowsTheReadingOrder();
-    void EnterConfirmsAndEscapeLeaves();
-    void TheSlotsAreAsGiven();
     void OKStoresTheDefaults();
     void OKStoresTheFields();
-    void CancelStoresNothing();
+    void LeavingStoresNothing_data();
+    void LeavingStoresNothing();
+    void TextIsConverted_data();
+    void TextIsConverted();
 
 private:
-    Facts m_facts;
+    const InputFacts m_input;
 };
 
-/// The values are those of @p Dialog, as its getters give them.
 template<class Dialog>
 class InputFormTest : public InputFormChecks
 {
@@ -55,9 +56,9 @@ protected:
     virtual QString Values(const Dialog& dialog) const = 0;
 
 private:
-    std::unique_ptr<QDialog> NewDialog() const override
+    std::unique_ptr<QDialog> NewDialog(QDialog* parent) const override
     {
-        return std::make_unique<Dialog>(nullptr);
+        return std::make_unique<Dialog>(parent);
     }
     QString ValuesOf(const QDialog& dialog) const override
     {

@@ -1,9 +1,14 @@
 #include "ModalDriver.h"
 
+#include "GuardedTest.h"
+
 #include <QAbstractButton>
 #include <QApplication>
+#include <QScopeGuard>
 #include <QTest>
 #include <QTimer>
+
+#include <utility>
 
 ShownBox ShownBox::Notice(const QString& title, const QString& text)
 {
@@ -16,7 +21,7 @@ bool ShownBox::operator==(const ShownBox& other) const
            buttons == other.buttons && parent == other.parent;
 }
 
-char* toString(const QVector<ShownBox>& boxes)
+char* toString(const ShownBoxes& boxes)
 {
     QStringList lines;
     for (const ShownBox& box : boxes)
@@ -29,12 +34,32 @@ char* toString(const QVector<ShownBox>& boxes)
         QStringLiteral("%1 box(es) %2").arg(boxes.size()).arg(lines.join(QLatin1Char(' ')))));
 }
 
+namespace {
+
+ModalDriver* g_driver = nullptr;
+
+// An ended test must not leave through the event loop of a dialog, which would not survive it.
+template<class Function>
+void RunUntilFailure(const Function& function)
+{
+    try {
+        function();
+    } catch (const TestEnded&) {
+    }
+}
+
+} // namespace
+
 ModalDriver::ModalDriver()
+    : m_before(std::exchange(g_driver, this))
 {
     PollLater();
 }
 
-ModalDriver::~ModalDriver() = default;
+ModalDriver::~ModalDriver()
+{
+    g_driver = m_before;
+}
 
 void ModalDriver::Then(std::function<void(QDialog&)> step)
 {
@@ -51,6 +76,12 @@ void ModalDriver::WhileBoxOpen(std::function<void(QMessageBox&)> action)
     m_whileOpen.push_back(std::move(action));
 }
 
+const ShownBoxes& ModalDriver::Boxes() const
+{
+    m_unseen.clear();
+    return m_boxes;
+}
+
 bool ModalDriver::IsDone() const
 {
     return m_steps.empty() && m_answers.empty() && m_whileOpen.empty() && m_unexpected == 0;
@@ -63,8 +94,10 @@ void ModalDriver::PollLater()
 
 void ModalDriver::Poll()
 {
-    // Armed anew before anything is pressed: a press may run a modal loop that needs driving, too.
+    // Armed again before anything is pressed: a press may run a modal loop that needs driving, too.
     PollLater();
+    if (g_driver != this)
+        return;
 
     QWidget* const window = QApplication::activeModalWidget();
     if (window == nullptr || !window->isVisible() || m_answered.contains(window))
@@ -78,29 +111,55 @@ void ModalDriver::Poll()
     // A step that waits for something keeps its dialog to itself.
     if (dialog == nullptr || m_inStep.contains(dialog))
         return;
-    if (m_steps.empty()) {
-        ++m_unexpected;
-        qWarning("ModalDriver: no step is left for the dialog \"%s\"",
-                 qPrintable(dialog->windowTitle()));
-        dialog->reject();
+    if (!m_steps.empty()) {
+        TakeStep(*dialog);
         return;
     }
+    ++m_unexpected;
+    if (!QTest::currentTestFailed())
+        qWarning("ModalDriver: no step is left for the dialog \"%s\"",
+                 qPrintable(dialog->windowTitle()));
+    GiveUp(dialog);
+}
+
+void ModalDriver::TakeStep(QDialog& dialog)
+{
     const auto step = std::move(m_steps.front());
     m_steps.pop_front();
-    m_inStep.append(dialog);
-    step(*dialog);
-    m_inStep.removeLast();
+    const QPointer<QDialog> guard = &dialog;
+    {
+        m_inStep.append(&dialog);
+        const auto end = qScopeGuard([this] { m_inStep.removeLast(); });
+        RunUntilFailure([&] { step(dialog); });
+    }
+    if (QTest::currentTestFailed())
+        GiveUp(guard);
+}
+
+void ModalDriver::GiveUp(QPointer<QDialog> dialog)
+{
+    m_steps.clear();
+    if (dialog)
+        dialog->reject();
+    // Some dialogs refuse to be rejected.
+    if (dialog && dialog->isVisible())
+        dialog->hide();
 }
 
 void ModalDriver::AnswerBox(QMessageBox& box)
 {
     m_boxes.append(
         {box.windowTitle(), box.text(), box.icon(), box.standardButtons(), box.parentWidget()});
+    if (m_whileOpen.empty() && m_answers.empty())
+        m_unseen.append(m_boxes.last());
+    const QPointer<QMessageBox> guard = &box;
     if (!m_whileOpen.empty()) {
         const auto action = std::move(m_whileOpen.front());
         m_whileOpen.pop_front();
-        action(box);
+        RunUntilFailure([&] { action(box); });
     }
+    if (!guard)
+        return;
     QMessageBox::StandardButton button = QMessageBox::Ok;
     if (!m_answers.empty()) {
         button = m_answers.front();

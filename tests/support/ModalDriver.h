@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QMessageBox>
+#include <QMetaType>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -25,20 +26,24 @@ struct ShownBox
     bool operator==(const ShownBox& other) const;
 };
 
-/// So that QCOMPARE of a list of boxes prints what was shown.
-char* toString(const QVector<ShownBox>& boxes);
+using ShownBoxes = QVector<ShownBox>;
+Q_DECLARE_METATYPE(ShownBox)
 
-/// Drives modal windows as a user does, while it lives.
+/// So that QCOMPARE of a list of boxes prints what was shown.
+char* toString(const ShownBoxes& boxes);
+
+/// Drives modal windows as a user does, while it lives. Of several drivers the latest one works.
 ///
 /// Message boxes are recorded and answered by a real click: on OK, or on the buttons queued with
-/// Answer(). Every other modal dialog takes the next step queued with Then(); a dialog for which no
-/// step is left is closed, and that counts as a failure.
+/// Answer(). Every other modal dialog takes the next step queued with Then(). A dialog for which no
+/// step is left is closed, and that counts as a failure. When the test has failed, all dialogs are
+/// closed and the remaining steps are dropped.
 ///
 ///     ModalDriver user;
 ///     user.Then([](QDialog& dialog) { Click(dialog, "pushButton_OK"); });
 ///     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
 ///     QVERIFY(user.IsDone());
-///     QCOMPARE(user.Boxes(), QVector<ShownBox>({ShownBox::Notice("Error", "Check input data!")}));
+///     QCOMPARE(user.Boxes(), ShownBoxes({ShownBox::Notice("Error", "Check input data!")}));
 class ModalDriver : public QObject
 {
 public:
@@ -49,27 +54,35 @@ public:
     /// further modal windows; the next step or answer then goes to these.
     void Then(std::function<void(QDialog&)> step);
 
-    /// Queues the button for the next box that has none yet; Close stands for its close button.
+    /// Queues the button for the next box that has none yet; Close is the button of its frame.
     void Answer(QMessageBox::StandardButton button);
 
     /// Runs @p action while the next box is open, before it is answered.
     void WhileBoxOpen(std::function<void(QMessageBox&)> action);
 
     /// The boxes shown so far.
-    const QVector<ShownBox>& Boxes() const { return m_boxes; }
+    const ShownBoxes& Boxes() const;
 
-    /// True when every step was taken, every answer given, and no dialog came up unexpected.
+    /// The boxes shown since the last call of Boxes(), except those that were waited for with
+    /// Answer() or WhileBoxOpen().
+    const ShownBoxes& UnseenBoxes() const { return m_unseen; }
+
+    /// True if every step was taken, every answer given, and no unexpected dialog came up.
     bool IsDone() const;
 
 private:
     void Poll();
     void PollLater();
     void AnswerBox(QMessageBox& box);
+    void TakeStep(QDialog& dialog);
+    void GiveUp(QPointer<QDialog> dialog);
 
+    ModalDriver* const m_before;
     std::deque<std::function<void(QDialog&)>> m_steps;
     std::deque<QMessageBox::StandardButton> m_answers;
     std::deque<std::function<void(QMessageBox&)>> m_whileOpen;
-    QVector<ShownBox> m_boxes;
+    ShownBoxes m_boxes;
+    mutable ShownBoxes m_unseen;
     QVector<QPointer<QWidget>> m_answered;
     QVector<QDialog*> m_inStep;
     int m_unexpected = 0;

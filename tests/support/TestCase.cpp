@@ -2,7 +2,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDir>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QTextCodec>
@@ -69,16 +68,16 @@ void TestCase::ExpectWarning(const QString& pattern)
 
 QString TestCase::EnterTemporaryDirectory()
 {
-    m_directoryBefore = QDir::currentPath();
-    m_directory = std::make_unique<QTemporaryDir>();
-    QDir::setCurrent(m_directory->path());
-    return m_directory->path();
+    m_directory.reset();
+    m_directory = std::make_unique<TemporaryDirectory>();
+    return m_directory->Path();
 }
 
-bool TestCase::UseLocale(const char* name)
+void TestCase::UseLocale(const char* name)
 {
     QLocale::setDefault(QLocale(QString::fromLatin1(name)));
-    return std::setlocale(LC_ALL, name) != nullptr;
+    if (std::setlocale(LC_ALL, name) == nullptr)
+        FailTest(QStringLiteral("The system has no locale ") + QString::fromLatin1(name));
 }
 
 void TestCase::UseCodePage(const char* codec)
@@ -95,18 +94,16 @@ void TestCase::init()
     g_unexpected.clear();
     g_expected.clear();
     UseDefaultLocale();
+    SetUp();
 }
 
 void TestCase::cleanup()
 {
+    QStringList failures = TearDown();
     UseDefaultLocale();
-    if (m_directory) {
-        QDir::setCurrent(m_directoryBefore);
-        m_directory.reset();
-    }
+    m_directory.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
-    QStringList failures;
     for (const QString& text : qAsConst(g_unexpected))
         failures << QStringLiteral("unexpected warning: ") + text;
     for (const QRegularExpression& pattern : qAsConst(g_expected))
@@ -120,19 +117,27 @@ void TestCase::cleanup()
         QFAIL(qPrintable(failures.join(QLatin1Char('\n'))));
 }
 
-QWidget* FindWidget(const QWidget& parent, const QString& name, const QMetaObject& type)
+void NewNameRows(const char* column, std::initializer_list<const char*> names)
+{
+    QTest::addColumn<QByteArray>(column);
+    for (const char* const name : names)
+        QTest::newRow(name) << QByteArray(name);
+}
+
+QWidget& FindWidget(const QWidget& parent, const QString& name, const QMetaObject& type)
 {
     QStringList names;
     const QList<QWidget*> children = parent.findChildren<QWidget*>();
     for (QWidget* const child : children) {
         if (child->objectName() == name && type.cast(child) != nullptr)
-            return child;
+            return *child;
         if (!child->objectName().isEmpty())
             names << QStringLiteral("%1 %2").arg(
                 QString::fromLatin1(child->metaObject()->className()), child->objectName());
     }
-    qFatal("No %s named \"%s\" in \"%s\". There are: %s", type.className(), qPrintable(name),
-           qPrintable(parent.objectName()), qPrintable(names.join(QStringLiteral(", "))));
+    FailTest(QStringLiteral("There is no %1 \"%2\" in \"%3\", which has: %4")
+                 .arg(QString::fromLatin1(type.className()), name, parent.objectName(),
+                      names.join(QStringLiteral(", "))));
 }
 
 void Click(const QWidget& parent, const char* name)
@@ -154,10 +159,23 @@ void Type(const QWidget& parent, const char* name, const QString& text)
     if (edit.isVisible())
         QVERIFY(QTest::qWaitForWindowActive(edit.window()));
     edit.setFocus();
-    QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&edit, Qt::Key_Delete);
-    QTest::keyClicks(&edit, text);
+    TypeText(edit, text);
     QTest::keyClick(&edit, Qt::Key_Tab);
+}
+
+void TypeText(QWidget& field, const QString& text)
+{
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&field, Qt::Key_Delete);
+    // QTest::keyClicks() types Latin-1 only.
+    for (const QChar letter : text)
+        QTest::sendKeyEvent(QTest::Click, &field, Qt::Key_unknown, QString(letter), {});
+}
+
+void DeliverEvents()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 QStringList TabOrder(QWidget& window)

@@ -1,19 +1,22 @@
 #pragma once
 
+#include "GuardedTest.h"
+#include "TemporaryDirectory.h"
+
 #include <QApplication>
 #include <QObject>
-#include <QTemporaryDir>
+#include <QStringList>
 #include <QTest>
 #include <QWidget>
 
+#include <initializer_list>
 #include <memory>
 
-/// What all test classes share. A test class derives from it; its test functions are its own
-/// private slots.
+/// The base of all test classes; the test functions are private slots.
 ///
 /// Before each test function the numeric locale is "C" and the local 8-bit code page UTF-8. After
 /// it, every warning on the debug log that was not announced with ExpectWarning() and every
-/// top-level window that was left behind is a failure.
+/// top-level window that is still open is a failure.
 class TestCase : public QObject
 {
     Q_OBJECT
@@ -27,11 +30,16 @@ public:
     QString EnterTemporaryDirectory();
 
 protected:
-    /// Puts the locale at @p name for the running test function; false when the system lacks it.
-    bool UseLocale(const char* name);
+    /// Sets the locale to @p name for the running test function; fails if the system lacks it.
+    void UseLocale(const char* name);
 
-    /// Puts the local 8-bit code page at @p codec for the running test function.
+    /// Sets the local 8-bit code page to @p codec for the running test function.
     void UseCodePage(const char* codec);
+
+    /// What a fixture does before and after each test function. An override of TearDown() returns
+    /// the failures that it found.
+    virtual void SetUp() {}
+    virtual QStringList TearDown() { return {}; }
 
 protected Q_SLOTS:
     /// What runs before and after each test function. An override calls this one as well.
@@ -39,17 +47,54 @@ protected Q_SLOTS:
     virtual void cleanup();
 
 private:
-    std::unique_ptr<QTemporaryDir> m_directory;
-    QString m_directoryBefore;
+    std::unique_ptr<TemporaryDirectory> m_directory;
 };
 
-/// The widget of @p type named @p name below @p parent; a failure lists the names that are there.
-QWidget* FindWidget(const QWidget& parent, const QString& name, const QMetaObject& type);
+/// A test class whose functions run while one object of each of @p Guards lives, such as
+/// EmptyDesignStores or TemporaryDirectory. The guards are made in their order.
+template<class Base, class... Guards>
+class With : public Base
+{
+protected:
+    using Base::Base;
+
+    void SetUp() override
+    {
+        m_guards = std::make_unique<AllGuards>();
+        Base::SetUp();
+    }
+    QStringList TearDown() override
+    {
+        const QStringList failures = Base::TearDown();
+        m_guards.reset();
+        return failures;
+    }
+
+private:
+    struct AllGuards : Guards...
+    {
+    };
+    std::unique_ptr<AllGuards> m_guards;
+};
+
+/// QTest::newRow() with the values of the row as arguments.
+template<class... Values>
+void NewRow(const char* name, const Values&... values)
+{
+    (QTest::newRow(name) << ... << values);
+}
+
+/// Adds the column @p column and a row for each name, which is the value of the row, too.
+void NewNameRows(const char* column, std::initializer_list<const char*> names);
+
+/// The widget of @p type named @p name below @p parent. If there is none, the test fails and lists
+/// the names that exist.
+QWidget& FindWidget(const QWidget& parent, const QString& name, const QMetaObject& type);
 
 template<class Widget>
 Widget& Find(const QWidget& parent, const char* name)
 {
-    return *static_cast<Widget*>(
+    return static_cast<Widget&>(
         FindWidget(parent, QString::fromLatin1(name), Widget::staticMetaObject));
 }
 
@@ -58,6 +103,12 @@ void Click(const QWidget& parent, const char* name);
 
 /// Replaces the text of the line edit named @p name by typing @p text, and leaves it with Tab.
 void Type(const QWidget& parent, const char* name, const QString& text);
+
+/// Replaces the text of @p field by typing @p text, which may hold any character.
+void TypeText(QWidget& field, const QString& text);
+
+/// Delivers all events that are waiting, including those that delete objects.
+void DeliverEvents();
 
 /// The visible widgets that Tab goes through, by object name, from the first of the window.
 QStringList TabOrder(QWidget& window);
@@ -74,7 +125,7 @@ int RunTest(int argc, char** argv)
 {
     PrepareTestProgram();
     Application application(argc, argv);
-    Test test;
+    GuardedTest<Test> test;
     return QTest::qExec(&test, argc, argv);
 }
 

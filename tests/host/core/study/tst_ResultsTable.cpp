@@ -109,7 +109,7 @@ void tst_ResultsTable::AwkwardNamesAndErrorsAreQuoted()
 
 void tst_ResultsTable::TheDecimalSignIsTheFullStopEverywhere()
 {
-    QVERIFY(UseLocale("de_DE.UTF-8"));
+    UseLocale("de_DE.UTF-8");
     EnterTemporaryDirectory();
     ResultsTable table({"a", "b"});
     table.Set(1, Good());

