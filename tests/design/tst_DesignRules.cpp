@@ -254,7 +254,7 @@ void tst_DesignRules::TheDoeDialogRefusesTheSameDesigns()
     }
     ModalDriver user;
     const DOEDlg dialog(nullptr);
-    QCOMPARE(user.Boxes(), Boxes({ShownBox::Notice("Notify", "Too many runs")}));
+    QCOMPARE(user.Boxes(), ShownBoxes({ShownBox::Notice("Notify", "Too many runs")}));
     QCOMPARE(Runs(dialog), QStringList());
 }
 
