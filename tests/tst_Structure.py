@@ -9,7 +9,7 @@ from pathlib import Path
 SOURCE = Path(os.environ["TARN_SOURCE_DIR"]).resolve()
 TESTS = SOURCE / "tests"
 # The tests mirror these folders; those of the model libraries are in one folder.
-MIRRORED = ("common", "design", "analysis", "geometry", "solver", "host/core", "host/window")
+MIRRORED = ("common", "design", "analysis", "geometry", "solver")
 LONGEST_TEST = 500
 STILL_LONG = ("host", "model")  # Folders that hold longer files.
 
