@@ -40,15 +40,15 @@
         <translation>子形状网格(&amp;U)</translation>
     </message>
     <message>
-        <source>Is the set-up &amp;complete?</source>
-        <translation>检查设置是否完整(&amp;C)</translation>
+        <source>&amp;Check Set-up</source>
+        <translation>检查设置(&amp;C)</translation>
     </message>
     <message>
         <source>Chosen material: %1</source>
         <translation>已选择材料：%1</translation>
     </message>
     <message>
-        <source>The sub-shape mesh was not taken: its size and number must be numbers</source>
+        <source>The sub-shape mesh was not applied: size and number must be numeric</source>
         <translation>子形状网格未采用：其尺寸和数量必须是数字</translation>
     </message>
     <message>
@@ -59,7 +59,7 @@
 <context>
     <name>AnalysisFiles</name>
     <message>
-        <source>There is no system library of materials: SysMaterial.xml cannot be written</source>
+        <source>No system library of materials: cannot write SysMaterial.xml</source>
         <translation>没有系统材料库：无法写入 SysMaterial.xml</translation>
     </message>
 </context>
@@ -623,8 +623,8 @@
 <context>
     <name>HostApplication</name>
     <message>
-        <source>%1. What was being done was given up; the application goes on.</source>
-        <translation>%1。当前操作已放弃，程序继续运行。</translation>
+        <source>%1. The operation was cancelled; you can continue working.</source>
+        <translation>%1。操作已取消，可以继续工作。</translation>
     </message>
     <message>
         <source>The geometry kernel failed: %1 (%2)</source>
@@ -639,15 +639,15 @@
         <translation>意外错误：%1</translation>
     </message>
     <message>
-        <source>An unexpected error of an unknown kind</source>
-        <translation>未知类型的意外错误</translation>
+        <source>An unknown error occurred</source>
+        <translation>发生未知错误</translation>
     </message>
 </context>
 <context>
     <name>JsonError</name>
     <message>
-        <source>is no object</source>
-        <translation>不是对象</translation>
+        <source>must be an object</source>
+        <translation>必须是对象</translation>
     </message>
     <message>
         <source>has the unknown entry %1</source>
@@ -934,11 +934,11 @@
         <translation>%1（族 %2，类 %3）</translation>
     </message>
     <message>
-        <source>holds nothing</source>
+        <source>fixes nothing</source>
         <translation>无约束</translation>
     </message>
     <message>
-        <source>holds %1</source>
+        <source>fixes %1</source>
         <translation>约束 %1</translation>
     </message>
     <message>
@@ -1310,23 +1310,23 @@
 <context>
     <name>SetupCheck</name>
     <message>
-        <source>Material &quot;%1&quot;: its %2 &quot;%3&quot; is not a number</source>
+        <source>Material &quot;%1&quot;: the %2 &quot;%3&quot; is not a number</source>
         <translation>材料“%1”：%2“%3”不是数字</translation>
     </message>
     <message>
-        <source>Material &quot;%1&quot;: its %2 %3 is not above 0</source>
-        <translation>材料“%1”：%2 %3 不大于 0</translation>
+        <source>Material &quot;%1&quot;: the %2 %3 must be greater than 0</source>
+        <translation>材料“%1”：%2 %3 必须大于 0</translation>
     </message>
     <message>
         <source>elastic modulus</source>
         <translation>弹性模量</translation>
     </message>
     <message>
-        <source>Material &quot;%1&quot;: its Poisson&apos;s ratio &quot;%2&quot; is not a number</source>
+        <source>Material &quot;%1&quot;: Poisson&apos;s ratio &quot;%2&quot; is not a number</source>
         <translation>材料“%1”：泊松比“%2”不是数字</translation>
     </message>
     <message>
-        <source>Material &quot;%1&quot;: its Poisson&apos;s ratio %2 is outside -1 to 0.5</source>
+        <source>Material &quot;%1&quot;: Poisson&apos;s ratio %2 is outside -1 to 0.5</source>
         <translation>材料“%1”：泊松比 %2 不在 -1 至 0.5 之间</translation>
     </message>
     <message>
@@ -1334,7 +1334,7 @@
         <translation>密度</translation>
     </message>
     <message>
-        <source>There is no element property</source>
+        <source>No element property is defined</source>
         <translation>没有单元属性</translation>
     </message>
     <message>
@@ -1346,11 +1346,11 @@
         <translation>单元属性“%1”：材料库中没有材料“%2”</translation>
     </message>
     <message>
-        <source>Element property &quot;%1&quot;: its thickness %2 is not above 0</source>
-        <translation>单元属性“%1”：厚度 %2 不大于 0</translation>
+        <source>Element property &quot;%1&quot;: the thickness %2 must be greater than 0</source>
+        <translation>单元属性“%1”：厚度 %2 必须大于 0</translation>
     </message>
     <message>
-        <source>Boundary condition &quot;%1&quot; holds nothing</source>
+        <source>Boundary condition &quot;%1&quot; fixes no degree of freedom</source>
         <translation>边界条件“%1”没有任何约束</translation>
     </message>
     <message>
@@ -1370,8 +1370,8 @@
         <translation>频率范围：最小值 %1 大于最大值 %2</translation>
     </message>
     <message>
-        <source>The mesh size %1 is not above 0</source>
-        <translation>网格尺寸 %1 不大于 0</translation>
+        <source>The mesh size %1 must be greater than 0</source>
+        <translation>网格尺寸 %1 必须大于 0</translation>
     </message>
 </context>
 <context>

@@ -16,8 +16,8 @@ class Project;
 class ProjectActions;
 class PartPanel;
 
-/// The host's window: menus that run the dialogs, the message channel, the stored parameters, the
-/// features, and the part that is built from them.
+/// The host's window: menus that run the dialogs, and views of the messages, the stored parameters,
+/// the features and the part that they build.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -26,17 +26,17 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Puts @p project into the stores, in place of what they hold, and builds its part.
+    /// Replaces the content of the stores with @p project and builds its part.
     void OpenProject(const Project& project);
 
-    /// The analysis set-up, which menu and tree work on; the window owns it.
+    /// The analysis set-up, which menu and tree share; the window owns it.
     AnalysisRecords& Analysis() { return *m_analysis; }
     /// The part; the window owns it.
     PartModel& Part() { return *m_part; }
     FeatureTree& Features() { return *m_features; }
 
 protected:
-    /// Asks first where changes would be lost.
+    /// Asks before discarding changes.
     void closeEvent(QCloseEvent* event) override;
 
 private:

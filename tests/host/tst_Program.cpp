@@ -101,7 +101,7 @@ void tst_Program::BadInputIsRefusedInOneLine_data()
         {"--screenshots", "pictures", "--lang", "zh_CN", "broken.json"},
         "broken.json: is not valid JSON: unterminated object at byte 1");
     row("pictures into a file", {"--screenshots", "broken.json"},
-        "broken.json: the folder cannot be made");
+        "broken.json: cannot create the folder");
     row("no display", {"p.json"},
         "there is no display; --study and --screenshots work without one, see --help");
 }

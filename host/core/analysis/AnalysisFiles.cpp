@@ -28,7 +28,7 @@ QString InstalledSystemMaterials()
 bool ProvideSystemMaterials(const QString& library)
 {
     const QString path = QString::fromLatin1(SystemFile);
-    // Only a new file: not even one that another program creates at this moment is overwritten.
+    // CopyTo() never overwrites, not even a file that another program creates at this moment.
     return tarn::WholeFile(library).CopyTo(path) || QFileInfo(path).isFile();
 }
 
@@ -37,11 +37,11 @@ QString ReadAnalysisFiles()
     QString warning;
     if (!ProvideSystemMaterials())
         warning =
-            QCoreApplication::translate("AnalysisFiles", "There is no system library of materials: "
-                                                         "SysMaterial.xml cannot be written");
+            QCoreApplication::translate("AnalysisFiles", "No system library of materials: cannot "
+                                                         "write SysMaterial.xml");
     KVPropertyData::GetInstance()->ReadXML(PropertyFile);
     KVMaterialData& materials = *KVMaterialData::GetInstance();
-    // Materials that were added and not written yet stay as they are.
+    // Reading would replace materials that were added but not written yet.
     if (materials.MapDataRow() > 0)
         return warning;
     materials.ReadXML(UserFile, MATERIAL_USER);

@@ -2,16 +2,16 @@
 
 #include <QString>
 
-/// The system library that belongs to this program: the installed one, or, where the program is not
-/// installed, the one that is built in.
+/// The path of the installed system library, or of the built-in one if the program is not
+/// installed.
 QString InstalledSystemMaterials();
 
 /// Puts a copy of @p library into the working directory as "SysMaterial.xml", where the dialogs
-/// look for it. Whatever has that name there already stays as it is. Returns false when there is no
-/// such file afterwards.
+/// look for it. Never replaces anything of that name. Returns false if there is no such file
+/// afterwards.
 bool ProvideSystemMaterials(const QString& library = InstalledSystemMaterials());
 
-/// Brings the stores up to the files of the working directory: the element properties that are not
-/// held yet, and the materials where none is held. Provides the system library first. Returns a
-/// warning for the user, or an empty text.
+/// Reads the files of the working directory into the stores: the element properties that are not in
+/// the store yet, and the materials if the store is empty. Provides the system library first.
+/// Returns a warning for the user, or an empty text.
 QString ReadAnalysisFiles();

@@ -53,7 +53,7 @@ void AnalysisRecords::AddLoad(const sLoadForceData& load)
 
 void AnalysisRecords::Remove(const std::string& name)
 {
-    // A copy: the caller's name may be that of the record.
+    // A copy: the caller may pass the name of the record that is deleted.
     const std::string removed(name.data(), name.size());
     RemoveByName(m_constraints, removed);
     RemoveByName(m_loads, removed);

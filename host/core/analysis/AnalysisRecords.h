@@ -11,10 +11,10 @@
 #include <vector>
 
 /// The host's own records of the analysis set-up. Element properties, materials and the frequency
-/// range stand in stores that the dialogs share.
+/// range are in stores that the dialogs share.
 ///
-/// Each boundary condition and load has its name registered in AttributeCommonMgr for as long as it
-/// stands here, so that the dialogs refuse a second one of that name.
+/// AttributeCommonMgr holds the name of each boundary condition and load in these records, so that
+/// the dialogs refuse a second one of that name.
 class AnalysisRecords : public QObject
 {
     Q_OBJECT
@@ -30,30 +30,30 @@ public:
     explicit AnalysisRecords(QObject* parent = nullptr);
     ~AnalysisRecords() override;
 
-    int Family() const { return m_family; } ///< As CAnalysisTypeGUI; Vibration at first.
-    int Kind() const { return m_kind; }     ///< As CAnalysisTypeGUI; Vibration at first.
+    int Family() const { return m_family; } ///< As CAnalysisTypeGUI; Vibration initially.
+    int Kind() const { return m_kind; }     ///< As CAnalysisTypeGUI; Vibration initially.
     void SetSolverType(int family, int kind);
 
-    /// In the order in which they were added.
+    /// In the order of insertion.
     const std::vector<sConstrainData>& Constraints() const { return m_constraints; }
-    /// In the order in which they were added.
+    /// In the order of insertion.
     const std::vector<sLoadForceData>& Loads() const { return m_loads; }
 
     void AddConstraint(const sConstrainData& constraint);
     void AddLoad(const sLoadForceData& load);
 
-    /// Deletes the boundary condition or load of that name, and frees the name.
+    /// Deletes the boundary condition or load named @p name and releases the name.
     void Remove(const std::string& name);
 
-    /// Nothing until it was set.
+    /// Empty until it is set.
     const std::optional<double>& MeshSize() const { return m_meshSize; }
     void SetMeshSize(double size);
 
-    /// Nothing until it was set.
+    /// Empty until it is set.
     const std::optional<SubShapeMesh>& SubShape() const { return m_subShape; }
     void SetSubShape(const SubShapeMesh& mesh);
 
-    /// Makes everything as it is at first.
+    /// Resets everything to its initial state.
     void Clear();
 
 Q_SIGNALS:
@@ -70,7 +70,7 @@ private:
     std::optional<SubShapeMesh> m_subShape;
 };
 
-/// The name of a boundary condition or load as text.
+/// The name of a boundary condition or load, decoded from the local 8-bit code page.
 inline QString AttributeText(const std::string& name)
 {
     return QString::fromLocal8Bit(name.c_str());

@@ -36,7 +36,7 @@ MaterialValues ValuesOf(const KVMaterialInfo& material)
     return {material.m_strElasticModulus, material.m_strPoisson, material.m_strDensity};
 }
 
-// Nothing for a text that is no finite number.
+// Empty if the text is not a finite number.
 std::optional<double> Number(const QString& text)
 {
     bool isNumber = false;
@@ -52,9 +52,10 @@ void CheckPositive(const QString& material, const QString& what, const QString& 
     const std::optional<double> number = Number(text);
     if (!number.has_value())
         problems
-            << Text::tr("Material \"%1\": its %2 \"%3\" is not a number").arg(material, what, text);
+            << Text::tr("Material \"%1\": the %2 \"%3\" is not a number").arg(material, what, text);
     else if (*number <= 0.0)
-        problems << Text::tr("Material \"%1\": its %2 %3 is not above 0").arg(material, what, text);
+        problems << Text::tr("Material \"%1\": the %2 %3 must be greater than 0")
+                        .arg(material, what, text);
 }
 
 void CheckMaterial(const QString& name, const KVMaterialInfo& material, QStringList& problems)
@@ -63,10 +64,10 @@ void CheckMaterial(const QString& name, const KVMaterialInfo& material, QStringL
     CheckPositive(name, Text::tr("elastic modulus"), values.elasticModulus, problems);
     const std::optional<double> poisson = Number(values.poisson);
     if (!poisson.has_value())
-        problems << Text::tr("Material \"%1\": its Poisson's ratio \"%2\" is not a number")
+        problems << Text::tr("Material \"%1\": Poisson's ratio \"%2\" is not a number")
                         .arg(name, values.poisson);
     else if (*poisson < LeastPoisson || *poisson > GreatestPoisson)
-        problems << Text::tr("Material \"%1\": its Poisson's ratio %2 is outside -1 to 0.5")
+        problems << Text::tr("Material \"%1\": Poisson's ratio %2 is outside -1 to 0.5")
                         .arg(name, values.poisson);
     CheckPositive(name, Text::tr("density"), values.density, problems);
 }
@@ -74,7 +75,7 @@ void CheckMaterial(const QString& name, const KVMaterialInfo& material, QStringL
 void CheckProperties(const AnalysisSetup& setup, QStringList& problems)
 {
     if (setup.properties.empty())
-        problems << Text::tr("There is no element property");
+        problems << Text::tr("No element property is defined");
 
     std::set<QString> used;
     for (const auto& [name, property] : setup.properties) {
@@ -90,7 +91,7 @@ void CheckProperties(const AnalysisSetup& setup, QStringList& problems)
         const double thickness = property.m_dThickness;
         if (property.m_nTypeCode != CQLTElemPropDef::SolidType &&
             !(thickness > 0.0 && std::isfinite(thickness)))
-            problems << Text::tr("Element property \"%1\": its thickness %2 is not above 0")
+            problems << Text::tr("Element property \"%1\": the thickness %2 must be greater than 0")
                             .arg(name, ExactText(thickness));
     }
     for (const QString& name : used)
@@ -101,7 +102,7 @@ void CheckConstraints(const AnalysisSetup& setup, QStringList& problems)
 {
     for (const sConstrainData& held : setup.constraints) {
         if (!held.m_bXD && !held.m_bYD && !held.m_bZD && !held.m_bXR && !held.m_bYR && !held.m_bZR)
-            problems << Text::tr("Boundary condition \"%1\" holds nothing")
+            problems << Text::tr("Boundary condition \"%1\" fixes no degree of freedom")
                             .arg(AttributeText(held.m_strName));
     }
 }
@@ -126,7 +127,8 @@ void CheckNumbers(const AnalysisSetup& setup, QStringList& problems)
         problems << Text::tr("Frequency range: the minimum %1 is above the maximum %2")
                         .arg(ExactText(setup.minFrequency), ExactText(setup.maxFrequency));
     if (setup.meshSize.has_value() && !(*setup.meshSize > 0.0 && std::isfinite(*setup.meshSize)))
-        problems << Text::tr("The mesh size %1 is not above 0").arg(ExactText(*setup.meshSize));
+        problems
+            << Text::tr("The mesh size %1 must be greater than 0").arg(ExactText(*setup.meshSize));
 }
 
 } // namespace

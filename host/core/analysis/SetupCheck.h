@@ -13,7 +13,7 @@
 
 class AnalysisRecords;
 
-/// Everything that a solver would be given.
+/// The complete input of a solver.
 struct AnalysisSetup
 {
     std::vector<sConstrainData> constraints;
@@ -25,9 +25,9 @@ struct AnalysisSetup
     std::optional<double> meshSize;
 };
 
-/// What @p model and the stores hold now.
+/// The current content of @p model and of the stores.
 AnalysisSetup CurrentSetup(const AnalysisRecords& model);
 
-/// What a solver would stumble over, one text for each problem. Of the materials only those are
-/// looked at that a property uses.
+/// The problems that would prevent a solver from running, one text each. Ignores materials that no
+/// property uses.
 QStringList CheckSetup(const AnalysisSetup& setup);

@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-/// Why the host could not do something: one line in plain words. A subclass exists only where a
+/// The reason why the host could not do something: one line. A subclass exists only where a
 /// caller treats some reasons differently from others.
 class HostError : public std::runtime_error
 {

@@ -18,7 +18,7 @@ JsonSection::JsonSection(QString place, const QJsonValue& value,
     , m_object(value.toObject())
 {
     if (!value.isObject())
-        Fail(JsonError::tr("is no object"));
+        Fail(JsonError::tr("must be an object"));
     const QStringList found = m_object.keys();
     for (const QString& key : found) {
         if (std::find(keys.begin(), keys.end(), key) == keys.end())

@@ -11,7 +11,7 @@
 
 #include <vector>
 
-/// What is wrong with a JSON file: one line.
+/// An error in a JSON file: one line.
 class JsonError : public HostError
 {
     Q_DECLARE_TR_FUNCTIONS(JsonError)
@@ -20,22 +20,22 @@ public:
     using HostError::HostError;
 };
 
-/// A text from a file as it stands in a message: quoted, in one line, not too long.
+/// A text from a file for use in a message: quoted, on one line, shortened if it is long.
 QString Quoted(const QString& text);
 
-/// An object of a JSON file, read with its types checked.
+/// An object of a JSON file; reading it checks the types.
 ///
-/// Whatever is not as it should be ends in a JsonError that begins with the section's place. An
-/// entry that is not there gives the default; NeededText() and Number() need theirs.
+/// Every error is a JsonError that begins with the section's place. A missing entry yields the
+/// default, except for NeededText() and Number(), which require it.
 class JsonSection
 {
 public:
-    /// @p value has to be an object that has none but these @p keys: an entry that nobody reads is
+    /// @p value must be an object without entries other than @p keys: an entry that nobody reads is
     /// a misspelling.
     JsonSection(QString place, const QJsonValue& value, const std::vector<QLatin1String>& keys);
 
     bool Has(QLatin1String key) const { return m_object.contains(key); }
-    /// Of any type; undefined when it is not there.
+    /// Of any type; undefined if it is missing.
     QJsonValue Value(QLatin1String key) const { return m_object.value(key); }
     QString Text(QLatin1String key, const QString& byDefault = QString()) const;
     QString NeededText(QLatin1String key) const;
@@ -45,7 +45,7 @@ public:
     std::vector<double> Numbers(QLatin1String key) const;
     QStringList Texts(QLatin1String key) const;
 
-    /// @p what goes on from the place: "is ...", "has ...".
+    /// Throws a JsonError; @p what continues the sentence after the place: "is ...", "has ...".
     [[noreturn]] void Fail(const QString& what) const;
     [[noreturn]] void FailAt(QLatin1String key, const QString& wanted) const;
 

@@ -11,7 +11,7 @@ Language::Language(const QString& name)
     const QString own = BuiltInPath(QStringLiteral("translations"));
     const auto add = [this, &name](const QString& texts, const QString& directory) {
         auto translator = std::make_unique<QTranslator>();
-        // The host's and the toolkit's own texts are English already.
+        // There is no file for English: the source texts are English.
         if (!translator->load(texts + QLatin1Char('_') + name, directory))
             return;
         QCoreApplication::installTranslator(translator.get());
@@ -22,7 +22,7 @@ Language::Language(const QString& name)
     add(QStringLiteral("tarnhost"), own);
 }
 
-// A translator that goes takes itself off the application.
+// A translator removes itself from the application when it is destroyed.
 Language::~Language() = default;
 
 QStringList Language::Known()

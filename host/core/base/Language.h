@@ -7,11 +7,10 @@
 #include <memory>
 #include <vector>
 
-/// While it lives, windows that are made speak one language: the library's dialogs, the host's own
-/// windows, and the toolkit's buttons, where its translations are installed.
+/// While it lives, new windows use one language: the library's dialogs, the host's own windows, and
+/// the toolkit's buttons if its translations are installed.
 ///
-/// Needs an application object, and ends before it. What the program writes into files is the same
-/// in every language.
+/// Requires an application object that outlives it. Files have the same content in every language.
 class Language
 {
 public:
@@ -20,11 +19,11 @@ public:
     ~Language();
     Q_DISABLE_COPY(Language)
 
-    /// The languages there are, by name of their locale: "en" and "zh_CN".
+    /// The available languages, as locale names: "en" and "zh_CN".
     static QStringList Known();
 
-    /// The first of the @p wanted languages that is known, whatever its country and script; English
-    /// when none is. The user's wishes are `QLocale::system().uiLanguages()`.
+    /// The first of the @p wanted languages that is known, whatever its country and script, or
+    /// English. `QLocale::system().uiLanguages()` lists the languages that the user wants.
     static QString BestOf(const QStringList& wanted);
 
 private:

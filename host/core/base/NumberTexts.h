@@ -9,7 +9,7 @@ inline QString ShortText(double value)
     return QString::number(value, 'g', 6);
 }
 
-/// As few digits as tell the number from its neighbours: up to 17, but 0.1 stays 0.1.
+/// The shortest text that reads back as the same number: up to 17 digits, but 0.1 stays 0.1.
 inline QString ExactText(double value)
 {
     return QString::number(value, 'g', QLocale::FloatingPointShortest);

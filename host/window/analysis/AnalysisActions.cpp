@@ -66,7 +66,7 @@ void AnalysisActions::FillMenu(QMenu& menu)
     add(tr("Mesh &size"), "action_MeshSize", &AnalysisActions::SetMeshSize);
     add(tr("S&ub-shape mesh"), "action_SubShapeMesh", &AnalysisActions::SetSubShapeMesh);
     menu.addSeparator();
-    add(tr("Is the set-up &complete?"), "action_CheckSetup", &AnalysisActions::CheckSetupNow);
+    add(tr("&Check Set-up"), "action_CheckSetup", &AnalysisActions::CheckSetupNow);
 }
 
 void AnalysisActions::ChooseType()
@@ -75,7 +75,7 @@ void AnalysisActions::ChooseType()
     int kind = m_model.Kind();
     CAnalysisTypeGUI dialog(m_window);
     dialog.InitData(family, kind);
-    // OK hides the dialog: how it ended does not tell, the pair does.
+    // OK only hides the dialog, so the result of exec() has no meaning; Cancel restores the pair.
     dialog.exec();
     dialog.getSolverType(family, kind);
     m_model.SetSolverType(family, kind);
@@ -107,7 +107,7 @@ void AnalysisActions::AddProperty()
     ReadFiles();
     CQLTElePropertyEditor editor(m_window);
     const bool isAccepted = editor.exec() == QDialog::Accepted;
-    // An OK that was refused before the dialog was cancelled has made a record, too.
+    // OK allocates the record even if it refuses it, and Cancel may follow.
     std::unique_ptr<CQLTElemPropDef> property(editor.GetPropData());
     if (isAccepted)
         KVPropertyData::GetInstance()->AddPropInfo(property.release());
@@ -118,7 +118,7 @@ void AnalysisActions::ManageProperties()
 {
     ReadFiles();
     ELementPropGUI manager(m_window);
-    // OK and Cancel both hide it, and both leave what was added or edited in the store.
+    // OK and Cancel both keep added and edited records in the store.
     manager.exec();
     m_tree.Refresh();
 }
@@ -155,7 +155,7 @@ void AnalysisActions::SetSubShapeMesh()
         dialog.ui.lineEdit_MeshSize->setText(ExactText(m_model.SubShape()->size));
         dialog.ui.lineEdit_MeshNumber->setText(QString::number(m_model.SubShape()->number));
     }
-    // The form's buttons do nothing by themselves.
+    // The dialog leaves its buttons to the host.
     connect(dialog.ui.pushButton_OK, &QPushButton::clicked, &dialog, &QDialog::accept);
     connect(dialog.ui.pushButton_Cancel, &QPushButton::clicked, &dialog, &QDialog::reject);
     if (dialog.exec() != QDialog::Accepted)

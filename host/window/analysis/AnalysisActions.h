@@ -7,17 +7,17 @@ class AnalysisTree;
 class QMenu;
 class QWidget;
 
-/// Runs the dialogs of the analysis set-up and takes over what they give.
+/// Runs the dialogs of the analysis set-up and stores their results.
 class AnalysisActions : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Dialogs belong to @p window, which also owns this object; model and tree must outlive it.
+    /// @p window is the parent of the dialogs and owns this object; model and tree must outlive it.
     AnalysisActions(AnalysisRecords& model, AnalysisTree& tree, QWidget* window);
     ~AnalysisActions() override;
 
-    /// Adds an action for each dialog, for deleting in the tree and for the check.
+    /// Adds an action for each dialog, for deleting in the tree, and for the check.
     void FillMenu(QMenu& menu);
 
 private:

@@ -13,7 +13,7 @@
 
 namespace {
 
-// On the items of boundary conditions and loads: the name's bytes.
+// On the items of boundary conditions and loads: the bytes of the name.
 constexpr int AttributeRole = Qt::UserRole;
 
 QString SolverTypeText(int family, int kind)
@@ -57,8 +57,8 @@ QString HeldText(const sConstrainData& constraint)
             held << freedom.text;
     }
     if (held.isEmpty())
-        return AnalysisTree::tr("holds nothing");
-    return AnalysisTree::tr("holds %1").arg(held.join(QStringLiteral(", ")));
+        return AnalysisTree::tr("fixes nothing");
+    return AnalysisTree::tr("fixes %1").arg(held.join(QStringLiteral(", ")));
 }
 
 QString ForceText(const sLoadForceData& load)

@@ -7,9 +7,9 @@ class QAction;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/// Shows the analysis set-up as it is stored, whatever the dialogs show of it.
+/// Shows the stored analysis set-up.
 ///
-/// Boundary conditions and loads can be deleted here, with the Delete key or the action.
+/// The Delete key and the action delete boundary conditions and loads.
 class AnalysisTree : public QDockWidget
 {
     Q_OBJECT
@@ -29,8 +29,8 @@ public:
     QAction* DeleteAction() const { return m_delete; }
 
 public Q_SLOTS:
-    /// Shows the records as they are now. The model tells of its changes, the shared stores do not:
-    /// whoever changed one calls this.
+    /// Shows the current records. To be called after a change of the shared stores, which emit no
+    /// signals.
     void Refresh();
 
 private:

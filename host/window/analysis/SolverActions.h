@@ -11,7 +11,7 @@ class SolverActions : public QObject
     Q_OBJECT
 
 public:
-    /// Dialogs belong to @p window, which also owns this object.
+    /// @p window is the parent of the dialogs and owns this object.
     explicit SolverActions(QWidget* window);
     ~SolverActions() override;
 

@@ -2,6 +2,6 @@
 
 class QDialog;
 
-/// Makes room in a dialog that is about to be shown: as large as a table of parameters wants it,
-/// with columns as wide as what is in them. By themselves the dialogs open as large as their forms.
+/// Enlarges a dialog that is about to be shown to fit a table of parameters, and fits the columns
+/// to their content. Otherwise a dialog opens in the size of its form.
 void FitTables(QDialog& dialog);

@@ -20,11 +20,11 @@ void PostFailure(const QString& reason)
 {
     PostMessageToChannel(
         ErrorLevel,
-        HostApplication::tr("%1. What was being done was given up; the application goes on.")
+        HostApplication::tr("%1. The operation was cancelled; you can continue working.")
             .arg(reason));
 }
 
-// The dialogs ask for a font family that comes with another system.
+// The dialogs request a font family that this system does not have.
 void ProvideDialogFont()
 {
     const QString family = QStringLiteral("微软雅黑");
@@ -42,7 +42,7 @@ QString ConstructionErrorText::s_text;
 HostApplication::HostApplication(int& argc, char** argv)
     : QApplication(argc, argv)
 {
-    // Only now: the base class has just put the process at the user's locale.
+    // Only now: the base class has just set the user's locale.
     std::setlocale(LC_NUMERIC, "C");
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     ProvideDialogFont();
@@ -60,9 +60,9 @@ bool HostApplication::notify(QObject* receiver, QEvent* event)
     try {
         return QApplication::notify(receiver, event);
     } catch (const Standard_Failure& failure) {
-        const bool isTold = !ConstructionErrorText::s_text.isEmpty() &&
-                            failure.IsKind(STANDARD_TYPE(Standard_ConstructionError));
-        if (isTold)
+        const bool hasText = !ConstructionErrorText::s_text.isEmpty() &&
+                             failure.IsKind(STANDARD_TYPE(Standard_ConstructionError));
+        if (hasText)
             PostMessageToChannel(WarningLevel, ConstructionErrorText::s_text);
         else
             PostFailure(tr("The geometry kernel failed: %1 (%2)")
@@ -73,8 +73,8 @@ bool HostApplication::notify(QObject* receiver, QEvent* event)
     } catch (const std::exception& exception) {
         PostFailure(tr("An unexpected error: %1").arg(QString::fromLocal8Bit(exception.what())));
     } catch (...) {
-        PostFailure(tr("An unexpected error of an unknown kind"));
+        PostFailure(tr("An unknown error occurred"));
     }
-    // Handled, as far as it can be: the event is not to try its luck elsewhere.
+    // The event counts as handled, so that it is not passed on to the parent.
     return true;
 }

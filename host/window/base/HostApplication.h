@@ -5,10 +5,10 @@
 
 /// The host's application object.
 ///
-/// No exception leaves an event handler or slot: it ends up as a line in the message channel, and
-/// the application lives on. Whatever the system's locale, numbers have a full stop as decimal
-/// sign, 8-bit texts are UTF-8, and the font family that the dialogs ask for has a substitute. The
-/// kernel writes nothing to the console.
+/// An exception from an event handler or slot becomes a line in the message channel, and the
+/// application continues. Whatever the system's locale, numbers have a decimal point, 8-bit texts
+/// are UTF-8, and the font family that the dialogs request has a substitute. The kernel writes
+/// nothing to the console.
 class HostApplication : public QApplication
 {
     Q_OBJECT
@@ -20,10 +20,10 @@ public:
     bool notify(QObject* receiver, QEvent* event) override;
 };
 
-/// While one lives, the kernel's construction error is told in these words, as a warning.
+/// While one lives, the kernel's construction error is reported with this text, as a warning.
 ///
-/// For a dialog that lets this error pass: it is caught in notify(), before it leaves the dialog's
-/// exec(), so the dialog stays open with what the user typed.
+/// For a dialog that does not catch this error: notify() catches it inside the dialog's exec(), so
+/// the dialog stays open and keeps the input.
 class ConstructionErrorText
 {
 public:
@@ -34,5 +34,5 @@ public:
 private:
     friend class HostApplication;
 
-    static QString s_text; // Empty where there is none.
+    static QString s_text; // Empty if none lives.
 };

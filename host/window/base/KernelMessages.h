@@ -1,6 +1,5 @@
 #pragma once
 
-/// Takes the kernel's messages off the console, for as long as the process lives: what the kernel
-/// or the OpenGL driver could not do is posted to the message channel as a warning, the rest is
-/// dropped.
+/// Routes the kernel's messages away from the console until the process ends: posts failures of the
+/// kernel and of the OpenGL driver to the message channel as warnings and drops all other messages.
 void RouteKernelMessages();

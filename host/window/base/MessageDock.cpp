@@ -16,7 +16,7 @@
 
 namespace {
 
-// On the first item of a row: the message as it came, and how often it came.
+// On the first item of a row: the level, and how often the message came.
 enum Role
 {
     CodeRole = Qt::UserRole,
@@ -65,7 +65,7 @@ MessageDock::MessageDock(QWidget* parent)
         {copy, NewAction(tr("Clear"), "action_ClearMessages", this, &MessageDock::Clear)});
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
 
-    // Also when the dock is laid out only after the lines have come.
+    // The dock may be laid out only after the lines have come.
     QScrollBar* const bar = m_view->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int end) { bar->setValue(end); });
     connect(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage, this,

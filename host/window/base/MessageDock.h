@@ -7,11 +7,11 @@
 
 class QTableView;
 
-/// Shows what is posted to the message channel: time, level, how often, text.
+/// Shows the messages of the message channel: time, level, count and text.
 ///
-/// The newest line is at the end and in view. A line that comes again is not shown twice: it moves
-/// to the end with the new time, and its count rises. Beyond MaximumLines the oldest go. Selected
-/// lines can be copied.
+/// The newest line is at the end and in view. A repeated message moves to the end with the new time
+/// and a higher count. Beyond MaximumLines the oldest lines are removed. Selected lines can be
+/// copied.
 class MessageDock : public QDockWidget
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
     explicit MessageDock(QWidget* parent);
     ~MessageDock() override;
 
-    /// How this host calls @p level; see MessageLevel.
+    /// This host's word for @p level; see MessageLevel.
     static QString LevelWord(int level);
 
 private:

@@ -4,19 +4,19 @@
 
 #include <QString>
 
-/// What this host means by the levels of the message channel; the channel itself has no opinion.
+/// The meaning of the levels of the message channel in this host; the channel defines none.
 /// Anything above ErrorLevel counts as an error, anything below InfoLevel as information.
 enum MessageLevel
 {
-    InfoLevel = 0,    ///< Something was done.
-    WarningLevel = 1, ///< Something was done, but not as asked.
-    ErrorLevel = 2    ///< Something could not be done.
+    InfoLevel = 0,    ///< An operation succeeded.
+    WarningLevel = 1, ///< An operation succeeded, but not as requested.
+    ErrorLevel = 2    ///< An operation failed.
 };
 
 /// Posts a finished text to the message channel.
 inline void PostMessageToChannel(MessageLevel level, const QString& text)
 {
-    // Never as the format itself: a per cent sign in a file name is no conversion.
+    // Not as the format: a percent sign in a file name is not a conversion.
     DrawerOutput::GetInstance()->EmitMessage2MessageWidget(level, "%s",
                                                            text.toLocal8Bit().constData());
 }

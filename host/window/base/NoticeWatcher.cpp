@@ -22,12 +22,12 @@ bool NoticeWatcher::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Show) {
         auto* const widget = qobject_cast<QWidget*>(watched);
-        // One that comes and goes at once would also be given the focus when it is no longer there.
+        // Otherwise a window that closes at once would receive the focus after it is gone.
         if (widget != nullptr && widget->isWindow())
             widget->setAttribute(Qt::WA_DontShowOnScreen);
         if (auto* const box = qobject_cast<QMessageBox*>(watched)) {
             m_notices << box->text().simplified();
-            // Later: the box is only about to start the loop that closing it is to end.
+            // Later: the loop that closing the box ends has not started yet.
             QMetaObject::invokeMethod(box, "close", Qt::QueuedConnection);
         }
     }

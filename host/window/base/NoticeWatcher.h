@@ -3,8 +3,8 @@
 #include <QObject>
 #include <QStringList>
 
-/// Keeps windows from disturbing a run that nobody watches: while it lives, none comes on the
-/// screen, and every message box is closed as soon as it shows; its text is kept.
+/// Keeps windows from disturbing an unattended run: while it lives, no window appears on the
+/// screen, and every message box is closed at once; its text is recorded.
 class NoticeWatcher : public QObject
 {
     Q_OBJECT

@@ -36,7 +36,7 @@
 
 namespace {
 
-/// Like a host, it owns the record, also the one that OK allocates.
+/// Owns the sample and the record that OK allocates, as a host does.
 class PropertyEditor : public CQLTElePropertyEditor
 {
 public:
@@ -107,7 +107,7 @@ void EnterRange(SamplingDialog& dialog)
     SetText(dialog, "lineEdit_Min", "16");
     SetText(dialog, "lineEdit_Max", "24");
     SetText(dialog, "lineEdit_Deta", "4");
-    // Only now: a range that is half entered would be refused.
+    // Only now: the dialog would refuse a range that is half entered.
     Q_EMIT dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit_Deta"))->editingFinished();
 }
 

@@ -29,7 +29,7 @@
 
 namespace {
 
-constexpr int PointSize = 9; // Without a desktop the toolkit takes a size that no desktop has.
+constexpr int PointSize = 9;             // The default of a system without a desktop is unusual.
 constexpr QSize RoomySampling(360, 460); // The form's own size shows one sample.
 
 class PictureFont
@@ -53,7 +53,7 @@ std::unique_ptr<MainWindow> NewMainWindow(const Project& project)
     auto window = std::make_unique<MainWindow>();
     window->OpenProject(project);
     FillSampleAnalysis(window->Analysis());
-    // A feature with fields, so that they show.
+    // A feature with fields, so that the dock shows them.
     for (const Feature& feature : window->Part().Features().Features()) {
         if (feature.kind == FeatureKind::PolarArray)
             window->Features().Select(feature.name);
@@ -61,7 +61,7 @@ std::unique_ptr<MainWindow> NewMainWindow(const Project& project)
     return window;
 }
 
-// Does what this host does before it shows the dialog.
+// Prepares the dialog as this host does before it shows it.
 void Prepare(QWidget& dialog)
 {
     if (auto* const experiments = qobject_cast<DOEDlg*>(&dialog)) {
@@ -74,7 +74,7 @@ void Prepare(QWidget& dialog)
     }
 }
 
-// Only the library can show this dialog: it is photographed while the library runs it.
+// Only the library can run this dialog, so the picture is taken during a run.
 std::unique_ptr<QWidget> PictureOfMaterialEditor()
 {
     KVMaterialLibrary library;
@@ -110,8 +110,8 @@ QPalette DarkPalette()
 {
     const QColor ground(48, 48, 48);
     QPalette palette(ground, ground); // Of buttons and windows; the rest follows.
-    // Fields are lighter than the window: the style draws the frame of a check box darker than it,
-    // which would not be seen on black.
+    // Fields are lighter than the window: the style draws the frame of a check box darker than its
+    // ground, which would be invisible on black.
     palette.setColor(QPalette::Base, QColor(68, 68, 68));
     palette.setColor(QPalette::AlternateBase, QColor(76, 76, 76));
     palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
@@ -139,8 +139,8 @@ void VisitWindows(const Project& project,
 void WriteScreenshots(const Project& project, const QString& directory)
 {
     if (!QDir().mkpath(directory))
-        throw HostError(QStringLiteral("%1: the folder cannot be made").arg(directory));
-    // The working directory changes while the pictures are made.
+        throw HostError(QStringLiteral("%1: cannot create the folder").arg(directory));
+    // VisitWindows() changes the working directory.
     const QDir pictures(QDir(directory).absolutePath());
 
     const PictureFont font;

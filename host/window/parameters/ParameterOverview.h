@@ -4,8 +4,7 @@
 
 class QTableWidget;
 
-/// Shows the records of the parameter store as they are stored, one row each. Nothing is edited
-/// here.
+/// Shows the records of the parameter store, one row each, read-only.
 class ParameterOverview : public QDockWidget
 {
     Q_OBJECT
@@ -25,8 +24,7 @@ public:
     ~ParameterOverview() override;
 
 public Q_SLOTS:
-    /// Shows the store as it is now. The store tells nobody of its changes, so whoever made one
-    /// calls this.
+    /// Shows the current store. To be called after a change of the store, which emits no signals.
     void Refresh();
 
 private:

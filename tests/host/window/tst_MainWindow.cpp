@@ -69,7 +69,7 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                                  "Analysis/Frequency range",
                                  "Analysis/Mesh size",
                                  "Analysis/Sub-shape mesh",
-                                 "Analysis/Is the set-up complete?",
+                                 "Analysis/Check Set-up",
                                  "Solver/Run Nastran",
                                  "Solver/Open results in HyperView",
                                  "Solver/Solver paths",

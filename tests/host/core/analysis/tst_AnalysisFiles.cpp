@@ -131,8 +131,8 @@ void tst_AnalysisFiles::ALibraryThatCannotBeProvidedGivesAWarning()
     const EmptyAnalysisStores stores;
     EnterTemporaryDirectory();
     QVERIFY(QDir().mkpath("SysMaterial.xml"));
-    QCOMPARE(ReadAnalysisFiles(), QString("There is no system library of materials: "
-                                          "SysMaterial.xml cannot be written"));
+    QCOMPARE(ReadAnalysisFiles(),
+             QString("No system library of materials: cannot write SysMaterial.xml"));
 }
 
 void tst_AnalysisFiles::TheFilesFillTheStores()

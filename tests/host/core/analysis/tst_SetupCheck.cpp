@@ -92,7 +92,7 @@ void tst_SetupCheck::WithoutPropertiesThereIsAProblem()
 {
     AnalysisSetup setup = Complete();
     setup.properties.clear();
-    QCOMPARE(CheckSetup(setup), QStringList("There is no element property"));
+    QCOMPARE(CheckSetup(setup), QStringList("No element property is defined"));
 }
 
 void tst_SetupCheck::APropertyIsChecked_data()
@@ -101,7 +101,7 @@ void tst_SetupCheck::APropertyIsChecked_data()
     QTest::addColumn<double>("thickness");
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("problem");
-    const QString thickness = "Element property \"plate\": its thickness %1 is not above 0";
+    const QString thickness = "Element property \"plate\": the thickness %1 must be greater than 0";
 
     QTest::newRow("good") << "steel" << 0.5 << 2 << "";
     QTest::newRow("no material") << "" << 0.5 << 2 << "Element property \"plate\" has no material";
@@ -135,17 +135,17 @@ void tst_SetupCheck::AValueOfAMaterialIsChecked_data()
     QTest::addColumn<QString>("poisson");
     QTest::addColumn<QString>("density");
     QTest::addColumn<QString>("problem");
-    const QString modulus = "Material \"steel\": its elastic modulus %1";
-    const QString poisson = "Material \"steel\": its Poisson's ratio %1";
-    const QString density = "Material \"steel\": its density %1";
+    const QString modulus = "Material \"steel\": the elastic modulus %1";
+    const QString poisson = "Material \"steel\": Poisson's ratio %1";
+    const QString density = "Material \"steel\": the density %1";
     const QString noNumber = "\"%1\" is not a number";
 
     QTest::newRow("modulus 0") << "0"
                                << "0.3"
-                               << "1" << modulus.arg("0 is not above 0");
+                               << "1" << modulus.arg("0 must be greater than 0");
     QTest::newRow("modulus below 0") << "-1"
                                      << "0.3"
-                                     << "1" << modulus.arg("-1 is not above 0");
+                                     << "1" << modulus.arg("-1 must be greater than 0");
     QTest::newRow("modulus empty") << ""
                                    << "0.3"
                                    << "1" << modulus.arg(noNumber.arg(""));
@@ -187,10 +187,10 @@ void tst_SetupCheck::AValueOfAMaterialIsChecked_data()
                                     << "1" << poisson.arg(noNumber.arg("soft"));
     QTest::newRow("density 0") << "1"
                                << "0.3"
-                               << "0" << density.arg("0 is not above 0");
+                               << "0" << density.arg("0 must be greater than 0");
     QTest::newRow("density below 0") << "1"
                                      << "0.3"
-                                     << "-7850" << density.arg("-7850 is not above 0");
+                                     << "-7850" << density.arg("-7850 must be greater than 0");
     QTest::newRow("density empty") << "1"
                                    << "0.3"
                                    << "" << density.arg(noNumber.arg(""));
@@ -222,7 +222,7 @@ void tst_SetupCheck::ASystemMaterialIsCheckedByItsOwnTriple()
     steel.m_strLibPoisson = "0.6";
     steel.m_strLibDensity = "7850";
     QCOMPARE(CheckSetup(setup),
-             QStringList("Material \"steel\": its Poisson's ratio 0.6 is outside -1 to 0.5"));
+             QStringList("Material \"steel\": Poisson's ratio 0.6 is outside -1 to 0.5"));
 }
 
 void tst_SetupCheck::AMaterialIsCheckedOnceHoweverOftenItIsUsed()
@@ -230,7 +230,8 @@ void tst_SetupCheck::AMaterialIsCheckedOnceHoweverOftenItIsUsed()
     AnalysisSetup setup = Complete();
     setup.properties["rib"] = setup.properties.at("plate");
     setup.materials.at("steel").m_strDensity = "0";
-    QCOMPARE(CheckSetup(setup), QStringList("Material \"steel\": its density 0 is not above 0"));
+    QCOMPARE(CheckSetup(setup),
+             QStringList("Material \"steel\": the density 0 must be greater than 0"));
 }
 
 void tst_SetupCheck::AMaterialThatNothingUsesIsNotChecked()
@@ -244,7 +245,7 @@ void tst_SetupCheck::ABoundaryConditionMustHoldSomething_data()
 {
     QTest::addColumn<int>("held");
     QTest::addColumn<QString>("problem");
-    QTest::newRow("nothing") << -1 << "Boundary condition \"foot\" holds nothing";
+    QTest::newRow("nothing") << -1 << "Boundary condition \"foot\" fixes no degree of freedom";
     for (int freedom = 0; freedom < 6; ++freedom)
         QTest::addRow("degree of freedom %d", freedom) << freedom << "";
 }
@@ -325,9 +326,9 @@ void tst_SetupCheck::TheMeshSizeIsChecked_data()
     QTest::addColumn<QString>("problem");
     QTest::newRow("not set") << false << 0.0 << "";
     QTest::newRow("good") << true << 0.25 << "";
-    QTest::newRow("0") << true << 0.0 << "The mesh size 0 is not above 0";
-    QTest::newRow("below 0") << true << -0.25 << "The mesh size -0.25 is not above 0";
-    QTest::newRow("infinite") << true << Infinity << "The mesh size inf is not above 0";
+    QTest::newRow("0") << true << 0.0 << "The mesh size 0 must be greater than 0";
+    QTest::newRow("below 0") << true << -0.25 << "The mesh size -0.25 must be greater than 0";
+    QTest::newRow("infinite") << true << Infinity << "The mesh size inf must be greater than 0";
 }
 
 void tst_SetupCheck::TheMeshSizeIsChecked()
@@ -347,7 +348,7 @@ void tst_SetupCheck::PerCentSignsInNamesStay()
     property.m_dThickness = 0.0;
     setup.properties = {{"%2%s", property}};
     QCOMPARE(CheckSetup(setup),
-             QStringList("Element property \"%2%s\": its thickness 0 is not above 0"));
+             QStringList("Element property \"%2%s\": the thickness 0 must be greater than 0"));
 }
 
 void tst_SetupCheck::SeveralProblemsAreAllListed()
@@ -360,10 +361,10 @@ void tst_SetupCheck::SeveralProblemsAreAllListed()
     setup.loads.push_back({});
     setup.maxFrequency = 0.5;
     QCOMPARE(CheckSetup(setup),
-             QStringList({"Element property \"plate\": its thickness 0 is not above 0",
-                          "Material \"steel\": its elastic modulus 0 is not above 0",
-                          "Material \"steel\": its density 0 is not above 0",
-                          "Boundary condition \"\" holds nothing", "Load \"\" is zero",
+             QStringList({"Element property \"plate\": the thickness 0 must be greater than 0",
+                          "Material \"steel\": the elastic modulus 0 must be greater than 0",
+                          "Material \"steel\": the density 0 must be greater than 0",
+                          "Boundary condition \"\" fixes no degree of freedom", "Load \"\" is zero",
                           "Frequency range: the minimum 1 is above the maximum 0.5"}));
 }
 

@@ -99,7 +99,7 @@ void tst_Conditions::BadJsonIsToldInOneLine_data()
     const auto row = [](const char* json, const char* reason) {
         QTest::newRow(json) << QByteArray(json) << QString(reason);
     };
-    row("[5]", "condition 1 is no object");
+    row("[5]", "condition 1 must be an object");
     row(R"([{"expression": "1"}])", "condition 1 has no \"message\"");
     row(R"([{"message": "a"}])", "condition 1 has no \"expression\"");
     row(R"([{"expression": "1", "message": "a"}, {"expression": 1, "message": "a"}])",

@@ -143,12 +143,12 @@ void tst_FeatureList::BadJsonIsToldInOneLine_data()
     const auto row = [](const char* name, const char* json, const char* reason) {
         QTest::newRow(name) << QByteArray(json) << QString(reason);
     };
-    row("no object", "5", "feature 1 is no object");
+    row("no object", "5", "feature 1 must be an object");
     row("no name", R"({"kind": "box"})", "feature 1 has no \"name\"");
     row("empty name", R"({"name": "", "kind": "box"})", "feature 1 has no \"name\"");
     row("blank name", R"({"name": " ", "kind": "box"})", "features: ?: the feature has no name.");
     row("no kind", R"({"name": "a"})", "feature 1, \"a\", has no \"kind\"");
-    row("unknown kind", R"({"name": "a", "kind": "Box"})",
+    row("unknown error", R"({"name": "a", "kind": "Box"})",
         "feature 1, \"a\", has the unknown kind \"Box\"");
     row("kind is a number", R"({"name": "a", "kind": 1})",
         "feature 1, \"a\", has a \"kind\" that is not a text");
@@ -157,7 +157,7 @@ void tst_FeatureList::BadJsonIsToldInOneLine_data()
     row("unknown field", R"({"name": "a", "kind": "box", "fields": {"radius": 1}})",
         "feature 1, \"a\", in its \"fields\" has the unknown entry \"radius\"");
     row("fields are a list", R"({"name": "a", "kind": "box", "fields": [1, 2, 3]})",
-        "feature 1, \"a\", in its \"fields\" is no object");
+        "feature 1, \"a\", in its \"fields\" must be an object");
     row("field is a list", R"({"name": "a", "kind": "box", "fields": {"x": [1]}})",
         "feature 1, \"a\", in its \"fields\" has a \"x\" that is not a number or an expression");
     row("field is null", R"({"name": "a", "kind": "box", "fields": {"x": null}})",

@@ -182,7 +182,7 @@ void tst_Project::BadFilesAreToldInOneLine_data()
     row("empty", "", "is not valid JSON: illegal value at byte 0");
     row("broken", "{\"version\": 1,", "is not valid JSON: unterminated object at byte 14");
     row("trailing text", "{} x", "is not valid JSON: garbage at the end of the document at byte 3");
-    row("a list", "[]", "the project is no object");
+    row("a list", "[]", "the project must be an object");
     row("no version", "{}", "the project has no \"version\"");
     row("version is a text", "{\"version\": \"1\"}",
         "the project has a \"version\" that is not a number");
@@ -202,7 +202,7 @@ void tst_Project::BadFilesAreToldInOneLine_data()
     row("samples is a number", "{\"version\": 1, \"samples\": 1}",
         "the project has a \"samples\" that is not a list");
 
-    row("parameter is a number", WithParameter("5"), "parameter 1 is no object");
+    row("parameter is a number", WithParameter("5"), "parameter 1 must be an object");
     row("parameter without name", WithParameter("{\"value\": 1}"), "parameter 1 has no \"name\"");
     row("empty name", WithParameter("{\"name\": \"\"}"), "parameter 1 has no \"name\"");
     row("name is a number", WithParameter("{\"name\": 1}"),

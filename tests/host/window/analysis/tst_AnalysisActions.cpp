@@ -51,7 +51,7 @@ void tst_AnalysisActions::TheMenuOffersEveryDialog()
     QCOMPARE(texts, QStringList({"Analysis type", "Boundary condition", "Load force",
                                  "Delete boundary condition or load", "", "New element property",
                                  "Element properties", "Material library", "", "Frequency range",
-                                 "Mesh size", "Sub-shape mesh", "", "Is the set-up complete?"}));
+                                 "Mesh size", "Sub-shape mesh", "", "Check Set-up"}));
 }
 
 void tst_AnalysisActions::TheDialogsBelongToTheWindow_data()
@@ -124,7 +124,7 @@ void tst_AnalysisActions::AnAcceptedBoundaryConditionIsStoredAndItsNameRegistere
         QTest::keyClick(&Find<QWidget>(dialog, "chb_YD"), Qt::Key_Space);
         Click(dialog, "okButton");
     });
-    QCOMPARE(host.Shown("Boundary conditions"), QStringList("foot: holds X_D, Z_D, X_R, Y_R, Z_R"));
+    QCOMPARE(host.Shown("Boundary conditions"), QStringList("foot: fixes X_D, Z_D, X_R, Y_R, Z_R"));
     QVERIFY(IsTaken("foot"));
 }
 
@@ -297,7 +297,7 @@ void tst_AnalysisActions::ANonNumericSubShapeMeshIsReportedAndNotStored()
     QCOMPARE(host.posted.size(), 1);
     QCOMPARE(host.posted[0][0].toInt(), int(WarningLevel));
     QCOMPARE(host.posted[0][1].toString(),
-             QString("The sub-shape mesh was not taken: its size and number must be numbers"));
+             QString("The sub-shape mesh was not applied: size and number must be numeric"));
 }
 
 TARN_TEST_MAIN(tst_AnalysisActions)

@@ -189,8 +189,8 @@ void tst_AnalysisActionsProperties::TheCheckListsEveryProblem()
         QCOMPARE(message[0].toInt(), int(WarningLevel));
         texts << message[1].toString();
     }
-    QCOMPARE(texts, QStringList({"There is no element property",
-                                 "Boundary condition \"defaultBC\" holds nothing",
+    QCOMPARE(texts, QStringList({"No element property is defined",
+                                 "Boundary condition \"defaultBC\" fixes no degree of freedom",
                                  "Load \"Default\" is zero"}));
 }
 
@@ -208,7 +208,7 @@ void tst_AnalysisActionsProperties::TheCheckReadsTheFilesFirst()
     host.Trigger("action_CheckSetup");
     QCOMPARE(host.posted.size(), 1);
     QCOMPARE(host.posted[0][1].toString(),
-             QString("Element property \"plate\": its thickness 0 is not above 0"));
+             QString("Element property \"plate\": the thickness 0 must be greater than 0"));
     QCOMPARE(host.Shown("Element properties").size(), 1);
 }
 

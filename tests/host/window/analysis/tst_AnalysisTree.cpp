@@ -167,7 +167,7 @@ void tst_AnalysisTree::TheHeldDegreesOfFreedomAreTold_data()
 {
     QTest::addColumn<QVector<bool>>("held");
     QTest::addColumn<QString>("text");
-    QTest::newRow("none") << QVector<bool>(6, false) << "holds nothing";
+    QTest::newRow("none") << QVector<bool>(6, false) << "fixes nothing";
     QTest::newRow("all") << QVector<bool>(6, true) << "holds X_D, Y_D, Z_D, X_R, Y_R, Z_R";
     const QString words[] = {"X_D", "Y_D", "Z_D", "X_R", "Y_R", "Z_R"};
     for (int i = 0; i < 6; ++i) {

@@ -119,7 +119,7 @@ void tst_HostApplication::AnExceptionBecomesAMessage_data()
     row(
         "memory", [] { throw std::bad_alloc(); }, "not enough memory");
     row(
-        "any other", [] { throw 7; }, "unknown kind");
+        "any other", [] { throw 7; }, "unknown error");
 }
 
 void tst_HostApplication::AnExceptionBecomesAMessage()

@@ -108,7 +108,7 @@ void tst_Screenshots::ADirectoryThatCannotBeMadeIsAFailure()
     QFile file("taken");
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(ReasonNotWritten("taken/pictures"),
-             QString("taken/pictures: the folder cannot be made"));
+             QString("taken/pictures: cannot create the folder"));
 }
 
 void tst_Screenshots::AFileThatCannotBeWrittenIsAFailure()
