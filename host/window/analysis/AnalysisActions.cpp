@@ -170,8 +170,8 @@ void AnalysisActions::SetSubShapeMesh()
         m_model.SetSubShape(mesh);
     else
         PostMessageToChannel(WarningLevel,
-                             tr("The sub-shape mesh was not taken: its size and number must be "
-                                "numbers"));
+                             tr("The sub-shape mesh was not applied: size and number must be "
+                                "numeric"));
 }
 
 void AnalysisActions::CheckSetupNow()

@@ -14,19 +14,19 @@ private Q_SLOTS:
 
 static const QLatin1String Key("key");
 
-static JsonSection With(const QJsonValue& value)
+static JsonSection Section(const QJsonValue& value)
 {
     return JsonSection("the place", QJsonObject({{Key, value}}), {Key});
 }
 
 void tst_JsonSection::EntriesAreReadByType()
 {
-    QCOMPARE(With("x").Text(Key), QString("x"));
-    QCOMPARE(With("x").NeededText(Key), QString("x"));
-    QCOMPARE(With(1.5).Number(Key), 1.5);
-    QCOMPARE(With(true).Flag(Key, false), true);
-    QCOMPARE(With(QJsonArray({1, 2})).Numbers(Key), std::vector<double>({1.0, 2.0}));
-    QCOMPARE(With(QJsonArray({"a", "b"})).Texts(Key), QStringList({"a", "b"}));
+    QCOMPARE(Section("x").Text(Key), QString("x"));
+    QCOMPARE(Section("x").NeededText(Key), QString("x"));
+    QCOMPARE(Section(1.5).Number(Key), 1.5);
+    QCOMPARE(Section(true).Flag(Key, false), true);
+    QCOMPARE(Section(QJsonArray({1, 2})).Numbers(Key), std::vector<double>({1.0, 2.0}));
+    QCOMPARE(Section(QJsonArray({"a", "b"})).Texts(Key), QStringList({"a", "b"}));
 }
 
 void tst_JsonSection::MissingEntriesGiveTheDefault()
@@ -43,7 +43,7 @@ void tst_JsonSection::MissingEntriesGiveTheDefault()
 void tst_JsonSection::MessagesBeginWithThePlace()
 {
     try {
-        With(1.0).Text(Key);
+        Section(1.0).Text(Key);
         QFAIL("A number was taken for a text.");
     } catch (const JsonError& error) {
         QCOMPARE(error.what(), "the place has a \"key\" that is not a text");

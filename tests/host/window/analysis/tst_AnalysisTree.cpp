@@ -17,8 +17,8 @@ private Q_SLOTS:
     void AnEmptyModelHasItsGroups();
     void TheAnalysisTypeIsTold_data();
     void TheAnalysisTypeIsTold();
-    void TheHeldDegreesOfFreedomAreTold_data();
-    void TheHeldDegreesOfFreedomAreTold();
+    void TheFixedDegreesOfFreedomAreShown_data();
+    void TheFixedDegreesOfFreedomAreShown();
     void AForceIsShownAsStored_data();
     void AForceIsShownAsStored();
     void APropertyIsShownWithMaterialAndThickness_data();
@@ -163,21 +163,21 @@ void tst_AnalysisTree::TheAnalysisTypeIsTold()
     QCOMPARE(shown.Value("Analysis type"), text);
 }
 
-void tst_AnalysisTree::TheHeldDegreesOfFreedomAreTold_data()
+void tst_AnalysisTree::TheFixedDegreesOfFreedomAreShown_data()
 {
     QTest::addColumn<QVector<bool>>("held");
     QTest::addColumn<QString>("text");
     QTest::newRow("none") << QVector<bool>(6, false) << "fixes nothing";
-    QTest::newRow("all") << QVector<bool>(6, true) << "holds X_D, Y_D, Z_D, X_R, Y_R, Z_R";
+    QTest::newRow("all") << QVector<bool>(6, true) << "fixes X_D, Y_D, Z_D, X_R, Y_R, Z_R";
     const QString words[] = {"X_D", "Y_D", "Z_D", "X_R", "Y_R", "Z_R"};
     for (int i = 0; i < 6; ++i) {
         QVector<bool> held(6, false);
         held[i] = true;
-        QTest::newRow(qPrintable(words[i])) << held << "holds " + words[i];
+        QTest::newRow(qPrintable(words[i])) << held << "fixes " + words[i];
     }
 }
 
-void tst_AnalysisTree::TheHeldDegreesOfFreedomAreTold()
+void tst_AnalysisTree::TheFixedDegreesOfFreedomAreShown()
 {
     QFETCH(QVector<bool>, held);
     QFETCH(QString, text);
