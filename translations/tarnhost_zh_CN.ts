@@ -94,8 +94,8 @@
         <translation>%1（%2 没有值：%3。）</translation>
     </message>
     <message>
-        <source>it uses %1, which is suppressed.</source>
-        <translation>它使用的 %1 已被抑制。</translation>
+        <source>its input %1 is suppressed.</source>
+        <translation>它的输入 %1 已被抑制。</translation>
     </message>
     <message>
         <source>the geometry kernel could not build it.</source>
@@ -118,44 +118,44 @@
         <translation>需要一个输入</translation>
     </message>
     <message>
-        <source>a feature of the kind &quot;%1&quot; takes %2, but there are %3.</source>
+        <source>a feature of kind &quot;%1&quot; takes %2, but has %3.</source>
         <translation>类型为“%1”的特征%2，但现有 %3 个。</translation>
     </message>
     <message>
-        <source>a feature of the kind &quot;%1&quot; has %2 fields, but there are %3.</source>
-        <translation>类型为“%1”的特征有 %2 个字段，但现有 %3 个。</translation>
+        <source>a feature of kind &quot;%1&quot; needs %2 fields, but has %3.</source>
+        <translation>类型为“%1”的特征需要 %2 个字段，但现有 %3 个。</translation>
     </message>
     <message>
         <source>there is no file to import.</source>
         <translation>没有要导入的文件。</translation>
     </message>
     <message>
-        <source>a feature of the kind &quot;%1&quot; has no file.</source>
+        <source>a feature of kind &quot;%1&quot; has no file.</source>
         <translation>类型为“%1”的特征不使用文件。</translation>
     </message>
     <message>
-        <source>There are %1 features; %2 are the most.</source>
-        <translation>共有 %1 个特征，最多允许 %2 个。</translation>
+        <source>Too many features: %1 (maximum %2).</source>
+        <translation>特征过多：%1 个（最多 %2 个）。</translation>
     </message>
     <message>
         <source>the feature has no name.</source>
         <translation>该特征没有名称。</translation>
     </message>
     <message>
-        <source>two features have this name.</source>
-        <translation>有两个特征使用此名称。</translation>
+        <source>another feature has the same name.</source>
+        <translation>另一个特征使用相同的名称。</translation>
     </message>
     <message>
-        <source>it uses %1, which is no feature.</source>
-        <translation>它使用的 %1 不是特征。</translation>
+        <source>its input %1 does not exist.</source>
+        <translation>它的输入 %1 不存在。</translation>
     </message>
     <message>
-        <source>it uses %1, which does not stand before it.</source>
-        <translation>它使用的 %1 不在它之前。</translation>
+        <source>its input %1 is not an earlier feature.</source>
+        <translation>它的输入 %1 不是在它之前的特征。</translation>
     </message>
     <message>
-        <source>it uses %1 twice.</source>
-        <translation>它两次使用了 %1。</translation>
+        <source>it has the input %1 twice.</source>
+        <translation>它的输入 %1 出现了两次。</translation>
     </message>
     <message>
         <source>%1 (%2) has no value: %3.</source>
@@ -166,24 +166,20 @@
         <translation>%1 为 %2，但必须为%3。</translation>
     </message>
     <message>
-        <source>the array would have %1 bodies; %2 are the most.</source>
-        <translation>阵列将有 %1 个实体，最多允许 %2 个。</translation>
+        <source>the array would have %1 bodies (maximum %2).</source>
+        <translation>阵列将有 %1 个实体（最多 %2 个）。</translation>
     </message>
     <message>
-        <source>the instances would lie upon one another: their angle is %1 degrees.</source>
-        <translation>各实例将相互重叠：其夹角为 %1 度。</translation>
+        <source>the instances would coincide: the angle between them is %1 degrees.</source>
+        <translation>各实例将重合：其夹角为 %1 度。</translation>
     </message>
     <message>
-        <source>the instances would lie upon one another: their distance in %1 is %2 mm.</source>
-        <translation>各实例将相互重叠：其 %1 方向间距为 %2 mm。</translation>
+        <source>the instances would coincide: their distance in %1 is %2 mm.</source>
+        <translation>各实例将重合：其 %1 方向间距为 %2 mm。</translation>
     </message>
     <message>
-        <source>the array would reach farther than %1 mm in %2.</source>
+        <source>the array would extend more than %1 mm in %2.</source>
         <translation>阵列在 %2 方向上将超出 %1 mm。</translation>
-    </message>
-    <message>
-        <source>it places no body.</source>
-        <translation>它不放置任何实体。</translation>
     </message>
     <message>
         <source>angle 1 (%1) has to be below angle 2 (%2).</source>
@@ -206,11 +202,7 @@
         <translation>半径为 %2 mm 时，%1 条边过多。</translation>
     </message>
     <message>
-        <source>it is no primitive.</source>
-        <translation>它不是基本体。</translation>
-    </message>
-    <message>
-        <source>several edges meet at the point %1; choose a point on one of them alone.</source>
+        <source>several edges meet at the point %1; choose a point that lies on one edge only.</source>
         <translation>有多条边交于点 %1；请选择只位于其中一条边上的点。</translation>
     </message>
     <message>
@@ -218,7 +210,7 @@
         <translation>点 %1 处没有边。</translation>
     </message>
     <message>
-        <source>several faces meet at the point %1; choose a point on one of them alone.</source>
+        <source>several faces meet at the point %1; choose a point that lies on one face only.</source>
         <translation>有多个面交于点 %1；请选择只位于其中一个面上的点。</translation>
     </message>
     <message>
@@ -234,12 +226,12 @@
         <translation>项目没有特征，因此没有零件。</translation>
     </message>
     <message>
-        <source>%1 bodies would have to be combined; %2 are the most.</source>
-        <translation>需要组合 %1 个实体，最多允许 %2 个。</translation>
+        <source>too many bodies to combine: %1 (maximum %2).</source>
+        <translation>要组合的实体过多：%1 个（最多 %2 个）。</translation>
     </message>
     <message>
-        <source>with it, all features together would have more than %1 bodies.</source>
-        <translation>加上它，所有特征的实体总数将超过 %1 个。</translation>
+        <source>this feature would exceed the limit of %1 bodies.</source>
+        <translation>此特征将使实体总数超过上限 %1 个。</translation>
     </message>
 </context>
 <context>
@@ -279,8 +271,8 @@
         <translation>%1 必须为%2；输入的是 %3</translation>
     </message>
     <message>
-        <source>A direction needs a component that is not 0; the dialog waits for one</source>
-        <translation>方向至少需要一个不为 0 的分量；对话框正等待输入</translation>
+        <source>A direction needs a component other than 0; the dialog stays open</source>
+        <translation>方向至少需要一个不为 0 的分量；对话框保持打开</translation>
     </message>
 </context>
 <context>
@@ -568,6 +560,9 @@
         <source>STEP import</source>
         <translation>STEP 导入</translation>
     </message>
+</context>
+<context>
+    <name>FieldRule</name>
     <message>
         <source>above %1 and at most %2</source>
         <translation>大于 %1 且不大于 %2</translation>
@@ -1025,7 +1020,7 @@
 <context>
     <name>PartView</name>
     <message>
-        <source>the system offers no OpenGL</source>
+        <source>the system does not provide OpenGL</source>
         <translation>系统不提供 OpenGL</translation>
     </message>
     <message>
@@ -1096,11 +1091,11 @@
         <translation>%1只能用于一个实体，但选中了 %2 个特征</translation>
     </message>
     <message>
-        <source>%1 needs a body, and there is none</source>
+        <source>%1 needs a body, but there is none</source>
         <translation>%1需要一个实体，但没有实体</translation>
     </message>
     <message>
-        <source>%1 needs two bodies, and there are too few</source>
+        <source>%1 needs two bodies, but there are not enough</source>
         <translation>%1需要两个实体，但实体不足</translation>
     </message>
     <message>
@@ -1108,7 +1103,7 @@
         <translation>没有可选取面的三维视图：请在 %1 的字段中输入面上一点</translation>
     </message>
     <message>
-        <source>Click the face to mirror at, or press Escape</source>
+        <source>Click the face to mirror at, or press Escape to cancel</source>
         <translation>请单击用作镜像面的面，或按 Esc 键取消</translation>
     </message>
     <message>
@@ -1205,8 +1200,12 @@
         <translation>添加%1 %2</translation>
     </message>
     <message>
-        <source>%1 is no name: it has a comma, or a blank at its start or end</source>
-        <translation>%1 不能用作名称：其中有逗号，或首尾有空格</translation>
+        <source>%1 is not a valid name: it contains a comma</source>
+        <translation>%1 不能用作名称：其中有逗号</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid name: it begins or ends with a blank</source>
+        <translation>%1 不能用作名称：首尾有空格</translation>
     </message>
     <message>
         <source>Change %1</source>
@@ -1225,8 +1224,8 @@
         <translation>下移 %1</translation>
     </message>
     <message>
-        <source>%1 stays where it is. %2</source>
-        <translation>%1 保持原位。%2</translation>
+        <source>Cannot move %1. %2</source>
+        <translation>无法移动 %1。%2</translation>
     </message>
     <message>
         <source>Suppress %1</source>
@@ -1237,8 +1236,8 @@
         <translation>取消抑制 %1</translation>
     </message>
     <message>
-        <source>%1 stays: it is used by %2</source>
-        <translation>%1 未删除：它被 %2 使用</translation>
+        <source>Cannot delete %1: it is used by %2</source>
+        <translation>无法删除 %1：它被 %2 使用</translation>
     </message>
     <message>
         <source>Delete %1</source>
@@ -1252,7 +1251,7 @@
         <translation>位置</translation>
     </message>
     <message>
-        <source>Position: %1 is &quot;%2&quot;, which is no number from %3 to %4</source>
+        <source>Position: %1 is &quot;%2&quot;, not a number from %3 to %4</source>
         <translation>位置：%1 为“%2”，不是 %3 至 %4 的数值</translation>
     </message>
 </context>
@@ -1436,7 +1435,7 @@
         <translation>没有更早的形状。</translation>
     </message>
     <message>
-        <source>Shown is the last good shape, built at %1.</source>
+        <source>Showing the last valid shape, built at %1.</source>
         <translation>显示的是上一个有效形状，生成于 %1。</translation>
     </message>
     <message>

@@ -1,32 +1,42 @@
 #pragma once
 
+#include "Feature.h"
 #include "FeatureKinds.h"
 
 #include <map>
 
-/// A feature with the default texts of its kind, and those of @p fields by their keys.
-inline Feature NewFeature(const QString& name, FeatureKind kind, const QStringList& inputs = {},
-                          const std::map<QString, QString>& fields = {})
+/// The kind that is called @p word in files.
+inline const FeatureKind& KindOf(const char* word)
 {
-    Feature feature = FeatureKinds::MakeFeature(kind);
+    const FeatureKind* const kind = FeatureKinds::Find(word);
+    if (kind == nullptr)
+        qFatal("There is no kind \"%s\"", word);
+    return *kind;
+}
+
+/// The place of the field called @p key.
+inline int FieldIndex(const Feature& feature, const char* key)
+{
+    const std::size_t index = feature.kind->IndexOf(key);
+    if (index >= feature.kind->fields.size())
+        qFatal("There is no field \"%s\"", key);
+    return int(index);
+}
+
+/// A feature with the default texts of its kind, except for @p fields, by their keys.
+inline Feature NewFeature(const QString& name, const char* kind, const QStringList& inputs = {},
+                          const std::map<const char*, QString>& fields = {})
+{
+    Feature feature(KindOf(kind));
     feature.name = name;
     feature.inputs = inputs;
-    const std::vector<FieldKind>& kinds = FeatureKinds::Of(kind).fields;
-    for (std::size_t i = 0; i < kinds.size(); ++i) {
-        const auto found = fields.find(kinds[i].key);
-        if (found != fields.end())
-            feature.fields[int(i)] = found->second;
-    }
+    for (const auto& [key, text] : fields)
+        feature.fields[FieldIndex(feature, key)] = text;
     return feature;
 }
 
 /// The text of the field called @p key.
 inline QString FieldText(const Feature& feature, const char* key)
 {
-    const std::vector<FieldKind>& kinds = FeatureKinds::Of(feature.kind).fields;
-    for (std::size_t i = 0; i < kinds.size(); ++i) {
-        if (kinds[i].key == QLatin1String(key))
-            return feature.fields[int(i)];
-    }
-    qFatal("There is no field \"%s\"", key);
+    return feature.fields.at(FieldIndex(feature, key));
 }

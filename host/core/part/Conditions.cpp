@@ -15,7 +15,7 @@ namespace {
 const QLatin1String ExpressionKey("expression");
 const QLatin1String MessageKey("message");
 
-// "{hub / 2}" in a message becomes the value.
+// Replaces "{hub / 2}" in a message by its value.
 QString WithValues(const QString& message, FieldValues& values)
 {
     static const QRegularExpression placeholder(QStringLiteral("\\{([^{}]*)\\}"));

@@ -5,11 +5,11 @@
 
 #include <vector>
 
-/// What has to hold among the parameters, so that a part makes sense.
+/// A requirement that the parameters of a part have to meet.
 struct Condition
 {
-    QString expression; ///< Holds when its value is neither 0 nor undefined.
-    QString message;    ///< What to tell when it does not hold.
+    QString expression; ///< Holds if it has a value other than 0.
+    QString message;    ///< Shown if it does not hold.
 
     bool operator==(const Condition& other) const
     {
@@ -17,8 +17,8 @@ struct Condition
     }
 };
 
-/// Evaluates the conditions in their order. @throws BuildError with the message of the first one
-/// that does not hold.
+/// Evaluates the conditions in order. @throws BuildError with the message of the first one that
+/// does not hold
 void CheckConditions(const std::vector<Condition>& conditions);
 
 /// Reads the entry "conditions" of a project. @throws JsonError

@@ -3,38 +3,20 @@
 #include <QString>
 #include <QStringList>
 
-/// What a feature does. FeatureKinds tells everything else about a kind.
-enum class FeatureKind
-{
-    Box,
-    Cylinder,
-    Sphere,
-    Torus,
-    Cone,
-    Wedge,
-    Polygon,
-    Move,
-    Rotate,
-    MirrorPoint,
-    MirrorAxis,
-    MirrorFace,
-    PolarArray,
-    RectangularArray,
-    Fuse,
-    Cut,
-    Fillet,
-    StepImport
-};
+struct FeatureKind;
 
 /// One step of a part's history. Its result is a body that later features may use by name.
 struct Feature
 {
-    QString name; ///< Unique in its list.
-    FeatureKind kind = FeatureKind::Box;
-    bool suppressed = false; ///< Left out of the part; its first input stands in for it.
+    /// A feature with the default texts of @p featureKind in its fields, without name and inputs.
+    explicit Feature(const FeatureKind& featureKind);
+
+    QString name;            ///< Unique in its list.
+    const FeatureKind* kind; ///< Never null.
+    bool suppressed = false; ///< Not built; its first input takes its place.
     QStringList inputs;      ///< Names of earlier features.
     QStringList fields;      ///< Numbers or expressions over the parameters, as the kind has them.
-    QString file;            ///< What StepImport reads; relative to the project's folder.
+    QString file;            ///< What an import reads; relative to the project's folder.
 
     bool operator==(const Feature& other) const
     {

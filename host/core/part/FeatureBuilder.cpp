@@ -1,16 +1,11 @@
 #include "FeatureBuilder.h"
 
-#include "Axes.h"
 #include "Bodies.h"
-#include "CombinedBodies.h"
-#include "FeatureKinds.h"
+#include "BuildInput.h"
+#include "FeatureKind.h"
 #include "FeatureList.h"
 #include "FieldValues.h"
-#include "JsonSection.h"
 #include "KernelSignals.h"
-#include "PlacedBodies.h"
-#include "Primitives.h"
-#include "StepFile.h"
 
 #include <QDir>
 #include <QHash>
@@ -19,7 +14,7 @@
 
 namespace {
 
-/// Builds feature after feature, and keeps their bodies by name.
+/// Builds one feature after another, and keeps their bodies by name.
 class Builder
 {
 public:
@@ -30,56 +25,20 @@ public:
 
     TopoDS_Shape Result(const Feature& feature)
     {
-        const TopoDS_Shape shape = feature.suppressed ? StandIn(feature) : Built(feature);
+        const TopoDS_Shape shape =
+            feature.suppressed ? m_shapes.value(feature.inputs.value(0)) : Built(feature);
         m_shapes.insert(feature.name, shape);
         return shape;
     }
 
 private:
-    TopoDS_Shape StandIn(const Feature& feature) const
-    {
-        return feature.inputs.isEmpty() ? TopoDS_Shape() : m_shapes.value(feature.inputs.first());
-    }
-
     TopoDS_Shape Built(const Feature& feature)
     {
-        const std::vector<double> values = m_values.Of(feature);
-        switch (feature.kind) {
-        case FeatureKind::Fuse:
-        case FeatureKind::Cut:
-            return CombinedOf(feature);
-        case FeatureKind::Fillet:
-            return FilletBody(FirstInput(feature), values[0], PointOf(&values[1]));
-        case FeatureKind::StepImport:
-            return Unwrapped(ReadStepFile(QDir(m_folder).filePath(feature.file)));
-        default:
-            return feature.inputs.isEmpty() ? MakePrimitive(feature.kind, values)
-                                            : PlaceBody(feature.kind, FirstInput(feature), values);
-        }
-    }
-
-    TopoDS_Shape FirstInput(const Feature& feature) const
-    {
-        const QString& name = feature.inputs.first();
-        const TopoDS_Shape shape = m_shapes.value(name);
-        if (shape.IsNull())
-            throw BuildError(BuildError::tr("it uses %1, which is suppressed.").arg(Quoted(name)));
-        return shape;
-    }
-
-    TopoDS_Shape CombinedOf(const Feature& feature) const
-    {
-        const TopoDS_Shape first = FirstInput(feature);
-        std::vector<TopoDS_Shape> tools;
-        for (int input = 1; input < feature.inputs.size(); ++input) {
-            const TopoDS_Shape tool = m_shapes.value(feature.inputs[input]);
-            if (!tool.IsNull())
-                tools.push_back(tool);
-        }
-        if (tools.empty())
-            return first;
-        return feature.kind == FeatureKind::Fuse ? FuseBodies(first, tools)
-                                                 : CutBodies(first, tools);
+        std::vector<BuildInput::Body> bodies;
+        for (const QString& input : feature.inputs)
+            bodies.push_back({input, m_shapes.value(input)});
+        return feature.kind->build(
+            {*feature.kind, m_values.Of(feature), bodies, QDir(m_folder).filePath(feature.file)});
     }
 
     QString m_folder;
@@ -87,7 +46,7 @@ private:
     QHash<QString, TopoDS_Shape> m_shapes;
 };
 
-// Whatever goes wrong while @p step works on @p feature names it.
+// Makes every failure of @p step one of @p feature.
 template<class Step>
 auto NamingFeature(const Feature& feature, const Step& step)
 {
@@ -119,12 +78,11 @@ BuiltPart FeatureBuilder::Build(const FeatureList& list, const QString& folder)
     for (const Feature& feature : list.Features()) {
         part.shapes.push_back(NamingFeature(feature, [&] { return builder.Result(feature); }));
         bodies += part.shapes.back().IsNull() ? 0 : CountBodies(part.shapes.back());
-        // Before many large arrays have used up the memory.
+        // Checked after each feature: many large arrays would use up the memory.
         if (bodies > MaximumBodies)
-            throw FeatureError(
-                feature.name,
-                BuildError::tr("with it, all features together would have more than %1 bodies.")
-                    .arg(MaximumBodies));
+            throw FeatureError(feature.name,
+                               BuildError::tr("this feature would exceed the limit of %1 bodies.")
+                                   .arg(MaximumBodies));
         for (const QString& input : feature.inputs)
             used.insert(input);
     }

@@ -12,8 +12,8 @@ class FeatureList;
 /// What a list of features builds.
 struct BuiltPart
 {
-    TopoDS_Shape shape; ///< The part: all results that no feature uses. Null when there are none.
-    std::vector<TopoDS_Shape> shapes; ///< Of each feature of the list; null where left out.
+    TopoDS_Shape shape; ///< The part: all results that no feature uses. Null if there are none.
+    std::vector<TopoDS_Shape> shapes; ///< Of each feature; null where nothing was built.
 };
 
 /// Builds the bodies of a feature list with the values that the parameter store holds now.
@@ -22,13 +22,11 @@ struct BuiltPart
 class FeatureBuilder
 {
 public:
-    static constexpr int MaximumInstances = 10000; ///< Bodies in the result of an array.
-    static constexpr int MaximumCombined = 500;    ///< Bodies in one fuse or cut.
-    static constexpr int MaximumBodies = 100000;   ///< Of all features together.
+    static constexpr int MaximumBodies = 100000; ///< Of all features together.
 
     FeatureBuilder() = delete;
 
-    /// Files of imports are looked for in @p folder unless their path is absolute. Everything is
-    /// checked before the kernel is called. @throws FeatureError, also for failures of the kernel.
+    /// Paths of imports are relative to @p folder. Values are checked before the kernel is called.
+    /// @throws FeatureError, also if the kernel fails
     static BuiltPart Build(const FeatureList& list, const QString& folder = QString());
 };

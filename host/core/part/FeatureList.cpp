@@ -19,7 +19,7 @@ const QLatin1String InputsKey("inputs");
 const QLatin1String FieldsKey("fields");
 const QLatin1String FileKey("file");
 
-// A number stands in a file as a number where nothing of its text is lost by that.
+// Numbers are written as numbers, if that preserves their text.
 QJsonValue FieldToJson(const QString& text)
 {
     bool isNumber = false;
@@ -29,18 +29,17 @@ QJsonValue FieldToJson(const QString& text)
     return text;
 }
 
-QStringList ReadFields(const JsonSection& section, const QString& place, FeatureKind kind)
+QStringList ReadFields(const JsonSection& section, const QString& place, const FeatureKind& kind)
 {
-    const std::vector<FieldKind>& fields = FeatureKinds::Of(kind).fields;
     std::vector<QLatin1String> keys;
-    keys.reserve(fields.size());
-    for (const FieldKind& field : fields)
+    keys.reserve(kind.fields.size());
+    for (const FieldDefinition& field : kind.fields)
         keys.push_back(field.key);
     const JsonSection values(JsonError::tr("%1 in its \"fields\"").arg(place),
                              section.Has(FieldsKey) ? section.Value(FieldsKey) : QJsonObject(),
                              keys);
     QStringList texts;
-    for (const FieldKind& field : fields) {
+    for (const FieldDefinition& field : kind.fields) {
         const QJsonValue value = values.Value(field.key);
         if (value.isDouble())
             texts << ExactText(value.toDouble());
@@ -64,12 +63,11 @@ Feature ReadFeature(const QJsonValue& json, int number)
     const JsonSection section(place, json, keys);
 
     const QString word = section.NeededText(KindKey);
-    const std::optional<FeatureKind> kind = FeatureKinds::FromWord(word);
-    if (!kind.has_value())
+    const FeatureKind* const kind = FeatureKinds::Find(word);
+    if (kind == nullptr)
         section.Fail(JsonError::tr("has the unknown kind %1").arg(Quoted(word)));
-    Feature feature;
+    Feature feature(*kind);
     feature.name = name;
-    feature.kind = *kind;
     feature.suppressed = section.Flag(SuppressedKey, false);
     feature.inputs = section.Texts(InputsKey);
     feature.fields = ReadFields(section, place, *kind);
@@ -79,7 +77,7 @@ Feature ReadFeature(const QJsonValue& json, int number)
 
 QJsonObject WriteFeature(const Feature& feature)
 {
-    const FeatureKinds::Entry& kind = FeatureKinds::Of(feature.kind);
+    const FeatureKind& kind = *feature.kind;
     QJsonObject json;
     json.insert(NameKey, feature.name);
     json.insert(KindKey, kind.word);
@@ -98,35 +96,53 @@ QJsonObject WriteFeature(const Feature& feature)
     return json;
 }
 
+QString InputsText(const FeatureKind& kind)
+{
+    if (kind.maxInputs == FeatureKind::Unlimited)
+        return BuildError::tr("at least %1 inputs").arg(kind.minInputs);
+    return kind.maxInputs == 0 ? BuildError::tr("no input") : BuildError::tr("one input");
+}
+
 void CheckShape(const Feature& feature)
 {
-    const FeatureKinds::Entry& kind = FeatureKinds::Of(feature.kind);
+    const FeatureKind& kind = *feature.kind;
     const int inputs = feature.inputs.size();
-    const bool tooMany = kind.mostInputs != FeatureKinds::AnyNumber && inputs > kind.mostInputs;
-    if (inputs < kind.leastInputs || tooMany) {
-        QString wanted = BuildError::tr("no input");
-        if (kind.mostInputs == FeatureKinds::AnyNumber)
-            wanted = BuildError::tr("at least %1 inputs").arg(kind.leastInputs);
-        else if (kind.mostInputs > 0)
-            wanted = BuildError::tr("one input");
-        throw FeatureError(feature.name, BuildError::tr("a feature of the kind \"%1\" takes %2, "
-                                                        "but there are %3.")
-                                             .arg(kind.word, wanted)
-                                             .arg(inputs));
-    }
+    const bool tooMany = kind.maxInputs != FeatureKind::Unlimited && inputs > kind.maxInputs;
+    if (inputs < kind.minInputs || tooMany)
+        throw FeatureError(feature.name,
+                           BuildError::tr("a feature of kind \"%1\" takes %2, but has %3.")
+                               .arg(kind.word, InputsText(kind))
+                               .arg(inputs));
     if (feature.fields.size() != int(kind.fields.size()))
-        throw FeatureError(feature.name, BuildError::tr("a feature of the kind \"%1\" has %2 "
-                                                        "fields, but there are %3.")
-                                             .arg(kind.word)
-                                             .arg(kind.fields.size())
-                                             .arg(feature.fields.size()));
-    const bool isImport = feature.kind == FeatureKind::StepImport;
-    if (isImport && feature.file.isEmpty())
+        throw FeatureError(feature.name,
+                           BuildError::tr("a feature of kind \"%1\" needs %2 fields, but has %3.")
+                               .arg(kind.word)
+                               .arg(kind.fields.size())
+                               .arg(feature.fields.size()));
+    if (kind.readsFile && feature.file.isEmpty())
         throw FeatureError(feature.name, BuildError::tr("there is no file to import."));
-    if (!isImport && !feature.file.isEmpty())
-        throw FeatureError(
-            feature.name,
-            BuildError::tr("a feature of the kind \"%1\" has no file.").arg(kind.word));
+    if (!kind.readsFile && !feature.file.isEmpty())
+        throw FeatureError(feature.name,
+                           BuildError::tr("a feature of kind \"%1\" has no file.").arg(kind.word));
+}
+
+// Inputs are earlier features, each of them once.
+void CheckInputs(const FeatureList& list, const Feature& feature, const QSet<QString>& earlier)
+{
+    QSet<QString> used;
+    for (const QString& input : feature.inputs) {
+        if (list.Find(input) < 0)
+            throw FeatureError(feature.name,
+                               BuildError::tr("its input %1 does not exist.").arg(Quoted(input)));
+        if (!earlier.contains(input))
+            throw FeatureError(
+                feature.name,
+                BuildError::tr("its input %1 is not an earlier feature.").arg(Quoted(input)));
+        if (used.contains(input))
+            throw FeatureError(feature.name,
+                               BuildError::tr("it has the input %1 twice.").arg(Quoted(input)));
+        used.insert(input);
+    }
 }
 
 } // namespace
@@ -197,28 +213,15 @@ void FeatureList::Check() const
 {
     if (Size() > MaximumSize)
         throw BuildError(
-            BuildError::tr("There are %1 features; %2 are the most.").arg(Size()).arg(MaximumSize));
+            BuildError::tr("Too many features: %1 (maximum %2).").arg(Size()).arg(MaximumSize));
     QSet<QString> earlier;
     for (const Feature& feature : m_features) {
         if (feature.name.trimmed().isEmpty())
             throw FeatureError(QStringLiteral("?"), BuildError::tr("the feature has no name."));
         if (earlier.contains(feature.name))
-            throw FeatureError(feature.name, BuildError::tr("two features have this name."));
+            throw FeatureError(feature.name, BuildError::tr("another feature has the same name."));
         CheckShape(feature);
-        QSet<QString> used;
-        for (const QString& input : feature.inputs) {
-            if (!earlier.contains(input))
-                throw FeatureError(
-                    feature.name,
-                    Find(input) < 0
-                        ? BuildError::tr("it uses %1, which is no feature.").arg(Quoted(input))
-                        : BuildError::tr("it uses %1, which does not stand before it.")
-                              .arg(Quoted(input)));
-            if (used.contains(input))
-                throw FeatureError(feature.name,
-                                   BuildError::tr("it uses %1 twice.").arg(Quoted(input)));
-            used.insert(input);
-        }
+        CheckInputs(*this, feature, earlier);
         earlier.insert(feature.name);
     }
 }

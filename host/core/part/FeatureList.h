@@ -8,7 +8,7 @@
 
 /// The history of a part: features in the order in which they are built. A plain value.
 ///
-/// The changes below keep no order and need no valid list; Check() tells what is wrong.
+/// Changes do not check the list; Check() reports what is wrong with it.
 class FeatureList
 {
 public:
@@ -21,25 +21,25 @@ public:
 
     /// The place of the feature called @p name, or -1.
     int Find(const QString& name) const;
-    /// Whether another feature uses @p name.
+    /// The names of the features that use @p name.
     QStringList UsersOf(const QString& name) const;
-    /// @p stem if no feature is called so, otherwise @p stem with the next free number.
+    /// @p stem if no feature has this name, otherwise @p stem with the next free number.
     QString UniqueName(const QString& stem) const;
 
     void Append(const Feature& feature) { Insert(Size(), feature); }
     void Insert(int index, const Feature& feature);
-    /// Where the name changes, those that use the feature use the new name.
+    /// A new name also replaces the former one in the inputs of other features.
     void Replace(int index, const Feature& feature);
     void Remove(int index);
-    /// Takes the feature at @p from out and puts it in so that it stands at @p to.
+    /// Moves the feature at @p from to the place @p to.
     void Move(int from, int to);
     void SetSuppressed(int index, bool suppressed);
 
-    /// Looks at names, numbers of inputs and fields, and whether inputs stand before their users;
-    /// the fields' texts are not evaluated. @throws FeatureError
+    /// Checks names, numbers of inputs and fields, and whether inputs precede their users; does not
+    /// evaluate fields. @throws FeatureError
     void Check() const;
 
-    /// Reads the entry "features" of a project. @throws JsonError, also for what Check() refuses.
+    /// Reads the entry "features" of a project. @throws JsonError, also for what Check() reports
     static FeatureList FromJson(const QJsonArray& json);
     QJsonArray ToJson() const;
 

@@ -2,7 +2,7 @@
 
 #include "BuildError.h"
 #include "ExpressionEngine.h"
-#include "FeatureKinds.h"
+#include "FeatureKind.h"
 #include "GlobalParaMeterMgr.h"
 #include "JsonSection.h"
 #include "NumberTexts.h"
@@ -11,7 +11,7 @@
 
 namespace {
 
-// A text that says more than its value is shown with it.
+// Shows the text of an expression beside the label.
 QString Shown(const QString& label, const QString& text)
 {
     bool isNumber = false;
@@ -39,11 +39,11 @@ double FieldValues::Evaluate(const QString& text)
 std::vector<double> FieldValues::Of(const Feature& feature)
 {
     std::vector<double> values;
-    const std::vector<FieldKind>& fields = FeatureKinds::Of(feature.kind).fields;
+    const std::vector<FieldDefinition>& fields = feature.kind->fields;
     values.reserve(fields.size());
-    for (const FieldKind& field : fields) {
+    for (const FieldDefinition& field : fields) {
         const QString& text = feature.fields.at(int(values.size()));
-        const QString label = FeatureKinds::Label(field);
+        const QString label = field.Label();
         const double value = Evaluate(text);
         if (std::isnan(value))
             throw FeatureError(feature.name,

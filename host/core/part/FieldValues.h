@@ -6,17 +6,17 @@
 #include <string>
 #include <vector>
 
-/// The numbers behind the fields of features: the texts evaluated with the parameters.
+/// Evaluates the fields of features with the parameters.
 class FieldValues
 {
 public:
-    /// Takes the values of all Bool and Scalar parameters as GlobalParaMeterMgr holds them now.
+    /// Copies the current values of all Bool and Scalar parameters from GlobalParaMeterMgr.
     FieldValues();
 
-    /// One number per field of the feature's kind, each within its rule. @throws FeatureError
+    /// The value of each field; each is within its rule. @throws FeatureError
     std::vector<double> Of(const Feature& feature);
 
-    /// The value of a text, or NaN; ExpressionEngine::LastError() then says why.
+    /// The value of @p text, or NaN; ExpressionEngine::LastError() then has the reason.
     double Evaluate(const QString& text);
 
 private:

@@ -4,6 +4,7 @@
 #include "DialogCatalogue.h"
 #include "DialogTables.h"
 #include "DoeSession.h"
+#include "FeatureKind.h"
 #include "FeatureTree.h"
 #include "HostError.h"
 #include "KVMaterialLibrary.h"
@@ -55,7 +56,7 @@ std::unique_ptr<MainWindow> NewMainWindow(const Project& project)
     FillSampleAnalysis(window->Analysis());
     // A feature with fields, so that the dock shows them.
     for (const Feature& feature : window->Part().Features().Features()) {
-        if (feature.kind == FeatureKind::PolarArray)
+        if (feature.kind->word == QLatin1String("polarArray"))
             window->Features().Select(feature.name);
     }
     return window;

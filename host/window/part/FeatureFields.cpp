@@ -1,7 +1,7 @@
 #include "FeatureFields.h"
 
 #include "ExpressionEngine.h"
-#include "FeatureKinds.h"
+#include "FeatureKind.h"
 #include "FieldValues.h"
 #include "MessageLevel.h"
 #include "NumberTexts.h"
@@ -15,8 +15,7 @@
 
 namespace {
 
-// The rows before the fields. Where there is a file, it takes the place of the first field: an
-// import has none.
+// The rows before the fields. A file is in the row of the first field: an import has no fields.
 enum Row
 {
     NameRow,
@@ -29,10 +28,10 @@ const QColor WrongColor(Qt::red);
 struct FieldValue
 {
     QString text;
-    QString problem; // Empty when the value can be used.
+    QString problem; // Empty if the value is allowed.
 };
 
-FieldValue ValueOf(const FieldKind& field, const QString& text, FieldValues& values)
+FieldValue ValueOf(const FieldDefinition& field, const QString& text, FieldValues& values)
 {
     const double value = values.Evaluate(text);
     if (std::isnan(value))
@@ -119,7 +118,7 @@ void FeatureFields::ShowFeature(const QString& name)
 {
     if (name == m_name)
         return;
-    // What is being typed belongs to the feature that is shown still.
+    // A cell that is being edited still belongs to the former feature.
     m_table->setCurrentItem(nullptr);
     m_name = name;
     Refresh();
@@ -144,21 +143,20 @@ void FeatureFields::Refresh()
 
 void FeatureFields::ShowRows(const Feature& feature)
 {
-    const FeatureKinds::Entry& kind = FeatureKinds::Of(feature.kind);
-    const bool isImport = feature.kind == FeatureKind::StepImport;
-    m_table->setRowCount(FirstFieldRow + (isImport ? 1 : int(kind.fields.size())));
+    const FeatureKind& kind = *feature.kind;
+    m_table->setRowCount(FirstFieldRow + (kind.readsFile ? 1 : int(kind.fields.size())));
 
     ShowRow(*m_table, NameRow, tr("Name"), feature.name);
     ShowRow(*m_table, InputsRow, tr("Inputs"), feature.inputs.join(QStringLiteral(", ")));
-    if (kind.mostInputs == 0)
+    if (kind.maxInputs == 0)
         ForbidEditing(*m_table, InputsRow);
-    if (isImport)
+    if (kind.readsFile)
         ShowRow(*m_table, FirstFieldRow, tr("File"), feature.file);
     FieldValues values;
     int row = FirstFieldRow;
-    for (const FieldKind& field : kind.fields) {
+    for (const FieldDefinition& field : kind.fields) {
         const QString& text = feature.fields[row - FirstFieldRow];
-        ShowRow(*m_table, row, FeatureKinds::Label(field), text, ValueOf(field, text, values));
+        ShowRow(*m_table, row, field.Label(), text, ValueOf(field, text, values));
         ++row;
     }
 }
@@ -170,7 +168,7 @@ Feature FeatureFields::Edited(const Feature& feature, int row, const QString& te
         edited.name = text.trimmed();
     else if (row == InputsRow)
         edited.inputs = Names(text);
-    else if (feature.kind == FeatureKind::StepImport)
+    else if (feature.kind->readsFile)
         edited.file = text.trimmed();
     else
         edited.fields[row - FirstFieldRow] = text.trimmed();
@@ -185,7 +183,7 @@ void FeatureFields::TakeText(int row)
     const Feature feature = m_model.Features().At(index);
     const Feature edited = Edited(feature, row, Cell(*m_table, row, TextColumn).text());
     try {
-        // Already: the change shows this feature under its new name.
+        // Before the change, which shows the feature under its new name.
         m_name = edited.name;
         m_model.Change(feature.name, edited);
         Refresh();

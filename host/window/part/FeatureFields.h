@@ -8,9 +8,9 @@ class QTableWidget;
 
 /// Shows and edits one feature: name, inputs, and the texts of its fields with their values.
 ///
-/// A field takes any text; one without a usable value is marked and says why, and the part is not
-/// built. A name or an input that cannot be is refused in the message channel; its text stays in
-/// its cell, marked, until the feature changes or another one is shown.
+/// A field takes any text. If it has no allowed value, its cell is marked, its tool tip has the
+/// reason, and the part is not built. The message channel reports an invalid name or input; its
+/// text stays in its cell, marked, until the feature changes or another one is shown.
 class FeatureFields : public QDockWidget
 {
     Q_OBJECT
@@ -27,9 +27,9 @@ public:
     FeatureFields(PartModel& model, QWidget* parent);
     ~FeatureFields() override;
 
-    /// Shows the feature called @p name; an empty name shows none.
+    /// Shows the feature called @p name, or none for an empty name.
     void ShowFeature(const QString& name);
-    /// Puts the keyboard into the first field.
+    /// Puts the keyboard focus into the first field.
     void StartEditing();
 
 private:

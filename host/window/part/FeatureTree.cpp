@@ -1,6 +1,6 @@
 #include "FeatureTree.h"
 
-#include "FeatureKinds.h"
+#include "FeatureKind.h"
 #include "PartModel.h"
 
 #include <QAction>
@@ -12,7 +12,7 @@
 
 namespace {
 
-// "Radius = 10, Height = thickness": what the feature is made from.
+// Such as "Radius = 10, Height = thickness".
 QString FieldsText(const Feature& feature)
 {
     QStringList texts;
@@ -20,9 +20,8 @@ QString FieldsText(const Feature& feature)
         texts << FeatureTree::tr("of %1").arg(feature.inputs.join(QStringLiteral(", ")));
     if (!feature.file.isEmpty())
         texts << QFileInfo(feature.file).fileName();
-    const std::vector<FieldKind>& fields = FeatureKinds::Of(feature.kind).fields;
     for (int i = 0; i < feature.fields.size(); ++i)
-        texts << QStringLiteral("%1 = %2").arg(FeatureKinds::Label(fields[std::size_t(i)]),
+        texts << QStringLiteral("%1 = %2").arg(feature.kind->fields[std::size_t(i)].Label(),
                                                feature.fields[i]);
     return texts.join(QStringLiteral(", "));
 }
@@ -75,7 +74,7 @@ void FeatureTree::Refresh()
     const FeatureList& features = m_model.Features();
     const bool sameSize = features.Size() == m_tree->topLevelItemCount();
     const QSignalBlocker silent(m_tree);
-    // Rows are used again: the list keeps its place and the keyboard its row.
+    // Rows are reused, so that the scroll position and the current row stay.
     while (m_tree->topLevelItemCount() > features.Size())
         delete m_tree->takeTopLevelItem(m_tree->topLevelItemCount() - 1);
     while (m_tree->topLevelItemCount() < features.Size())
@@ -90,7 +89,7 @@ void FeatureTree::Refresh()
         const Feature& feature = features.At(row);
         QTreeWidgetItem& item = *m_tree->topLevelItem(row);
         const QString former = item.text(NameColumn);
-        // A name that is gone from a list of the same length was changed.
+        // A name that is missing in a list of the same length was changed.
         if (sameSize && m_selected.contains(former) && features.Find(former) < 0)
             selected << feature.name;
         ShowFeature(item, feature);
@@ -107,7 +106,7 @@ void FeatureTree::ShowFeature(QTreeWidgetItem& item, const Feature& feature) con
     const bool hasFailed = feature.name == m_model.FailedFeature();
     const QString fields = FieldsText(feature);
     item.setText(NameColumn, feature.name);
-    item.setText(KindColumn, FeatureKinds::Title(feature.kind));
+    item.setText(KindColumn, feature.kind->Title());
     item.setText(FieldsColumn, fields);
     item.setToolTip(NameColumn, hasFailed ? m_model.Failure() : QString());
     item.setToolTip(FieldsColumn, fields);

@@ -9,8 +9,8 @@ class QTreeWidgetItem;
 
 /// Lists the features of the part in the order in which they are built.
 ///
-/// A suppressed feature is struck out; the one that failed has a warning sign and says why. Several
-/// can be selected.
+/// A suppressed feature is struck out. A failed one has a warning icon, and a tool tip with the
+/// reason. Several features can be selected.
 class FeatureTree : public QDockWidget
 {
     Q_OBJECT
@@ -29,10 +29,10 @@ public:
 
     /// The names of the selected features, in the order in which they were selected.
     const QStringList& Selected() const { return m_selected; }
-    /// Selects the feature called @p name alone.
+    /// Selects only the feature called @p name.
     void Select(const QString& name);
 
-    /// Puts @p actions into the list's context menu and their shortcuts where they act on the list.
+    /// Adds @p actions to the context menu; their shortcuts work while the list has the focus.
     void OfferActions(const QList<QAction*>& actions);
 
 Q_SIGNALS:

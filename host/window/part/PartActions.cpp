@@ -1,5 +1,6 @@
 #include "PartActions.h"
 
+#include "FeatureDialog.h"
 #include "FeatureFields.h"
 #include "FeatureKinds.h"
 #include "FeatureTree.h"
@@ -20,7 +21,7 @@
 
 namespace {
 
-// Far finer than a face is looked for, and without the rests of the picking's arithmetic.
+// Far below the tolerance of finding a face, and above the rounding errors of picking.
 QString CoordinateText(double coordinate)
 {
     constexpr double Step = 1e-6;
@@ -33,7 +34,7 @@ QString StepFilter()
     return PartActions::tr("STEP files (*.step *.stp *.STEP *.STP);;All files (*)");
 }
 
-// Where file dialogs start: that of the sample project lies within the program.
+// Where file dialogs start. The folder of the sample project is inside the program.
 QString StartFolder(const QString& folder)
 {
     return folder.startsWith(QLatin1Char(':')) ? QString() : folder;
@@ -68,7 +69,7 @@ PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fie
 
     connect(&tree, &FeatureTree::SelectionChanged, this, &PartActions::UpdateActions);
     connect(&tree, &FeatureTree::EditWanted, this, &PartActions::Edit);
-    // What waits was made for the features as they were.
+    // A waiting feature was made for the former features.
     connect(&model, &PartModel::Changed, this, &PartActions::EndPicking);
     if (m_view != nullptr) {
         connect(m_view, &PartView::FacePicked, this,
@@ -96,17 +97,15 @@ QAction* PartActions::NewAction(const QString& text, const char* name,
 void PartActions::FillMenu(QMenu& menu)
 {
     QMenu& bodies = *menu.addMenu(tr("Add &body"));
-    FillAddMenu(bodies,
-                {FeatureKind::Box, FeatureKind::Cylinder, FeatureKind::Sphere, FeatureKind::Torus,
-                 FeatureKind::Cone, FeatureKind::Wedge, FeatureKind::Polygon});
+    OfferKinds(bodies, FeatureGroup::Body);
     bodies.addSeparator();
-    bodies.addAction(NewAction(tr("&Import STEP"), "action_ImportStep", [this] { ImportStep(); }));
+    bodies.addAction(NewAction(tr("&Import STEP"), "action_ImportStep",
+                               [this] { Add(*FeatureKinds::Find(QStringLiteral("import"))); }));
     QMenu& transforms = *menu.addMenu(tr("&Transform"));
-    FillAddMenu(transforms, {FeatureKind::Move, FeatureKind::Rotate, FeatureKind::MirrorAxis});
+    OfferKinds(transforms, FeatureGroup::Transform);
     transforms.addSeparator();
-    FillAddMenu(transforms, {FeatureKind::PolarArray, FeatureKind::RectangularArray});
-    FillAddMenu(*menu.addMenu(tr("&Combine")),
-                {FeatureKind::Fuse, FeatureKind::Cut, FeatureKind::Fillet});
+    OfferKinds(transforms, FeatureGroup::Array);
+    OfferKinds(*menu.addMenu(tr("&Combine")), FeatureGroup::Combination);
     menu.addSeparator();
     menu.addActions({m_edit, m_up, m_down, m_suppress, m_delete});
     menu.addSeparator();
@@ -115,7 +114,7 @@ void PartActions::FillMenu(QMenu& menu)
     undo->setShortcut(QKeySequence::Undo);
     QAction* const redo = m_model.UndoStack().createRedoAction(this, tr("&Redo"));
     redo->setObjectName(QStringLiteral("action_Redo"));
-    // The two that desktops have for it, whichever this is.
+    // Both that desktops use.
     redo->setShortcuts(
         {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
     menu.addActions({undo, redo});
@@ -123,15 +122,23 @@ void PartActions::FillMenu(QMenu& menu)
     menu.addAction(m_export);
 }
 
-void PartActions::FillAddMenu(QMenu& menu, const QList<FeatureKind>& kinds)
+void PartActions::OfferKinds(QMenu& menu, FeatureGroup group)
 {
-    for (const FeatureKind kind : kinds) {
-        // One dialog asks for the three mirrors.
-        const bool isMirror = kind == FeatureKind::MirrorAxis;
-        const QString title = isMirror ? tr("Mirror") : FeatureKinds::Title(kind);
-        const QString word = isMirror ? QStringLiteral("mirror") : FeatureKinds::Of(kind).word;
-        const QByteArray name = QStringLiteral("action_Add_%1").arg(word).toLatin1();
-        menu.addAction(NewAction(title, name.constData(), [this, kind] { Add(kind); }));
+    for (const FeatureKind& kind : FeatureKinds::All()) {
+        if (kind.group != group)
+            continue;
+        QLatin1String name = kind.word;
+        QString title = kind.Title();
+        const FeatureDialog* const dialog = FeatureDialogs::Find(kind);
+        if (dialog != nullptr && dialog->kinds.size() > 1) {
+            // One action for all of them: the user chooses in the dialog.
+            if (kind.word != dialog->kinds.front())
+                continue;
+            name = dialog->name;
+            title = tr(dialog->title);
+        }
+        const QByteArray objectName = QByteArrayLiteral("action_Add_") + name.data();
+        menu.addAction(NewAction(title, objectName.constData(), [this, &kind] { Add(kind); }));
     }
 }
 
@@ -159,55 +166,61 @@ void PartActions::Try(const std::function<void()>& change)
     }
 }
 
-void PartActions::Add(FeatureKind kind)
+void PartActions::Add(const FeatureKind& kind)
 {
     EndPicking();
-    Try([this, kind] {
-        Feature feature = FeatureKinds::MakeFeature(kind);
+    Try([this, &kind] {
+        Feature feature(kind);
         feature.inputs = InputsFor(kind);
-        const std::optional<Feature> asked = m_dialogs.AskNew(feature);
-        if (!asked.has_value())
-            return;
-        if (asked->kind == FeatureKind::MirrorFace && m_view != nullptr)
-            PickFaceFor(*asked);
-        else
-            AddNamed(*asked);
+        if (const std::optional<Feature> asked = Asked(feature, true)) {
+            if (asked->kind->isAtFace && m_view != nullptr)
+                PickFaceFor(*asked);
+            else
+                AddNamed(*asked);
+        }
     });
 }
 
-QStringList PartActions::InputsFor(FeatureKind kind) const
+std::optional<Feature> PartActions::Asked(const Feature& feature, bool isNew)
 {
-    const FeatureKinds::Entry& entry = FeatureKinds::Of(kind);
-    if (entry.mostInputs == 0)
+    if (!feature.kind->readsFile)
+        return isNew ? m_dialogs.AskNew(feature) : m_dialogs.AskChanges(feature);
+    Feature asked = feature;
+    asked.file = AskForStepFile();
+    return asked.file.isEmpty() ? std::nullopt : std::make_optional(asked);
+}
+
+QStringList PartActions::InputsFor(const FeatureKind& kind) const
+{
+    if (kind.maxInputs == 0)
         return {};
     QStringList inputs = m_tree.Selected();
-    if (entry.mostInputs != FeatureKinds::AnyNumber && inputs.size() > entry.mostInputs)
+    if (kind.maxInputs != FeatureKind::Unlimited && inputs.size() > kind.maxInputs)
         throw ModellingError(tr("%1 takes one body, but %2 features are selected")
-                                 .arg(FeatureKinds::Title(kind))
+                                 .arg(kind.Title())
                                  .arg(inputs.size()));
-    // Where too few are selected: the last bodies of the part, a selected one before them.
+    // If too few are selected, the last bodies of the part are inserted after them.
     const int first = inputs.size();
     QStringList bodies = m_model.Bodies();
-    while (inputs.size() < entry.leastInputs && !bodies.isEmpty()) {
+    while (inputs.size() < kind.minInputs && !bodies.isEmpty()) {
         const QString body = bodies.takeLast();
         if (!inputs.contains(body))
             inputs.insert(first, body);
     }
-    if (inputs.size() < entry.leastInputs) {
-        const QString title = FeatureKinds::Title(kind);
-        throw ModellingError(entry.leastInputs == 1
-                                 ? tr("%1 needs a body, and there is none").arg(title)
-                                 : tr("%1 needs two bodies, and there are too few").arg(title));
-    }
+    if (inputs.size() < kind.minInputs)
+        throw ModellingError(
+            kind.minInputs == 1
+                ? tr("%1 needs a body, but there is none").arg(kind.Title())
+                : tr("%1 needs two bodies, but there are not enough").arg(kind.Title()));
     return inputs;
 }
 
 void PartActions::AddNamed(Feature feature)
 {
-    feature.name = m_model.Features().UniqueName(FeatureKinds::Of(feature.kind).word);
+    feature.name = m_model.Features().UniqueName(feature.kind->word);
     m_model.Add(feature);
     m_tree.Select(feature.name);
-    if (feature.kind == FeatureKind::MirrorFace && m_view == nullptr) {
+    if (feature.kind->isAtFace && m_view == nullptr) {
         PostMessageToChannel(WarningLevel, tr("There is no 3D view to pick a face in: type a point "
                                               "on the face into the fields of %1")
                                                .arg(Quoted(feature.name)));
@@ -222,17 +235,16 @@ void PartActions::Edit()
     EndPicking();
     const Feature feature =
         m_model.Features().At(m_model.Features().Find(m_tree.Selected().first()));
-    if (feature.kind == FeatureKind::StepImport)
-        ChooseFileOf(feature);
-    else if (!FeatureDialogs::HasDialogFor(feature.kind))
+    const FeatureKind& kind = *feature.kind;
+    if (!kind.readsFile && FeatureDialogs::Find(kind) == nullptr)
         m_fields.StartEditing();
-    else if (const std::optional<Feature> changed = m_dialogs.AskChanges(feature))
+    else if (const std::optional<Feature> changed = Asked(feature, false))
         Apply(*changed);
 }
 
 void PartActions::Apply(const Feature& feature)
 {
-    if (feature.kind == FeatureKind::MirrorFace && m_view != nullptr)
+    if (feature.kind->isAtFace && m_view != nullptr)
         PickFaceFor(feature);
     else
         Try([this, &feature] { m_model.Change(feature.name, feature); });
@@ -240,9 +252,10 @@ void PartActions::Apply(const Feature& feature)
 
 void PartActions::PickFaceFor(const Feature& feature)
 {
-    PostMessageToChannel(InfoLevel, tr("Click the face to mirror at, or press Escape"));
+    PostMessageToChannel(InfoLevel, tr("Click the face to mirror at, or press Escape to cancel"));
     m_waiting = feature;
-    // The face is one of the input, which the part need not show: a mirror has its image there.
+    // The face is one of the input, which the part may hide: an edited mirror shows its image
+    // there.
     const TopoDS_Shape input = m_model.ShapeOf(feature.inputs.first());
     if (!input.IsNull())
         m_view->ShowShape(input);
@@ -297,26 +310,10 @@ QString PartActions::AskForStepFile()
     const QString path = QFileDialog::getOpenFileName(m_window, tr("Import STEP"),
                                                       StartFolder(m_model.Folder()), StepFilter());
     const QString fromFolder = QDir(m_model.Folder()).relativeFilePath(path);
-    // Files beside the project move with it.
+    // A file beside the project stays valid when the folder is moved.
     const bool isBeside = !m_model.Folder().isEmpty() && !path.isEmpty() &&
                           !fromFolder.startsWith(QStringLiteral(".."));
     return isBeside ? fromFolder : path;
-}
-
-void PartActions::ImportStep()
-{
-    Feature feature = FeatureKinds::MakeFeature(FeatureKind::StepImport);
-    feature.file = AskForStepFile();
-    if (!feature.file.isEmpty())
-        Try([this, &feature] { AddNamed(feature); });
-}
-
-void PartActions::ChooseFileOf(const Feature& feature)
-{
-    Feature changed = feature;
-    changed.file = AskForStepFile();
-    if (!changed.file.isEmpty())
-        Apply(changed);
 }
 
 void PartActions::ExportStep()

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Feature.h"
 #include "FeatureDialogs.h"
+#include "FeatureKind.h"
 
 #include <QObject>
 #include <gp_Pnt.hxx>
@@ -16,10 +16,10 @@ class PartModel;
 class QAction;
 class QMenu;
 
-/// What the menu "Model" does: adds, changes and deletes features, takes changes back, and reads
-/// and writes STEP files.
+/// The actions of the menu "Model": adding, changing and deleting features, undo, import and export
+/// of STEP files.
 ///
-/// What cannot be done is told in the message channel, and nothing is changed then.
+/// The message channel reports an action that fails; it then changes nothing.
 class PartActions : public QObject
 {
     Q_OBJECT
@@ -33,20 +33,22 @@ public:
 
     void FillMenu(QMenu& menu);
 
-    /// Where a mirror waits for its face: the face is the one through @p point.
+    /// If a feature waits for its face, takes the face through @p point.
     void TakePoint(const gp_Pnt& point);
 
 private:
     QAction* NewAction(const QString& text, const char* name, const std::function<void()>& run);
-    void FillAddMenu(QMenu& menu, const QList<FeatureKind>& kinds);
+    void OfferKinds(QMenu& menu, FeatureGroup group);
     void UpdateActions();
 
-    /// Does @p change; tells why where it is refused.
+    /// Calls @p change, and reports why it was rejected.
     void Try(const std::function<void()>& change);
 
-    void Add(FeatureKind kind);
+    void Add(const FeatureKind& kind);
     /// The selected bodies, or the last ones of the part. @throws ModellingError
-    QStringList InputsFor(FeatureKind kind) const;
+    QStringList InputsFor(const FeatureKind& kind) const;
+    /// What the dialogs of its kind make of @p feature; nothing if the user cancels.
+    std::optional<Feature> Asked(const Feature& feature, bool isNew);
     void AddNamed(Feature feature);
     void Edit();
     void Apply(const Feature& feature);
@@ -57,18 +59,16 @@ private:
     void SuppressSelected();
     void DeleteSelected();
 
-    void ImportStep();
-    void ChooseFileOf(const Feature& feature);
     QString AskForStepFile();
     void ExportStep();
 
     PartModel& m_model;
     FeatureTree& m_tree;
     FeatureFields& m_fields;
-    PartView* m_view; // Null where there is none, or none any more.
+    PartView* m_view; // Null if there is none, or if it has failed.
     QWidget* m_window;
     FeatureDialogs m_dialogs;
-    std::optional<Feature> m_waiting; // For a face; without a name while it is new.
+    std::optional<Feature> m_waiting; // For its face; without a name if it is new.
 
     QAction* m_edit;
     QAction* m_up;

@@ -1,12 +1,12 @@
 #include "PartModel.h"
 
 #include "BuildError.h"
-#include "FeatureKinds.h"
+#include "FeatureKind.h"
 #include "JsonSection.h"
 
 #include <Standard_Failure.hxx>
 
-/// One change, as the whole list before and after: a list is small, and nothing can be forgotten.
+/// One change, as the whole list before and after: a list is small, and no detail is lost.
 class PartModel::ChangeCommand : public QUndoCommand
 {
 public:
@@ -43,6 +43,17 @@ int Find(const FeatureList& features, const QString& name)
     if (index < 0)
         throw ModellingError(PartModel::tr("There is no feature %1").arg(Quoted(name)));
     return index;
+}
+
+// Names are typed in lists of inputs, separated by commas.
+void CheckNewName(const QString& name)
+{
+    if (name.contains(QLatin1Char(',')))
+        throw ModellingError(
+            PartModel::tr("%1 is not a valid name: it contains a comma").arg(Quoted(name)));
+    if (name != name.trimmed())
+        throw ModellingError(PartModel::tr("%1 is not a valid name: it begins or ends with a blank")
+                                 .arg(Quoted(name)));
 }
 
 } // namespace
@@ -131,17 +142,13 @@ void PartModel::Add(const Feature& feature)
 {
     FeatureList features = m_features;
     features.Append(feature);
-    const QString kind = FeatureKinds::Title(feature.kind);
-    Push(features, tr("Add %1 %2").arg(kind, Quoted(feature.name)));
+    Push(features, tr("Add %1 %2").arg(feature.kind->Title(), Quoted(feature.name)));
 }
 
 void PartModel::Change(const QString& name, const Feature& feature)
 {
-    // Such a new name could not be told in a list of inputs.
-    if (feature.name != name &&
-        (feature.name.contains(QLatin1Char(',')) || feature.name != feature.name.trimmed()))
-        throw ModellingError(tr("%1 is no name: it has a comma, or a blank at its start or end")
-                                 .arg(Quoted(feature.name)));
+    if (feature.name != name)
+        CheckNewName(feature.name);
     FeatureList features = m_features;
     features.Replace(Find(features, name), feature);
     Push(features, name == feature.name
@@ -159,7 +166,7 @@ void PartModel::Move(const QString& name, int steps)
         Push(features,
              steps < 0 ? tr("Move %1 up").arg(Quoted(name)) : tr("Move %1 down").arg(Quoted(name)));
     } catch (const ModellingError& error) {
-        throw ModellingError(tr("%1 stays where it is. %2").arg(Quoted(name), error.Reason()));
+        throw ModellingError(tr("Cannot move %1. %2").arg(Quoted(name), error.Reason()));
     }
 }
 
@@ -184,7 +191,7 @@ void PartModel::Remove(const QStringList& names)
         }
         if (!users.isEmpty())
             throw ModellingError(
-                tr("%1 stays: it is used by %2").arg(Quoted(name), QuotedNames(users)));
+                tr("Cannot delete %1: it is used by %2").arg(Quoted(name), QuotedNames(users)));
         features.Remove(Find(features, name));
     }
     Push(features, tr("Delete %1").arg(QuotedNames(names)));

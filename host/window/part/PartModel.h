@@ -8,17 +8,17 @@
 #include <QObject>
 #include <QUndoStack>
 
-/// Why a change of the features is refused: one line.
+/// Why a change of the features is rejected: one line.
 class ModellingError : public HostError
 {
 public:
     using HostError::HostError;
 };
 
-/// The part of the open project: its features, what they built last, and every change to take back.
+/// The part of the open project: its features, their bodies, and the changes that can be undone.
 ///
-/// Each change goes onto the undo stack and builds the part anew. A part that cannot be built
-/// leaves the last good shape where it is.
+/// Each change goes onto the undo stack and rebuilds the part. If that fails, the last valid shape
+/// stays.
 class PartModel : public QObject
 {
     Q_OBJECT
@@ -28,47 +28,47 @@ public:
     ~PartModel() override;
 
     const FeatureList& Features() const { return m_features; }
-    /// Where relative files of imports are looked for.
+    /// The folder that paths of imports are relative to.
     const QString& Folder() const { return m_folder; }
 
-    /// The last good part; null before there was one.
+    /// The last valid part; null before the first one.
     const TopoDS_Shape& Shape() const { return m_part.shape; }
-    /// What the feature built in the last good part; null where it built nothing.
+    /// The body of @p feature in the last valid part; null if it has none.
     TopoDS_Shape ShapeOf(const QString& feature) const;
-    /// The features that no other one uses, in their order: the bodies of the part.
+    /// The features that no other feature uses, in order: the bodies of the part.
     QStringList Bodies() const;
 
-    /// Whether the last build failed, why, and which feature it was; empty where it was none.
+    /// Whether the last build failed, why, and at which feature; empty if not at a feature.
     bool HasFailed() const { return !m_failure.isEmpty(); }
     const QString& Failure() const { return m_failure; }
     const QString& FailedFeature() const { return m_failedFeature; }
 
     QUndoStack& UndoStack() { return m_undoStack; }
 
-    /// Puts another part in place of this one, without a way back, and builds it.
+    /// Replaces this part by another one and builds it. This cannot be undone.
     void Open(const FeatureList& features, const std::vector<Condition>& conditions,
               const QString& folder);
 
-    /// Builds with the parameters as they are now.
+    /// Builds with the current values of the parameters.
     void Rebuild();
 
-    /// All of them throw ModellingError, and then change nothing. Fields may have any text: one
-    /// that has no value fails the build.
+    /// If a change is rejected, it throws a ModellingError and changes nothing. Fields may have any
+    /// text; a text without a value fails the build.
     void Add(const Feature& feature);
-    /// Puts @p feature in the place of the one called @p name; a new name reaches its users.
+    /// Replaces the feature called @p name; a new name is also replaced in the inputs of others.
     void Change(const QString& name, const Feature& feature);
-    /// By @p steps: -1 is one up.
+    /// By @p steps; -1 is one up.
     void Move(const QString& name, int steps);
     void SetSuppressed(const QStringList& names, bool suppressed);
-    /// Refuses when a feature that stays uses one of them.
+    /// Rejected if another feature uses one of them.
     void Remove(const QStringList& names);
 
 Q_SIGNALS:
-    /// Features, values of their fields or the outcome of the build are others now.
+    /// The features, the values of their fields or the result of the build changed.
     void Changed();
-    /// Comes before Changed(): the part was built.
+    /// The part was built. Precedes Changed().
     void PartBuilt();
-    /// Comes before Changed(): the part could not be built. @p reason names the feature.
+    /// The part could not be built; @p reason names the feature. Precedes Changed().
     void BuildFailed(const QString& reason);
 
 private:

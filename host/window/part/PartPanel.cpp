@@ -112,7 +112,7 @@ void PartPanel::ShowFailure(const QString& reason)
 {
     const QString shown = m_builtAt.isEmpty()
                               ? tr("There is no earlier shape.")
-                              : tr("Shown is the last good shape, built at %1.").arg(m_builtAt);
+                              : tr("Showing the last valid shape, built at %1.").arg(m_builtAt);
     m_status->setText(tr("Not built: %1\n%2").arg(reason, shown));
 }
 

@@ -23,7 +23,7 @@ public:
     /// Shows a shape that was just built; @p density is in kg/m3.
     void ShowShape(const TopoDS_Shape& shape, double density);
 
-    /// Says why the last build failed. What is shown of the last good shape stays.
+    /// Shows why the last build failed. The last valid shape and its measures stay.
     void ShowFailure(const QString& reason);
 
     /// Shows that there is no shape.
@@ -47,5 +47,5 @@ private:
     QLabel* m_mass;
     QLabel* m_size;
     QLabel* m_position;
-    QString m_builtAt; // The time of the last good shape; empty when there is none.
+    QString m_builtAt; // The time of the last valid shape; empty if there is none.
 };

@@ -89,7 +89,7 @@ QString TryOpenGl()
     const QuietConsole quiet;
     QOpenGLContext context;
     if (!context.create())
-        return PartView::tr("the system offers no OpenGL");
+        return PartView::tr("the system does not provide OpenGL");
     try {
         const PartScene scene(context, [] {});
     } catch (const Standard_Failure& failure) {

@@ -68,7 +68,7 @@ void PositionDock::Enter()
         if (!isNumber || !(std::abs(value) <= GreatestCoordinate)) {
             PostMessageToChannel(
                 ErrorLevel,
-                tr("Position: %1 is \"%2\", which is no number from %3 to %4")
+                tr("Position: %1 is \"%2\", not a number from %3 to %4")
                     .arg(QLatin1Char("xyz"[i]))
                     .arg(text, ShortText(-GreatestCoordinate), ShortText(GreatestCoordinate)));
             m_fields[i]->setFocus();

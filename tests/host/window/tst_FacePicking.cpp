@@ -49,7 +49,7 @@ public:
         if (!QTest::qWaitForWindowActive(&window))
             qFatal("The window does not become active");
         view = &Find<PartView>(window, "modelView");
-        window.Part().Add(NewFeature("cube", FeatureKind::Box));
+        window.Part().Add(NewFeature("cube", "box"));
         Trigger("action_RightView");
         view->grab();
     }
@@ -111,7 +111,7 @@ void tst_FacePicking::AClickNamesTheFaceOfTheMirror()
     OpenWindow open;
     open.AskForFace("action_Add_mirror");
     open.ClickInTheMiddle();
-    QCOMPARE(open.Last().kind, FeatureKind::MirrorFace);
+    QCOMPARE(open.Last().kind, &KindOf("mirrorFace"));
     QCOMPARE(open.Last().inputs, QStringList("cube"));
     QCOMPARE(FieldText(open.Last(), "x"), QString("10"));
     // A pixel is less than a tenth of a millimetre.
@@ -128,8 +128,8 @@ void tst_FacePicking::AClickNamesTheFaceOfTheMirror()
 void tst_FacePicking::AnEditedMirrorShowsItsInputToPickFrom()
 {
     OpenWindow open;
-    open.window.Part().Add(NewFeature("twin", FeatureKind::MirrorFace, {"cube"},
-                                      {{"x", "10"}, {"y", "5"}, {"z", "5"}}));
+    open.window.Part().Add(
+        NewFeature("twin", "mirrorFace", {"cube"}, {{"x", "10"}, {"y", "5"}, {"z", "5"}}));
     QCOMPARE(open.Extent(), QList<int>({10, 20}));
     open.window.Features().Select("twin");
     open.Trigger("action_LeftView");
@@ -144,8 +144,8 @@ void tst_FacePicking::AnEditedMirrorShowsItsInputToPickFrom()
 void tst_FacePicking::AFaceOfAnotherBodyIsNotInTheWay()
 {
     OpenWindow open;
-    open.window.Part().Add(NewFeature("screen", FeatureKind::Box));
-    open.window.Part().Add(NewFeature("before", FeatureKind::Move, {"screen"}, {{"dx", "30"}}));
+    open.window.Part().Add(NewFeature("screen", "box"));
+    open.window.Part().Add(NewFeature("before", "move", {"screen"}, {{"dx", "30"}}));
     open.window.Features().Select("cube");
     open.AskForFace("action_Add_mirror");
     open.ClickInTheMiddle();
@@ -156,8 +156,8 @@ void tst_FacePicking::AFaceOfAnotherBodyIsNotInTheWay()
 void tst_FacePicking::EscapeBringsThePartBack()
 {
     OpenWindow open;
-    open.window.Part().Add(NewFeature("high", FeatureKind::Box));
-    open.window.Part().Add(NewFeature("moved", FeatureKind::Move, {"high"}, {{"dz", "12"}}));
+    open.window.Part().Add(NewFeature("high", "box"));
+    open.window.Part().Add(NewFeature("moved", "move", {"high"}, {{"dz", "12"}}));
     open.window.Features().Select("cube");
     open.Trigger("action_RightView");
     const QImage before = open.view->grab().toImage();

@@ -125,7 +125,7 @@ void tst_MainWindowParameters::AFailedBuildIsReportedOnceAndKeepsTheLastShape()
     QVERIFY2(errors[0].size() > 30, qPrintable(errors[0]));
 
     QVERIFY(open.Shown("label_Status").startsWith("Not built: "));
-    QVERIFY(open.Shown("label_Status").contains("last good shape"));
+    QVERIFY(open.Shown("label_Status").contains("last valid shape"));
     QCOMPARE(open.Shown("label_Volume"), volume);
     QCOMPARE(open.Shown("label_BoundingBox"), box);
     const auto& overview = Find<QTableWidget>(open.window, "parameterTable");

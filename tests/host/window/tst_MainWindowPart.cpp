@@ -71,7 +71,7 @@ void tst_MainWindowPart::DeletingAUsedFeatureIsRefused()
     open.SelectFeature("plate");
     tree.setFocus();
     QTest::keyClick(&tree, Qt::Key_Delete);
-    QCOMPARE(posted.At(ErrorLevel), QStringList("\"plate\" stays: it is used by \"body\""));
+    QCOMPARE(posted.At(ErrorLevel), QStringList("Cannot delete \"plate\": it is used by \"body\""));
     QCOMPARE(tree.topLevelItemCount(), count);
     // The last one is used by none.
     open.SelectFeature("flange");
@@ -101,7 +101,7 @@ void tst_MainWindowPart::AFailedRebuildMarksTheFeatureAndKeepsTheShape()
     const QStringList errors = posted.At(ErrorLevel);
     QCOMPARE(errors.size(), 1);
     QVERIFY2(errors[0].startsWith("The part cannot be built: flange: "), qPrintable(errors[0]));
-    QVERIFY(open.Shown("label_Status").contains("last good shape"));
+    QVERIFY(open.Shown("label_Status").contains("last valid shape"));
     QCOMPARE(open.Shown("label_Mass"), mass);
     const auto& tree = Find<QTreeWidget>(open.window, "featureTree");
     QVERIFY(!tree.selectedItems()[0]->icon(0).isNull());

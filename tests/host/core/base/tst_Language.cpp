@@ -1,11 +1,11 @@
 #include "ExternalSolverOption.h"
-#include "FeatureKinds.h"
 #include "FeatureList.h"
 #include "FieldValues.h"
 #include "HostApplication.h"
 #include "Language.h"
 #include "MainWindow.h"
 #include "MatrixArrayDlg.h"
+#include "NewFeature.h"
 #include "StepFile.h"
 #include "TestCase.h"
 
@@ -128,8 +128,8 @@ void tst_Language::ReasonsSpeakTheLanguage_data()
     QTest::newRow("en") << QStringList(
         {"it: Size x is 0, but has to be from 0.0001 to 1000000 mm.",
          "it: Number (\"5 / 2\") is 2.5, but has to be a whole number from 1 to 10000.",
-         "it: a feature of the kind \"box\" takes no input, but there are 1.",
-         "feature 1 has no \"name\"", "none.step: cannot be opened: No such file or directory",
+         "it: a feature of kind \"box\" takes no input, but has 1.", "feature 1 has no \"name\"",
+         "none.step: cannot be opened: No such file or directory",
          "it: Size x (\"2 * wall\") has no value: Position 5: the name 'wall' is unknown."});
     QTest::newRow("zh_CN") << QStringList(
         {"it: 尺寸 x 为 0，但必须为 0.0001 至 1000000 mm。",
@@ -142,19 +142,19 @@ void tst_Language::ReasonsSpeakTheLanguage_data()
 void tst_Language::ReasonsSpeakTheLanguage()
 {
     const Language language(QTest::currentDataTag());
-    Feature flat = FeatureKinds::MakeFeature(FeatureKind::Box);
+    Feature flat(KindOf("box"));
     flat.name = "it";
     flat.fields[0] = "0";
     Feature dangling = flat;
     dangling.fields[0] = "2 * wall";
-    Feature halves = FeatureKinds::MakeFeature(FeatureKind::PolarArray);
+    Feature halves(KindOf("polarArray"));
     halves.name = "it";
     halves.fields.last() = "5 / 2";
-    Feature user = FeatureKinds::MakeFeature(FeatureKind::Box);
+    Feature user(KindOf("box"));
     user.name = "it";
     user.inputs << "other";
     FeatureList list;
-    Feature other = FeatureKinds::MakeFeature(FeatureKind::Sphere);
+    Feature other(KindOf("sphere"));
     other.name = "other";
     list.Append(other);
     list.Append(user);

@@ -1,10 +1,10 @@
 #include "BodyFormulas.h"
 #include "EmptyDesignStores.h"
 #include "FeatureBuilder.h"
-#include "FeatureKinds.h"
 #include "FeatureList.h"
 #include "GlobalParaMeterMgr.h"
 #include "JsonSection.h"
+#include "NewFeature.h"
 #include "ParameterEvaluator.h"
 #include "Project.h"
 #include "StepFile.h"
@@ -298,7 +298,7 @@ void tst_FeatureBuilder::ArraysFollowTheirRules_data()
     polar("polar, more than a turn", "361", "4", {},
           "b: Angle is 361, but has to be from -360 to 360 degrees.");
     polar("polar, no angle", "0", "2", {},
-          "b: the instances would lie upon one another: their angle is 0 degrees.");
+          "b: the instances would coincide: the angle between them is 0 degrees.");
 
     const auto rectangular = [](const char* name, const char* numbers, const char* distances,
                                 const QVector<double>& places,
@@ -323,13 +323,13 @@ void tst_FeatureBuilder::ArraysFollowTheirRules_data()
     rectangular("rectangular, too many in y", "1 10001", "1 1", {},
                 "b: Number in y is 10001, but has to be a whole number from 1 to 10000.");
     rectangular("rectangular, too many together", "100 101", "1 1", {},
-                "b: the array would have 10100 bodies; 10000 are the most.");
+                "b: the array would have 10100 bodies (maximum 10000).");
     rectangular("rectangular, no distance in x", "2 2", "0 1", {},
-                "b: the instances would lie upon one another: their distance in x is 0 mm.");
+                "b: the instances would coincide: their distance in x is 0 mm.");
     rectangular("rectangular, no distance in y", "2 2", "1 0", {},
-                "b: the instances would lie upon one another: their distance in y is 0 mm.");
+                "b: the instances would coincide: their distance in y is 0 mm.");
     rectangular("rectangular, too far", "101 1", "10001 1", {},
-                "b: the array would reach farther than 1000000 mm in x.");
+                "b: the array would extend more than 1000000 mm in x.");
 }
 
 void tst_FeatureBuilder::ArraysFollowTheirRules()
@@ -385,8 +385,7 @@ void tst_FeatureBuilder::ALargeArraySharesItsBody()
     again.name = "c";
     again.inputs = QStringList("b");
     more.Append(again);
-    QCOMPARE(Reason(more),
-             QString("c: the array would have 100000000 bodies; 10000 are the most."));
+    QCOMPARE(Reason(more), QString("c: the array would have 100000000 bodies (maximum 10000)."));
 }
 
 void tst_FeatureBuilder::OverlappingInstancesAreFusedAndCutRight()
@@ -446,9 +445,9 @@ void tst_FeatureBuilder::SuppressedFeaturesStandAside_data()
     row("nothing", list("", "", "", ""), 750.0);
     row("the cut", list("", "", "", off), 1000.0);
     row("the move of the tool", list("", "", off, ""), 500.0);
-    row("the tool", list("", off, "", ""), 0.0, "c: it uses \"b\", which is suppressed.");
+    row("the tool", list("", off, "", ""), 0.0, "c: its input \"b\" is suppressed.");
     row("the tool and its move", list("", off, off, ""), 1000.0);
-    row("the first input", list(off, "", "", ""), 0.0, "d: it uses \"a\", which is suppressed.");
+    row("the first input", list(off, "", "", ""), 0.0, "d: its input \"a\" is suppressed.");
     row("the first input and the cut", list(off, "", "", off), 0.0);
     row("everything", list(off, off, off, off), 0.0);
     row("what could not be built",
@@ -474,32 +473,29 @@ void tst_FeatureBuilder::SuppressedFeaturesStandAside()
 
 void tst_FeatureBuilder::EveryNumericFieldTakesAnExpression_data()
 {
-    QTest::addColumn<int>("kind");
+    QTest::addColumn<QByteArray>("kind");
     QTest::addColumn<int>("field");
-    for (const FeatureKinds::Entry& entry : FeatureKinds::All()) {
-        for (const FieldKind& field : entry.fields) {
-            const int index = int(&field - entry.fields.data());
-            QTest::addRow("%s, %s", entry.word.data(), field.key.data())
-                << int(entry.kind) << index;
-        }
+    for (const FeatureKind& kind : FeatureKinds::All()) {
+        for (std::size_t field = 0; field < kind.fields.size(); ++field)
+            QTest::addRow("%s, %s", kind.word.data(), kind.fields[field].key.data())
+                << QByteArray(kind.word.data()) << int(field);
     }
 }
 
 // A list that ends with a feature of this kind, which can be built.
-static FeatureList ListWith(FeatureKind kind)
+static FeatureList ListWith(const FeatureKind& kind)
 {
     FeatureList list;
-    Feature feature = FeatureKinds::MakeFeature(kind);
+    Feature feature(kind);
     feature.name = "feature";
-    for (int input = 0; input < FeatureKinds::Of(kind).leastInputs; ++input) {
-        Feature box = FeatureKinds::MakeFeature(FeatureKind::Box);
-        box.name = QString("box %1").arg(input);
+    for (int input = 0; input < kind.minInputs; ++input) {
+        const Feature box = NewFeature(QString("box %1").arg(input), "box");
         list.Append(box);
         feature.inputs << box.name;
     }
-    if (kind == FeatureKind::MirrorFace)
+    if (kind.isAtFace)
         feature.fields = QStringList({"4", "3", "10"});
-    if (kind == FeatureKind::Fillet)
+    if (kind.word == QLatin1String("fillet"))
         feature.fields = QStringList({"2", "0", "10", "5"});
     list.Append(feature);
     return list;
@@ -508,9 +504,9 @@ static FeatureList ListWith(FeatureKind kind)
 void tst_FeatureBuilder::EveryNumericFieldTakesAnExpression()
 {
     const EmptyDesignStores stores;
-    QFETCH(int, kind);
+    QFETCH(QByteArray, kind);
     QFETCH(int, field);
-    const FeatureList plain = ListWith(FeatureKind(kind));
+    const FeatureList plain = ListWith(KindOf(kind));
     const int last = plain.Size() - 1;
     Feature feature = plain.At(last);
     StoreScalar("p", feature.fields[field].toDouble() - 1.0);
@@ -526,7 +522,7 @@ void tst_FeatureBuilder::EveryNumericFieldTakesAnExpression()
     // And it is this field that the expression is for.
     feature.fields[field] = "p + nothing";
     list.Replace(last, feature);
-    const FieldKind& entry = FeatureKinds::Of(FeatureKind(kind)).fields[std::size_t(field)];
+    const FieldDefinition& entry = KindOf(kind).fields[std::size_t(field)];
     QCOMPARE(Reason(list), QString("feature: %1 (\"p + nothing\") has no value: Position 5: the "
                                    "name 'nothing' is unknown.")
                                .arg(entry.label));
@@ -565,6 +561,9 @@ void tst_FeatureBuilder::ImportedBodiesAreUsedLikeOthers()
     }
 }
 
+const std::array<const char*, 7> Primitives = {"box",  "cylinder", "sphere", "torus",
+                                               "cone", "wedge",    "polygon"};
+
 // A list of primitives, placed at random and then combined.
 static FeatureList RandomList(unsigned seed)
 {
@@ -577,8 +576,8 @@ static FeatureList RandomList(unsigned seed)
     };
     FeatureList list;
     QStringList loose;
-    const auto add = [&](FeatureKind kind, const QStringList& inputs) -> Feature {
-        Feature feature = FeatureKinds::MakeFeature(kind);
+    const auto add = [&](const char* kind, const QStringList& inputs) -> Feature {
+        Feature feature(KindOf(kind));
         feature.name = QString("f%1").arg(list.Size());
         feature.inputs = inputs;
         for (const QString& input : inputs)
@@ -588,25 +587,25 @@ static FeatureList RandomList(unsigned seed)
     };
     const int primitives = 2 + int(random() % 2);
     for (int i = 0; i < primitives; ++i) {
-        Feature feature = add(FeatureKind(random() % 7), {});
-        const bool isTorus = feature.kind == FeatureKind::Torus;
-        if (feature.kind == FeatureKind::Box)
+        Feature feature = add(Primitives[random() % Primitives.size()], {});
+        const bool isTorus = feature.kind == &KindOf("torus");
+        if (feature.kind == &KindOf("box"))
             feature.fields = QStringList({text(5, 20), text(5, 20), text(5, 20)});
         else
-            feature.fields[1] = feature.kind == FeatureKind::Sphere ? text(-90, 0) : text(1, 9);
+            feature.fields[1] = feature.kind == &KindOf("sphere") ? text(-90, 0) : text(1, 9);
         list.Append(feature);
-        feature = add(FeatureKind::Move, {feature.name});
+        feature = add("move", {feature.name});
         feature.fields = QStringList({text(-8, 8), text(-8, 8), text(-8, 8)});
         list.Append(feature);
         if (random() % 2 == 0) {
             const bool turn = random() % 2 == 0;
-            feature = add(turn ? FeatureKind::Rotate : FeatureKind::MirrorPoint, {feature.name});
+            feature = add(turn ? "rotate" : "mirrorPoint", {feature.name});
             if (turn)
                 feature.fields[6] = text(-180, 180);
             list.Append(feature);
         }
         if (random() % 4 == 0) {
-            feature = add(FeatureKind::PolarArray, {feature.name});
+            feature = add("polarArray", {feature.name});
             feature.fields[7] = QString::number(2 + random() % 3);
             list.Append(feature);
         }
@@ -615,8 +614,7 @@ static FeatureList RandomList(unsigned seed)
             loose.removeLast();
     }
     while (loose.size() > 1 && random() % 5 != 0) {
-        Feature feature =
-            add(random() % 2 == 0 ? FeatureKind::Fuse : FeatureKind::Cut, {loose[0], loose[1]});
+        Feature feature = add(random() % 2 == 0 ? "fuse" : "cut", {loose[0], loose[1]});
         feature.suppressed = random() % 6 == 0;
         list.Append(feature);
     }

@@ -1,6 +1,6 @@
 #include "BodyFormulas.h"
 #include "EmptyDesignStores.h"
-#include "FeatureKinds.h"
+#include "NewFeature.h"
 #include "TestCase.h"
 
 class tst_FeatureBuilderFailures : public TestCase
@@ -24,7 +24,7 @@ void tst_FeatureBuilderFailures::TooManyBodiesInOneCutAreRefused()
         const QByteArray combined = QByteArray(R"({"name": "d", "kind": ")") + kind + "\", ";
         QCOMPARE(Reason(List(tools + R"(, {"name": "c", "kind": "sphere"}, )" + combined +
                              R"("inputs": ["c", "b"]})")),
-                 QString("d: 501 bodies would have to be combined; 500 are the most."));
+                 QString("d: too many bodies to combine: 501 (maximum 500)."));
     }
 }
 
@@ -32,16 +32,15 @@ void tst_FeatureBuilderFailures::TooManyBodiesInAllAreRefused()
 {
     const EmptyDesignStores stores;
     FeatureList list = List(A10);
-    Feature array = FeatureKinds::MakeFeature(FeatureKind::RectangularArray);
+    Feature array(KindOf("rectangularArray"));
     array.inputs = QStringList("a");
     array.fields = QStringList({"100", "100", "20", "20"});
     for (int i = 0; i < 10; ++i) {
         array.name = QString("array_%1").arg(i);
         list.Append(array);
     }
-    QCOMPARE(
-        Reason(list),
-        QString("array_9: with it, all features together would have more than 100000 bodies."));
+    QCOMPARE(Reason(list),
+             QString("array_9: this feature would exceed the limit of 100000 bodies."));
 }
 
 void tst_FeatureBuilderFailures::WhatCannotBeBuiltNamesFeatureAndCause_data()
@@ -124,7 +123,7 @@ void tst_FeatureBuilderFailures::WhatCannotBeBuiltNamesFeatureAndCause_data()
     on("a point beside the face, in its plane", "mirrorFace", R"("x": 50, "y": 5, "z": 30)",
        "b: there is no face at the point (50, 5, 30).");
     on("two faces there", "mirrorFace", R"("x": 5, "y": 0, "z": 0)",
-       "b: several faces meet at the point (5, 0, 0); choose a point on one of them alone.");
+       "b: several faces meet at the point (5, 0, 0); choose a point that lies on one face only.");
     row("a round face",
         R"({"name": "a", "kind": "cylinder"},
            {"name": "b", "kind": "mirrorFace", "inputs": ["a"], "fields": {"x": 10, "z": 5}})",
@@ -132,7 +131,7 @@ void tst_FeatureBuilderFailures::WhatCannotBeBuiltNamesFeatureAndCause_data()
     on("no edge there", "fillet", R"("x": 5, "y": 5, "z": 30)",
        "b: there is no edge at the point (5, 5, 30).");
     on("several edges there", "fillet", "",
-       "b: several edges meet at the point (0, 0, 0); choose a point on one of them alone.");
+       "b: several edges meet at the point (0, 0, 0); choose a point that lies on one edge only.");
     row("only a seam there",
         R"({"name": "a", "kind": "cylinder"},
            {"name": "b", "kind": "fillet", "inputs": ["a"], "fields": {"x": 10, "z": 5}})",
@@ -163,7 +162,7 @@ void tst_FeatureBuilderFailures::AFailureChangesNothing()
     BuiltPart part = FeatureBuilder::Build(good);
     const std::string before = Text(part.shape);
     FeatureList bad = good;
-    Feature sphere = FeatureKinds::MakeFeature(FeatureKind::Sphere);
+    Feature sphere(KindOf("sphere"));
     sphere.name = "b";
     sphere.fields[0] = "-size";
     bad.Append(sphere);

@@ -1,7 +1,7 @@
 #include "BuildError.h"
-#include "FeatureKinds.h"
 #include "FeatureList.h"
 #include "JsonSection.h"
+#include "NewFeature.h"
 #include "TestCase.h"
 
 #include <QJsonDocument>
@@ -41,22 +41,14 @@ static FeatureList List(const QByteArray& features)
     return FeatureList::FromJson(Json(features));
 }
 
-static Feature Named(const QString& name, FeatureKind kind, const QStringList& inputs = {})
-{
-    Feature feature = FeatureKinds::MakeFeature(kind);
-    feature.name = name;
-    feature.inputs = inputs;
-    return feature;
-}
-
 // Boxes "a" and "b", "b" moved as "c", and "a" less "c" as "d".
 static FeatureList FourFeatures()
 {
     FeatureList list;
-    list.Append(Named("a", FeatureKind::Box));
-    list.Append(Named("b", FeatureKind::Box));
-    list.Append(Named("c", FeatureKind::Move, {"b"}));
-    list.Append(Named("d", FeatureKind::Cut, {"a", "c"}));
+    list.Append(NewFeature("a", "box"));
+    list.Append(NewFeature("b", "box"));
+    list.Append(NewFeature("c", "move", {"b"}));
+    list.Append(NewFeature("d", "cut", {"a", "c"}));
     return list;
 }
 
@@ -86,7 +78,7 @@ void tst_FeatureList::AFeatureIsReadWithAllItsEntries()
            {"name": "c", "kind": "import", "file": "parts/c.step"})");
     QCOMPARE(list.Size(), 3);
     QCOMPARE(list.At(0).name, QString("板"));
-    QCOMPARE(list.At(0).kind, FeatureKind::Box);
+    QCOMPARE(list.At(0).kind, &KindOf("box"));
     QVERIFY(list.At(0).suppressed);
     QCOMPARE(list.At(0).fields, QStringList({"2.5", "2 * 宽", "10"}));
     QCOMPARE(list.At(1).inputs, QStringList("板"));
@@ -98,15 +90,15 @@ void tst_FeatureList::AFeatureIsReadWithAllItsEntries()
 void tst_FeatureList::WhatIsWrittenReadsBackTheSame()
 {
     FeatureList list;
-    for (const FeatureKinds::Entry& entry : FeatureKinds::All()) {
-        Feature feature = FeatureKinds::MakeFeature(entry.kind);
-        feature.name = QString("%1 of all").arg(entry.word);
-        for (int input = 0; input < entry.leastInputs; ++input)
+    for (const FeatureKind& kind : FeatureKinds::All()) {
+        Feature feature(kind);
+        feature.name = QString("%1 of all").arg(kind.word);
+        for (int input = 0; input < kind.minInputs; ++input)
             feature.inputs << list.At(input).name;
         for (QString& field : feature.fields)
             field += " * p";
         feature.suppressed = list.Size() % 2 == 1;
-        if (entry.kind == FeatureKind::StepImport)
+        if (kind.readsFile)
             feature.file = "a.step";
         list.Append(feature);
     }
@@ -121,7 +113,7 @@ void tst_FeatureList::NumbersAreWrittenAsNumbersAndTextsAsTheyStand()
     for (const QStringList& fields :
          {QStringList({"0.1", "1e+06", "-3"}), QStringList({" 5", "5.0", "1e400"}),
           QStringList({"nan", "", "r / 2"})}) {
-        Feature box = Named(list.UniqueName("a"), FeatureKind::Box);
+        Feature box = NewFeature(list.UniqueName("a"), "box");
         box.fields = fields;
         list.Append(box);
     }
@@ -175,7 +167,7 @@ void tst_FeatureList::BadJsonIsToldInOneLine_data()
     row("no file", R"({"name": "a", "kind": "import"})",
         "features: a: there is no file to import.");
     row("two of a name", R"({"name": "a", "kind": "box"}, {"name": "a", "kind": "box"})",
-        "features: a: two features have this name.");
+        "features: a: another feature has the same name.");
 }
 
 void tst_FeatureList::BadJsonIsToldInOneLine()
@@ -200,40 +192,38 @@ void tst_FeatureList::WhatCannotStandInAListNamesTheFeature_data()
         QTest::newRow(name) << list << QString(reason);
     };
     QTest::newRow("nothing") << FourFeatures() << "nothing is wrong";
-    with("primitive with input", Named("e", FeatureKind::Box, {"a"}),
-         "e: a feature of the kind \"box\" takes no input, but there are 1.");
-    with("move without input", Named("e", FeatureKind::Move),
-         "e: a feature of the kind \"move\" takes one input, but there are 0.");
-    with("move of two", Named("e", FeatureKind::Move, {"a", "b"}),
-         "e: a feature of the kind \"move\" takes one input, but there are 2.");
-    with("fuse of one", Named("e", FeatureKind::Fuse, {"a"}),
-         "e: a feature of the kind \"fuse\" takes at least 2 inputs, but there are 1.");
-    with("the same twice", Named("e", FeatureKind::Fuse, {"a", "a"}), "e: it uses \"a\" twice.");
-    with("unknown input", Named("e", FeatureKind::Move, {"x"}),
-         "e: it uses \"x\", which is no feature.");
-    with("itself", Named("e", FeatureKind::Move, {"e"}),
-         "e: it uses \"e\", which does not stand before it.");
-    Feature few = Named("e", FeatureKind::Box);
+    with("primitive with input", NewFeature("e", "box", {"a"}),
+         "e: a feature of kind \"box\" takes no input, but has 1.");
+    with("move without input", NewFeature("e", "move"),
+         "e: a feature of kind \"move\" takes one input, but has 0.");
+    with("move of two", NewFeature("e", "move", {"a", "b"}),
+         "e: a feature of kind \"move\" takes one input, but has 2.");
+    with("fuse of one", NewFeature("e", "fuse", {"a"}),
+         "e: a feature of kind \"fuse\" takes at least 2 inputs, but has 1.");
+    with("the same twice", NewFeature("e", "fuse", {"a", "a"}), "e: it has the input \"a\" twice.");
+    with("unknown input", NewFeature("e", "move", {"x"}), "e: its input \"x\" does not exist.");
+    with("itself", NewFeature("e", "move", {"e"}), "e: its input \"e\" is not an earlier feature.");
+    Feature few = NewFeature("e", "box");
     few.fields.removeLast();
-    with("too few fields", few, "e: a feature of the kind \"box\" has 3 fields, but there are 2.");
-    Feature file = Named("e", FeatureKind::Box);
+    with("too few fields", few, "e: a feature of kind \"box\" needs 3 fields, but has 2.");
+    Feature file = NewFeature("e", "box");
     file.file = "a.step";
-    with("file for a box", file, "e: a feature of the kind \"box\" has no file.");
+    with("file for a box", file, "e: a feature of kind \"box\" has no file.");
 
     FeatureList list = FourFeatures();
     list.Move(2, 1);
     QTest::newRow("user before its input")
-        << list << "c: it uses \"b\", which does not stand before it.";
+        << list << "c: its input \"b\" is not an earlier feature.";
     list = FourFeatures();
-    list.Replace(1, Named("b", FeatureKind::Move, {"d"}));
-    QTest::newRow("in a circle") << list << "b: it uses \"d\", which does not stand before it.";
+    list.Replace(1, NewFeature("b", "move", {"d"}));
+    QTest::newRow("in a circle") << list << "b: its input \"d\" is not an earlier feature.";
     list = FourFeatures();
     list.Remove(1);
-    QTest::newRow("removed input") << list << "c: it uses \"b\", which is no feature.";
+    QTest::newRow("removed input") << list << "c: its input \"b\" does not exist.";
     list = FeatureList();
     for (int i = 0; i <= FeatureList::MaximumSize; ++i)
-        list.Append(Named(QString::number(i), FeatureKind::Box));
-    QTest::newRow("too many") << list << "There are 1001 features; 1000 are the most.";
+        list.Append(NewFeature(QString::number(i), "box"));
+    QTest::newRow("too many") << list << "Too many features: 1001 (maximum 1000).";
 }
 
 void tst_FeatureList::WhatCannotStandInAListNamesTheFeature()
@@ -257,7 +247,7 @@ void tst_FeatureList::NewNamesAreUnique()
     FeatureList list = FourFeatures();
     QCOMPARE(list.UniqueName("e"), QString("e"));
     QCOMPARE(list.UniqueName("a"), QString("a_2"));
-    list.Append(Named("a_2", FeatureKind::Box));
+    list.Append(NewFeature("a_2", "box"));
     QCOMPARE(list.UniqueName("a"), QString("a_3"));
 }
 
@@ -293,7 +283,7 @@ void tst_FeatureList::FeaturesAreSuppressedAndRemoved()
     QVERIFY(list == FourFeatures());
     list.Remove(3);
     QCOMPARE(Names(list), QString("a b c"));
-    list.Insert(1, Named("x", FeatureKind::Sphere));
+    list.Insert(1, NewFeature("x", "sphere"));
     QCOMPARE(Names(list), QString("a x b c"));
 }
 

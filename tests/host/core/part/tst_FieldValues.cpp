@@ -1,7 +1,7 @@
 #include "BuildError.h"
 #include "EmptyDesignStores.h"
-#include "FeatureKinds.h"
 #include "FieldValues.h"
+#include "NewFeature.h"
 #include "TestCase.h"
 
 #include <cmath>
@@ -44,7 +44,7 @@ static void FillStore()
 
 static Feature BoxOf(const QString& text)
 {
-    Feature box = FeatureKinds::MakeFeature(FeatureKind::Box);
+    Feature box(KindOf("box"));
     box.name = "plate";
     box.fields[1] = text;
     return box;

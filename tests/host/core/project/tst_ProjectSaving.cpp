@@ -1,7 +1,7 @@
 #include "EmptyDesignStores.h"
-#include "FeatureKinds.h"
 #include "FullDisk.h"
 #include "GlobalParaMeterMgr.h"
+#include "NewFeature.h"
 #include "ParameterEvaluator.h"
 #include "ProjectFiles.h"
 #include "TestCase.h"
@@ -153,7 +153,7 @@ void tst_ProjectSaving::WhatCouldNotBeLoadedIsNotSaved_data()
                                << "parameter 2, \"b\", has a \"value\" that is not a number";
     QTest::newRow("no name") << "" << 1.0 << 1 << "parameter 2 has no \"name\"";
     QTest::newRow("two features of a name")
-        << "b" << 1.0 << 2 << "features: x: two features have this name.";
+        << "b" << 1.0 << 2 << "features: x: another feature has the same name.";
 }
 
 void tst_ProjectSaving::WhatCouldNotBeLoadedIsNotSaved()
@@ -172,9 +172,7 @@ void tst_ProjectSaving::WhatCouldNotBeLoadedIsNotSaved()
     GlobalParaMeterMgr::AddParameter(name, record);
     FeatureList list;
     for (int i = 0; i < features; ++i) {
-        Feature box = FeatureKinds::MakeFeature(FeatureKind::Box);
-        box.name = "x";
-        list.Append(box);
+        list.Append(NewFeature("x", "box"));
     }
     project.SetFeatures(list);
     Write("kept", "old.json");

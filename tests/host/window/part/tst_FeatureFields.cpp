@@ -40,9 +40,9 @@ struct ShownFields
     ShownFields()
     {
         FeatureList list;
-        list.Append(NewFeature("plate", FeatureKind::Box, {}, {{"x", "4 * 5"}}));
-        list.Append(NewFeature("pin", FeatureKind::Cylinder, {}, {{"radius", "2"}}));
-        list.Append(NewFeature("body", FeatureKind::Fuse, {"plate", "pin"}));
+        list.Append(NewFeature("plate", "box", {}, {{"x", "4 * 5"}}));
+        list.Append(NewFeature("pin", "cylinder", {}, {{"radius", "2"}}));
+        list.Append(NewFeature("body", "fuse", {"plate", "pin"}));
         model.Open(list, {}, {});
         dock.resize(500, 400);
         dock.show();
@@ -317,7 +317,7 @@ void tst_FeatureFields::UndoIsShown()
 void tst_FeatureFields::AnImportShowsItsFile()
 {
     ShownFields shown;
-    Feature import = NewFeature("nut", FeatureKind::StepImport);
+    Feature import = NewFeature("nut", "import");
     import.file = "nut.step";
     shown.model.Add(import);
     shown.dock.ShowFeature("nut");
@@ -355,7 +355,7 @@ void tst_FeatureFields::AHalfTypedTextBelongsToItsOwnFeature()
 {
     // As when a menu adds a feature of the same kind, whose field has the very same text.
     ShownFields shown;
-    shown.model.Add(NewFeature("other", FeatureKind::Cylinder, {}, {{"radius", "2"}}));
+    shown.model.Add(NewFeature("other", "cylinder", {}, {{"radius", "2"}}));
     shown.dock.ShowFeature("pin");
     shown.StartTyping("Radius", "3");
     shown.dock.ShowFeature("other");

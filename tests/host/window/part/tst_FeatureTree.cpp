@@ -33,9 +33,9 @@ struct ShownTree
     ShownTree()
     {
         FeatureList list;
-        list.Append(NewFeature("plate", FeatureKind::Box, {}, {{"x", "4 * 5"}}));
-        list.Append(NewFeature("pin", FeatureKind::Cylinder, {}, {{"radius", "2"}}));
-        list.Append(NewFeature("body", FeatureKind::Fuse, {"plate", "pin"}));
+        list.Append(NewFeature("plate", "box", {}, {{"x", "4 * 5"}}));
+        list.Append(NewFeature("pin", "cylinder", {}, {{"radius", "2"}}));
+        list.Append(NewFeature("body", "fuse", {"plate", "pin"}));
         model.Open(list, {}, {});
         dock.resize(600, 300);
         dock.show();
@@ -72,7 +72,7 @@ void tst_FeatureTree::ARowTellsWhatTheFeatureIsMadeFrom()
     QCOMPARE(shown.Row(0).text(FeatureTree::FieldsColumn),
              QString("Size x = 4 * 5, Size y = 10, Size z = 10"));
     QCOMPARE(shown.Row(2).text(FeatureTree::FieldsColumn), QString("of plate, pin"));
-    Feature import = NewFeature("import", FeatureKind::StepImport);
+    Feature import = NewFeature("import", "import");
     import.file = "parts/nut.step";
     shown.model.Add(import);
     QCOMPARE(shown.Row(3).text(FeatureTree::FieldsColumn), QString("nut.step"));
@@ -93,7 +93,7 @@ void tst_FeatureTree::AFailedFeatureIsMarkedAndSaysWhy()
 {
     ShownTree shown;
     QVERIFY(shown.Row(1).icon(FeatureTree::NameColumn).isNull());
-    shown.model.Change("pin", NewFeature("pin", FeatureKind::Cylinder, {}, {{"radius", "-2"}}));
+    shown.model.Change("pin", NewFeature("pin", "cylinder", {}, {{"radius", "-2"}}));
     QVERIFY(!shown.Row(1).icon(FeatureTree::NameColumn).isNull());
     QCOMPARE(shown.Row(1).toolTip(FeatureTree::NameColumn), shown.model.Failure());
     QVERIFY(shown.Row(0).icon(FeatureTree::NameColumn).isNull());
@@ -129,7 +129,7 @@ void tst_FeatureTree::ARenamedFeatureStaysSelected()
 {
     ShownTree shown;
     shown.Press(1);
-    shown.model.Change("pin", NewFeature("bolt", FeatureKind::Cylinder));
+    shown.model.Change("pin", NewFeature("bolt", "cylinder"));
     QCOMPARE(shown.dock.Selected(), QStringList({"bolt"}));
     shown.model.UndoStack().undo();
     QCOMPARE(shown.dock.Selected(), QStringList({"pin"}));

@@ -67,7 +67,7 @@ void tst_PartPanel::AFailureKeepsTheLastGoodShape()
     const QImage picture = drawing.grab().toImage();
     summary.ShowFailure("the bore is too large");
     QVERIFY(Shown(summary, "label_Status").contains("the bore is too large"));
-    QVERIFY(Shown(summary, "label_Status").contains("last good shape"));
+    QVERIFY(Shown(summary, "label_Status").contains("last valid shape"));
     QCOMPARE(Shown(summary, "label_Volume"), QStringLiteral("1000 cm³"));
     QCOMPARE(drawing.grab().toImage(), picture);
 }
@@ -104,8 +104,9 @@ void tst_PartPanel::WithoutOpenGlThereIsALineDrawingAndOneWarning()
     QVERIFY(drawing.grab().toImage() != empty);
     QCOMPARE(posted.size(), 1);
     QCOMPARE(posted[0][0].toInt(), int(WarningLevel));
-    QCOMPARE(posted[0][1].toString(),
-             QStringLiteral("The part is shown as a line drawing: the system offers no OpenGL"));
+    QCOMPARE(
+        posted[0][1].toString(),
+        QStringLiteral("The part is shown as a line drawing: the system does not provide OpenGL"));
     ShowBlock(summary);
     summary.Clear();
     ShowBlock(summary);

@@ -125,7 +125,7 @@ void tst_ProjectActions::UndoingAFeatureKeepsChangedSamplesAChange()
     Opened opened;
     g_mapParaArrays["bolt_count"].vecValues.push_back(12.0);
     opened.actions->UpdateModified();
-    opened.model.Add(NewFeature("cube", FeatureKind::Box));
+    opened.model.Add(NewFeature("cube", "box"));
     opened.model.UndoStack().undo();
     QVERIFY(opened.window.isWindowModified());
     opened.user.Answer(QMessageBox::Cancel);
@@ -137,7 +137,7 @@ void tst_ProjectActions::SaveTellsThatItSaved()
     const QString directory = EnterTemporaryDirectory();
     Opened opened;
     QSignalSpy saved(opened.actions, &ProjectActions::Saved);
-    opened.model.Add(NewFeature("cube", FeatureKind::Box));
+    opened.model.Add(NewFeature("cube", "box"));
     opened.SaveAs(directory + "/mine");
     QCOMPARE(saved.count(), 1);
     opened.Trigger("action_SaveProject");
@@ -150,11 +150,11 @@ void tst_ProjectActions::AFailedSaveLosesNothing()
 {
     const QString directory = EnterTemporaryDirectory();
     Opened opened;
-    opened.model.Add(NewFeature("cube", FeatureKind::Box));
+    opened.model.Add(NewFeature("cube", "box"));
     QVERIFY(QDir().mkpath("gone"));
     opened.SaveAs(directory + "/gone/mine.json");
     QVERIFY(QDir("gone").removeRecursively());
-    opened.model.Add(NewFeature("cube_2", FeatureKind::Box));
+    opened.model.Add(NewFeature("cube_2", "box"));
     QSignalSpy saved(opened.actions, &ProjectActions::Saved);
     QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
     // Chosen in the question before leaving, a failed save is no leave.

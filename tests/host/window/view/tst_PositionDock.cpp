@@ -217,7 +217,7 @@ void tst_PositionDock::BadTextIsToldAndStays()
     QCOMPARE(posted.size(), 1);
     QCOMPARE(posted[0][0].toInt(), int(ErrorLevel));
     QCOMPARE(posted[0][1].toString(),
-             QStringLiteral("Position: %1 is \"%2\", which is no number from -1e+06 to 1e+06")
+             QStringLiteral("Position: %1 is \"%2\", not a number from -1e+06 to 1e+06")
                  .arg(QString("xyz"[bad]), texts[bad]));
     // The cursor is where the text is to be mended.
     QVERIFY(Find<QLineEdit>(*shown.dock, FieldNames[bad]).hasFocus());

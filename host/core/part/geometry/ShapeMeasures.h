@@ -1,0 +1,19 @@
+#pragma once
+
+#include <array>
+
+class TopoDS_Shape;
+
+/// What a study records of a part.
+struct ShapeMeasures
+{
+    double volume = 0.0;                 ///< mm3
+    double area = 0.0;                   ///< mm2
+    std::array<double, 6> boundingBox{}; ///< Minimum x, y, z, maximum x, y, z, in mm; tight.
+};
+
+/// Measures @p shape. @throws Standard_Failure if the kernel fails
+ShapeMeasures Measure(const TopoDS_Shape& shape);
+
+/// The mass in kg; @p density is in kg/m3.
+double Mass(const ShapeMeasures& measures, double density);

@@ -1,0 +1,60 @@
+#include "BuildInput.h"
+
+#include "BuildError.h"
+#include "FeatureKind.h"
+#include "JsonSection.h"
+#include "Limits.h"
+
+#include <gp.hxx>
+#include <gp_Vec.hxx>
+
+BuildInput::BuildInput(const FeatureKind& kind, std::vector<double> values,
+                       std::vector<Body> bodies, QString file)
+    : m_kind(kind)
+    , m_values(std::move(values))
+    , m_bodies(std::move(bodies))
+    , m_file(std::move(file))
+{
+}
+
+double BuildInput::Value(const char* key) const
+{
+    return m_values.at(m_kind.IndexOf(key));
+}
+
+double BuildInput::Radians(const char* key) const
+{
+    return Value(key) * RadiansPerDegree;
+}
+
+gp_Pnt BuildInput::Point() const
+{
+    return gp_Pnt(Value("x"), Value("y"), Value("z"));
+}
+
+gp_Dir BuildInput::Direction() const
+{
+    const gp_Vec direction(Value("dx"), Value("dy"), Value("dz"));
+    // The kernel's own limit, above which it normalises a direction.
+    if (direction.Magnitude() <= gp::Resolution())
+        throw BuildError(BuildError::tr("its direction is zero."));
+    return gp_Dir(direction);
+}
+
+const TopoDS_Shape& BuildInput::FirstBody() const
+{
+    const Body& first = m_bodies.at(0);
+    if (first.shape.IsNull())
+        throw BuildError(BuildError::tr("its input %1 is suppressed.").arg(Quoted(first.name)));
+    return first.shape;
+}
+
+std::vector<TopoDS_Shape> BuildInput::OtherBodies() const
+{
+    std::vector<TopoDS_Shape> others;
+    for (std::size_t i = 1; i < m_bodies.size(); ++i) {
+        if (!m_bodies[i].shape.IsNull())
+            others.push_back(m_bodies[i].shape);
+    }
+    return others;
+}

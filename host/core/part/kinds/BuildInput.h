@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+#include <TopoDS_Shape.hxx>
+#include <gp_Ax1.hxx>
+#include <gp_Dir.hxx>
+#include <gp_Pnt.hxx>
+
+#include <vector>
+
+struct FeatureKind;
+
+/// What a feature's body is built from: the values of its fields, and the bodies that it uses.
+class BuildInput
+{
+public:
+    /// An earlier feature.
+    struct Body
+    {
+        QString name;
+        TopoDS_Shape shape; ///< Null if the feature is suppressed and has no input itself.
+    };
+
+    /// @p values are those of the fields of @p kind, each within its rule; @p file is a path.
+    BuildInput(const FeatureKind& kind, std::vector<double> values, std::vector<Body> bodies,
+               QString file);
+
+    /// The value of the field called @p key in files.
+    double Value(const char* key) const;
+    int Count(const char* key) const { return int(Value(key)); }
+    double Radians(const char* key) const;
+
+    /// Of x, y and z.
+    gp_Pnt Point() const;
+    /// Of dx, dy and dz. @throws BuildError if all are 0
+    gp_Dir Direction() const;
+    /// Through Point() along Direction().
+    gp_Ax1 Axis() const { return gp_Ax1(Point(), Direction()); }
+
+    /// The body of the first input. @throws BuildError if there is none
+    const TopoDS_Shape& FirstBody() const;
+    /// The bodies of the other inputs, without those that are null.
+    std::vector<TopoDS_Shape> OtherBodies() const;
+
+    const QString& File() const { return m_file; }
+
+private:
+    const FeatureKind& m_kind;
+    std::vector<double> m_values;
+    std::vector<Body> m_bodies;
+    QString m_file;
+};

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "FieldRule.h"
+
+#include <QLatin1String>
+
+#include <vector>
+
+class BuildInput;
+class TopoDS_Shape;
+
+/// One numeric field of a kind.
+struct FieldDefinition
+{
+    QLatin1String key;         ///< In files.
+    const char* label;         ///< For people; Label() translates it.
+    QLatin1String defaultText; ///< Of a new feature.
+    FieldRule rule;
+
+    FieldDefinition(const char* fieldKey, const char* fieldLabel, const char* fieldDefault,
+                    const FieldRule& fieldRule)
+        : key(fieldKey)
+        , label(fieldLabel)
+        , defaultText(fieldDefault)
+        , rule(fieldRule)
+    {
+    }
+
+    QString Label() const;
+};
+
+/// Where menus offer a kind.
+enum class FeatureGroup
+{
+    Body,
+    Import,
+    Transform,
+    Array,
+    Combination
+};
+
+/// What a feature does: everything about it except for the dialog that asks for its fields.
+struct FeatureKind
+{
+    static constexpr int Unlimited = -1; ///< As maxInputs.
+
+    QLatin1String word; ///< In files.
+    const char* title;  ///< For people; Title() translates it.
+    FeatureGroup group;
+    int minInputs = 0; ///< Earlier features that it uses.
+    int maxInputs = 0;
+    std::vector<FieldDefinition> fields;
+    bool readsFile = false; ///< It has a file.
+    bool isAtFace = false;  ///< The fields x, y, z are a point on a face of its input.
+    TopoDS_Shape (*build)(const BuildInput& input) = nullptr; ///< @throws BuildError
+
+    FeatureKind(const char* kindWord, const char* kindTitle, FeatureGroup kindGroup)
+        : word(kindWord)
+        , title(kindTitle)
+        , group(kindGroup)
+    {
+    }
+
+    QString Title() const;
+    /// The place of the field called @p key in files, or the number of fields.
+    std::size_t IndexOf(const char* key) const;
+};

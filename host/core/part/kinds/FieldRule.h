@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+/// Which values a field accepts.
+struct FieldRule
+{
+    enum Unit
+    {
+        Millimetres,
+        Degrees,
+        Number,
+        Count ///< Whole numbers only.
+    };
+
+    double minimum;
+    double maximum;
+    Unit unit = Millimetres;
+    bool exclusiveMinimum = false; ///< The minimum itself is not allowed.
+    bool exclusiveMaximum = false; ///< The maximum itself is not allowed.
+    bool isZeroAllowed = false;    ///< Zero is allowed although it is below the minimum.
+
+    bool Allows(double value) const;
+    /// "from 1 to 10000", "above 0 and at most 360 degrees": what follows "has to be".
+    QString Text() const;
+
+    Q_DECLARE_TR_FUNCTIONS(FieldRule)
+};

@@ -1,0 +1,112 @@
+// The kinds that move, rotate or mirror a body.
+
+#include "BuildInput.h"
+#include "CommonFields.h"
+#include "FeatureKinds.h"
+#include "ShapeAtPoint.h"
+
+#include <BRepBuilderAPI_Transform.hxx>
+#include <TopoDS_Shape.hxx>
+#include <gp_Ax2.hxx>
+#include <gp_Trsf.hxx>
+#include <gp_Vec.hxx>
+
+using namespace FieldRules;
+
+namespace {
+
+FeatureKind Transform(const char* word, const char* title)
+{
+    FeatureKind kind(word, title, FeatureGroup::Transform);
+    kind.minInputs = 1;
+    kind.maxInputs = 1;
+    return kind;
+}
+
+TopoDS_Shape Rotated(const TopoDS_Shape& shape, const gp_Ax1& axis, double radians)
+{
+    gp_Trsf rotation;
+    rotation.SetRotation(axis, radians);
+    return shape.Moved(TopLoc_Location(rotation));
+}
+
+// A location cannot turn a body inside out, so the body itself is copied.
+TopoDS_Shape Mirrored(const TopoDS_Shape& shape, const gp_Trsf& mirror)
+{
+    constexpr bool Copy = true;
+    return BRepBuilderAPI_Transform(shape, mirror, Copy).Shape();
+}
+
+FeatureKind Move()
+{
+    FeatureKind kind = Transform("move", QT_TRANSLATE_NOOP("FeatureKinds", "Move"));
+    kind.fields = {{"dx", QT_TRANSLATE_NOOP("FeatureKinds", "Distance x"), "0", Coordinate},
+                   {"dy", QT_TRANSLATE_NOOP("FeatureKinds", "Distance y"), "0", Coordinate},
+                   {"dz", QT_TRANSLATE_NOOP("FeatureKinds", "Distance z"), "0", Coordinate}};
+    kind.build = [](const BuildInput& input) {
+        gp_Trsf translation;
+        translation.SetTranslation(gp_Vec(input.Value("dx"), input.Value("dy"), input.Value("dz")));
+        return input.FirstBody().Moved(TopLoc_Location(translation));
+    };
+    return kind;
+}
+
+FeatureKind Rotate()
+{
+    FeatureKind kind = Transform("rotate", QT_TRANSLATE_NOOP("FeatureKinds", "Rotate"));
+    kind.fields =
+        Joined(AxisFields(), {{"angle", QT_TRANSLATE_NOOP("FeatureKinds", "Angle"), "90", Turn}});
+    kind.build = [](const BuildInput& input) {
+        return Rotated(input.FirstBody(), input.Axis(), input.Radians("angle"));
+    };
+    return kind;
+}
+
+FeatureKind MirrorAtPoint()
+{
+    FeatureKind kind =
+        Transform("mirrorPoint", QT_TRANSLATE_NOOP("FeatureKinds", "Mirror at a point"));
+    kind.fields = PointFields(QT_TRANSLATE_NOOP("FeatureKinds", "Point x"),
+                              QT_TRANSLATE_NOOP("FeatureKinds", "Point y"),
+                              QT_TRANSLATE_NOOP("FeatureKinds", "Point z"));
+    kind.build = [](const BuildInput& input) {
+        gp_Trsf mirror;
+        mirror.SetMirror(input.Point());
+        return Mirrored(input.FirstBody(), mirror);
+    };
+    return kind;
+}
+
+FeatureKind MirrorAtAxis()
+{
+    FeatureKind kind =
+        Transform("mirrorAxis", QT_TRANSLATE_NOOP("FeatureKinds", "Mirror at an axis"));
+    kind.fields = AxisFields();
+    kind.build = [](const BuildInput& input) {
+        return Rotated(input.FirstBody(), input.Axis(), 180.0 * RadiansPerDegree);
+    };
+    return kind;
+}
+
+FeatureKind MirrorAtFace()
+{
+    FeatureKind kind =
+        Transform("mirrorFace", QT_TRANSLATE_NOOP("FeatureKinds", "Mirror at a face"));
+    kind.isAtFace = true;
+    kind.fields = PointFields(QT_TRANSLATE_NOOP("FeatureKinds", "Point on face x"),
+                              QT_TRANSLATE_NOOP("FeatureKinds", "Point on face y"),
+                              QT_TRANSLATE_NOOP("FeatureKinds", "Point on face z"));
+    kind.build = [](const BuildInput& input) {
+        gp_Trsf mirror;
+        mirror.SetMirror(PlaneAt(input.FirstBody(), input.Point()));
+        return Mirrored(input.FirstBody(), mirror);
+    };
+    return kind;
+}
+
+} // namespace
+
+std::vector<FeatureKind> FeatureKinds::Transforms()
+{
+    return {Move(), Rotate(), MirrorAtPoint(), MirrorAtAxis(), MirrorAtFace()};
+}

@@ -1,0 +1,131 @@
+#include "NewFeature.h"
+#include "TestCase.h"
+
+#include <QSet>
+
+class tst_FeatureKinds : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void WordsAndKeysAreUnique();
+    void EveryKindHasItsFields_data();
+    void EveryKindHasItsFields();
+    void EveryKindIsInTheTestOfItsFields();
+    void KindsAreFoundByTheirExactWord();
+    void DefaultsAreWithinTheirRules();
+    void ANewFeatureHasTheDefaults();
+};
+
+void tst_FeatureKinds::WordsAndKeysAreUnique()
+{
+    QSet<QString> words;
+    for (const FeatureKind& kind : FeatureKinds::All()) {
+        QVERIFY(!kind.Title().isEmpty());
+        QVERIFY(kind.build != nullptr);
+        words.insert(kind.word);
+        QSet<QString> keys;
+        for (const FieldDefinition& field : kind.fields) {
+            keys.insert(field.key);
+            QVERIFY(!field.Label().isEmpty());
+        }
+        QCOMPARE(keys.size(), int(kind.fields.size()));
+    }
+    QCOMPARE(words.size(), int(FeatureKinds::All().size()));
+}
+
+namespace {
+
+struct KindRow
+{
+    const char* word;
+    const char* keys;
+    int minInputs;
+    int maxInputs;
+};
+
+constexpr int Any = FeatureKind::Unlimited;
+
+const std::vector<KindRow> Rows = {
+    {"box", "x y z", 0, 0},
+    {"cylinder", "radius height angle", 0, 0},
+    {"sphere", "radius angle1 angle2 angle3", 0, 0},
+    {"torus", "radius sweepRadius angle1 angle2 angle3", 0, 0},
+    {"cone", "baseRadius topRadius height angle", 0, 0},
+    {"wedge", "x z height xmin xmax zmin zmax", 0, 0},
+    {"polygon", "edges radius length dx dy dz", 0, 0},
+    {"import", "", 0, 0},
+    {"move", "dx dy dz", 1, 1},
+    {"rotate", "x y z dx dy dz angle", 1, 1},
+    {"mirrorPoint", "x y z", 1, 1},
+    {"mirrorAxis", "x y z dx dy dz", 1, 1},
+    {"mirrorFace", "x y z", 1, 1},
+    {"polarArray", "x y z dx dy dz angle number", 1, 1},
+    {"rectangularArray", "xNumber yNumber xDistance yDistance", 1, 1},
+    {"fuse", "", 2, Any},
+    {"cut", "", 2, Any},
+    {"fillet", "radius x y z", 1, 1},
+};
+
+} // namespace
+
+void tst_FeatureKinds::EveryKindHasItsFields_data()
+{
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<int>("minInputs");
+    QTest::addColumn<int>("maxInputs");
+    for (const KindRow& row : Rows)
+        QTest::newRow(row.word) << QString(row.keys) << row.minInputs << row.maxInputs;
+}
+
+void tst_FeatureKinds::EveryKindHasItsFields()
+{
+    const FeatureKind& kind = KindOf(QTest::currentDataTag());
+    QStringList keys;
+    for (const FieldDefinition& field : kind.fields)
+        keys << field.key;
+    QTEST(keys.join(' '), "keys");
+    QTEST(kind.minInputs, "minInputs");
+    QTEST(kind.maxInputs, "maxInputs");
+}
+
+void tst_FeatureKinds::EveryKindIsInTheTestOfItsFields()
+{
+    QStringList words;
+    for (const FeatureKind& kind : FeatureKinds::All())
+        words << kind.word;
+    QStringList tested;
+    for (const KindRow& row : Rows)
+        tested << row.word;
+    QCOMPARE(words, tested);
+}
+
+void tst_FeatureKinds::KindsAreFoundByTheirExactWord()
+{
+    QVERIFY(FeatureKinds::Find("polarArray") != nullptr);
+    for (const char* const word : {"", "Box", "box ", "extrusion"})
+        QVERIFY(FeatureKinds::Find(word) == nullptr);
+}
+
+void tst_FeatureKinds::DefaultsAreWithinTheirRules()
+{
+    for (const FeatureKind& kind : FeatureKinds::All()) {
+        for (const FieldDefinition& field : kind.fields) {
+            bool isNumber = false;
+            const double value = QString(field.defaultText).toDouble(&isNumber);
+            QVERIFY2(isNumber && field.rule.Allows(value), field.key.data());
+        }
+    }
+}
+
+void tst_FeatureKinds::ANewFeatureHasTheDefaults()
+{
+    const Feature torus(KindOf("torus"));
+    QCOMPARE(torus.kind, &KindOf("torus"));
+    QCOMPARE(torus.fields, QStringList({"10", "3", "-180", "180", "360"}));
+    QVERIFY(torus.name.isEmpty() && torus.inputs.isEmpty() && torus.file.isEmpty());
+    QVERIFY(!torus.suppressed);
+}
+
+TARN_TEST_MAIN(tst_FeatureKinds)
+#include "tst_FeatureKinds.moc"
