@@ -4,12 +4,11 @@
 #include "EmptyDesignStores.h"
 #include "FeatureTree.h"
 #include "MainWindow.h"
+#include "MenuUser.h"
 #include "MessageLevel.h"
 #include "ModalDriver.h"
 #include "Project.h"
-#include "TestCase.h"
 
-#include <QAction>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,14 +24,7 @@ struct OpenWindow
         window.OpenProject(Project::Load(Project::SamplePath()));
     }
 
-    void Trigger(const char* name)
-    {
-        auto* const action = window.findChild<QAction*>(name);
-        if (action == nullptr)
-            qFatal("There is no action named \"%s\"", name);
-        QVERIFY2(action->isEnabled(), name);
-        action->trigger();
-    }
+    void Trigger(const char* name) const { ::Trigger(window, name); }
 
     void SelectFeature(const QString& name)
     {

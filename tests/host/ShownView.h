@@ -49,7 +49,7 @@ public:
         window.show();
         window.activateWindow();
         if (!QTest::qWaitForWindowActive(&window))
-            qFatal("The window does not become active");
+            FailTest("The window does not become active");
         view->ShowShape(Block());
         QObject::connect(view, &PartView::PointMoved, view, [this](const gp_Pnt& p) { point = p; });
         QObject::connect(view, &PartView::PointLost, view, [this] {

@@ -4,14 +4,13 @@
 #include "FeatureTree.h"
 #include "HostApplication.h"
 #include "MainWindow.h"
+#include "MenuUser.h"
 #include "ModalDriver.h"
 #include "NewFeature.h"
 #include "PartModel.h"
 #include "PartView.h"
 #include "ShapeMeasures.h"
-#include "TestCase.h"
 
-#include <QAction>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QRadioButton>
@@ -47,21 +46,14 @@ public:
         window.show();
         window.activateWindow();
         if (!QTest::qWaitForWindowActive(&window))
-            qFatal("The window does not become active");
+            FailTest("The window does not become active");
         view = &Find<PartView>(window, "modelView");
         window.Part().Add(NewFeature("cube", "box"));
         Trigger("action_RightView");
         view->grab();
     }
 
-    void Trigger(const char* name)
-    {
-        auto* const action = window.findChild<QAction*>(name);
-        if (action == nullptr)
-            qFatal("There is no action named \"%s\"", name);
-        QVERIFY2(action->isEnabled(), name);
-        action->trigger();
-    }
+    void Trigger(const char* name) const { ::Trigger(window, name); }
 
     // With "Pick One Face" and OK; the window then waits for the click.
     void AskForFace(const char* action)

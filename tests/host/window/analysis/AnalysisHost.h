@@ -7,11 +7,10 @@
 #include "EmptyAnalysisStores.h"
 #include "EmptyAttributeNames.h"
 #include "FrequencyPref.h"
+#include "MenuUser.h"
 #include "MessageLevel.h"
 #include "ModalDriver.h"
-#include "TestCase.h"
 
-#include <QAction>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTreeWidget>
@@ -44,17 +43,7 @@ public:
         QVERIFY(user.IsDone());
     }
 
-    void Trigger(const char* name)
-    {
-        const QList<QAction*> actions = menu.actions();
-        for (QAction* const action : actions) {
-            if (action->objectName() == name) {
-                action->trigger();
-                return;
-            }
-        }
-        qFatal("There is no action named \"%s\"", name);
-    }
+    void Trigger(const char* name) const { ::Trigger(window, name); }
 
     /// The texts of a group of the tree: its own value, or those of its records.
     QStringList Shown(const QString& group) const

@@ -1,6 +1,7 @@
 #include "DrawerOutput.h"
 #include "EmptyDesignStores.h"
 #include "FileChoice.h"
+#include "MenuUser.h"
 #include "ModalDriver.h"
 #include "NewFeature.h"
 #include "PartModel.h"
@@ -8,7 +9,6 @@
 #include "TestCase.h"
 #include "TestFiles.h"
 
-#include <QAction>
 #include <QDir>
 #include <QMenu>
 #include <QSignalSpy>
@@ -38,7 +38,7 @@ struct Opened
         actions->Open(Project::Load(path));
     }
 
-    void Trigger(const char* name) { window.findChild<QAction*>(name)->trigger(); }
+    void Trigger(const char* name) const { ::Trigger(window, name); }
 
     void SaveAs(const QString& path)
     {
@@ -71,7 +71,7 @@ void tst_ProjectActions::WithoutAProjectThereIsNothingToLose()
     actions->FillMenu(menu);
     QVERIFY(actions->ConfirmDiscard());
     QCOMPARE(actions->Density(), Project::SteelDensity);
-    window.findChild<QAction*>("action_SaveProject")->trigger();
+    Trigger(window, "action_SaveProject");
 }
 
 void tst_ProjectActions::AnOpenedProjectFillsStoresAndModel()

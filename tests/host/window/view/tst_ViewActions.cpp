@@ -1,10 +1,9 @@
 #include "HostApplication.h"
+#include "MenuUser.h"
 #include "PartView.h"
-#include "TestCase.h"
 #include "ViewActions.h"
 
 #include <BRepPrimAPI_MakeBox.hxx>
-#include <QAction>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -26,14 +25,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-QAction& Action(const ViewActions& actions, const char* name)
-{
-    auto* const action = actions.findChild<QAction*>(name);
-    if (action == nullptr)
-        qFatal("There is no action named \"%s\"", name);
-    return *action;
-}
 
 struct ShownView
 {
@@ -97,7 +88,7 @@ void tst_ViewActions::EveryActionChangesTheView()
     ShownView shown;
     shown.view.SetStandardView(name == "action_TopView" ? PartView::LeftView : PartView::TopView);
     const QImage before = shown.Picture();
-    Action(shown.actions, name).trigger();
+    Trigger(shown.actions, name);
     const QImage turned = shown.Picture();
     QVERIFY(turned != before);
 
@@ -109,17 +100,17 @@ void tst_ViewActions::EveryActionChangesTheView()
     QCoreApplication::sendEvent(&shown.view, &leave);
     const QImage zoomed = shown.Picture();
     QVERIFY(zoomed != turned);
-    Action(shown.actions, "action_FitView").trigger();
+    Trigger(shown.actions, "action_FitView");
     QVERIFY(shown.Picture() != zoomed);
-    Action(shown.actions, name).trigger();
+    Trigger(shown.actions, name);
     QCOMPARE(shown.Picture(), turned);
 }
 
 void tst_ViewActions::TheWayOfDisplayIsChecked()
 {
     ShownView shown;
-    QAction& shaded = Action(shown.actions, "action_ShadedWithEdges");
-    QAction& wires = Action(shown.actions, "action_Wireframe");
+    QAction& shaded = FindAction(shown.actions, "action_ShadedWithEdges");
+    QAction& wires = FindAction(shown.actions, "action_Wireframe");
     QVERIFY(shaded.isChecked());
     QVERIFY(!wires.isChecked());
     const QImage before = shown.Picture();
@@ -138,7 +129,7 @@ void tst_ViewActions::TheToolBarWorks()
     ShownView shown;
     const QImage before = shown.Picture();
     auto* const toolBar = shown.window.findChild<QToolBar*>();
-    QWidget* const top = toolBar->widgetForAction(&Action(shown.actions, "action_TopView"));
+    QWidget* const top = toolBar->widgetForAction(&FindAction(shown.actions, "action_TopView"));
     QTest::mouseClick(top, Qt::LeftButton);
     QVERIFY(shown.Picture() != before);
 }

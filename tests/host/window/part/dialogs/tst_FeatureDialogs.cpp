@@ -1,30 +1,13 @@
-#include "DrawerOutput.h"
-#include "EmptyDesignStores.h"
+#include "AskedDialogs.h"
 #include "FeatureDialog.h"
-#include "FeatureDialogs.h"
 #include "HostApplication.h"
-#include "MessageLevel.h"
-#include "ModalDriver.h"
-#include "NewFeature.h"
-#include "TestCase.h"
-
-#include <QLineEdit>
-#include <QRadioButton>
-#include <QSignalSpy>
-
-#include <utility>
-#include <vector>
-
-// What is typed into one dialog: object names of line edits, and texts.
-using Typed = std::vector<std::pair<QString, QString>>;
-Q_DECLARE_METATYPE(Typed)
 
 class tst_FeatureDialogs : public TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void KindsWithoutADialogAreTold();
+    void SomeKindsHaveNoDialog();
     void OKTakesTheDialogsDefaults_data() { AddKindRows(); }
     void OKTakesTheDialogsDefaults();
     void CancelGivesNothing_data() { AddKindRows(); }
@@ -39,20 +22,7 @@ private Q_SLOTS:
     void OnlyTheChangedNumberIsReplaced();
     void AnExpressionWithoutAValueSurvives();
     void ADirectionIsReplacedAsAWhole();
-    void WhatTheDialogDoesNotAskIsKept();
-    void AZeroDirectionIsToldAndTheDialogWaits_data();
-    void AZeroDirectionIsToldAndTheDialogWaits();
-    void AfterAZeroDirectionTheDialogCanBeCancelled();
-    void ANumberOutOfRangeIsToldAndTheDialogWaits_data();
-    void ANumberOutOfRangeIsToldAndTheDialogWaits();
-    void TheSecondDialogOfAPolygonCanBeCancelled();
-    void TheModesOfTheMirrorAreKinds_data();
-    void TheModesOfTheMirrorAreKinds();
-    void AMirrorOpensInItsMode_data();
-    void AMirrorOpensInItsMode();
-    void APointMirrorIsAtTheOrigin();
-    void ThePointOfAPointMirrorSurvives();
-    void AnotherModeStartsWithItsDefaults();
+    void FieldsThatTheDialogLacksAreKept();
 
 private:
     static void AddKindRows();
@@ -64,37 +34,12 @@ const std::vector<const char*> DialogKinds = {
     "sphere", "torus",  "cone",       "wedge",      "polygon",
     "move",   "rotate", "mirrorAxis", "polarArray", "rectangularArray"};
 
-void PressOK(const QDialog& dialog)
-{
-    const bool isArray = dialog.findChild<QWidget*>("pushButtonOK") != nullptr;
-    Click(dialog, isArray ? "pushButtonOK" : "pushButton_OK");
-}
-
-void Fill(const QDialog& dialog, const Typed& typed)
-{
-    for (const auto& [edit, text] : typed)
-        Find<QLineEdit>(dialog, edit.toLatin1().constData()).setText(text);
-}
-
-void FillAndPressOK(ModalDriver& user, const Typed& typed)
-{
-    user.Then([typed](QDialog& dialog) {
-        Fill(dialog, typed);
-        PressOK(dialog);
-    });
-}
-
 // The dialogs of a kind one after another, with what they must be given before OK.
 void PressThrough(ModalDriver& user, const QByteArray& kind, bool isNew)
 {
     if (kind == "polygon")
         FillAndPressOK(user, isNew ? Typed{{"lineEdit_EdgeNumber", "6"}} : Typed{});
     FillAndPressOK(user, {});
-}
-
-QString Shown(const QDialog& dialog, const char* edit)
-{
-    return Find<QLineEdit>(dialog, edit).text();
 }
 
 void SetParameter(const QString& name, double value)
@@ -106,15 +51,6 @@ void SetParameter(const QString& name, double value)
     GlobalParaMeterMgr::AddParameter(name, record);
 }
 
-struct Asked
-{
-    EmptyDesignStores stores;
-    QWidget window;
-    FeatureDialogs dialogs{&window};
-    ModalDriver user;
-    QSignalSpy posted{DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage};
-};
-
 } // namespace
 
 void tst_FeatureDialogs::AddKindRows()
@@ -124,7 +60,7 @@ void tst_FeatureDialogs::AddKindRows()
         QTest::newRow(kind) << QByteArray(kind);
 }
 
-void tst_FeatureDialogs::KindsWithoutADialogAreTold()
+void tst_FeatureDialogs::SomeKindsHaveNoDialog()
 {
     for (const FeatureKind& kind : FeatureKinds::All()) {
         const bool isMirror =
@@ -348,7 +284,7 @@ void tst_FeatureDialogs::ADirectionIsReplacedAsAWhole()
     QCOMPARE(result->fields, QStringList({"one", "0", "0", "0.6", "0.8", "0", "10 * one"}));
 }
 
-void tst_FeatureDialogs::WhatTheDialogDoesNotAskIsKept()
+void tst_FeatureDialogs::FieldsThatTheDialogLacksAreKept()
 {
     Asked asked;
     FillAndPressOK(asked.user, {{"lineEdit_Angle2", "45"}});
@@ -357,218 +293,6 @@ void tst_FeatureDialogs::WhatTheDialogDoesNotAskIsKept()
     QVERIFY(result.has_value());
     QCOMPARE(FieldText(*result, "radius"), QString("unknown / 2"));
     QCOMPARE(FieldText(*result, "angle2"), QString("45"));
-}
-
-void tst_FeatureDialogs::AZeroDirectionIsToldAndTheDialogWaits_data()
-{
-    QTest::addColumn<QByteArray>("kind");
-    QTest::addColumn<QString>("zEdit");
-    QTest::addColumn<bool>("byEnter");
-    const std::pair<const char*, const char*> rows[] = {
-        {"rotate", "lineEdit_zDir"},
-        {"mirrorAxis", "lineEdit_axisZ"},
-        {"polarArray", "lineEdit_Dirz"},
-        {"polygon", "lineEdit_ZDir"},
-    };
-    for (const auto& [kind, edit] : rows) {
-        QTest::addRow("%s, by the mouse", kind) << QByteArray(kind) << QString(edit) << false;
-        QTest::addRow("%s, by Enter", kind) << QByteArray(kind) << QString(edit) << true;
-    }
-}
-
-void tst_FeatureDialogs::AZeroDirectionIsToldAndTheDialogWaits()
-{
-    QFETCH(QByteArray, kind);
-    QFETCH(QString, zEdit);
-    QFETCH(bool, byEnter);
-    Asked asked;
-    if (kind == "polygon")
-        FillAndPressOK(asked.user, {{"lineEdit_EdgeNumber", "6"}});
-    QDialog* shown = nullptr;
-    asked.user.Then([&](QDialog& dialog) {
-        shown = &dialog;
-        auto& edit = Find<QLineEdit>(dialog, zEdit.toLatin1().constData());
-        edit.setText("0");
-        edit.setFocus();
-        if (byEnter)
-            QTest::keyClick(&edit, Qt::Key_Return);
-        else
-            PressOK(dialog);
-    });
-    asked.user.Then([&](QDialog& dialog) {
-        QCOMPARE(&dialog, shown);
-        QVERIFY(dialog.isVisible());
-        QCOMPARE(Shown(dialog, zEdit.toLatin1().constData()), QString("0"));
-        QCOMPARE(asked.posted.count(), 1);
-        Fill(dialog, {{zEdit, "-2"}});
-        PressOK(dialog);
-    });
-    const std::optional<Feature> result = asked.dialogs.AskNew(Feature(KindOf(kind)));
-    QVERIFY(asked.user.IsDone());
-    QVERIFY(result.has_value());
-    // The mirror's direction is taken as typed, the others as the dialogs give it.
-    QCOMPARE(FieldText(*result, "dz"), QString(kind == "mirrorAxis" ? "-2" : "-1"));
-    QCOMPARE(asked.posted.count(), 1);
-    QCOMPARE(asked.posted[0][0].toInt(), int(WarningLevel));
-    QVERIFY(asked.posted[0][1].toString().contains("direction"));
-}
-
-void tst_FeatureDialogs::AfterAZeroDirectionTheDialogCanBeCancelled()
-{
-    Asked asked;
-    FillAndPressOK(asked.user, {{"lineEdit_zDir", "0"}});
-    asked.user.Then([](QDialog& dialog) { Click(dialog, "pushButton_Cancel"); });
-    QVERIFY(!asked.dialogs.AskNew(Feature(KindOf("rotate"))).has_value());
-    QVERIFY(asked.user.IsDone());
-    QVERIFY(QApplication::activeModalWidget() == nullptr);
-}
-
-void tst_FeatureDialogs::ANumberOutOfRangeIsToldAndTheDialogWaits_data()
-{
-    QTest::addColumn<QByteArray>("kind");
-    QTest::addColumn<QString>("edit");
-    QTest::addColumn<QString>("bad");
-    QTest::addColumn<QString>("good");
-    QTest::addColumn<QString>("key");
-    QTest::newRow("no instance") << QByteArray("polarArray") << "lineEdit_Num"
-                                 << "0"
-                                 << "1"
-                                 << "number";
-    QTest::newRow("too many instances") << QByteArray("polarArray") << "lineEdit_Num"
-                                        << "10001"
-                                        << "10000"
-                                        << "number";
-    QTest::newRow("no column") << QByteArray("rectangularArray") << "lineEdit_XNum"
-                               << ""
-                               << "2"
-                               << "xNumber";
-    QTest::newRow("empty sweep") << QByteArray("cone") << "lineEdit_Angle"
-                                 << "0"
-                                 << "360"
-                                 << "angle";
-    QTest::newRow("infinite") << QByteArray("move") << "lineEdit_Dx"
-                              << "inf"
-                              << "5"
-                              << "dx";
-    QTest::newRow("far away") << QByteArray("mirrorAxis") << "lineEdit_axisPtX"
-                              << "1e7"
-                              << "1e5"
-                              << "x";
-}
-
-void tst_FeatureDialogs::ANumberOutOfRangeIsToldAndTheDialogWaits()
-{
-    QFETCH(QByteArray, kind);
-    QFETCH(QString, edit);
-    QFETCH(QString, bad);
-    QFETCH(QString, good);
-    QFETCH(QString, key);
-    Asked asked;
-    FillAndPressOK(asked.user, {{edit, bad}});
-    asked.user.Then([&](QDialog& dialog) {
-        QCOMPARE(Shown(dialog, edit.toLatin1().constData()), bad);
-        QCOMPARE(asked.posted.count(), 1);
-        Fill(dialog, {{edit, good}});
-        PressOK(dialog);
-    });
-    const std::optional<Feature> result = asked.dialogs.AskNew(Feature(KindOf(kind)));
-    QVERIFY(asked.user.IsDone());
-    QVERIFY(result.has_value());
-    QCOMPARE(FieldText(*result, key.toLatin1().constData()).toDouble(), good.toDouble());
-    QCOMPARE(asked.posted.count(), 1);
-    QVERIFY(asked.posted[0][1].toString().contains("has to be"));
-}
-
-void tst_FeatureDialogs::TheSecondDialogOfAPolygonCanBeCancelled()
-{
-    Asked asked;
-    FillAndPressOK(asked.user, {{"lineEdit_EdgeNumber", "5"}});
-    asked.user.Then([](QDialog& dialog) { Click(dialog, "pushButton_Cancel"); });
-    QVERIFY(!asked.dialogs.AskNew(Feature(KindOf("polygon"))).has_value());
-    QVERIFY(asked.user.IsDone());
-}
-
-void tst_FeatureDialogs::TheModesOfTheMirrorAreKinds_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QByteArray>("kind");
-    QTest::newRow("point") << "radioButton" << QByteArray("mirrorPoint");
-    QTest::newRow("axis") << "radioButton_2" << QByteArray("mirrorAxis");
-    QTest::newRow("face") << "radioButton_3" << QByteArray("mirrorFace");
-}
-
-void tst_FeatureDialogs::TheModesOfTheMirrorAreKinds()
-{
-    QFETCH(QString, button);
-    QFETCH(QByteArray, kind);
-    Asked asked;
-    asked.user.Then([&](QDialog& dialog) {
-        Find<QRadioButton>(dialog, button.toLatin1().constData()).setChecked(true);
-        PressOK(dialog);
-    });
-    const std::optional<Feature> result =
-        asked.dialogs.AskNew(NewFeature("x", "mirrorAxis", {"body"}));
-    QVERIFY(result.has_value());
-    QVERIFY(*result == NewFeature("x", kind.constData(), {"body"}));
-}
-
-void tst_FeatureDialogs::AMirrorOpensInItsMode_data()
-{
-    TheModesOfTheMirrorAreKinds_data();
-}
-
-void tst_FeatureDialogs::AMirrorOpensInItsMode()
-{
-    QFETCH(QString, button);
-    QFETCH(QByteArray, kind);
-    Asked asked;
-    asked.user.Then([&](QDialog& dialog) {
-        QVERIFY(Find<QRadioButton>(dialog, button.toLatin1().constData()).isChecked());
-        PressOK(dialog);
-    });
-    const Feature feature =
-        NewFeature("x", kind.constData(), {"body"}, {{"x", "1 + 1"}, {"y", "3"}});
-    QVERIFY(asked.dialogs.AskChanges(feature) == feature);
-    QVERIFY(asked.user.IsDone());
-}
-
-void tst_FeatureDialogs::APointMirrorIsAtTheOrigin()
-{
-    // The dialog gives the origin whatever is typed: the point is for the fields of the feature.
-    Asked asked;
-    asked.user.Then([](QDialog& dialog) {
-        Find<QRadioButton>(dialog, "radioButton").setChecked(true);
-        Fill(dialog, {{"lineEdit_Ptx", "5"}, {"lineEdit_Pty", "5"}, {"lineEdit_Ptz", "5"}});
-        PressOK(dialog);
-    });
-    const std::optional<Feature> result = asked.dialogs.AskNew(NewFeature("x", "mirrorAxis"));
-    QVERIFY(result.has_value());
-    QCOMPARE(result->fields, QStringList({"0", "0", "0"}));
-}
-
-void tst_FeatureDialogs::ThePointOfAPointMirrorSurvives()
-{
-    Asked asked;
-    asked.user.Then([](QDialog& dialog) {
-        QCOMPARE(Shown(dialog, "lineEdit_Ptx"), QString("5"));
-        PressOK(dialog);
-    });
-    const Feature feature = NewFeature("x", "mirrorPoint", {}, {{"x", "2 + 3"}});
-    QVERIFY(asked.dialogs.AskChanges(feature) == feature);
-}
-
-void tst_FeatureDialogs::AnotherModeStartsWithItsDefaults()
-{
-    Asked asked;
-    asked.user.Then([](QDialog& dialog) {
-        Find<QRadioButton>(dialog, "radioButton_2").setChecked(true);
-        Fill(dialog, {{"lineEdit_axisPtX", "9"}});
-        PressOK(dialog);
-    });
-    const std::optional<Feature> result =
-        asked.dialogs.AskChanges(NewFeature("x", "mirrorPoint", {"body"}, {{"y", "5"}}));
-    QVERIFY(result.has_value());
-    QVERIFY(*result == NewFeature("x", "mirrorAxis", {"body"}, {{"x", "9"}}));
 }
 
 TARN_TEST_MAIN(tst_FeatureDialogs, HostApplication)

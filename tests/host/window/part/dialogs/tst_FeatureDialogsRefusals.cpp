@@ -1,0 +1,148 @@
+#include "AskedDialogs.h"
+#include "HostApplication.h"
+#include "MessageLevel.h"
+
+class tst_FeatureDialogsRefusals : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void AZeroDirectionIsReportedAndTheDialogWaits_data();
+    void AZeroDirectionIsReportedAndTheDialogWaits();
+    void AfterAZeroDirectionTheDialogCanBeCancelled();
+    void ANumberOutOfRangeIsReportedAndTheDialogWaits_data();
+    void ANumberOutOfRangeIsReportedAndTheDialogWaits();
+    void TheSecondDialogOfAPolygonCanBeCancelled();
+};
+
+void tst_FeatureDialogsRefusals::AZeroDirectionIsReportedAndTheDialogWaits_data()
+{
+    QTest::addColumn<QByteArray>("kind");
+    QTest::addColumn<QString>("zEdit");
+    QTest::addColumn<bool>("byEnter");
+    const std::pair<const char*, const char*> rows[] = {
+        {"rotate", "lineEdit_zDir"},
+        {"mirrorAxis", "lineEdit_axisZ"},
+        {"polarArray", "lineEdit_Dirz"},
+        {"polygon", "lineEdit_ZDir"},
+    };
+    for (const auto& [kind, edit] : rows) {
+        QTest::addRow("%s, by the mouse", kind) << QByteArray(kind) << QString(edit) << false;
+        QTest::addRow("%s, by Enter", kind) << QByteArray(kind) << QString(edit) << true;
+    }
+}
+
+void tst_FeatureDialogsRefusals::AZeroDirectionIsReportedAndTheDialogWaits()
+{
+    QFETCH(QByteArray, kind);
+    QFETCH(QString, zEdit);
+    QFETCH(bool, byEnter);
+    Asked asked;
+    if (kind == "polygon")
+        FillAndPressOK(asked.user, {{"lineEdit_EdgeNumber", "6"}});
+    QDialog* shown = nullptr;
+    asked.user.Then([&](QDialog& dialog) {
+        shown = &dialog;
+        auto& edit = Find<QLineEdit>(dialog, zEdit.toLatin1().constData());
+        edit.setText("0");
+        edit.setFocus();
+        if (byEnter)
+            QTest::keyClick(&edit, Qt::Key_Return);
+        else
+            PressOK(dialog);
+    });
+    asked.user.Then([&](QDialog& dialog) {
+        QCOMPARE(&dialog, shown);
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(Shown(dialog, zEdit.toLatin1().constData()), QString("0"));
+        QCOMPARE(asked.posted.count(), 1);
+        Fill(dialog, {{zEdit, "-2"}});
+        PressOK(dialog);
+    });
+    const std::optional<Feature> result = asked.dialogs.AskNew(Feature(KindOf(kind)));
+    QVERIFY(asked.user.IsDone());
+    QVERIFY(result.has_value());
+    // The mirror's direction is taken as typed, the others as the dialogs give it.
+    QCOMPARE(FieldText(*result, "dz"), QString(kind == "mirrorAxis" ? "-2" : "-1"));
+    QCOMPARE(asked.posted.count(), 1);
+    QCOMPARE(asked.posted[0][0].toInt(), int(WarningLevel));
+    QVERIFY(asked.posted[0][1].toString().contains("direction"));
+}
+
+void tst_FeatureDialogsRefusals::AfterAZeroDirectionTheDialogCanBeCancelled()
+{
+    Asked asked;
+    FillAndPressOK(asked.user, {{"lineEdit_zDir", "0"}});
+    asked.user.Then([](QDialog& dialog) { Click(dialog, "pushButton_Cancel"); });
+    QVERIFY(!asked.dialogs.AskNew(Feature(KindOf("rotate"))).has_value());
+    QVERIFY(asked.user.IsDone());
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+}
+
+void tst_FeatureDialogsRefusals::ANumberOutOfRangeIsReportedAndTheDialogWaits_data()
+{
+    QTest::addColumn<QByteArray>("kind");
+    QTest::addColumn<QString>("edit");
+    QTest::addColumn<QString>("bad");
+    QTest::addColumn<QString>("good");
+    QTest::addColumn<QString>("key");
+    QTest::newRow("no instance") << QByteArray("polarArray") << "lineEdit_Num"
+                                 << "0"
+                                 << "1"
+                                 << "number";
+    QTest::newRow("too many instances") << QByteArray("polarArray") << "lineEdit_Num"
+                                        << "10001"
+                                        << "10000"
+                                        << "number";
+    QTest::newRow("no column") << QByteArray("rectangularArray") << "lineEdit_XNum"
+                               << ""
+                               << "2"
+                               << "xNumber";
+    QTest::newRow("empty sweep") << QByteArray("cone") << "lineEdit_Angle"
+                                 << "0"
+                                 << "360"
+                                 << "angle";
+    QTest::newRow("infinite") << QByteArray("move") << "lineEdit_Dx"
+                              << "inf"
+                              << "5"
+                              << "dx";
+    QTest::newRow("far away") << QByteArray("mirrorAxis") << "lineEdit_axisPtX"
+                              << "1e7"
+                              << "1e5"
+                              << "x";
+}
+
+void tst_FeatureDialogsRefusals::ANumberOutOfRangeIsReportedAndTheDialogWaits()
+{
+    QFETCH(QByteArray, kind);
+    QFETCH(QString, edit);
+    QFETCH(QString, bad);
+    QFETCH(QString, good);
+    QFETCH(QString, key);
+    Asked asked;
+    FillAndPressOK(asked.user, {{edit, bad}});
+    asked.user.Then([&](QDialog& dialog) {
+        QCOMPARE(Shown(dialog, edit.toLatin1().constData()), bad);
+        QCOMPARE(asked.posted.count(), 1);
+        Fill(dialog, {{edit, good}});
+        PressOK(dialog);
+    });
+    const std::optional<Feature> result = asked.dialogs.AskNew(Feature(KindOf(kind)));
+    QVERIFY(asked.user.IsDone());
+    QVERIFY(result.has_value());
+    QCOMPARE(FieldText(*result, key.toLatin1().constData()).toDouble(), good.toDouble());
+    QCOMPARE(asked.posted.count(), 1);
+    QVERIFY(asked.posted[0][1].toString().contains("has to be"));
+}
+
+void tst_FeatureDialogsRefusals::TheSecondDialogOfAPolygonCanBeCancelled()
+{
+    Asked asked;
+    FillAndPressOK(asked.user, {{"lineEdit_EdgeNumber", "5"}});
+    asked.user.Then([](QDialog& dialog) { Click(dialog, "pushButton_Cancel"); });
+    QVERIFY(!asked.dialogs.AskNew(Feature(KindOf("polygon"))).has_value());
+    QVERIFY(asked.user.IsDone());
+}
+
+TARN_TEST_MAIN(tst_FeatureDialogsRefusals, HostApplication)
+#include "tst_FeatureDialogsRefusals.moc"
