@@ -9,7 +9,9 @@
 #include <BRepAlgoAPI_Fuse.hxx>
 #include <BRepCheck_Analyzer.hxx>
 #include <BRepFilletAPI_MakeFillet.hxx>
+#include <BRepGProp.hxx>
 #include <BRepPrimAPI_MakeCylinder.hxx>
+#include <GProp_GProps.hxx>
 #include <GeomAbs_CurveType.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopTools_ListOfShape.hxx>
@@ -46,13 +48,22 @@ void ChooseRun(int run)
     EvaluateParameters();
 }
 
+// As ours: every body, not only the part.
+TopoDS_Shape CheckedBody(const TopoDS_Shape& body)
+{
+    GProp_GProps properties;
+    BRepGProp::VolumeProperties(body, properties);
+    return properties.Mass() > 0.0 && BRepCheck_Analyzer(body).IsValid() ? body : TopoDS_Shape();
+}
+
 // Moved like the features, which are built at the origin: the kernel needs more time for moved
 // bodies.
 TopoDS_Shape Cylinder(double x, double z, double radius, double height)
 {
     gp_Trsf translation;
     translation.SetTranslation(gp_Vec(x, 0.0, z));
-    return BRepPrimAPI_MakeCylinder(radius, height).Shape().Moved(TopLoc_Location(translation));
+    const TopoDS_Shape cylinder = CheckedBody(BRepPrimAPI_MakeCylinder(radius, height).Shape());
+    return cylinder.Moved(TopLoc_Location(translation));
 }
 
 TopoDS_Shape BuildByHand()
@@ -61,9 +72,9 @@ TopoDS_Shape BuildByHand()
     const double hubRadius = Stored("hub_diameter") / 2.0;
     const double hubHeight = Stored("hub_height");
     const TopoDS_Shape body =
-        BRepAlgoAPI_Fuse(Cylinder(0.0, 0.0, Stored("outer_diameter") / 2.0, thickness),
-                         Cylinder(0.0, thickness, hubRadius, hubHeight))
-            .Shape();
+        CheckedBody(BRepAlgoAPI_Fuse(Cylinder(0.0, 0.0, Stored("outer_diameter") / 2.0, thickness),
+                                     Cylinder(0.0, thickness, hubRadius, hubHeight))
+                        .Shape());
 
     TopTools_ListOfShape tools;
     tools.Append(Cylinder(0.0, -1.0, Stored("bore_diameter") / 2.0, thickness + hubHeight + 2.0));
@@ -82,8 +93,9 @@ TopoDS_Shape BuildByHand()
     cut.SetTools(tools);
     cut.Build();
 
-    BRepFilletAPI_MakeFillet fillet(cut.Shape());
-    for (TopExp_Explorer edges(cut.Shape(), TopAbs_EDGE); edges.More(); edges.Next()) {
+    const TopoDS_Shape drilled = CheckedBody(cut.Shape());
+    BRepFilletAPI_MakeFillet fillet(drilled);
+    for (TopExp_Explorer edges(drilled, TopAbs_EDGE); edges.More(); edges.Next()) {
         const BRepAdaptor_Curve curve(TopoDS::Edge(edges.Current()));
         if (curve.GetType() == GeomAbs_Circle &&
             std::abs(curve.Circle().Radius() - hubRadius) < 1e-7 &&
@@ -92,8 +104,7 @@ TopoDS_Shape BuildByHand()
             break;
         }
     }
-    const TopoDS_Shape shape = fillet.Shape();
-    return BRepCheck_Analyzer(shape).IsValid() ? shape : TopoDS_Shape();
+    return CheckedBody(fillet.Shape());
 }
 
 template<class Builder>

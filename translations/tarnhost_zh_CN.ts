@@ -70,10 +70,6 @@
         <translation>其方向为零。</translation>
     </message>
     <message>
-        <source>its body is not closed.</source>
-        <translation>其实体未封闭。</translation>
-    </message>
-    <message>
         <source>its body is not valid: it may touch or cross itself.</source>
         <translation>其实体无效：可能自相接触或自相交。</translation>
     </message>
@@ -232,6 +228,26 @@
     <message>
         <source>this feature would exceed the limit of %1 bodies.</source>
         <translation>此特征将使实体总数超过上限 %1 个。</translation>
+    </message>
+    <message>
+        <source>its result is not a solid body.</source>
+        <translation>其结果不是实体。</translation>
+    </message>
+    <message>
+        <source>its body is not closed; change a size or a position slightly.</source>
+        <translation>其实体不封闭；请稍微更改尺寸或位置。</translation>
+    </message>
+    <message>
+        <source>its body has a volume of %1 mm³, so it is empty or inside out; change a size or a position slightly.</source>
+        <translation>其实体的体积为 %1 mm³，即为空或内外翻转；请稍微更改尺寸或位置。</translation>
+    </message>
+    <message>
+        <source>its result has a volume of %1 mm³, but has to have from %2 to %3 mm³: the geometry kernel failed; change a size or a position slightly.</source>
+        <translation>其结果的体积为 %1 mm³，但必须为 %2 至 %3 mm³：几何内核失败；请稍微更改尺寸或位置。</translation>
+    </message>
+    <message>
+        <source>its result extends beyond the original body: the geometry kernel failed; try a smaller radius or another order of features.</source>
+        <translation>其结果超出原实体：几何内核失败；请尝试更小的半径或其他特征顺序。</translation>
     </message>
 </context>
 <context>

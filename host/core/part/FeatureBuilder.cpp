@@ -1,6 +1,7 @@
 #include "FeatureBuilder.h"
 
 #include "Bodies.h"
+#include "BodyVolumes.h"
 #include "BuildInput.h"
 #include "FeatureKind.h"
 #include "FeatureList.h"
@@ -37,12 +38,14 @@ private:
         std::vector<BuildInput::Body> bodies;
         for (const QString& input : feature.inputs)
             bodies.push_back({input, m_shapes.value(input)});
-        return feature.kind->build(
-            {*feature.kind, m_values.Of(feature), bodies, QDir(m_folder).filePath(feature.file)});
+        return feature.kind->Built(
+            {*feature.kind, m_values.Of(feature), bodies, QDir(m_folder).filePath(feature.file)},
+            m_volumes);
     }
 
     QString m_folder;
     FieldValues m_values;
+    BodyVolumes m_volumes;
     QHash<QString, TopoDS_Shape> m_shapes;
 };
 
@@ -92,7 +95,6 @@ BuiltPart FeatureBuilder::Build(const FeatureList& list, const QString& folder)
         const TopoDS_Shape& shape = part.shapes[std::size_t(index)];
         if (shape.IsNull() || used.contains(list.At(index).name))
             continue;
-        NamingFeature(list.At(index), [&] { CheckBodies(shape); });
         results.push_back(shape);
     }
     if (results.size() == 1)

@@ -1,30 +1,40 @@
 #include "ShapeMeasures.h"
 
+#include "Bodies.h"
+#include "BodyVolumes.h"
+#include "BoundingBox.h"
 #include "KernelSignals.h"
 
-#include <BRepBndLib.hxx>
 #include <BRepGProp.hxx>
-#include <Bnd_Box.hxx>
 #include <GProp_GProps.hxx>
+#include <TopTools_DataMapOfShapeReal.hxx>
 #include <TopoDS_Shape.hxx>
 
 namespace {
 
+// Copies of a body are not measured again.
+double Area(const TopoDS_Shape& shape)
+{
+    TopTools_DataMapOfShapeReal measured;
+    double sum = 0.0;
+    VisitBodies(shape, [&](const TopoDS_Shape& placed) {
+        const TopoDS_Shape body = AtOrigin(placed);
+        if (!measured.IsBound(body)) {
+            GProp_GProps properties;
+            BRepGProp::SurfaceProperties(body, properties);
+            measured.Bind(body, properties.Mass());
+        }
+        sum += measured(body);
+    });
+    return sum;
+}
+
 ShapeMeasures MeasuresOf(const TopoDS_Shape& shape)
 {
     ShapeMeasures measures;
-    GProp_GProps volume;
-    BRepGProp::VolumeProperties(shape, volume);
-    measures.volume = volume.Mass();
-    GProp_GProps surface;
-    BRepGProp::SurfaceProperties(shape, surface);
-    measures.area = surface.Mass();
-
-    // From the exact geometry: the usual box is enlarged by tolerances.
-    constexpr bool UseTriangulation = false;
-    constexpr bool UseTolerance = false;
-    Bnd_Box box;
-    BRepBndLib::AddOptimal(shape, box, UseTriangulation, UseTolerance);
+    measures.volume = BodyVolumes().Of(shape);
+    measures.area = Area(shape);
+    const Bnd_Box box = TightBox(shape);
     if (!box.IsVoid()) {
         auto& [xMin, yMin, zMin, xMax, yMax, zMax] = measures.boundingBox;
         box.Get(xMin, yMin, zMin, xMax, yMax, zMax);

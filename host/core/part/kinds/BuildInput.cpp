@@ -51,10 +51,20 @@ const TopoDS_Shape& BuildInput::FirstBody() const
 
 std::vector<TopoDS_Shape> BuildInput::OtherBodies() const
 {
-    std::vector<TopoDS_Shape> others;
-    for (std::size_t i = 1; i < m_bodies.size(); ++i) {
+    return BodiesFrom(1);
+}
+
+std::vector<TopoDS_Shape> BuildInput::Bodies() const
+{
+    return BodiesFrom(0);
+}
+
+std::vector<TopoDS_Shape> BuildInput::BodiesFrom(std::size_t first) const
+{
+    std::vector<TopoDS_Shape> shapes;
+    for (std::size_t i = first; i < m_bodies.size(); ++i) {
         if (!m_bodies[i].shape.IsNull())
-            others.push_back(m_bodies[i].shape);
+            shapes.push_back(m_bodies[i].shape);
     }
-    return others;
+    return shapes;
 }

@@ -42,9 +42,14 @@ public:
     /// The bodies of the other inputs, without those that are null.
     std::vector<TopoDS_Shape> OtherBodies() const;
 
+    /// The bodies of all inputs, without those that are null.
+    std::vector<TopoDS_Shape> Bodies() const;
+
     const QString& File() const { return m_file; }
 
 private:
+    std::vector<TopoDS_Shape> BodiesFrom(std::size_t first) const;
+
     const FeatureKind& m_kind;
     std::vector<double> m_values;
     std::vector<Body> m_bodies;

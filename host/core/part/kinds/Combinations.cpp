@@ -1,13 +1,16 @@
 // The kinds that combine several bodies.
 
 #include "Bodies.h"
+#include "BodyCheck.h"
+#include "BodyVolumes.h"
 #include "BuildError.h"
 #include "BuildInput.h"
 #include "FeatureKinds.h"
 
 #include <BRepAlgoAPI_Cut.hxx>
 #include <BRepAlgoAPI_Fuse.hxx>
-#include <TopExp_Explorer.hxx>
+
+#include <algorithm>
 
 namespace {
 
@@ -38,19 +41,40 @@ TopoDS_Shape Combined(const BuildInput& input)
     operation.Build();
     if (!operation.IsDone() || operation.HasErrors())
         throw BuildError(BuildError::tr("the geometry kernel could not combine the bodies."));
-    const TopoDS_Shape result = operation.Shape();
-    if (result.IsNull() || !TopExp_Explorer(result, TopAbs_FACE).More())
+    return Unwrapped(operation.Shape());
+}
+
+// Of a single body: those of one compound may overlap, and fused they have less than together.
+double LargestVolume(const TopoDS_Shape& shape, BodyVolumes& volumes)
+{
+    double largest = 0.0;
+    VisitBodies(shape,
+                [&](const TopoDS_Shape& body) { largest = std::max(largest, volumes.Of(body)); });
+    return largest;
+}
+
+void CheckFuse(const BuildInput& input, const TopoDS_Shape& result, BodyVolumes& volumes)
+{
+    const TopoDS_Shape bodies = Compound(input.Bodies());
+    CheckVolume(volumes.Of(result), LargestVolume(bodies, volumes), volumes.Of(bodies));
+}
+
+void CheckCut(const BuildInput& input, const TopoDS_Shape& result, BodyVolumes& volumes)
+{
+    const double volume = volumes.Of(result);
+    if (volume == 0.0)
         throw BuildError(BuildError::tr("nothing is left of the body."));
-    return Unwrapped(result);
+    CheckVolume(volume, 0.0, volumes.Of(input.FirstBody()));
 }
 
 template<class Operation>
-FeatureKind Combination(const char* word, const char* title)
+FeatureKind Combination(const char* word, const char* title, decltype(FeatureKind::check) check)
 {
     FeatureKind kind(word, title, FeatureGroup::Combination);
     kind.minInputs = 2;
     kind.maxInputs = FeatureKind::Unlimited;
     kind.build = Combined<Operation>;
+    kind.check = check;
     return kind;
 }
 
@@ -58,6 +82,7 @@ FeatureKind Combination(const char* word, const char* title)
 
 std::vector<FeatureKind> FeatureKinds::Combinations()
 {
-    return {Combination<BRepAlgoAPI_Fuse>("fuse", QT_TRANSLATE_NOOP("FeatureKinds", "Fuse")),
-            Combination<BRepAlgoAPI_Cut>("cut", QT_TRANSLATE_NOOP("FeatureKinds", "Cut"))};
+    return {
+        Combination<BRepAlgoAPI_Fuse>("fuse", QT_TRANSLATE_NOOP("FeatureKinds", "Fuse"), CheckFuse),
+        Combination<BRepAlgoAPI_Cut>("cut", QT_TRANSLATE_NOOP("FeatureKinds", "Cut"), CheckCut)};
 }

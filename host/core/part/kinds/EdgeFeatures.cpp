@@ -1,6 +1,7 @@
 // The kinds that replace edges of a body.
 
 #include "Bodies.h"
+#include "BodyCheck.h"
 #include "BuildError.h"
 #include "BuildInput.h"
 #include "CommonFields.h"
@@ -40,6 +41,9 @@ FeatureKind Fillet()
                                             "too large for the faces beside the edge.")
                                  .arg(ShortText(radius)));
         return Unwrapped(fillet.Shape());
+    };
+    kind.check = [](const BuildInput& input, const TopoDS_Shape& result, BodyVolumes&) {
+        CheckWithinBox(result, input.FirstBody());
     };
     return kind;
 }

@@ -1,5 +1,7 @@
 #include "FeatureKind.h"
 
+#include "BodyCheck.h"
+#include "BuildInput.h"
 #include "FeatureKinds.h"
 
 #include <algorithm>
@@ -12,6 +14,15 @@ QString FieldDefinition::Label() const
 QString FeatureKind::Title() const
 {
     return FeatureKinds::tr(title);
+}
+
+TopoDS_Shape FeatureKind::Built(const BuildInput& input, BodyVolumes& volumes) const
+{
+    TopoDS_Shape result = build(input);
+    CheckNewBodies(result, input.Bodies(), volumes);
+    if (check != nullptr)
+        check(input, result, volumes);
+    return result;
 }
 
 std::size_t FeatureKind::IndexOf(const char* key) const

@@ -6,6 +6,7 @@
 
 #include <vector>
 
+class BodyVolumes;
 class BuildInput;
 class TopoDS_Shape;
 
@@ -53,6 +54,10 @@ struct FeatureKind
     bool readsFile = false; ///< It has a file.
     bool isAtFace = false;  ///< The fields x, y, z are a point on a face of its input.
     TopoDS_Shape (*build)(const BuildInput& input) = nullptr; ///< @throws BuildError
+    /// Checks what is true of the results of this kind only; null if there is no such rule.
+    /// @throws BuildError
+    void (*check)(const BuildInput& input, const TopoDS_Shape& result,
+                  BodyVolumes& volumes) = nullptr;
 
     FeatureKind(const char* kindWord, const char* kindTitle, FeatureGroup kindGroup)
         : word(kindWord)
@@ -62,6 +67,9 @@ struct FeatureKind
     }
 
     QString Title() const;
+    /// Builds the result and checks it. @p volumes may know the bodies of @p input already.
+    /// @throws BuildError
+    TopoDS_Shape Built(const BuildInput& input, BodyVolumes& volumes) const;
     /// The place of the field called @p key in files, or the number of fields.
     std::size_t IndexOf(const char* key) const;
 };
