@@ -1,4 +1,5 @@
 #include "DOEDlg.h"
+#include "GlobalParaMeterMgr.h"
 #include "RunBenchmarks.h"
 #include "sParaArrayData.h"
 
@@ -10,10 +11,13 @@
 
 #include <array>
 #include <cmath>
+#include <memory>
 
 // "Refresh Data" with five ticked parameters, compared with filling a plain table with the same
 // texts. Both tables are visible and empty when the timer starts. "bytes" is the heap memory of a
 // full table.
+//
+// Open is the dialog for a store of parameters, until it is visible.
 
 namespace {
 
@@ -121,6 +125,24 @@ void FillPlainTable(benchmark::State& state)
     }
 }
 
+void Open(benchmark::State& state)
+{
+    for (int i = 0; i < int(state.range(0)); ++i) {
+        ParametersDef record;
+        record.m_strName = QStringLiteral("p%1").arg(i);
+        GlobalParaMeterMgr::AddParameter(record.m_strName, record);
+    }
+    for (auto _ : state) {
+        auto dialog = std::make_unique<DOEDlg>(nullptr);
+        dialog->show();
+        QCoreApplication::processEvents();
+        state.PauseTiming();
+        dialog.reset();
+        state.ResumeTiming();
+    }
+    GlobalParaMeterMgr::m_nameMapParameters.clear();
+}
+
 constexpr int Runs = 100000;
 
 BENCHMARK(RefreshData)->Name("RunTable/ours")->Arg(Runs)->Unit(benchmark::kMillisecond);
@@ -136,6 +158,7 @@ BENCHMARK(FillPlainTable<TextItem>)
     ->Name("BareItems/reference")
     ->Arg(Runs)
     ->Unit(benchmark::kMillisecond);
+BENCHMARK(Open)->Name("Open/ours")->Arg(5000)->Arg(40000)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

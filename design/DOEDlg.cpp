@@ -33,6 +33,23 @@ const char* const RowProperty = "Line";
 
 static_assert(DOEDlg::MaximumRuns == FullFactorial::MaximumRuns);
 
+// When it is polished, a button asks for a new layout of its parent. For many buttons that are
+// shown at once this takes quadratic time, and a table needs no layout.
+class CellButton : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+private:
+    bool event(QEvent* event) override
+    {
+        if (event->type() != QEvent::PolishRequest)
+            return QPushButton::event(event);
+        ensurePolished();
+        return true;
+    }
+};
+
 // Checked access: inconsistent data cause this exception.
 const QString& At(const std::map<int, QString>& names, int key)
 {
@@ -93,10 +110,10 @@ void DOEDlg::InitGUI()
 {
     QTableWidget& table = *m_ui.tableWidget_Parameters;
     const ParameterMap parameters = GlobalParaMeterMgr::m_nameMapParameters;
+    // All rows at once: inserting one row visits the cell widgets of all earlier rows.
+    table.setRowCount(int(parameters.size()));
     int row = 0;
     for (const auto& entry : parameters) {
-        table.insertRow(row);
-
         auto* const name = new QTableWidgetItem(entry.second.m_strName);
         // An edited name would leave a tick in the registry that no row can remove.
         name->setFlags(name->flags() & ~Qt::ItemIsEditable);
@@ -107,7 +124,7 @@ void DOEDlg::InitGUI()
         check->setProperty(RowProperty, row);
         table.setCellWidget(row, StatusColumn, check);
 
-        auto* const button = new QPushButton(tr("Set Array"));
+        auto* const button = new CellButton(tr("Set Array"));
         button->setProperty(RowProperty, row);
         button->setAutoDefault(false);
         button->setEnabled(false);

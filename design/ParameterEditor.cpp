@@ -5,9 +5,11 @@
 #include "LocalText.h"
 #include "Notice.h"
 #include "NumberText.h"
+#include "TypeCombo.h"
 
 #include <QComboBox>
-#include <QHeaderView>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QSignalBlocker>
@@ -15,7 +17,6 @@
 #include <QTableWidgetItem>
 
 #include <algorithm>
-#include <array>
 #include <map>
 
 namespace {
@@ -30,34 +31,15 @@ enum Column
     DescriptionColumn
 };
 
-// The stored type code of each entry of the type combo box, in the combo's order.
-constexpr std::array<int, 4> ComboTypeCodes = {ParametersDef::ScalarType, ParametersDef::VectorType,
-                                               ParametersDef::TensorType, ParametersDef::BoolType};
-
 constexpr QLatin1Char Separator(',');
 
-int TypeCodeOfCombo(int index)
-{
-    return index >= 0 && index < int(ComboTypeCodes.size()) ? ComboTypeCodes[std::size_t(index)]
-                                                            : int(ParametersDef::ScalarType);
-}
-
-int ComboOfTypeCode(int code)
-{
-    for (std::size_t index = 0; index < ComboTypeCodes.size(); ++index) {
-        if (ComboTypeCodes[index] == code)
-            return int(index);
-    }
-    return 0;
-}
-
-// The table uses a cell's field until setModelData() returns. If this opens a notice and the host
-// refills the table meanwhile, the field must not be destroyed.
 class CellDelegate : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    // The table uses a cell's field until this returns. If this opens a notice and the host
+    // refills the table meanwhile, the field must not be destroyed.
     void setModelData(QWidget* editor, QAbstractItemModel* model,
                       const QModelIndex& index) const override
     {
@@ -69,33 +51,41 @@ public:
         m_isDropped = false;
     }
 
+    // Keeps combo boxes for the next refill. Each deleted one would leave an event, and with many
+    // such events destroying the editor takes quadratic time.
     void destroyEditor(QWidget* editor, const QModelIndex& index) const override
     {
+        auto* const combo = dynamic_cast<TypeCombo*>(editor);
         if (editor == m_inUse)
             m_isDropped = true;
+        else if (combo != nullptr)
+            m_spareCombos.emplace(combo->Number(), combo);
         else
             QStyledItemDelegate::destroyEditor(editor, index);
+    }
+
+    // Returns the oldest kept combo box, because the Tab key follows the age. Null if there is
+    // none.
+    TypeCombo* TakeSpareCombo()
+    {
+        if (m_spareCombos.empty())
+            return nullptr;
+        TypeCombo* const combo = m_spareCombos.begin()->second;
+        m_spareCombos.erase(m_spareCombos.begin());
+        return combo;
     }
 
 private:
     mutable QWidget* m_inUse = nullptr;
     mutable bool m_isDropped = false;
+    mutable std::map<quint64, QPointer<TypeCombo>> m_spareCombos;
 };
 
-// Created as a child of the table: a combo box that inherits another font later builds its
-// drop-down list immediately.
-QComboBox* NewTypeCombo(const QTableWidget& table, int index)
+void ShowType(QTableWidget& table, int row, TypeCombo* spare, int code)
 {
-    auto* const combo = new QComboBox(table.viewport());
-    combo->addItem(ParameterEditor::tr("Scalar"));
-    combo->addItem(ParameterEditor::tr("Vector"));
-    combo->addItem(ParameterEditor::tr("Tensor"));
-    combo->addItem(ParameterEditor::tr("Bool"));
-    combo->setCurrentIndex(index);
-    combo->setAccessibleName(ParameterEditor::tr("Type"));
-    // With an explicit size it is not measured when shown; the table's layout sets the real size.
-    combo->resize(table.columnWidth(TypeColumn), table.verticalHeader()->defaultSectionSize());
-    return combo;
+    auto* const combo = spare != nullptr ? spare : new TypeCombo(table, TypeColumn);
+    combo->Offer(code);
+    table.setCellWidget(row, TypeColumn, combo);
 }
 
 QString CellText(const QTableWidget& table, int row, int column)
@@ -147,7 +137,12 @@ ParameterEditor::ParameterEditor(QWidget* parent)
             SLOT(m_Slot_NoNumber(QTableWidgetItem*)));
 }
 
-ParameterEditor::~ParameterEditor() = default;
+ParameterEditor::~ParameterEditor()
+{
+    // Each combo box that was shown a moment ago waits for such an event. To cancel it, its
+    // destructor would search the whole queue.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
+}
 
 void ParameterEditor::m_Slot_Apply()
 {
@@ -176,7 +171,7 @@ void ParameterEditor::m_Slot_Add()
     for (const int column :
          {NameColumn, ValueColumn, ExpressionColumn, ExpressionParaColumn, DescriptionColumn})
         table.setItem(row, column, new QTableWidgetItem(QString()));
-    table.setCellWidget(row, TypeColumn, NewTypeCombo(table, 0));
+    ShowType(table, row, nullptr, ParametersDef::ScalarType);
 }
 
 void ParameterEditor::m_Slot_OK()
@@ -205,11 +200,16 @@ void ParameterEditor::m_Slot_RefreshGUI()
     const ParameterMap parameters = GlobalParaMeterMgr::m_nameMapParameters;
     table.setRowCount(int(parameters.size()));
 
+    // New combo boxes ask for a layout when they are shown, and each one searches the queue for an
+    // earlier request: put one to the front.
+    QCoreApplication::postEvent(table.viewport(), new QEvent(QEvent::LayoutRequest));
+    auto* const delegate = dynamic_cast<CellDelegate*>(table.itemDelegate());
     int row = 0;
     for (const auto& [name, record] : parameters) {
         table.setItem(row, NameColumn, new QTableWidgetItem(name));
         table.setItem(row, ValueColumn, new QTableWidgetItem(record.m_strValue));
-        table.setCellWidget(row, TypeColumn, NewTypeCombo(table, ComboOfTypeCode(record.m_nType)));
+        ShowType(table, row, delegate != nullptr ? delegate->TakeSpareCombo() : nullptr,
+                 record.m_nType);
         table.setItem(row, ExpressionColumn,
                       new QTableWidgetItem(tarn::FromLocal8Bit(record.m_strExpression)));
         table.setItem(row, ExpressionParaColumn, new QTableWidgetItem(record.m_strExpressPara));
@@ -245,7 +245,7 @@ void ParameterEditor::UpdateAllParameterDef()
         record.m_strValue = CellText(table, row, ValueColumn);
 
         const auto* const combo = qobject_cast<QComboBox*>(table.cellWidget(row, TypeColumn));
-        const int type = combo != nullptr ? TypeCodeOfCombo(combo->currentIndex())
+        const int type = combo != nullptr ? TypeCombo::TypeCode(combo->currentIndex())
                                           : int(ParametersDef::ScalarType);
         if (combo != nullptr && combo->currentIndex() == 0) {
             record.m_dValue = record.m_strValue.toDouble();

@@ -65,6 +65,7 @@ private Q_SLOTS:
     void DeleteRemovesTheCurrentRowOfTheTableOnly();
     void DeleteWithoutACurrentRowRemovesNothing();
     void ApplyWritesAndNotifiesTheHostEachTime();
+    void TabFollowsTheRowsAfterApply();
     void OkAppliesAndAcceptsEvenAfterARefusal();
     void CancelWritesNothingAndRejects_data();
     void CancelWritesNothingAndRejects();
@@ -251,6 +252,25 @@ void tst_ParameterEditor::ApplyWritesAndNotifiesTheHostEachTime()
     QCOMPARE(spy.count(), 2);
     QCOMPARE(Stored("a").m_dValue, 3.0);
     editor.close();
+}
+
+void tst_ParameterEditor::TabFollowsTheRowsAfterApply()
+{
+    for (const char* const name : {"a", "b", "c", "d"})
+        Store(name, "1");
+    ParameterEditor editor(nullptr);
+    editor.m_Slot_RefreshGUI();
+    editor.show();
+    Table(editor).setCurrentCell(1, NameColumn);
+    Click(editor, "pushButton_Del");
+    Click(editor, "pushButton_Add");
+    Click(editor, "pushButton_Apply");
+    QCOMPARE(Table(editor).rowCount(), 5);
+    const QWidget* combo = &Combo(editor, 0);
+    for (int row = 1; row < 5; ++row) {
+        combo = combo->nextInFocusChain();
+        QCOMPARE(combo, &Combo(editor, row));
+    }
 }
 
 void tst_ParameterEditor::OkAppliesAndAcceptsEvenAfterARefusal()
