@@ -1,13 +1,8 @@
 #include "rotateInputDlg.h"
 
+#include "Angles.h"
 #include "CoordinateInput.h"
 #include "ModalLoop.h"
-
-namespace {
-
-constexpr double Pi = 3.141592653589793;
-
-} // namespace
 
 rotateInputDlg::rotateInputDlg(QWidget* parent)
     : QDialog(parent)
@@ -49,7 +44,7 @@ int rotateInputDlg::exec()
 
 void rotateInputDlg::m_Slot_OK()
 {
-    m_dAngle = m_ui.lineEdit_Degree->text().toDouble() * Pi / 180;
+    m_dAngle = m_ui.lineEdit_Degree->text().toDouble() * tarn::Pi / 180;
     const gp_XYZ direction =
         tarn::Coordinates(*m_ui.lineEdit_xDir, *m_ui.lineEdit_yDir, *m_ui.lineEdit_zDir);
     m_basePoint = tarn::Coordinates(*m_ui.lineEdit_xPt, *m_ui.lineEdit_yPt, *m_ui.lineEdit_zPt);

@@ -1,5 +1,6 @@
 #include "ExpressionEngine.h"
 
+#include "Angles.h"
 #include "ExpressionText.h"
 
 #include <QCache>
@@ -162,7 +163,7 @@ private:
 
     double ValueOf(const Token& name, const Variables& variables) const
     {
-        static const Variables constants = {{"e", 2.718281828459045}, {"pi", 3.141592653589793}};
+        static const Variables constants = {{"e", 2.718281828459045}, {"pi", tarn::Pi}};
         const bool isCall = name.kind == ExpressionText::Call;
         auto found = variables.find(name.key);
         if (isCall && found != variables.end())

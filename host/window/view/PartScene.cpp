@@ -1,5 +1,7 @@
 #include "PartScene.h"
 
+#include "Angles.h"
+
 #include <AIS_AnimationCamera.hxx>
 #include <AIS_InteractiveContext.hxx>
 #include <AIS_Point.hxx>
@@ -43,7 +45,7 @@ constexpr double FitMargin = 0.05;
 constexpr int Samples = 4;
 constexpr double MarkScale = 3.0;
 constexpr double Chord = 0.0005; // The largest distance of a facet, as a share of the part's size.
-constexpr double FacetAngle = 8.0 * M_PI / 180.0;
+constexpr double FacetAngle = 8.0 * tarn::RadiansPerDegree;
 
 // How high the view may be, in millimetres: the wheel goes no further.
 constexpr double LeastHeight = 1e-4;

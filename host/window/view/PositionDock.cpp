@@ -1,5 +1,6 @@
 #include "PositionDock.h"
 
+#include "Limits.h"
 #include "MessageLevel.h"
 #include "NumberTexts.h"
 #include "PartView.h"
@@ -11,8 +12,6 @@
 #include <cmath>
 
 namespace {
-
-constexpr double GreatestCoordinate = 1e6;
 
 // On the screen a point is never known to less than a thousandth; the rest is noise, as in -1e-15.
 QString CoordinateText(double millimetres)
@@ -65,12 +64,11 @@ void PositionDock::Enter()
         const QString text = m_fields[i]->text();
         const double value = text.toDouble(&isNumber);
         // Also refuses what is not a number to the arithmetic either.
-        if (!isNumber || !(std::abs(value) <= GreatestCoordinate)) {
+        if (!isNumber || !(std::abs(value) <= MaximumLength)) {
             PostMessageToChannel(
-                ErrorLevel,
-                tr("Position: %1 is \"%2\", not a number from %3 to %4")
-                    .arg(QLatin1Char("xyz"[i]))
-                    .arg(text, ShortText(-GreatestCoordinate), ShortText(GreatestCoordinate)));
+                ErrorLevel, tr("Position: %1 is \"%2\", not a number from %3 to %4")
+                                .arg(QLatin1Char("xyz"[i]))
+                                .arg(text, ShortText(-MaximumLength), ShortText(MaximumLength)));
             m_fields[i]->setFocus();
             m_fields[i]->selectAll();
             return;

@@ -9,5 +9,3 @@ constexpr double MinimumLength = 1e-4;
 constexpr double MaximumLength = 1e6;
 /// In degrees.
 constexpr double MinimumAngle = 1e-3;
-
-constexpr double RadiansPerDegree = 3.14159265358979323846 / 180.0;

@@ -1,5 +1,6 @@
 // The kinds that repeat a body.
 
+#include "Angles.h"
 #include "Bodies.h"
 #include "BuildError.h"
 #include "BuildInput.h"
@@ -57,7 +58,7 @@ TopoDS_Shape PolarArrayBody(const BuildInput& input)
     std::vector<TopoDS_Shape> instances = {shape};
     for (int instance = 1; instance < number; ++instance) {
         gp_Trsf rotation;
-        rotation.SetRotation(axis, step * instance * RadiansPerDegree);
+        rotation.SetRotation(axis, step * instance * tarn::RadiansPerDegree);
         instances.push_back(shape.Moved(TopLoc_Location(rotation)));
     }
     return Compound(instances);

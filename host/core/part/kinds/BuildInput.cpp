@@ -1,5 +1,6 @@
 #include "BuildInput.h"
 
+#include "Angles.h"
 #include "BuildError.h"
 #include "FeatureKind.h"
 #include "JsonSection.h"
@@ -24,7 +25,7 @@ double BuildInput::Value(const char* key) const
 
 double BuildInput::Radians(const char* key) const
 {
-    return Value(key) * RadiansPerDegree;
+    return Value(key) * tarn::RadiansPerDegree;
 }
 
 gp_Pnt BuildInput::Point() const

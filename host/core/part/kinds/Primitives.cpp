@@ -1,5 +1,6 @@
 // The kinds that make a body at the origin.
 
+#include "Angles.h"
 #include "BuildError.h"
 #include "BuildInput.h"
 #include "CommonFields.h"
@@ -169,14 +170,14 @@ TopoDS_Shape PolygonBody(const BuildInput& input)
     const gp_Vec sweep = gp_Vec(input.Direction()) * input.Value("length");
     if (std::abs(sweep.Z()) < MinimumLength)
         throw BuildError(BuildError::tr("its direction lies in the plane of the polygon."));
-    const double step = 360.0 * RadiansPerDegree / edges;
+    const double step = 360.0 * tarn::RadiansPerDegree / edges;
     if (radius * step < MinimumLength)
         throw BuildError(BuildError::tr("%1 edges are too many for a radius of %2 mm.")
                              .arg(edges)
                              .arg(ShortText(radius)));
     BRepBuilderAPI_MakePolygon outline;
     for (int corner = 0; corner < edges; ++corner) {
-        const double angle = 360.0 * corner / edges * RadiansPerDegree;
+        const double angle = 360.0 * corner / edges * tarn::RadiansPerDegree;
         outline.Add(gp_Pnt(radius * std::cos(angle), radius * std::sin(angle), 0.0));
     }
     outline.Close();

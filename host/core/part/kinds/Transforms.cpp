@@ -1,5 +1,6 @@
 // The kinds that move, rotate or mirror a body.
 
+#include "Angles.h"
 #include "BuildInput.h"
 #include "CommonFields.h"
 #include "FeatureKinds.h"
@@ -83,7 +84,7 @@ FeatureKind MirrorAtAxis()
         Transform("mirrorAxis", QT_TRANSLATE_NOOP("FeatureKinds", "Mirror at an axis"));
     kind.fields = AxisFields();
     kind.build = [](const BuildInput& input) {
-        return Rotated(input.FirstBody(), input.Axis(), 180.0 * RadiansPerDegree);
+        return Rotated(input.FirstBody(), input.Axis(), 180.0 * tarn::RadiansPerDegree);
     };
     return kind;
 }

@@ -1,5 +1,6 @@
 #include "DialogFields.h"
 
+#include "Angles.h"
 #include "FeatureKind.h"
 #include "FieldValues.h"
 #include "Limits.h"
@@ -77,7 +78,7 @@ void DialogFields::TakeCount(const char* key, int number)
 
 void DialogFields::TakeDegrees(const char* key, double radians)
 {
-    const QString text = ConvertedText(radians / RadiansPerDegree);
+    const QString text = ConvertedText(radians / tarn::RadiansPerDegree);
     if (!IsShown(key) || text != ConvertedText(Shown(key)))
         Replace(key, text.toDouble(), text);
 }
