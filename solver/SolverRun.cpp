@@ -25,6 +25,8 @@ QProcess::ExitStatus tarn::RunToEnd(const QString& command)
     QStringList arguments = QProcess::splitCommand(command);
     const QString program = arguments.takeFirst();
     process->setReadChannel(QProcess::StandardError);
+    // A program that asks something gets the end of its input; otherwise it would wait forever.
+    process->setStandardInputFile(QProcess::nullDevice());
     process->start(program, arguments, QIODevice::ReadWrite);
     process->waitForFinished(-1); // The default is to give up after 30 seconds.
     return process->exitStatus();

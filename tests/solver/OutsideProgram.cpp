@@ -27,6 +27,13 @@ void WriteMuch()
     }
 }
 
+// To the end of the standard input.
+void Read()
+{
+    while (std::getchar() != EOF) {
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -49,6 +56,8 @@ int main(int argc, char** argv)
         Wait();
     if (action == "write")
         WriteMuch();
+    if (action == "read")
+        Read();
     record << "ended\n";
     return 0;
 }

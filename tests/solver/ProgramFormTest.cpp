@@ -148,6 +148,7 @@ void ProgramFormChecks::EveryEndIsReportedAsDesigned_data()
     NewRow("exit code 3", QByteArray("exit 3"), true);
     NewRow("crash", QByteArray("crash"), false);
     NewRow("much output", QByteArray("write"), true);
+    NewRow("asking", QByteArray("read"), true);
 }
 
 void ProgramFormChecks::EveryEndIsReportedAsDesigned()
