@@ -95,10 +95,8 @@ void tst_BoundingBox::ItIsTheBoxOfTheKernel()
 void tst_BoundingBox::CopiesAreIncluded()
 {
     const TopoDS_Shape torus = BRepPrimAPI_MakeTorus(10.0, 3.0).Shape();
-    std::vector<TopoDS_Shape> copies;
-    for (int i = 0; i < 5; ++i)
-        copies.push_back(Placed(torus, 7.0 * i, 0.3 * i));
-    copies.push_back(Placed(torus, -20.0));
+    const std::vector<TopoDS_Shape> copies = {Placed(torus, -20.0), Placed(torus, 0.0, 0.3),
+                                              Placed(torus, 7.0, 0.6), Placed(torus, 14.0, 0.9)};
     const TopoDS_Shape shape = Placed(Compound({Compound(copies), RoundedPlate()}), 3.0, 1.0);
     QVERIFY(AreEqual(TightBox(shape), BoxOfTheKernel(shape)));
 }

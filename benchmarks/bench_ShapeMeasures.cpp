@@ -1,0 +1,74 @@
+#include "Bodies.h"
+#include "FeatureBuilder.h"
+#include "ParameterEvaluator.h"
+#include "Project.h"
+#include "RunBenchmarks.h"
+#include "ShapeMeasures.h"
+
+#include <BRepBndLib.hxx>
+#include <BRepGProp.hxx>
+#include <Bnd_Box.hxx>
+#include <GProp_GProps.hxx>
+#include <TopoDS_Shape.hxx>
+#include <gp_Ax1.hxx>
+#include <gp_Trsf.hxx>
+
+#include <benchmark/benchmark.h>
+
+#include <vector>
+
+// Measuring the sample flange and arrays of it, compared with the kernel's functions for the whole
+// part.
+
+namespace {
+
+TopoDS_Shape Copies(const TopoDS_Shape& body, int count)
+{
+    std::vector<TopoDS_Shape> copies;
+    copies.reserve(std::size_t(count));
+    for (int i = 0; i < count; ++i) {
+        gp_Trsf rotation;
+        rotation.SetRotation(gp_Ax1(gp_Pnt(1000.0, 0.0, 0.0), gp_Dir(0.0, 0.0, 1.0)), 0.01 * i);
+        copies.push_back(body.Moved(TopLoc_Location(rotation)));
+    }
+    return Compound(copies);
+}
+
+double MeasureByHand(const TopoDS_Shape& shape)
+{
+    GProp_GProps volume;
+    BRepGProp::VolumeProperties(shape, volume);
+    GProp_GProps area;
+    BRepGProp::SurfaceProperties(shape, area);
+    Bnd_Box box;
+    BRepBndLib::AddOptimal(shape, box, false, false);
+    return volume.Mass() + area.Mass() + box.SquareExtent();
+}
+
+template<class Measuring>
+void Run(benchmark::State& state, const TopoDS_Shape& flange, const Measuring& measuring)
+{
+    const TopoDS_Shape shape = Copies(flange, int(state.range(0)));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(measuring(shape));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return RunBenchmarks(argc, argv, [] {
+        const Project project = Project::Load(Project::SamplePath());
+        project.FillParameterStore();
+        EvaluateParameters();
+        const auto add = [flange = project.Build().shape](const char* name, auto measuring) {
+            const auto run = [flange, measuring](benchmark::State& state) {
+                Run(state, flange, measuring);
+            };
+            benchmark::RegisterBenchmark(name, run)->Arg(1)->Arg(100)->Unit(
+                benchmark::kMillisecond);
+        };
+        add("Flange/ours", [](const TopoDS_Shape& shape) { return Measure(shape).volume; });
+        add("Flange/reference", MeasureByHand);
+    });
+}
