@@ -22,13 +22,15 @@
 
 namespace {
 
+// Around a circle, far enough from each other.
 TopoDS_Shape Copies(const TopoDS_Shape& body, int count)
 {
     std::vector<TopoDS_Shape> copies;
     copies.reserve(std::size_t(count));
     for (int i = 0; i < count; ++i) {
         gp_Trsf rotation;
-        rotation.SetRotation(gp_Ax1(gp_Pnt(1000.0, 0.0, 0.0), gp_Dir(0.0, 0.0, 1.0)), 0.01 * i);
+        rotation.SetRotation(gp_Ax1(gp_Pnt(100.0 * count, 0.0, 0.0), gp_Dir(0.0, 0.0, 1.0)),
+                             6.28 * i / count);
         copies.push_back(body.Moved(TopLoc_Location(rotation)));
     }
     return Compound(copies);

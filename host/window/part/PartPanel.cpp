@@ -50,6 +50,12 @@ PartPanel::PartPanel(QWidget* parent)
     m_size = AddRow(*form, tr("Bounding box"), "label_BoundingBox");
     m_position = AddRow(*form, tr("From, to"), "label_BoundingBoxPosition");
 
+    m_overlaps = new QLabel;
+    m_overlaps->setObjectName(QStringLiteral("label_Overlaps"));
+    m_overlaps->setWordWrap(true);
+    m_overlaps->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    form->addRow(m_overlaps);
+
     m_layout->addLayout(form);
     const QString reason = PartView::UnavailableReason();
     if (reason.isEmpty()) {
@@ -103,9 +109,16 @@ void PartPanel::ShowShape(const TopoDS_Shape& shape, double density)
     m_position->setText(tr("(%1, %2, %3), (%4, %5, %6) mm")
                             .arg(LengthText(box[0]), LengthText(box[1]), LengthText(box[2]),
                                  LengthText(box[3]), LengthText(box[4]), LengthText(box[5])));
+    ShowOverlaps(measures.overlaps.Warning());
     Show(shape);
     m_builtAt = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
     m_status->setText(tr("Built at %1").arg(m_builtAt));
+}
+
+void PartPanel::ShowOverlaps(const QString& warning)
+{
+    m_overlaps->setText(warning);
+    m_overlaps->setVisible(!warning.isEmpty());
 }
 
 void PartPanel::ShowFailure(const QString& reason)
@@ -123,4 +136,5 @@ void PartPanel::Clear()
     m_status->setText(tr("There is no shape yet"));
     for (QLabel* const label : {m_volume, m_area, m_mass, m_size, m_position})
         label->setText(tr("none"));
+    ShowOverlaps({});
 }

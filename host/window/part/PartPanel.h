@@ -35,6 +35,7 @@ public:
 private:
     void UsePicture(const QString& reason);
     void Show(const TopoDS_Shape& shape);
+    void ShowOverlaps(const QString& warning);
 
     PartView* m_view = nullptr;
     ShapePicture* m_picture = nullptr; // In place of the view.
@@ -47,5 +48,6 @@ private:
     QLabel* m_mass;
     QLabel* m_size;
     QLabel* m_position;
-    QString m_builtAt; // The time of the last valid shape; empty if there is none.
+    QLabel* m_overlaps; // A warning; hidden if there is none.
+    QString m_builtAt;  // The time of the last valid shape; empty if there is none.
 };

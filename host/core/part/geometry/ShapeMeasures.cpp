@@ -39,6 +39,7 @@ ShapeMeasures MeasuresOf(const TopoDS_Shape& shape)
         auto& [xMin, yMin, zMin, xMax, yMax, zMax] = measures.boundingBox;
         box.Get(xMin, yMin, zMin, xMax, yMax, zMax);
     }
+    measures.overlaps = FindOverlaps(shape);
     return measures;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "BodyOverlaps.h"
+
 #include <array>
 
 class TopoDS_Shape;
@@ -10,6 +12,7 @@ struct ShapeMeasures
     double volume = 0.0;                 ///< mm3
     double area = 0.0;                   ///< mm2
     std::array<double, 6> boundingBox{}; ///< Minimum x, y, z, maximum x, y, z, in mm; tight.
+    BodyOverlaps overlaps;
 };
 
 /// Measures @p shape. @throws Standard_Failure if the kernel fails

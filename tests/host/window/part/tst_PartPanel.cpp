@@ -1,3 +1,4 @@
+#include "Bodies.h"
 #include "DrawerOutput.h"
 #include "MessageLevel.h"
 #include "PartPanel.h"
@@ -15,6 +16,7 @@ class tst_PartPanel : public TestCase
 private Q_SLOTS:
     void AtFirstThereIsNoShape();
     void AShapeIsShownWithItsMeasures();
+    void BodiesThatOverlapAreAWarning();
     void AFailureKeepsTheLastGoodShape();
     void AFailureWithoutAnEarlierShapeSaysSo();
     void ClearForgetsTheShape();
@@ -56,6 +58,21 @@ void tst_PartPanel::AShapeIsShownWithItsMeasures()
     QCOMPARE(Shown(summary, "label_BoundingBox"), QStringLiteral("100 × 200 × 50 mm"));
     QCOMPARE(Shown(summary, "label_BoundingBoxPosition"),
              QStringLiteral("(0, 0, 0), (100, 200, 50) mm"));
+}
+
+void tst_PartPanel::BodiesThatOverlapAreAWarning()
+{
+    PartPanel summary(nullptr);
+    const auto& warning = Find<QLabel>(summary, "label_Overlaps");
+    const TopoDS_Shape box = BRepPrimAPI_MakeBox(10.0, 10.0, 10.0).Shape();
+    ShowBlock(summary);
+    QVERIFY(warning.isHidden());
+    summary.ShowShape(Compound({box, box}), 7850.0);
+    QVERIFY(!warning.isHidden());
+    QCOMPARE(warning.text(), QStringLiteral("Bodies overlap, and volume and mass count the common "
+                                            "region twice: 1 and 2."));
+    ShowBlock(summary);
+    QVERIFY(warning.isHidden());
 }
 
 void tst_PartPanel::AFailureKeepsTheLastGoodShape()
