@@ -1042,11 +1042,14 @@
     </message>
 </context>
 <context>
-    <name>PartView</name>
+    <name>OpenGlSupport</name>
     <message>
         <source>the system does not provide OpenGL</source>
         <translation>系统不提供 OpenGL</translation>
     </message>
+</context>
+<context>
+    <name>PartView</name>
     <message>
         <source>The 3D view cannot show this: %1</source>
         <translation>三维视图无法显示：%1</translation>

@@ -2,11 +2,11 @@
 
 #include <AIS_ViewController.hxx>
 #include <OpenGl_GraphicDriver.hxx>
+#include <QObject>
 #include <QWindow>
 #include <TopoDS_Face.hxx>
 #include <V3d_TypeOfOrientation.hxx>
 
-#include <functional>
 #include <optional>
 
 class AIS_InteractiveContext;
@@ -21,8 +21,10 @@ class V3d_View;
 ///
 /// Belongs to one OpenGL context, which is current whenever a member is called. Lengths on the
 /// screen are in the device's pixels. The kernel's failures leave it as Standard_Failure.
-class PartScene : public AIS_ViewController
+class PartScene : public QObject, public AIS_ViewController
 {
+    Q_OBJECT
+
 public:
     /// A point of the part, and the face that it is on.
     struct Hit
@@ -31,10 +33,8 @@ public:
         gp_Pnt point;
     };
 
-    /// @p askForFrame is called whenever the picture has changed.
-    PartScene(QOpenGLContext& context, std::function<void()> askForFrame);
+    explicit PartScene(QOpenGLContext& context);
     ~PartScene() override;
-    Q_DISABLE_COPY(PartScene)
 
     void SetPalette(const QPalette& palette);
     void Resize(int width, int height, double pixelRatio);
@@ -64,6 +64,10 @@ public:
     /// What of the part is under the cursor, which is at (@p x, @p y).
     std::optional<Hit> Detected(int x, int y) const;
 
+Q_SIGNALS:
+    /// Draw() would give another picture.
+    void PictureChanged();
+
 protected:
     void OnSelectionChanged(const Handle(AIS_InteractiveContext) & context,
                             const Handle(V3d_View) & view) override;
@@ -75,7 +79,6 @@ private:
                  int mode, int selection);
 
     QWindow m_surface;
-    std::function<void()> m_askForFrame;
     bool m_wasClicked = false;
 
     Handle(OpenGl_GraphicDriver) m_driver;

@@ -1,6 +1,7 @@
 #include "PartView.h"
 
 #include "MessageLevel.h"
+#include "OpenGlSupport.h"
 #include "PartScene.h"
 
 #include <QMouseEvent>
@@ -8,9 +9,6 @@
 #include <QShortcut>
 #include <QTimer>
 #include <Standard_Failure.hxx>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace {
 
@@ -57,52 +55,11 @@ Graphic3d_Vec2i Vector(const QPoint& point)
     return Graphic3d_Vec2i(point.x(), point.y());
 }
 
-void DropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
-
-// Keeps quiet what is only tried: the toolkit warns, and the driver writes to the console itself.
-class QuietConsole
-{
-public:
-    QuietConsole()
-        : m_handler(qInstallMessageHandler(DropMessage))
-        , m_console(dup(STDERR_FILENO))
-    {
-        const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
-        dup2(nowhere, STDERR_FILENO);
-        close(nowhere);
-    }
-    ~QuietConsole()
-    {
-        dup2(m_console, STDERR_FILENO);
-        close(m_console);
-        qInstallMessageHandler(m_handler);
-    }
-    Q_DISABLE_COPY(QuietConsole)
-
-private:
-    QtMessageHandler m_handler;
-    int m_console;
-};
-
-QString TryOpenGl()
-{
-    const QuietConsole quiet;
-    QOpenGLContext context;
-    if (!context.create())
-        return PartView::tr("the system does not provide OpenGL");
-    try {
-        const PartScene scene(context, [] {});
-    } catch (const Standard_Failure& failure) {
-        return QString::fromLocal8Bit(failure.GetMessageString());
-    }
-    return {};
-}
-
 } // namespace
 
 QString PartView::UnavailableReason()
 {
-    static const QString reason = TryOpenGl();
+    static const QString reason = OpenGlProblem();
     return reason;
 }
 
@@ -225,11 +182,12 @@ void PartView::initializeGL()
 void PartView::MakeScene()
 {
     try {
-        m_scene = std::make_unique<PartScene>(*context(), [this] { update(); });
+        m_scene = std::make_unique<PartScene>(*context());
     } catch (const Standard_Failure& failure) {
         Fail(failure);
         return;
     }
+    connect(m_scene.get(), &PartScene::PictureChanged, this, qOverload<>(&PartView::update));
     makeCurrent();
     WithScene([this](PartScene& scene) {
         Resize(scene);
