@@ -38,7 +38,7 @@ void tst_Heap::ALeakIsFound()
 void tst_Heap::WhatIsFreedIsNoLeak()
 {
     const double growth = HeapGrowth([] {
-        for (const std::size_t bytes : {50, 5000, 500000})
+        for (const std::size_t bytes : {std::size_t(50), std::size_t(5000), std::size_t(500000)})
             std::make_unique<char[]>(bytes);
     });
     QVERIFY2(growth < SmallestLeak, qPrintable(QString::number(growth)));
