@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TestCase.h"
+
 #include <QByteArray>
 #include <QDir>
 #include <QFileInfo>

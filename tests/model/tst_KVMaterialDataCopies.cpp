@@ -1,4 +1,5 @@
 #include "FullDisk.h"
+#include "LostWrites.h"
 #include "MaterialStoreTest.h"
 #include "TestFiles.h"
 #include "XmlFiles.h"
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void AFileChangedSinceItWasReadIsBackedUp();
     void AFullDiskLeavesTheOldFile();
     void AWriteThatFailsAtItsEndLeavesTheOldFile();
+    void NothingIsLostAmongProcesses();
 };
 
 void tst_KVMaterialDataCopies::AFileThatWasNotReadIsBackedUp_data()
@@ -137,6 +139,17 @@ void tst_KVMaterialDataCopies::AWriteThatFailsAtItsEndLeavesTheOldFile()
     QCOMPARE(Store().WriteXML(UserFile), 0);
     QVERIFY(ContentOf("UserMaterial.xml") != before);
     QCOMPARE(CopiesOf("UserMaterial.xml"), QStringList());
+}
+
+void tst_KVMaterialDataCopies::NothingIsLostAmongProcesses()
+{
+    const QStringList lost = LostAmongProcesses("UserMaterial.xml", [](const QString& name) {
+        // Forgets what it has written, as a process that has just begun.
+        Store().ClearInfo();
+        Store().AddMaterialInfo(Record(name));
+        return Store().WriteXML(UserFile) == 0;
+    });
+    QCOMPARE(lost, QStringList());
 }
 
 TARN_TEST_MAIN(tst_KVMaterialDataCopies)

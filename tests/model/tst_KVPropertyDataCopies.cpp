@@ -1,4 +1,5 @@
 #include "FullDisk.h"
+#include "LostWrites.h"
 #include "PropertyStoreTest.h"
 #include "TestFiles.h"
 #include "XmlFiles.h"
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void ClearingForgetsTheFilesRead();
     void AFullDiskLeavesTheOldFile();
     void AWriteThatFailsAtItsEndLeavesTheOldFile();
+    void NothingIsLostAmongProcesses();
 };
 
 void tst_KVPropertyDataCopies::AFileThatWasNotReadIsBackedUp_data()
@@ -156,6 +158,17 @@ void tst_KVPropertyDataCopies::AWriteThatFailsAtItsEndLeavesTheOldFile()
     QCOMPARE(Store().WriteXML(PropertyFile), 0);
     QVERIFY(ContentOf("ElementProperty.xml") != before);
     QCOMPARE(CopiesOf("ElementProperty.xml"), QStringList());
+}
+
+void tst_KVPropertyDataCopies::NothingIsLostAmongProcesses()
+{
+    const QStringList lost = LostAmongProcesses("ElementProperty.xml", [](const QString& name) {
+        // Forgets what it has written, as a process that has just begun.
+        Store().Clear();
+        Store().AddPropInfo(Record(name));
+        return Store().WriteXML(PropertyFile) == 0;
+    });
+    QCOMPARE(lost, QStringList());
 }
 
 TARN_TEST_MAIN(tst_KVPropertyDataCopies)
