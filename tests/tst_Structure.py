@@ -9,7 +9,7 @@ from pathlib import Path
 SOURCE = Path(os.environ["TARN_SOURCE_DIR"]).resolve()
 TESTS = SOURCE / "tests"
 # The tests mirror these folders; those of the model libraries are in one folder.
-MIRRORED = ("common", "design", "analysis", "geometry", "solver")
+MIRRORED = ("common", "design", "analysis", "geometry", "solver", "host/core", "host/window")
 LONGEST_TEST = 500
 
 
