@@ -85,7 +85,7 @@ void ChoosePlatform(const CommandLine& line)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     else if (qEnvironmentVariableIsEmpty("DISPLAY") &&
              qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        throw CommandLineError(QStringLiteral(
+        throw HostError(QStringLiteral(
             "there is no display; --study and --screenshots work without one, see --help"));
 }
 

@@ -55,7 +55,7 @@ struct Options
 
 [[noreturn]] void Refuse(const QString& reason)
 {
-    throw CommandLineError(reason);
+    throw HostError(reason);
 }
 
 void ReadRuns(const QString& text, CommandLine& line)

@@ -1,16 +1,7 @@
 #pragma once
 
-#include "HostError.h"
-
 #include <QString>
 #include <QStringList>
-
-/// What is wrong with the arguments: one line.
-class CommandLineError : public HostError
-{
-public:
-    using HostError::HostError;
-};
 
 /// What the program is asked to do.
 struct CommandLine
@@ -34,7 +25,7 @@ struct CommandLine
     int lastRun = 0;
 
     /// Reads the @p arguments, program name included. Needs no application object.
-    /// @throws CommandLineError
+    /// @throws HostError
     static CommandLine Parse(const QStringList& arguments);
 
     /// What --help prints. Needs an application object.

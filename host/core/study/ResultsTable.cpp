@@ -1,5 +1,6 @@
 #include "ResultsTable.h"
 
+#include "HostError.h"
 #include "WholeFile.h"
 
 #include <utility>
@@ -125,19 +126,18 @@ void ResultsTable::Read(const QString& path)
     tarn::WholeFile file(path, MaximumFileSize);
     QByteArray bytes;
     if (!file.Read(bytes))
-        throw ResultsError(QStringLiteral("%1: %2").arg(path, file.Error()));
+        throw HostError(QStringLiteral("%1: %2").arg(path, file.Error()));
     const std::vector<QStringList> rows = Split(QString::fromUtf8(bytes));
     const QStringList header = Header();
     if (rows.empty() || rows.front() != header)
-        throw ResultsError(
+        throw HostError(
             QStringLiteral("%1: holds the results of another study; choose another folder")
                 .arg(path));
 
     std::map<int, RunResult> runs;
     for (std::size_t i = 1; i < rows.size(); ++i) {
         const auto fail = [&] {
-            throw ResultsError(
-                QStringLiteral("%1: row %2 is no run of a study").arg(path).arg(i + 1));
+            throw HostError(QStringLiteral("%1: row %2 is no run of a study").arg(path).arg(i + 1));
         };
         if (rows[i].size() != header.size())
             fail();
@@ -187,7 +187,7 @@ void ResultsTable::Write(const QString& path) const
 
     tarn::WholeFile file(path, MaximumFileSize);
     if (!file.Write(text.toUtf8()))
-        throw ResultsError(QStringLiteral("%1: %2").arg(path, file.Error()));
+        throw HostError(QStringLiteral("%1: %2").arg(path, file.Error()));
 }
 
 void ResultsTable::Set(int run, RunResult result)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "HostError.h"
 #include "ShapeMeasures.h"
 
 #include <QString>
@@ -8,13 +7,6 @@
 
 #include <map>
 #include <vector>
-
-/// Why a results file cannot be read or written: one line.
-class ResultsError : public HostError
-{
-public:
-    using HostError::HostError;
-};
 
 /// One run of a study.
 struct RunResult
@@ -34,11 +26,11 @@ class ResultsTable
 public:
     explicit ResultsTable(const QStringList& parameters);
 
-    /// Takes the runs of the file at @p path over. @throws ResultsError when it cannot be read or
+    /// Takes the runs of the file at @p path over. @throws HostError when it cannot be read or
     /// is no table of these parameters; the runs are then as before.
     void Read(const QString& path);
 
-    /// Writes the file; an existing one is replaced as a whole or left alone. @throws ResultsError
+    /// Writes the file; an existing one is replaced as a whole or left alone. @throws HostError
     void Write(const QString& path) const;
 
     /// The results by run number, counted from 1.

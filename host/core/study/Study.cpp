@@ -12,7 +12,7 @@
 Study::Study(const Project& project)
 {
     const auto fail = [&project](const QString& reason) {
-        throw StudyError(QStringLiteral("%1: %2").arg(project.Path(), reason));
+        throw HostError(QStringLiteral("%1: %2").arg(project.Path(), reason));
     };
     // In the order of the names, as the DOE dialog shows its columns.
     std::map<QString, std::vector<double>> ticked;

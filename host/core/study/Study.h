@@ -1,7 +1,6 @@
 #pragma once
 
 #include "FullFactorial.h"
-#include "HostError.h"
 #include "ParameterMap.h"
 
 #include <QString>
@@ -9,19 +8,12 @@
 
 class Project;
 
-/// Why a study cannot be run: one line.
-class StudyError : public HostError
-{
-public:
-    using HostError::HostError;
-};
-
 /// The runs of a project: every combination of the samples of the ticked parameters, in the order
 /// of the DOE dialog.
 class Study
 {
 public:
-    /// Fills the parameter store with the parameters of the project. @throws StudyError if a sample
+    /// Fills the parameter store with the parameters of the project. @throws HostError if a sample
     /// list has a problem or there are more runs than FullFactorial allows
     explicit Study(const Project& project);
 

@@ -86,7 +86,7 @@ void CheckEarlierRuns(const Study& study, const ResultsTable& table, double dens
             study.Choose(run);
         if (!exists || !HaveSameDigits(earlier.values, ParameterValues()) ||
             (earlier.ok && earlier.mass != Mass(earlier.measures, density)))
-            throw StudyError(
+            throw HostError(
                 QStringLiteral(
                     "%1: run %2 in it belongs to a different study; choose another folder")
                     .arg(path)
@@ -110,7 +110,7 @@ StudyRunner::Summary StudyRunner::Run()
     const auto [first, last] = RequestedRuns(study.RunCount());
     const QDir directory(m_options.directory);
     if (!directory.mkpath(QStringLiteral(".")))
-        throw StudyError(QStringLiteral("%1: cannot create the folder").arg(m_options.directory));
+        throw HostError(QStringLiteral("%1: cannot create the folder").arg(m_options.directory));
     const QString tablePath = directory.filePath(QStringLiteral("results.csv"));
     ResultsTable table(ParameterNames());
     if (QFileInfo::exists(tablePath))
@@ -141,18 +141,17 @@ StudyRunner::Summary StudyRunner::Run()
 std::pair<int, int> StudyRunner::RequestedRuns(int runs) const
 {
     if (runs == 0)
-        throw StudyError(QStringLiteral("%1: the study has no runs; it needs a parameter that is "
-                                        "ticked and has samples")
-                             .arg(m_project.Path()));
+        throw HostError(QStringLiteral("%1: the study has no runs; it needs a parameter that is "
+                                       "ticked and has samples")
+                            .arg(m_project.Path()));
     const int first = m_options.firstRun > 0 ? m_options.firstRun : 1;
     const int last = m_options.lastRun > 0 ? m_options.lastRun : runs;
     if (first > last || last > runs)
-        throw StudyError(
-            QStringLiteral("%1: the study has the runs 1 to %2, so %3-%4 cannot be run")
-                .arg(m_project.Path())
-                .arg(runs)
-                .arg(first)
-                .arg(last));
+        throw HostError(QStringLiteral("%1: the study has the runs 1 to %2, so %3-%4 cannot be run")
+                            .arg(m_project.Path())
+                            .arg(runs)
+                            .arg(first)
+                            .arg(last));
     return {first, last};
 }
 

@@ -36,7 +36,7 @@ public:
     StudyRunner(const Project& project, Options options, std::function<void(const QString&)> tell);
 
     /// Replaces the parameter store by the project and does the runs. A run that fails does not
-    /// stop the others. @throws StudyError or ResultsError if the study cannot be run at all: it
+    /// stop the others. @throws HostError if the study cannot be run at all: it
     /// has no such runs, or the folder or its results.csv cannot be used
     Summary Run();
 

@@ -147,7 +147,7 @@ void tst_CommandLine::BadArgumentsAreToldInOneLine()
     try {
         Parse(arguments);
         QFAIL("The arguments were taken.");
-    } catch (const CommandLineError& error) {
+    } catch (const HostError& error) {
         QTEST(error.Reason(), "reason");
     }
 }

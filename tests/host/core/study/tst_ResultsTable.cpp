@@ -1,4 +1,5 @@
 #include "FullDisk.h"
+#include "HostError.h"
 #include "ResultsTable.h"
 #include "TestCase.h"
 #include "TestFiles.h"
@@ -49,7 +50,7 @@ static QString ReasonNotRead(ResultsTable& table)
 {
     try {
         table.Read("r.csv");
-    } catch (const ResultsError& error) {
+    } catch (const HostError& error) {
         return error.Reason();
     }
     return "it was read";
@@ -169,7 +170,7 @@ void tst_ResultsTable::AMissingFileIsTold()
 void tst_ResultsTable::AFolderThatIsNotThereIsTold()
 {
     EnterTemporaryDirectory();
-    QVERIFY_EXCEPTION_THROWN(ResultsTable({"a"}).Write("none/r.csv"), ResultsError);
+    QVERIFY_EXCEPTION_THROWN(ResultsTable({"a"}).Write("none/r.csv"), HostError);
 }
 
 void tst_ResultsTable::AFullDiskLeavesTheOldFile()
@@ -185,7 +186,7 @@ void tst_ResultsTable::AFullDiskLeavesTheOldFile()
     QString reason = "it was written";
     try {
         table.Write("r.csv");
-    } catch (const ResultsError& error) {
+    } catch (const HostError& error) {
         reason = error.Reason();
     }
     QCOMPARE(reason, "r.csv: cannot be written: " + disk.Reason());

@@ -144,7 +144,7 @@ void tst_Study::ABadStudyIsRefused()
     try {
         const Study study(project);
         QFAIL("It was taken.");
-    } catch (const StudyError& error) {
+    } catch (const HostError& error) {
         QCOMPARE(error.Reason(), reason);
     }
 }
