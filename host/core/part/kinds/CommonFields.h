@@ -18,7 +18,7 @@ constexpr FieldRule Sweep = {0.0, 360.0, FieldRule::Degrees, true};
 /// A whole number.
 constexpr FieldRule Count(int minimum, int maximum)
 {
-    return {double(minimum), double(maximum), FieldRule::Count};
+    return {double(minimum), double(maximum), FieldRule::WholeNumber};
 }
 
 } // namespace FieldRules

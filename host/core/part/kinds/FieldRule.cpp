@@ -10,7 +10,7 @@ bool FieldRule::Allows(double value) const
         return false;
     if (value == 0.0 && isZeroAllowed)
         return true;
-    if (unit == Count && value != std::floor(value))
+    if (unit == WholeNumber && value != std::floor(value))
         return false;
     return (exclusiveMinimum ? value > minimum : value >= minimum) &&
            (exclusiveMaximum ? value < maximum : value <= maximum);
@@ -37,7 +37,7 @@ QString FieldRule::Text() const
         return tr("%1 mm").arg(text);
     case Degrees:
         return tr("%1 degrees").arg(text);
-    case Count:
+    case WholeNumber:
         return tr("a whole number %1").arg(text);
     case Number:
         break;

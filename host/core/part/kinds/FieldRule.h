@@ -11,7 +11,7 @@ struct FieldRule
         Millimetres,
         Degrees,
         Number,
-        Count ///< Whole numbers only.
+        WholeNumber
     };
 
     double minimum;
