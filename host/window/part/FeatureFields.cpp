@@ -1,5 +1,6 @@
 #include "FeatureFields.h"
 
+#include "CompactTable.h"
 #include "ExpressionEngine.h"
 #include "FeatureKind.h"
 #include "FieldValues.h"
@@ -94,14 +95,9 @@ FeatureFields::FeatureFields(PartModel& model, QWidget* parent)
     m_table->setObjectName(QStringLiteral("fieldTable"));
     m_table->setAccessibleName(windowTitle());
     m_table->setHorizontalHeaderLabels({tr("Field"), tr("Number or expression"), tr("Value")});
-    m_table->setWordWrap(false);
+    MakeCompact(*m_table);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setEditTriggers(QAbstractItemView::AllEditTriggers);
-    m_table->setTabKeyNavigation(false);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setSectionResizeMode(LabelColumn, QHeaderView::ResizeToContents);
     m_table->horizontalHeader()->setSectionResizeMode(TextColumn, QHeaderView::Stretch);
     m_table->horizontalHeader()->setSectionResizeMode(ValueColumn, QHeaderView::ResizeToContents);

@@ -5,6 +5,7 @@
 #include "FeatureKinds.h"
 #include "FeatureTree.h"
 #include "JsonSection.h"
+#include "MenuActions.h"
 #include "MessageLevel.h"
 #include "PartModel.h"
 #include "PartView.h"
@@ -51,20 +52,21 @@ PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fie
     , m_view(view)
     , m_window(window)
     , m_dialogs(window)
-    , m_edit(NewAction(tr("&Edit feature"), "action_EditFeature", [this] { Edit(); }))
-    , m_up(NewAction(tr("Move &up"), "action_MoveUp", [this] { MoveSelected(-1); }))
-    , m_down(NewAction(tr("Move do&wn"), "action_MoveDown", [this] { MoveSelected(1); }))
-    , m_suppress(NewAction(tr("&Suppress"), "action_Suppress", [this] { SuppressSelected(); }))
-    , m_delete(
-          NewAction(tr("&Delete feature"), "action_DeleteFeature", [this] { DeleteSelected(); }))
-    , m_export(NewAction(tr("E&xport STEP"), "action_ExportStep", [this] { ExportStep(); }))
+    , m_edit(NewAction(tr("&Edit feature"), "action_EditFeature", this, &PartActions::Edit,
+                       QKeySequence(QStringLiteral("Ctrl+E"))))
+    , m_up(NewAction(
+          tr("Move &up"), "action_MoveUp", this, [this] { MoveSelected(-1); },
+          QKeySequence(QStringLiteral("Ctrl+Up"))))
+    , m_down(NewAction(
+          tr("Move do&wn"), "action_MoveDown", this, [this] { MoveSelected(1); },
+          QKeySequence(QStringLiteral("Ctrl+Down"))))
+    , m_suppress(NewAction(tr("&Suppress"), "action_Suppress", this, &PartActions::SuppressSelected,
+                           QKeySequence(QStringLiteral("Ctrl+U"))))
+    , m_delete(NewAction(tr("&Delete feature"), "action_DeleteFeature", this,
+                         &PartActions::DeleteSelected, QKeySequence::Delete))
+    , m_export(NewAction(tr("E&xport STEP"), "action_ExportStep", this, &PartActions::ExportStep))
 {
-    m_edit->setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
-    m_up->setShortcut(QKeySequence(QStringLiteral("Ctrl+Up")));
-    m_down->setShortcut(QKeySequence(QStringLiteral("Ctrl+Down")));
     m_suppress->setCheckable(true);
-    m_suppress->setShortcut(QKeySequence(QStringLiteral("Ctrl+U")));
-    m_delete->setShortcut(QKeySequence::Delete);
     tree.OfferActions({m_edit, m_up, m_down, m_suppress, m_delete});
 
     connect(&tree, &FeatureTree::SelectionChanged, this, &PartActions::UpdateActions);
@@ -85,21 +87,12 @@ PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fie
 
 PartActions::~PartActions() = default;
 
-QAction* PartActions::NewAction(const QString& text, const char* name,
-                                const std::function<void()>& run)
-{
-    auto* const action = new QAction(text, this);
-    action->setObjectName(QString::fromLatin1(name));
-    connect(action, &QAction::triggered, this, run);
-    return action;
-}
-
 void PartActions::FillMenu(QMenu& menu)
 {
     QMenu& bodies = *menu.addMenu(tr("Add &body"));
     OfferKinds(bodies, FeatureGroup::Body);
     bodies.addSeparator();
-    bodies.addAction(NewAction(tr("&Import STEP"), "action_ImportStep",
+    bodies.addAction(NewAction(tr("&Import STEP"), "action_ImportStep", this,
                                [this] { Add(*FeatureKinds::Find(QStringLiteral("import"))); }));
     QMenu& transforms = *menu.addMenu(tr("&Transform"));
     OfferKinds(transforms, FeatureGroup::Transform);
@@ -138,7 +131,8 @@ void PartActions::OfferKinds(QMenu& menu, FeatureGroup group)
             title = tr(dialog->title);
         }
         const QByteArray objectName = QByteArrayLiteral("action_Add_") + name.data();
-        menu.addAction(NewAction(title, objectName.constData(), [this, &kind] { Add(kind); }));
+        menu.addAction(
+            NewAction(title, objectName.constData(), this, [this, &kind] { Add(kind); }));
     }
 }
 

@@ -37,7 +37,6 @@ public:
     void TakePoint(const gp_Pnt& point);
 
 private:
-    QAction* NewAction(const QString& text, const char* name, const std::function<void()>& run);
     void OfferKinds(QMenu& menu, FeatureGroup group);
     void UpdateActions();
 

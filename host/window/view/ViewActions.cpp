@@ -1,5 +1,6 @@
 #include "ViewActions.h"
 
+#include "MenuActions.h"
 #include "PartView.h"
 
 #include <QActionGroup>
@@ -67,13 +68,10 @@ ViewActions::~ViewActions() = default;
 QAction* ViewActions::Add(const QString& text, const char* name, const QKeySequence& shortcut,
                           const std::function<void()>& act)
 {
-    auto* const action = new QAction(text, this);
-    action->setObjectName(QString::fromLatin1(name));
-    action->setShortcut(shortcut);
+    QAction* const action = NewAction(text, name, this, act, shortcut);
     // On the tool bar.
     action->setIconText(WithoutAccessKey(text));
     action->setToolTip(action->iconText());
-    connect(action, &QAction::triggered, this, act);
     m_actions << action;
     return action;
 }
