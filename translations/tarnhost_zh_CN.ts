@@ -1529,6 +1529,54 @@
         <source>the geometry kernel cannot translate the part</source>
         <translation>几何内核无法转换该零件</translation>
     </message>
+    <message>
+        <source>the file would not read back as the part: %1</source>
+        <translation>该文件读回后与零件不同：%1</translation>
+    </message>
+    <message>
+        <source>volume, area or centre of mass differ</source>
+        <translation>体积、面积或质心不同</translation>
+    </message>
+    <message>
+        <source>a shell</source>
+        <translation>壳</translation>
+    </message>
+    <message>
+        <source>a face</source>
+        <translation>面</translation>
+    </message>
+    <message>
+        <source>a wire</source>
+        <translation>线框</translation>
+    </message>
+    <message>
+        <source>an edge</source>
+        <translation>边</translation>
+    </message>
+    <message>
+        <source>a point</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>its shape %1 is %2, but only closed solids can be used</source>
+        <translation>其形状 %1 是%2，但只能使用封闭的实体</translation>
+    </message>
+    <message>
+        <source>its body %1 is not closed: a face may be missing</source>
+        <translation>其实体 %1 不封闭：可能缺少面</translation>
+    </message>
+    <message>
+        <source>refers to entities that it does not contain</source>
+        <translation>引用了文件中不存在的实体项</translation>
+    </message>
+    <message>
+        <source>its entity #%1 cannot be read: %2</source>
+        <translation>无法读取其实体项 #%1：%2</translation>
+    </message>
+    <message>
+        <source>its face #%1 cannot be translated</source>
+        <translation>无法转换其面 #%1</translation>
+    </message>
 </context>
 <context>
     <name>ViewActions</name>

@@ -1,28 +1,17 @@
 #include "StepFile.h"
 
 #include "KernelSignals.h"
-#include "Limits.h"
+#include "StepText.h"
 #include "WholeFile.h"
 
-#include <BRepBndLib.hxx>
-#include <Bnd_Box.hxx>
-#include <IFSelect_ReturnStatus.hxx>
-#include <Message.hxx>
-#include <Message_Messenger.hxx>
-#include <Message_Printer.hxx>
-#include <QFile>
+#include <BRepGProp.hxx>
+#include <GProp_GProps.hxx>
 #include <QFileInfo>
-#include <STEPControl_Reader.hxx>
-#include <STEPControl_Writer.hxx>
 #include <Standard_Failure.hxx>
-#include <StepData_Protocol.hxx>
-#include <StepData_StepModel.hxx>
-#include <StepData_StepWriter.hxx>
 #include <TopoDS_Shape.hxx>
-#include <XSControl_WorkSession.hxx>
+#include <gp_Pnt.hxx>
 
 #include <cmath>
-#include <sstream>
 
 namespace {
 
@@ -30,31 +19,23 @@ namespace {
 const char BeginMark[] = "ISO-10303-21;";
 const char EndMark[] = "END-ISO-10303-21;";
 
-// Keeps the kernel's statistics off the console, which belongs to the host.
-class QuietKernel
-{
-public:
-    QuietKernel()
-        : m_printers(Message::DefaultMessenger()->Printers())
-    {
-        Message::DefaultMessenger()->ChangePrinters().Clear();
-    }
-    ~QuietKernel() { Message::DefaultMessenger()->ChangePrinters() = m_printers; }
-    Q_DISABLE_COPY(QuietKernel)
-
-private:
-    Message_SequenceOfPrinters m_printers;
-};
-
 [[noreturn]] void Fail(const QString& path, const QString& reason)
 {
     throw StepError(QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), reason));
 }
 
-[[noreturn]] void FailInKernel(const QString& path, const Standard_Failure& failure)
+// Makes every failure of @p call one of the file.
+template<class Call>
+auto NamingFile(const QString& path, const Call& call)
 {
-    Fail(path, StepError::tr("the geometry kernel failed: %1")
-                   .arg(QString::fromLocal8Bit(failure.GetMessageString())));
+    try {
+        return GuardKernelCall(call);
+    } catch (const StepError& error) {
+        Fail(path, error.Reason());
+    } catch (const Standard_Failure& failure) {
+        Fail(path, StepError::tr("the geometry kernel failed: %1")
+                       .arg(QString::fromLocal8Bit(failure.GetMessageString())));
+    }
 }
 
 QByteArray ReadContent(const QString& path)
@@ -72,41 +53,59 @@ QByteArray ReadContent(const QString& path)
     return content;
 }
 
-void CheckExtent(const TopoDS_Shape& shape, const QString& path)
+enum class Integration
 {
-    Bnd_Box box;
-    BRepBndLib::Add(shape, box);
-    if (box.IsVoid())
-        Fail(path, StepError::tr("contains no shape"));
-    for (const gp_Pnt& corner : {box.CornerMin(), box.CornerMax()}) {
-        for (int axis = 1; axis <= 3; ++axis) {
-            // Negated, so that NaN is refused as well.
-            if (!(std::abs(corner.Coord(axis)) <= MaximumLength))
-                Fail(path, StepError::tr("contains a shape that extends beyond 1000 m"));
-        }
+    Fast, // With a fixed number of points, which suffices for most faces.
+    Exact
+};
+
+struct Moments
+{
+    double volume = 0.0;
+    double area = 0.0;
+    gp_Pnt centre;
+};
+
+Moments MomentsOf(const TopoDS_Shape& shape, Integration integration)
+{
+    GProp_GProps volume;
+    GProp_GProps area;
+    if (integration == Integration::Fast) {
+        BRepGProp::VolumeProperties(shape, volume);
+        BRepGProp::SurfaceProperties(shape, area);
+    } else {
+        constexpr double Accuracy = 1e-8;
+        BRepGProp::VolumeProperties(shape, volume, Accuracy);
+        BRepGProp::SurfaceProperties(shape, area, Accuracy);
     }
+    return {volume.Mass(), area.Mass(), volume.CentreOfMass()};
 }
 
-TopoDS_Shape ReadShape(const QString& path, const QByteArray& content)
+bool HaveSameMoments(const TopoDS_Shape& a, const TopoDS_Shape& b, Integration integration)
 {
-    STEPControl_Reader reader;
-    std::istringstream stream(content.toStdString());
-    if (reader.ReadStream(QFile::encodeName(path).constData(), stream) != IFSelect_RetDone)
-        Fail(path, StepError::tr("cannot be read as a STEP file"));
-    reader.TransferRoots();
-    TopoDS_Shape shape = reader.OneShape();
-    if (shape.IsNull())
-        Fail(path, StepError::tr("contains no shape"));
-    CheckExtent(shape, path);
-    return shape;
+    constexpr double Tolerance = 1e-6;
+    const Moments first = MomentsOf(a, integration);
+    const Moments second = MomentsOf(b, integration);
+    const double size = std::cbrt(first.volume) + std::sqrt(first.area);
+    return std::abs(first.volume - second.volume) <= Tolerance * first.volume &&
+           std::abs(first.area - second.area) <= Tolerance * first.area &&
+           first.centre.Distance(second.centre) <= Tolerance * size;
 }
 
-// Not STEPControl_Writer::Write(), which does not notice a full disk.
-bool Print(STEPControl_Writer& writer, std::ostream& stream)
+// The kernel writes some bodies so that it reads back others, or none.
+void CheckRoundTrip(const TopoDS_Shape& shape, const QByteArray& text)
 {
-    StepData_StepWriter text(writer.Model());
-    text.SendModel(Handle(StepData_Protocol)::DownCast(writer.WS()->Protocol()));
-    return text.Print(stream);
+    QString reason;
+    try {
+        const TopoDS_Shape read = ShapeFromStep(text);
+        if (HaveSameMoments(shape, read, Integration::Fast) ||
+            HaveSameMoments(shape, read, Integration::Exact))
+            return;
+        reason = StepError::tr("volume, area or centre of mass differ");
+    } catch (const StepError& error) {
+        reason = error.Reason();
+    }
+    throw StepError(StepError::tr("the file would not read back as the part: %1").arg(reason));
 }
 
 } // namespace
@@ -114,26 +113,17 @@ bool Print(STEPControl_Writer& writer, std::ostream& stream)
 TopoDS_Shape ReadStepFile(const QString& path)
 {
     const QByteArray content = ReadContent(path);
-    try {
-        const QuietKernel quiet;
-        return GuardKernelCall([&] { return ReadShape(path, content); });
-    } catch (const Standard_Failure& failure) {
-        FailInKernel(path, failure);
-    }
+    return NamingFile(path, [&] { return ShapeFromStep(content); });
 }
 
 void WriteStepFile(const TopoDS_Shape& shape, const QString& path)
 {
-    std::ostringstream stream;
-    try {
-        const QuietKernel quiet;
-        STEPControl_Writer writer;
-        if (writer.Transfer(shape, STEPControl_AsIs) != IFSelect_RetDone || !Print(writer, stream))
-            Fail(path, StepError::tr("the geometry kernel cannot translate the part"));
-    } catch (const Standard_Failure& failure) {
-        FailInKernel(path, failure);
-    }
+    const QByteArray text = NamingFile(path, [&] {
+        const QByteArray written = StepText(shape);
+        CheckRoundTrip(shape, written);
+        return written;
+    });
     tarn::WholeFile file(path);
-    if (!file.Write(QByteArray::fromStdString(stream.str())))
+    if (!file.Write(text))
         Fail(path, file.Error());
 }

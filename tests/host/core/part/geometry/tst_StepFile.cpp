@@ -4,11 +4,14 @@
 #include "TestCase.h"
 #include "TestFiles.h"
 
+#include <BRepAlgoAPI_Fuse.hxx>
 #include <BRepPrimAPI_MakeBox.hxx>
+#include <BRepPrimAPI_MakeSphere.hxx>
 #include <BRep_Builder.hxx>
 #include <QDir>
 #include <QFile>
 #include <STEPControl_Reader.hxx>
+#include <TopExp_Explorer.hxx>
 #include <TopoDS_Compound.hxx>
 #include <TopoDS_Shape.hxx>
 
@@ -29,6 +32,8 @@ private Q_SLOTS:
     void AMissingFolderIsReported();
     void AFolderIsNotReplacedAndNothingIsLeft();
     void AMissingShapeIsReported();
+    void FusedSpheresReadBackAsThePart();
+    void WhatWouldNotReadBackIsNotWritten();
     void AFullDiskLeavesTheOldFile();
     void FilesOfOthersStay();
     void AFileIsReadInMillimetres_data();
@@ -100,6 +105,31 @@ void tst_StepFile::AMissingShapeIsReported()
     QCOMPARE(Reason(TopoDS_Shape(), "a.step"),
              QString("a.step: the geometry kernel cannot translate the part"));
     QVERIFY(!QFile::exists("a.step"));
+}
+
+void tst_StepFile::FusedSpheresReadBackAsThePart()
+{
+    EnterTemporaryDirectory();
+    const TopoDS_Shape spheres =
+        BRepAlgoAPI_Fuse(BRepPrimAPI_MakeSphere(10.0).Shape(),
+                         BRepPrimAPI_MakeSphere(gp_Pnt(5.0, 0.0, 0.0), 10.0).Shape())
+            .Shape();
+    WriteStepFile(spheres, "a.step");
+    // Two spheres less the lens that both have.
+    const double pi = std::acos(-1.0);
+    const double expected = pi * (8000.0 / 3.0 - 45.0 * 225.0 / 12.0);
+    const double volume = Measure(ReadStepFile("a.step")).volume;
+    QVERIFY2(std::abs(volume - expected) < 1e-6 * expected, QByteArray::number(volume, 'g', 12));
+}
+
+void tst_StepFile::WhatWouldNotReadBackIsNotWritten()
+{
+    EnterTemporaryDirectory();
+    const TopoDS_Shape shell = TopExp_Explorer(Box(10.0), TopAbs_SHELL).Current();
+    QCOMPARE(Reason(shell, "a.step"),
+             QString("a.step: the file would not read back as the part: its shape 1 is a shell, "
+                     "but only closed solids can be used"));
+    QCOMPARE(AllFiles(), QStringList());
 }
 
 void tst_StepFile::AFullDiskLeavesTheOldFile()
@@ -181,7 +211,7 @@ void tst_StepFile::AFileWithoutAShapeIsReportedAndNothingIsPrinted_data()
     row("nonsense between the marks", head + "%%%% ((( #1=; '" + tail,
         "cannot be read as a STEP file");
     row("references to nothing", head + "#1=MANIFOLD_SOLID_BREP('',#99);\n" + tail,
-        "contains no shape");
+        "refers to entities that it does not contain");
 }
 
 // What is written to standard output and error while @p action runs.

@@ -1,0 +1,16 @@
+#pragma once
+
+class TopoDS_Shape;
+class XSControl_WorkSession;
+
+// Checks of a STEP file that is being read: the kernel leaves out what it cannot read.
+
+/// Checks the geometry and topology that was read. @throws StepError if it refers to missing
+/// entities or contains one that cannot be read
+void CheckStepEntities(XSControl_WorkSession& session);
+
+/// Checks that each face was translated. @throws StepError
+void CheckStepFaces(const XSControl_WorkSession& session);
+
+/// Checks that there are bodies, all closed solids within the limit of lengths. @throws StepError
+void CheckStepBodies(const TopoDS_Shape& shape);
