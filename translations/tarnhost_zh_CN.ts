@@ -280,6 +280,10 @@
         <source>The parameters are as before the design of experiments</source>
         <translation>参数已恢复到试验设计之前的状态</translation>
     </message>
+    <message>
+        <source>Removed parameters: %1</source>
+        <translation>已删除参数：%1</translation>
+    </message>
 </context>
 <context>
     <name>DoeSession</name>
@@ -741,10 +745,6 @@
         <translation>参数 %1</translation>
     </message>
     <message>
-        <source>has a comma in its name</source>
-        <translation>的名称中有逗号</translation>
-    </message>
-    <message>
         <source>has the unknown type %1</source>
         <translation>的类型 %1 未知</translation>
     </message>
@@ -1199,6 +1199,10 @@
     <message>
         <source>Description</source>
         <translation>描述</translation>
+    </message>
+    <message>
+        <source>&amp;Remove parameters</source>
+        <translation>删除参数(&amp;R)</translation>
     </message>
 </context>
 <context>

@@ -92,6 +92,8 @@ void MainWindow::CreateMenus()
     connect(m_projectActions, &ProjectActions::Saved, m_designActions,
             &DesignActions::WarnIfRunIsStored);
     connect(m_designActions, &DesignActions::ParametersChanged, this, &MainWindow::ApplyParameters);
+    connect(m_overview, &ParameterOverview::RemovalWanted, m_designActions,
+            &DesignActions::RemoveParameters);
     connect(m_designActions, &DesignActions::SamplesEdited, m_projectActions,
             &ProjectActions::UpdateModified);
 }

@@ -36,6 +36,13 @@ QString JsonSection::Text(QLatin1String key, const QString& byDefault) const
     return value.toString();
 }
 
+QString JsonSection::GivenText(QLatin1String key) const
+{
+    if (!Has(key))
+        Fail(JsonError::tr("has no \"%1\"").arg(key));
+    return Text(key);
+}
+
 QString JsonSection::NeededText(QLatin1String key) const
 {
     QString text = Text(key);

@@ -26,7 +26,7 @@ QString Quoted(const QString& text);
 /// An object of a JSON file; reading it checks the types.
 ///
 /// Every error is a JsonError that begins with the section's place. A missing entry yields the
-/// default, except for NeededText() and Number(), which require it.
+/// default, except for GivenText(), NeededText() and Number(), which require it.
 class JsonSection
 {
 public:
@@ -38,7 +38,8 @@ public:
     /// Of any type; undefined if it is missing.
     QJsonValue Value(QLatin1String key) const { return m_object.value(key); }
     QString Text(QLatin1String key, const QString& byDefault = QString()) const;
-    QString NeededText(QLatin1String key) const;
+    QString GivenText(QLatin1String key) const;  ///< May be empty.
+    QString NeededText(QLatin1String key) const; ///< Not empty.
     double Number(QLatin1String key) const;
     bool Flag(QLatin1String key, bool byDefault) const;
     QJsonArray Array(QLatin1String key) const;

@@ -77,12 +77,8 @@ ParametersDef ReadParameter(const QJsonValue& value, int number)
     const std::initializer_list<QLatin1String> keys = {NameKey,       TypeKey, ValueKey,
                                                        ExpressionKey, UsesKey, DescriptionKey};
     const QString place = JsonError::tr("parameter %1").arg(number);
-    const QString name = JsonSection(place, value, keys).NeededText(NameKey);
+    const QString name = JsonSection(place, value, keys).GivenText(NameKey);
     const JsonSection section(JsonError::tr("%1, %2,").arg(place, Quoted(name)), value, keys);
-
-    // In a list of names the comma would separate two of them.
-    if (name.contains(QLatin1Char(',')))
-        section.Fail(JsonError::tr("has a comma in its name"));
 
     ParametersDef record;
     record.m_strName = name;

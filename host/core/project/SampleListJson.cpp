@@ -50,7 +50,7 @@ SampleList ReadSampleList(const QJsonValue& value, int number)
     const std::initializer_list<QLatin1String> keys = {ParameterKey, MinKey,    MaxKey,   DeltaKey,
                                                        SpacingKey,   ValuesKey, TickedKey};
     const QString place = JsonError::tr("sample list %1").arg(number);
-    const QString name = JsonSection(place, value, keys).NeededText(ParameterKey);
+    const QString name = JsonSection(place, value, keys).GivenText(ParameterKey);
     const JsonSection section(JsonError::tr("%1, %2,").arg(place, Quoted(name)), value, keys);
 
     SampleList list;

@@ -2,6 +2,7 @@
 
 #include "CompactTable.h"
 #include "GlobalParaMeterMgr.h"
+#include "MenuActions.h"
 #include "NumberTexts.h"
 
 #include <QHeaderView>
@@ -51,6 +52,12 @@ ParameterOverview::ParameterOverview(QWidget* parent)
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     MakeCompact(*m_table);
     m_table->horizontalHeader()->setStretchLastSection(true);
+
+    QAction* const removal = NewAction(tr("&Remove parameters"), "action_RemoveParameters", this,
+                                       &ParameterOverview::AskForRemoval, QKeySequence::Delete);
+    removal->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_table->addAction(removal);
 }
 
 ParameterOverview::~ParameterOverview() = default;
@@ -76,4 +83,14 @@ void ParameterOverview::Refresh()
         ++row;
     }
     m_table->resizeColumnsToContents();
+}
+
+void ParameterOverview::AskForRemoval()
+{
+    QStringList names;
+    const QModelIndexList rows = m_table->selectionModel()->selectedRows(NameColumn);
+    for (const QModelIndex& row : rows)
+        names << row.data().toString();
+    if (!names.isEmpty())
+        Q_EMIT RemovalWanted(names);
 }

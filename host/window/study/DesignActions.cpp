@@ -4,10 +4,12 @@
 #include "DialogTables.h"
 #include "DoeSession.h"
 #include "GlobalParaMeterMgr.h"
+#include "JsonSection.h"
 #include "MenuActions.h"
 #include "MessageLevel.h"
 #include "ParameterEditor.h"
 #include "ParameterEvaluator.h"
+#include "sParaArrayData.h"
 
 #include <QMenu>
 
@@ -92,6 +94,21 @@ void DesignActions::RestoreParameters()
     m_restore->setEnabled(false);
     PostMessageToChannel(InfoLevel, tr("The parameters are as before the design of experiments"));
     // For the expressions of parameters that came later.
+    SettleExpressions();
+    Q_EMIT ParametersChanged();
+}
+
+void DesignActions::RemoveParameters(const QStringList& names)
+{
+    QStringList quoted;
+    for (const QString& name : names) {
+        GlobalParaMeterMgr::m_nameMapParameters.erase(name);
+        m_design.erase(name);
+        g_mapParaArrays.erase(name);
+        quoted << Quoted(name);
+    }
+    PostMessageToChannel(InfoLevel,
+                         tr("Removed parameters: %1").arg(quoted.join(QStringLiteral(", "))));
     SettleExpressions();
     Q_EMIT ParametersChanged();
 }

@@ -3,6 +3,7 @@
 #include "ParameterMap.h"
 
 #include <QObject>
+#include <QStringList>
 
 class QAction;
 class QMenu;
@@ -26,6 +27,10 @@ public:
 
     /// After the store was saved: tells where that was a run and not the design.
     void WarnIfRunIsStored() const;
+
+public Q_SLOTS:
+    /// Removes parameters, and their samples, from the stores and from the design of a run.
+    void RemoveParameters(const QStringList& names);
 
 Q_SIGNALS:
     /// The store was written and its expressions are settled: whatever depends on it is to follow.

@@ -1,3 +1,4 @@
+#include "FileChoice.h"
 #include "HostApplication.h"
 #include "OpenWindow.h"
 #include "ParameterOverview.h"
@@ -13,6 +14,7 @@ private Q_SLOTS:
     void ApplyEvaluatesTheExpressionsAndRebuilds();
     void ApplyRefreshesTheEditorWithTheEvaluatedValues();
     void CancelChangesNothing();
+    void AnEmptyRowCanBeSavedAndRemoved();
     void ABadExpressionIsReportedOnce();
     void AFailedBuildIsReportedOnceAndKeepsTheLastShape();
 };
@@ -76,6 +78,33 @@ void tst_MainWindowParameters::ApplyRefreshesTheEditorWithTheEvaluatedValues()
     open.Trigger("action_Parameters");
     QVERIFY(open.user.IsDone());
     QCOMPARE(open.Shown("label_BoundingBox"), QStringLiteral("220 × 220 × 50 mm"));
+}
+
+void tst_MainWindowParameters::AnEmptyRowCanBeSavedAndRemoved()
+{
+    OpenWindow open;
+    EnterTemporaryDirectory();
+    open.user.Then([](QDialog& editor) {
+        Click(editor, "pushButton_Add");
+        Click(editor, "pushButton_OK");
+    });
+    open.Trigger("action_Parameters");
+    QVERIFY(open.user.IsDone());
+    QVERIFY(open.window.isWindowModified());
+    auto& overview = Find<QTableWidget>(open.window, "parameterTable");
+    const int rows = overview.rowCount();
+    QCOMPARE(overview.item(rows - 1, ParameterOverview::NameColumn)->text(), QString());
+
+    ChooseFile(open.user, "saved.json");
+    open.Trigger("action_SaveProject");
+    QVERIFY(open.user.IsDone());
+    QVERIFY(!open.window.isWindowModified());
+
+    overview.selectRow(rows - 1);
+    open.Trigger("action_RemoveParameters");
+    QCOMPARE(overview.rowCount(), rows - 1);
+    QCOMPARE(GlobalParaMeterMgr::m_nameMapParameters.count(QString()), std::size_t(0));
+    QVERIFY(open.window.isWindowModified());
 }
 
 void tst_MainWindowParameters::CancelChangesNothing()

@@ -23,6 +23,7 @@ void tst_JsonSection::EntriesAreReadByType()
 {
     QCOMPARE(Section("x").Text(Key), QString("x"));
     QCOMPARE(Section("x").NeededText(Key), QString("x"));
+    QCOMPARE(Section("").GivenText(Key), QString(""));
     QCOMPARE(Section(1.5).Number(Key), 1.5);
     QCOMPARE(Section(true).Flag(Key, false), true);
     QCOMPARE(Section(QJsonArray({1, 2})).Numbers(Key), std::vector<double>({1.0, 2.0}));

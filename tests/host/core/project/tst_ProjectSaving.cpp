@@ -19,6 +19,8 @@ private Q_SLOTS:
     void ASavedProjectIsLoadedTheSame_data();
     void ASavedProjectIsLoadedTheSame();
     void TheCurrentParametersAreSaved();
+    void EveryNameIsSaved_data();
+    void EveryNameIsSaved();
     void ImportsAreFoundFromAnotherFolder();
     void WhatCouldNotBeLoadedIsNotSaved_data();
     void WhatCouldNotBeLoadedIsNotSaved();
@@ -120,6 +122,47 @@ void tst_ProjectSaving::TheCurrentParametersAreSaved()
     QVERIFY(saved.Features() == features);
 }
 
+void tst_ProjectSaving::EveryNameIsSaved_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("empty") << "";
+    QTest::newRow("blank") << " ";
+    QTest::newRow("comma") << "b,c";
+    QTest::newRow("only a comma") << ",";
+    QTest::newRow("line end") << "b\r\nc";
+    QTest::newRow("zero") << QString("b") + QChar(0);
+    QTest::newRow("quotes and backslash") << R"("b"\)";
+    QTest::newRow("Chinese") << QStringLiteral("长度，宽度");
+    QTest::newRow("beyond the basic plane") << QStringLiteral("\U0001F529");
+    QTest::newRow("half a pair") << QString(QChar(0xD83D)) + "b";
+    QTest::newRow("no character") << QString(QChar(0xFFFE));
+    QTest::newRow("long") << QString(100000, 'b');
+}
+
+void tst_ProjectSaving::EveryNameIsSaved()
+{
+    const EmptyDesignStores stores;
+    QFETCH(QString, name);
+    EnterTemporaryDirectory();
+    Project project = Project::Load(Write(WithParameter(R"({"name": "a", "value": 1})")));
+    project.FillParameterStore();
+    ParametersDef record;
+    record.m_nType = ParametersDef::ScalarType;
+    record.m_dValue = 2.0;
+    record.m_strExpression = "2*a";
+    record.m_strExpressPara = "a";
+    GlobalParaMeterMgr::AddParameter(name, record);
+    project.SetSampleLists({{name, {}, {1, 2}}});
+    project.Save("saved.json");
+
+    GlobalParaMeterMgr::m_nameMapParameters.clear();
+    const Project saved = Project::Load("saved.json");
+    saved.FillParameterStore();
+    QCOMPARE(GlobalParaMeterMgr::GetAllParametersName(), std::vector<QString>({"a", name}));
+    QCOMPARE(GlobalParaMeterMgr::m_nameMapParameters.at(name).m_strExpressPara, QString("a"));
+    QCOMPARE(saved.SampleLists().at(0).parameter, name);
+}
+
 void tst_ProjectSaving::ImportsAreFoundFromAnotherFolder()
 {
     const EmptyDesignStores stores;
@@ -147,11 +190,8 @@ void tst_ProjectSaving::WhatCouldNotBeLoadedIsNotSaved_data()
     QTest::addColumn<int>("features");
     QTest::addColumn<QString>("reason");
     const double nan = std::numeric_limits<double>::quiet_NaN();
-    QTest::newRow("comma in a name")
-        << "b,c" << 1.0 << 1 << "parameter 2, \"b,c\", has a comma in its name";
     QTest::newRow("no number") << "b" << nan << 1
                                << "parameter 2, \"b\", has a \"value\" that is not a number";
-    QTest::newRow("no name") << "" << 1.0 << 1 << "parameter 2 has no \"name\"";
     QTest::newRow("two features of a name")
         << "b" << 1.0 << 2 << "features: x: another feature has the same name.";
 }

@@ -2,6 +2,9 @@
 #include "ParameterOverview.h"
 #include "TestCase.h"
 
+#include <QAction>
+#include <QItemSelectionModel>
+#include <QSignalSpy>
 #include <QTableWidget>
 
 #include <limits>
@@ -22,6 +25,8 @@ private Q_SLOTS:
     void AVectorShowsItsComponents();
     void RefreshFollowsTheStore();
     void NothingCanBeEdited();
+    void SelectedParametersCanBeRemoved();
+    void WithoutASelectionNothingIsRemoved();
 
 private:
     static QString Cell(const ParameterOverview& overview, int row, int column)
@@ -179,6 +184,39 @@ void tst_ParameterOverview::NothingCanBeEdited()
     ParameterOverview overview(nullptr);
     QCOMPARE(Find<QTableWidget>(overview, "parameterTable").editTriggers(),
              QAbstractItemView::EditTriggers(QAbstractItemView::NoEditTriggers));
+}
+
+void tst_ParameterOverview::SelectedParametersCanBeRemoved()
+{
+    const EmptyDesignStores stores;
+    for (const QString& name : {QString("a"), QString(), QString("b,c"), QString("d\ne")})
+        Store(name, 1);
+    ParameterOverview overview(nullptr);
+    overview.Refresh();
+    QSignalSpy wanted(&overview, &ParameterOverview::RemovalWanted);
+    auto& table = Find<QTableWidget>(overview, "parameterTable");
+    for (int row = 1; row < 4; ++row)
+        table.selectionModel()->select(table.model()->index(row, 0),
+                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    overview.show();
+    QVERIFY(QTest::qWaitForWindowActive(&overview));
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Delete);
+    QCOMPARE(wanted.count(), 1);
+    QStringList names = wanted[0][0].toStringList();
+    names.sort();
+    QCOMPARE(names, QStringList({"", "b,c", "d\ne"}));
+}
+
+void tst_ParameterOverview::WithoutASelectionNothingIsRemoved()
+{
+    const EmptyDesignStores stores;
+    Store("a", 1);
+    ParameterOverview overview(nullptr);
+    overview.Refresh();
+    QSignalSpy wanted(&overview, &ParameterOverview::RemovalWanted);
+    overview.findChild<QAction*>("action_RemoveParameters")->trigger();
+    QCOMPARE(wanted.count(), 0);
 }
 
 TARN_TEST_MAIN(tst_ParameterOverview)

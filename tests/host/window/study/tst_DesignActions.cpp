@@ -6,6 +6,7 @@
 #include "Project.h"
 #include "SampleRegistry.h"
 #include "TestCase.h"
+#include "sParaArrayData.h"
 
 #include <QAction>
 #include <QMenu>
@@ -23,6 +24,7 @@ private Q_SLOTS:
     void RestoreBringsTheDesignBackAndTells();
     void ASavedRunIsToldUntilTheDesignIsBack();
     void AnotherProjectForgetsTheDesign();
+    void RemovedParametersDoNotReturn();
 };
 
 namespace {
@@ -130,6 +132,21 @@ void tst_DesignActions::AnotherProjectForgetsTheDesign()
     design.Generate(17);
     design.actions->Start();
     QVERIFY(!design.Action("action_RestoreParameters").isEnabled());
+}
+
+void tst_DesignActions::RemovedParametersDoNotReturn()
+{
+    Design design;
+    GlobalParaMeterMgr::AddParameter("", {});
+    design.Generate(17);
+    QVERIFY(g_mapParaArrays.count("thickness") != 0);
+    design.actions->RemoveParameters({"", "thickness"});
+    QCOMPARE(design.changed.count(), 2);
+    design.Action("action_RestoreParameters").trigger();
+    for (const char* const name : {"", "thickness"}) {
+        QCOMPARE(GlobalParaMeterMgr::m_nameMapParameters.count(name), std::size_t(0));
+        QCOMPARE(g_mapParaArrays.count(name), std::size_t(0));
+    }
 }
 
 TARN_TEST_MAIN(tst_DesignActions)
