@@ -18,8 +18,12 @@ namespace {
 
 /// Waits until no other process writes the file. If the lock file cannot be made or does not
 /// disappear, the file is written without a lock.
-void WaitFor(QLockFile& lock)
+void WaitFor(QLockFile& lock, const QString& path)
 {
+    // The lock would read a pipe or a device of its name, and wait for it forever.
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile())
+        return;
     // Far longer than a process holds the lock, in ms.
     constexpr int StaleTime = 2000;
     constexpr int LongestWait = 3000;
@@ -57,9 +61,10 @@ void SafeFile::Remember(const QString& path, const QByteArray& content)
 bool SafeFile::Write(const QString& path, const QByteArray& content)
 {
     const QString target = WholeFile::Target(path);
-    QLockFile lock(target + QStringLiteral(".lock"));
+    const QString lockPath = target + QStringLiteral(".lock");
+    QLockFile lock(lockPath);
     const auto keepCopy = [&] {
-        WaitFor(lock);
+        WaitFor(lock, lockPath);
         return !QFileInfo::exists(target) || IsRemembered(target) ? QString() : KeepCopy(target);
     };
     if (!WholeFile(path).Write(content, keepCopy))

@@ -1,4 +1,5 @@
 #include "MaterialStoreTest.h"
+#include "NotAFile.h"
 #include "TestFiles.h"
 #include "XmlFiles.h"
 
@@ -22,7 +23,9 @@ private Q_SLOTS:
     void TheSchemaRefusesInvalidFiles();
     void ARefusedFileChangesNothing_data();
     void ARefusedFileChangesNothing();
+    void OnlyRegularFilesAreAccepted_data();
     void OnlyRegularFilesAreAccepted();
+    void PathsWithoutAFileAreRefused();
     void UnknownContentIsSkipped();
     void AMillionRecordsAreRead();
     void ATextTooLongToBeReadIsNotWritten();
@@ -192,7 +195,23 @@ void tst_KVMaterialDataFiles::ARefusedFileChangesNothing()
     QCOMPARE(Contents(), QStringList("old:1:1:"));
 }
 
+void tst_KVMaterialDataFiles::OnlyRegularFilesAreAccepted_data()
+{
+    AddNotAFileRows();
+}
+
 void tst_KVMaterialDataFiles::OnlyRegularFilesAreAccepted()
+{
+    QFETCH(QString, kind);
+    QVERIFY(PutNotAFile(kind, "UserMaterial.xml"));
+    const QStringList before = AllFiles();
+    QVERIFY(Store().ReadXML(UserFile, MATERIAL_USER) != 0);
+    QVERIFY(Store().WriteXML(UserFile) != 0);
+    QVERIFY(!QFileInfo("UserMaterial.xml").isFile());
+    QCOMPARE(AllFiles(), before);
+}
+
+void tst_KVMaterialDataFiles::PathsWithoutAFileAreRefused()
 {
     QDir().mkdir("directory");
     QVERIFY(Store().ReadXML("missing.xml", MATERIAL_USER) != 0);

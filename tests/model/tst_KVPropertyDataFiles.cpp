@@ -1,3 +1,4 @@
+#include "NotAFile.h"
 #include "PropertyStoreTest.h"
 #include "TestFiles.h"
 #include "XmlFiles.h"
@@ -27,7 +28,9 @@ private Q_SLOTS:
     void ARefusedFileChangesNothing();
     void AnInvalidNumberIsRefused_data();
     void AnInvalidNumberIsRefused();
+    void OnlyRegularFilesAreAccepted_data();
     void OnlyRegularFilesAreAccepted();
+    void PathsWithoutAFileAreRefused();
     void UnknownContentIsSkipped();
     void AsMuchAsLineEditsHoldIsWritten();
     void ManyPropertiesReadBack();
@@ -225,7 +228,23 @@ void tst_KVPropertyDataFiles::AnInvalidNumberIsRefused()
     QCOMPARE(Contents(), QStringList());
 }
 
+void tst_KVPropertyDataFiles::OnlyRegularFilesAreAccepted_data()
+{
+    AddNotAFileRows();
+}
+
 void tst_KVPropertyDataFiles::OnlyRegularFilesAreAccepted()
+{
+    QFETCH(QString, kind);
+    QVERIFY(PutNotAFile(kind, "ElementProperty.xml"));
+    const QStringList before = AllFiles();
+    QVERIFY(Store().ReadXML(PropertyFile) != 0);
+    QVERIFY(Store().WriteXML(PropertyFile) != 0);
+    QVERIFY(!QFileInfo("ElementProperty.xml").isFile());
+    QCOMPARE(AllFiles(), before);
+}
+
+void tst_KVPropertyDataFiles::PathsWithoutAFileAreRefused()
 {
     QDir().mkdir("directory");
     QVERIFY(Store().ReadXML("missing.xml") != 0);

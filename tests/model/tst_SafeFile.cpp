@@ -1,5 +1,6 @@
 #include "FullDisk.h"
 #include "LostWrites.h"
+#include "NotAFile.h"
 #include "Processes.h"
 #include "SafeFile.h"
 #include "TestCase.h"
@@ -39,6 +40,8 @@ private Q_SLOTS:
     void NothingIsLostAmongProcesses();
     void ALockOfADeadProcessIsIgnored();
     void ALockThatStaysDelaysTheWriteOnly();
+    void WhatIsNotALockIsIgnored_data();
+    void WhatIsNotALockIsIgnored();
     void WhereNoLockCanBeMadeTheFileIsWritten();
 
 private:
@@ -229,13 +232,29 @@ void tst_SafeFile::ALockOfADeadProcessIsIgnored()
 
 void tst_SafeFile::ALockThatStaysDelaysTheWriteOnly()
 {
-    // A folder can be neither locked nor removed like a lock file.
-    QVERIFY(QDir().mkpath(LockName + "/content"));
+    // A link to nothing can be neither created nor recognised as left behind.
+    QVERIFY(QFile::link("nowhere", LockName));
     Put(Name, "old");
     QVERIFY(SafeFile().Write(Name, "new"));
     QCOMPARE(ContentOf(Name), QByteArray("new"));
     QCOMPARE(CopiesOf(Name).size(), 1);
-    QVERIFY(QDir(LockName).exists("content"));
+    QVERIFY(QFileInfo(LockName).isSymLink());
+}
+
+void tst_SafeFile::WhatIsNotALockIsIgnored_data()
+{
+    AddNotAFileRows();
+}
+
+void tst_SafeFile::WhatIsNotALockIsIgnored()
+{
+    QFETCH(QString, kind);
+    QVERIFY(PutNotAFile(kind, LockName));
+    Put(Name, "old");
+    QVERIFY(SafeFile().Write(Name, "new"));
+    QCOMPARE(ContentOf(Name), QByteArray("new"));
+    QCOMPARE(CopiesOf(Name).size(), 1);
+    QVERIFY(!QFileInfo(LockName).isFile());
 }
 
 void tst_SafeFile::WhereNoLockCanBeMadeTheFileIsWritten()

@@ -1,6 +1,7 @@
 #include "AnalysisFiles.h"
 #include "EmptyAnalysisStores.h"
 #include "FullDisk.h"
+#include "NotAFile.h"
 #include "TestCase.h"
 #include "TestFiles.h"
 
@@ -20,7 +21,8 @@ private Q_SLOTS:
     void AFileThatIsThereStays_data();
     void AFileThatIsThereStays();
     void ALinkToNowhereIsNotFollowed();
-    void ADirectoryOfThatNameIsNoLibrary();
+    void OnlyAFileIsALibrary_data();
+    void OnlyAFileIsALibrary();
     void AMissingSourceLeavesNoFile();
     void AFullDiskLeavesNoFile();
     void ALibraryThatCannotBeProvidedGivesAWarning();
@@ -103,12 +105,23 @@ void tst_AnalysisFiles::ALinkToNowhereIsNotFollowed()
     QVERIFY(QFileInfo("SysMaterial.xml").isSymLink());
 }
 
-void tst_AnalysisFiles::ADirectoryOfThatNameIsNoLibrary()
+void tst_AnalysisFiles::OnlyAFileIsALibrary_data()
 {
+    AddNotAFileRows();
+}
+
+void tst_AnalysisFiles::OnlyAFileIsALibrary()
+{
+    const EmptyAnalysisStores stores;
     EnterTemporaryDirectory();
-    QVERIFY(QDir().mkpath("SysMaterial.xml"));
+    QFETCH(QString, kind);
+    for (const char* const name : {"SysMaterial.xml", "UserMaterial.xml", "ElementProperty.xml"})
+        QVERIFY(PutNotAFile(kind, name));
+    const QStringList before = AllFiles();
     QVERIFY(!ProvideSystemMaterials());
-    QVERIFY(QFileInfo("SysMaterial.xml").isDir());
+    QVERIFY(!ReadAnalysisFiles().isEmpty());
+    QCOMPARE(AllFiles(), before);
+    QVERIFY(!QFileInfo("SysMaterial.xml").isFile());
 }
 
 void tst_AnalysisFiles::AMissingSourceLeavesNoFile()

@@ -2,6 +2,7 @@
 #include "FullDisk.h"
 #include "GlobalParaMeterMgr.h"
 #include "NewFeature.h"
+#include "NotAFile.h"
 #include "ParameterEvaluator.h"
 #include "ProjectFiles.h"
 #include "TestCase.h"
@@ -25,6 +26,8 @@ private Q_SLOTS:
     void WhatCouldNotBeLoadedIsNotSaved_data();
     void WhatCouldNotBeLoadedIsNotSaved();
     void AFileThatCannotBeWrittenIsTold();
+    void OnlyAFileIsReplaced_data();
+    void OnlyAFileIsReplaced();
     void AFullDiskLeavesTheOldFile();
 };
 
@@ -241,6 +244,30 @@ void tst_ProjectSaving::AFileThatCannotBeWrittenIsTold()
         QCOMPARE(error.Reason(),
                  QString("none/p.json: cannot be written: No such file or directory"));
     }
+    QCOMPARE(project.Path(), QString("p.json"));
+}
+
+void tst_ProjectSaving::OnlyAFileIsReplaced_data()
+{
+    AddNotAFileRows();
+}
+
+void tst_ProjectSaving::OnlyAFileIsReplaced()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    QFETCH(QString, kind);
+    QFETCH(QString, error);
+    Project project = Project::Load(Write("{\"version\": 1}"));
+    QVERIFY(PutNotAFile(kind, "q.json"));
+    const QStringList before = AllFiles();
+    try {
+        project.Save("q.json");
+        QFAIL("It was saved.");
+    } catch (const ProjectError& refusal) {
+        QCOMPARE(refusal.Reason(), "q.json: " + error);
+    }
+    QCOMPARE(AllFiles(), before);
     QCOMPARE(project.Path(), QString("p.json"));
 }
 

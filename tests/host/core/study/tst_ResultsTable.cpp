@@ -1,5 +1,6 @@
 #include "FullDisk.h"
 #include "HostError.h"
+#include "NotAFile.h"
 #include "ResultsTable.h"
 #include "TestCase.h"
 #include "TestFiles.h"
@@ -19,6 +20,8 @@ private Q_SLOTS:
     void WhatIsNoTableOfTheStudyIsTold();
     void ABadFileLeavesTheRunsAsTheyWere();
     void AMissingFileIsTold();
+    void OnlyAFileIsReadAndReplaced_data();
+    void OnlyAFileIsReadAndReplaced();
     void AFolderThatIsNotThereIsTold();
     void AFullDiskLeavesTheOldFile();
 };
@@ -165,6 +168,29 @@ void tst_ResultsTable::AMissingFileIsTold()
     EnterTemporaryDirectory();
     ResultsTable table({"a", "b"});
     QCOMPARE(ReasonNotRead(table), QString("r.csv: cannot be opened: No such file or directory"));
+}
+
+void tst_ResultsTable::OnlyAFileIsReadAndReplaced_data()
+{
+    AddNotAFileRows();
+}
+
+void tst_ResultsTable::OnlyAFileIsReadAndReplaced()
+{
+    EnterTemporaryDirectory();
+    QFETCH(QString, kind);
+    QFETCH(QString, error);
+    QVERIFY(PutNotAFile(kind, "r.csv"));
+    const QStringList before = AllFiles();
+    ResultsTable table({"a", "b"});
+    QCOMPARE(ReasonNotRead(table), "r.csv: " + error);
+    try {
+        table.Write("r.csv");
+        QFAIL("It was written.");
+    } catch (const HostError& refusal) {
+        QCOMPARE(refusal.Reason(), "r.csv: " + error);
+    }
+    QCOMPARE(AllFiles(), before);
 }
 
 void tst_ResultsTable::AFolderThatIsNotThereIsTold()
