@@ -17,8 +17,8 @@
 ///
 /// The store owns its records. A pointer returned by or passed to the store stays valid until
 /// ClearInfo(), even if its record is replaced, refused or removed meanwhile. The material library
-/// clears the store each time it is opened. Do not keep pointers across that dialog; look the
-/// material up again by name.
+/// clears the store in KVMaterialLibrary::Reset(). Do not keep pointers across that dialog; look
+/// the material up again by name.
 class TARNFEMDATA_EXPORT KVMaterialData
 {
 public:
