@@ -51,7 +51,7 @@ public:
     void ShowSample() { SetPropData(&m_sample); }
 
 private:
-    CQLTElemPropDef m_sample = SampleProperty(QStringLiteral("flange"), 0.018);
+    CQLTElemPropDef m_sample = SampleProperty(QStringLiteral("flange"), 20.0);
 };
 
 /// For the first stored parameter.
@@ -99,7 +99,7 @@ void SelectSampleMaterial(KVMaterialLibrary& library)
 
 void SetMeshSize(MeshSizeInput& dialog)
 {
-    SetText(dialog, "lineEdit_MeshSize", "0.25");
+    SetText(dialog, "lineEdit_MeshSize", "8");
 }
 
 void EnterRange(SamplingDialog& dialog)
@@ -118,7 +118,7 @@ void ShowStoredParameters(ParameterEditor& editor)
 
 void SetSubShapeMesh(SubShapeMeshParameterDlg& dialog)
 {
-    SetText(dialog, "lineEdit_MeshSize", "0.05");
+    SetText(dialog, "lineEdit_MeshSize", "2");
     SetText(dialog, "lineEdit_MeshNumber", "12");
 }
 

@@ -15,8 +15,8 @@ void FillSampleAnalysis(AnalysisRecords& records)
     bolts.m_bXD = bolts.m_bYD = bolts.m_bZD = true;
     records.AddConstraint(bolts);
     records.AddLoad(SampleLoad());
-    records.SetMeshSize(0.25);
-    records.SetSubShape({0.05, 12});
+    records.SetMeshSize(8.0);
+    records.SetSubShape({2.0, 12});
 }
 
 SampleAnalysisFiles::SampleAnalysisFiles()
@@ -25,8 +25,8 @@ SampleAnalysisFiles::SampleAnalysisFiles()
     QDir::setCurrent(m_directory.path());
     KVPropertyData& properties = *KVPropertyData::GetInstance();
     properties.Clear();
-    properties.AddPropInfo(new CQLTElemPropDef(SampleProperty(QStringLiteral("flange"), 0.018)));
-    properties.AddPropInfo(new CQLTElemPropDef(SampleProperty(QStringLiteral("hub"), 0.012)));
+    properties.AddPropInfo(new CQLTElemPropDef(SampleProperty(QStringLiteral("flange"), 20.0)));
+    properties.AddPropInfo(new CQLTElemPropDef(SampleProperty(QStringLiteral("hub"), 12.0)));
     KVMaterialData::GetInstance()->ClearInfo();
     ReadAnalysisFiles();
 }
