@@ -1581,6 +1581,14 @@
         <source>its face #%1 cannot be translated</source>
         <translation>无法转换其面 #%1</translation>
     </message>
+    <message>
+        <source>defines the entity #%1 twice</source>
+        <translation>实体项 #%1 定义了两次</translation>
+    </message>
+    <message>
+        <source>is damaged: %1</source>
+        <translation>已损坏：%1</translation>
+    </message>
 </context>
 <context>
     <name>ViewActions</name>

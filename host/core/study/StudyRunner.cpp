@@ -171,6 +171,9 @@ void StudyRunner::DoRun(const Study& study, int run, const QString& stepPath, Re
         ++summary.ok;
         m_tell(QStringLiteral("%1: ok, volume %2 mm3, mass %3 kg")
                    .arg(place, ShortText(result.measures.volume), ShortText(result.mass)));
+        const QString warning = result.measures.overlaps.Warning();
+        if (!warning.isEmpty())
+            m_tell(QStringLiteral("%1: warning: %2").arg(place, warning));
     } else {
         ++summary.failed;
         m_tell(QStringLiteral("%1: failed: %2").arg(place, result.error));

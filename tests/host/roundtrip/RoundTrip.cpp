@@ -44,7 +44,7 @@ private:
     unsigned RunChild(unsigned first, unsigned end)
     {
         constexpr int Batch = 100;
-        constexpr int Patience = 60000; // ms
+        constexpr int Patience = 20000; // ms
         QProcess child;
         child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         child.start(QCoreApplication::applicationFilePath(),

@@ -10,6 +10,8 @@
 #include <Interface_Check.hxx>
 #include <Interface_CheckIterator.hxx>
 #include <Interface_InterfaceModel.hxx>
+#include <QByteArray>
+#include <QSet>
 #include <StepRepr_RepresentationItem.hxx>
 #include <StepShape_Face.hxx>
 #include <TopExp_Explorer.hxx>
@@ -20,6 +22,7 @@
 #include <Transfer_Binder.hxx>
 #include <Transfer_TransientProcess.hxx>
 
+#include <cctype>
 #include <cmath>
 
 namespace {
@@ -68,7 +71,49 @@ void CheckClosed(const TopoDS_Shape& body, int number)
     }
 }
 
+// The place after the string or comment that begins at @p place, if one does.
+int AfterText(const QByteArray& text, int place)
+{
+    if (text[place] == '\'') {
+        const int end = text.indexOf('\'', place + 1);
+        return end < 0 ? text.size() : end + 1;
+    }
+    if (text[place] == '/' && text.mid(place, 2) == "/*") {
+        const int end = text.indexOf("*/", place + 2);
+        return end < 0 ? text.size() : end + 2;
+    }
+    return place;
+}
+
 } // namespace
+
+void CheckStepReferences(const QByteArray& text)
+{
+    QSet<quint64> defined;
+    QSet<quint64> used;
+    bool isFirst = true; // In a statement.
+    for (int place = 0; place < text.size(); ++place) {
+        const int after = AfterText(text, place);
+        if (after > place) {
+            place = after - 1;
+            continue;
+        }
+        if (text[place] == '#') {
+            quint64 number = 0;
+            while (place + 1 < text.size() && text[place + 1] >= '0' && text[place + 1] <= '9')
+                number = 10 * number + quint64(text[++place] - '0');
+            if (isFirst && defined.contains(number))
+                throw StepError(StepError::tr("defines the entity #%1 twice").arg(number));
+            (isFirst ? defined : used).insert(number);
+        }
+        if (text[place] == ';')
+            isFirst = true;
+        else if (!std::isspace(static_cast<unsigned char>(text[place])))
+            isFirst = false;
+    }
+    if (!defined.contains(used))
+        throw StepError(StepError::tr("refers to entities that it does not contain"));
+}
 
 void CheckStepEntities(XSControl_WorkSession& session)
 {
@@ -79,13 +124,15 @@ void CheckStepEntities(XSControl_WorkSession& session)
         if (!checks.Value()->HasFailed())
             continue;
         const Handle(Standard_Transient) entity = checks.Value()->Entity();
-        // Of the model as a whole: references to nothing. Descriptions beside the shape may be odd.
+        const QString failure = QString::fromLatin1(checks.Value()->CFail(1)).simplified();
+        // Of the file as a whole.
         if (entity.IsNull())
-            throw StepError(StepError::tr("refers to entities that it does not contain"));
+            throw StepError(StepError::tr("is damaged: %1").arg(failure));
+        // Descriptions beside the shape may be odd.
         if (entity->IsKind(STANDARD_TYPE(StepRepr_RepresentationItem)))
             throw StepError(StepError::tr("its entity #%1 cannot be read: %2")
                                 .arg(session.Model()->Number(entity))
-                                .arg(QString::fromLatin1(checks.Value()->CFail(1)).simplified()));
+                                .arg(failure));
     }
 }
 

@@ -73,6 +73,7 @@ TopoDS_Shape ShapeFromStep(const QByteArray& text)
 {
     const QuietKernel quiet;
     ApplySettings();
+    CheckStepReferences(text);
     STEPControl_Reader reader;
     std::istringstream stream(text.toStdString());
     if (reader.ReadStream("", stream) != IFSelect_RetDone)

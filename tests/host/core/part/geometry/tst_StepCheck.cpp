@@ -20,6 +20,8 @@ private Q_SLOTS:
     void OnlyClosedSolidsAreRead();
     void AFileThatLacksAnEntityIsRefused_data();
     void AFileThatLacksAnEntityIsRefused();
+    void AnEntityDefinedTwiceIsRefused();
+    void TextsAreNotReferences();
     void AnUnknownSurfaceIsRefused();
     void AFaceThatIsLeftOutIsRefused();
 };
@@ -105,6 +107,22 @@ void tst_StepCheck::AFileThatLacksAnEntityIsRefused()
     QVERIFY(match.hasMatch());
     text.remove(match.capturedStart(), match.capturedLength());
     QCOMPARE(Reason(text), QString("refers to entities that it does not contain"));
+}
+
+void tst_StepCheck::AnEntityDefinedTwiceIsRefused()
+{
+    const QString text = DrilledBoxText();
+    const int second = text.indexOf("\n#2 = ");
+    const int third = text.indexOf("\n#3 = ");
+    QCOMPARE(Reason(QString(text).insert(third, text.mid(second, third - second))),
+             QString("defines the entity #2 twice"));
+}
+
+void tst_StepCheck::TextsAreNotReferences()
+{
+    QString text = DrilledBoxText();
+    text.replace("ADVANCED_FACE('',", "ADVANCED_FACE('#99999 ''; #2 = X',/* #88888; #2 = Y */");
+    QCOMPARE(CountBodies(ShapeFromStep(text.toLatin1())), 1);
 }
 
 void tst_StepCheck::AnUnknownSurfaceIsRefused()

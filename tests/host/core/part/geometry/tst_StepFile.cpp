@@ -208,8 +208,10 @@ void tst_StepFile::AFileWithoutAShapeIsReportedAndNothingIsPrinted_data()
     row("no data", head + tail, "contains no shape");
     row("an unused point", head + "#1=CARTESIAN_POINT('',(0.,0.,0.));\n" + tail,
         "contains no shape");
-    row("nonsense between the marks", head + "%%%% ((( #1=; '" + tail,
+    row("nonsense between the marks", head + "%%%% ((( ; '" + tail,
         "cannot be read as a STEP file");
+    row("nonsense with a reference", head + "%%%% ((( #1=; '" + tail,
+        "refers to entities that it does not contain");
     row("references to nothing", head + "#1=MANIFOLD_SOLID_BREP('',#99);\n" + tail,
         "refers to entities that it does not contain");
 }
