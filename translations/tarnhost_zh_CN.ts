@@ -1410,6 +1410,10 @@
         <source>The shape cannot be drawn: %1</source>
         <translation>无法绘制形状：%1</translation>
     </message>
+    <message>
+        <source>The part has too many faces for a line drawing.</source>
+        <translation>零件的面过多，无法绘制线条图。</translation>
+    </message>
 </context>
 <context>
     <name>PartPanel</name>

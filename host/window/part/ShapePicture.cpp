@@ -3,6 +3,7 @@
 #include "MessageLevel.h"
 
 #include <BRepAdaptor_Curve.hxx>
+#include <BRepAdaptor_Surface.hxx>
 #include <BRepLib.hxx>
 #include <QPainter>
 #include <Standard_Failure.hxx>
@@ -19,6 +20,26 @@
 namespace {
 
 constexpr double MarginPixels = 12.0;
+
+// Finding the hidden lines takes a time with the square of the number of faces: about 0.5 s for so
+// many.
+constexpr int MaximumFaces = 3000;
+// A sphere or a free-form face takes as long as so many flat ones.
+constexpr int CurvedFace = 40;
+
+bool HasTooManyFaces(const TopoDS_Shape& shape)
+{
+    int count = 0;
+    for (TopExp_Explorer face(shape, TopAbs_FACE); face.More() && count <= MaximumFaces;
+         face.Next()) {
+        const GeomAbs_SurfaceType type =
+            BRepAdaptor_Surface(TopoDS::Face(face.Current())).GetType();
+        const bool isSimple =
+            type == GeomAbs_Plane || type == GeomAbs_Cylinder || type == GeomAbs_Cone;
+        count += isSimple ? 1 : CurvedFace;
+    }
+    return count > MaximumFaces;
+}
 
 // From the eye's side, with the vertical axis upwards.
 gp_Ax2 ViewAxes()
@@ -66,7 +87,8 @@ void ShapePicture::SetShape(const TopoDS_Shape& shape)
     m_edges.clear();
     m_smooth.clear();
     update();
-    if (shape.IsNull())
+    m_isTooLarge = !shape.IsNull() && HasTooManyFaces(shape);
+    if (shape.IsNull() || m_isTooLarge)
         return;
     try {
         const Handle(HLRBRep_Algo) hiddenLines = new HLRBRep_Algo;
@@ -87,6 +109,11 @@ void ShapePicture::SetShape(const TopoDS_Shape& shape)
 
 void ShapePicture::paintEvent(QPaintEvent*)
 {
+    if (m_isTooLarge) {
+        QPainter(this).drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                                tr("The part has too many faces for a line drawing."));
+        return;
+    }
     QRectF bounds;
     for (const QPolygonF& line : qAsConst(m_edges))
         bounds |= line.boundingRect();

@@ -15,7 +15,8 @@ public:
     explicit ShapePicture(QWidget* parent);
     ~ShapePicture() override;
 
-    /// Draws @p shape from now on; a shape whose lines cannot be found leaves an empty picture.
+    /// Draws @p shape from now on; a shape whose lines cannot be found leaves an empty picture, and
+    /// one with so many faces that drawing would take seconds a text that says so.
     void SetShape(const TopoDS_Shape& shape);
 
     QSize sizeHint() const override;
@@ -24,6 +25,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    bool m_isTooLarge = false;
     QVector<QPolygonF> m_edges;  // Sharp edges and outlines.
     QVector<QPolygonF> m_smooth; // Where one face runs into the next without a corner.
 };

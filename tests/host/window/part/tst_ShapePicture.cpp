@@ -1,9 +1,13 @@
+#include "Bodies.h"
 #include "ShapePicture.h"
 #include "TestCase.h"
 
 #include <BRepPrimAPI_MakeBox.hxx>
 #include <BRepPrimAPI_MakeCylinder.hxx>
+#include <BRepPrimAPI_MakeTorus.hxx>
+#include <QElapsedTimer>
 #include <TopoDS_Shape.hxx>
+#include <gp_Trsf.hxx>
 
 class tst_ShapePicture : public TestCase
 {
@@ -15,6 +19,7 @@ private Q_SLOTS:
     void AShapeFillsThePictureWhateverItsSize();
     void ANullShapeTakesThePictureAway();
     void AnotherShapeReplacesTheFirst();
+    void ATextReplacesTheDrawingOfALargePart();
 };
 
 namespace {
@@ -84,6 +89,32 @@ void tst_ShapePicture::AnotherShapeReplacesTheFirst()
     const QImage box = Drawn(picture);
     picture.SetShape(BRepPrimAPI_MakeCylinder(1.0, 1.0).Shape());
     QVERIFY(Drawn(picture) != box);
+}
+
+void tst_ShapePicture::ATextReplacesTheDrawingOfALargePart()
+{
+    constexpr int Count = 10000;
+    const TopoDS_Shape box = Box(1.0);
+    std::vector<TopoDS_Shape> boxes;
+    boxes.reserve(Count);
+    for (int i = 0; i < Count; ++i) {
+        gp_Trsf translation;
+        translation.SetTranslation(gp_Vec(2.0 * (i % 100), 2.0 * int(i / 100), 0.0));
+        boxes.push_back(box.Moved(TopLoc_Location(translation)));
+    }
+    ShapePicture picture(nullptr);
+    QElapsedTimer timer;
+    timer.start();
+    picture.SetShape(Compound(boxes));
+    const QImage text = Drawn(picture);
+    // Hidden lines of so many boxes take minutes.
+    QVERIFY2(timer.elapsed() < 1000, QByteArray::number(timer.elapsed()));
+    QVERIFY(!Inked(text).isEmpty());
+    const std::vector<TopoDS_Shape> many(100, BRepPrimAPI_MakeTorus(2.0, 1.0).Shape());
+    picture.SetShape(Compound(many));
+    QCOMPARE(Drawn(picture), text);
+    picture.SetShape(box);
+    QVERIFY(Drawn(picture) != text);
 }
 
 TARN_TEST_MAIN(tst_ShapePicture)
