@@ -8,7 +8,7 @@
 
 #include <functional>
 
-/// What the tests of the material library share.
+/// Shared by the tests of the material library.
 
 /// A test class whose functions start with both files of materials.
 class MaterialLibraryTest : public With<DialogTest, TemporaryDirectory, EmptyAnalysisStores>

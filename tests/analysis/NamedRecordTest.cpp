@@ -224,7 +224,7 @@ void NamedRecordChecks::NamesAreBytesOfTheLocalCodePage()
 
 void NamedRecordChecks::ATakenNameIsFoundByItsBytes()
 {
-    // The same text in another code page is another name.
+    // The same text is another name in another code page.
     Register("\xB9\xCC\xB6\xA8");
     const std::unique_ptr<QDialog> editor = NewDialog(nullptr);
     SetName(*editor, "固定");

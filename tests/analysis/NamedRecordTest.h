@@ -9,11 +9,11 @@
 #include <memory>
 #include <string>
 
-/// What an editor of a named record shows and stores.
+/// The texts and the store of an editor of a named record.
 struct RecordFacts
 {
     const char* context; ///< Of the texts in messages.
-    std::string name;    ///< What the form starts with.
+    std::string name;    ///< The initial name in the form.
     QString refusal;     ///< The text of the box for a name that is taken.
 
     QString unset;    ///< The values of a new editor's record.
@@ -24,7 +24,7 @@ struct RecordFacts
     QString changed;                            ///< the values that OK stores then.
 };
 
-/// What holds for both editors of a record whose name must not be taken, a support or a load.
+/// Tests what the editors of supports and loads have in common: the name must not be taken.
 ///
 /// A test class derives from NamedRecordTest; these functions then run before its own.
 class NamedRecordChecks : public With<FormChecks, EmptyAttributeNames>

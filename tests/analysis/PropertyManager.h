@@ -9,7 +9,7 @@
 #include <functional>
 #include <map>
 
-/// What the tests of the manager of element properties share: its store, its file and its table.
+/// Shared by the tests of the manager of element properties: its store, its file and its table.
 
 using Properties = std::map<QString, CQLTElemPropDef*>;
 
@@ -50,7 +50,7 @@ inline void HoldAll(const QStringList& names)
         Hold(name);
 }
 
-/// Writes the file with these properties, and empties the store.
+/// Writes the file with these properties and clears the store.
 inline void WriteProperties(const QStringList& names)
 {
     for (const QString& name : names)
@@ -81,7 +81,7 @@ inline std::function<void(QDialog&)> Confirm(const QString& name)
     };
 }
 
-/// The step for the property editor: be refused for the empty name, then cancel.
+/// The step for the property editor: confirm the empty name, which is refused, then cancel.
 inline void BeRefusedAndCancel(QDialog& editor)
 {
     Type(editor, "lineEdit_PropName", "");

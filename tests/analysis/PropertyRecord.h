@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
-/// What the tests of the property editor share: records and how to fill in the form.
+/// Shared by the tests of the property editor: records and how to fill in the form.
 
 inline ShownBox EmptyName()
 {
@@ -20,7 +20,7 @@ inline CQLTElemPropDef Record(int typeCode)
     return {"P1", 77, "Steel", 0.1234567, "Word", typeCode};
 }
 
-/// The fields in their order.
+/// The fields in order.
 inline QStringList Fields(const CQLTElemPropDef& record)
 {
     return {record.m_strName,         QString::number(record.m_nReserved),
@@ -33,7 +33,7 @@ inline QString Text(const QWidget& editor, const char* field)
     return Find<QLineEdit>(editor, field).text();
 }
 
-/// A host may enable a type that this release keeps for itself.
+/// A host may enable a type that this release disables.
 inline void Choose(const QWidget& editor, const char* button)
 {
     Find<QRadioButton>(editor, button).setEnabled(true);

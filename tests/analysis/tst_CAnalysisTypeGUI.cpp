@@ -60,7 +60,7 @@ QString CheckedButton(const QWidget& dialog)
     return names.join(QLatin1Char(' '));
 }
 
-/// Counts the requests to close that reach what it watches.
+/// Counts the close events of the object that it watches.
 class CloseEvents : public QObject
 {
 public:
@@ -100,7 +100,7 @@ private Q_SLOTS:
     void OkKeepsThePairOfAButtonWithoutOne();
     void OkAfterInitData_data();
     void OkAfterInitData();
-    void TheUserMayGoBackToVibration();
+    void TheUserCanReturnToVibration();
     void OkHidesWithoutAcceptingOrRejecting();
     void CancelClosesTheDialog();
     void LeavingKeepsThePair_data();
@@ -184,7 +184,7 @@ void tst_CAnalysisTypeGUI::InitDataStoresThePairAndChecksItsButton_data()
     NewRow("1, 8 has no button", Pair(1, 8), "rad_Vibration");
     NewRow("1, 0 has no button", Pair(1, 0), "rad_Vibration");
     NewRow("1, -1 has no button", Pair(1, -1), "rad_Vibration");
-    // What OK gives for Complex EigenValue is deliberately not shown again.
+    // The pair that OK gives for Complex EigenValue is deliberately not shown again.
     NewRow("7, 7 has no button", Pair(7, 7), "rad_Vibration");
     NewRow("7, 1 has no button", Pair(7, 1), "rad_Vibration");
     NewRow("0, 1 has no button", Pair(0, 1), "rad_Vibration");
@@ -279,7 +279,7 @@ void tst_CAnalysisTypeGUI::OkAfterInitData()
     QCOMPARE(SolverType(dialog), taken);
 }
 
-void tst_CAnalysisTypeGUI::TheUserMayGoBackToVibration()
+void tst_CAnalysisTypeGUI::TheUserCanReturnToVibration()
 {
     CAnalysisTypeGUI dialog(nullptr);
     dialog.InitData(1, 6);

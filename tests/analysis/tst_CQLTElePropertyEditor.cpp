@@ -210,7 +210,7 @@ void tst_CQLTElePropertyEditor::ARecordIsShown_data()
     QTest::addColumn<int>("page");
     QTest::addColumn<QString>("thickness");
     NewRow("a shell", 2, int(ShellPage), "0.123457");
-    // The page and the thickness stay as they were.
+    // The page and the thickness are unchanged.
     NewRow("a solid", 1, int(BeamPage), "9");
     NewRow("no type", 0, int(BeamPage), "9");
     NewRow("an unknown type", 3, int(BeamPage), "9");

@@ -26,8 +26,8 @@ private Q_SLOTS:
     void BrowseCancelledChangesNothing();
     void BrowseWithoutARowEmptiesTheMaterial();
     void BrowseReadsBothFilesAgain();
-    void TheHostMayDestroyTheEditorBehindTheLibrary_data();
-    void TheHostMayDestroyTheEditorBehindTheLibrary();
+    void TheHostMayDestroyTheEditorWhileTheLibraryIsOpen_data();
+    void TheHostMayDestroyTheEditorWhileTheLibraryIsOpen();
 };
 
 void tst_CQLTElePropertyEditorMaterials::BrowsePicksAMaterial()
@@ -44,7 +44,7 @@ void tst_CQLTElePropertyEditorMaterials::BrowsePicksAMaterial()
     Then([](QDialog& library) {
         QCOMPARE(library.objectName(), "KVMaterialLibrary");
         QVERIFY(library.parentWidget() == nullptr);
-        // The name in the field is not looked for: nothing is selected beforehand.
+        // The dialog does not search for the name in the field: nothing is pre-selected.
         QCOMPARE(Table(library).currentRow(), -1);
         ClickRow(Table(library), 1);
         Click(library, "pushButton_6");
@@ -110,14 +110,14 @@ void tst_CQLTElePropertyEditorMaterials::BrowseReadsBothFilesAgain()
     QVERIFY(KVMaterialData::GetInstance()->GetMaterialInfo("not written yet") == nullptr);
 }
 
-void tst_CQLTElePropertyEditorMaterials::TheHostMayDestroyTheEditorBehindTheLibrary_data()
+void tst_CQLTElePropertyEditorMaterials::TheHostMayDestroyTheEditorWhileTheLibraryIsOpen_data()
 {
     QTest::addColumn<QByteArray>("button");
     NewRow("accepted", QByteArray("pushButton_6"));
     NewRow("cancelled", QByteArray("pushButton_8"));
 }
 
-void tst_CQLTElePropertyEditorMaterials::TheHostMayDestroyTheEditorBehindTheLibrary()
+void tst_CQLTElePropertyEditorMaterials::TheHostMayDestroyTheEditorWhileTheLibraryIsOpen()
 {
     QFETCH(QByteArray, button);
     WriteMaterials(UserFile, {{"Bronze", "1", "2", "3"}});

@@ -4,7 +4,7 @@
 #include <limits>
 #include <memory>
 
-// What OK and Cancel make of the record.
+// The record after OK and after Cancel.
 class tst_CQLTElePropertyEditorRecords
     : public With<DialogTest, TemporaryDirectory, EmptyAnalysisStores>
 {
@@ -29,7 +29,7 @@ private Q_SLOTS:
     void ApplyAndTheSpareSlotDoNothing();
     void OkReturnsTheTypedMaterial_data();
     void OkReturnsTheTypedMaterial();
-    void TheHostMayDestroyTheEditorBehindTheBox();
+    void TheHostMayDestroyTheEditorWhileTheBoxIsOpen();
     void MessagesAreTranslatedInTheContextOfTheClass();
 };
 
@@ -266,7 +266,7 @@ void tst_CQLTElePropertyEditorRecords::OkReturnsTheTypedMaterial()
     QCOMPARE(record.m_strMaterialName, typed);
 }
 
-void tst_CQLTElePropertyEditorRecords::TheHostMayDestroyTheEditorBehindTheBox()
+void tst_CQLTElePropertyEditorRecords::TheHostMayDestroyTheEditorWhileTheBoxIsOpen()
 {
     auto* const editor = new CQLTElePropertyEditor(nullptr);
     CQLTElemPropDef record = Record(2);

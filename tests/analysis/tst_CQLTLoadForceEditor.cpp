@@ -84,7 +84,7 @@ void CompareRecord(const CQLTLoadForceEditor& editor, const sLoadForceData& expe
     QCOMPARE(Values(editor.GetLoadForceData()), Values(expected));
 }
 
-/// The field that stands right of a label, as the user sees it.
+/// The field to the right of a label, as the user sees it.
 QString FieldBeside(const QWidget& editor, const QString& labelText)
 {
     const auto& group = Find<QWidget>(editor, "grb_Force");
@@ -179,7 +179,7 @@ void tst_CQLTLoadForceEditor::TheRowsOfFYAndFZAreCrossed()
     QCOMPARE(editor.exec(), int(QDialog::Accepted));
     CompareRecord(editor, {"Default", 1, 3.0, 7.0, 5.0});
 
-    // A record is shown in the same crossed rows, so it passes through unchanged.
+    // A record is shown with the same rows swapped, so it comes out unchanged.
     editor.InitData({"Load", 1, 1.0, 2.0, 3.0});
     QCOMPARE(Text(editor, FieldBeside(editor, "FY").toLatin1()), "3");
     QCOMPARE(Text(editor, FieldBeside(editor, "FZ").toLatin1()), "2");

@@ -31,7 +31,7 @@ FormFacts Form()
     return form;
 }
 
-/// Looks for the file at the moment when the dialog is hidden.
+/// Checks for the file when the dialog is hidden.
 class FileAtHiding : public QObject
 {
 public:
@@ -67,7 +67,7 @@ private Q_SLOTS:
     void MessagesAreTranslatedInTheContextOfTheClass();
     void AnEmptyStoreGivesAnEmptyTable();
     void OpeningReadsTheFile();
-    void OpeningKeepsWhatMemoryHolds();
+    void OpeningKeepsTheRecordsInMemory();
     void AFileThatCannotBeReadIsIgnored_data();
     void AFileThatCannotBeReadIsIgnored();
     void RowsAreSortedByName();
@@ -123,7 +123,7 @@ void tst_ELementPropGUI::AnEmptyStoreGivesAnEmptyTable()
     QVERIFY(manager.GetSelectedProp() == nullptr);
     Properties added;
     manager.GetPropData(added);
-    // Asking for the selected one has entered its empty name.
+    // Asking for the selected property has added its empty name.
     QVERIFY((added == Properties{{QString(), nullptr}}));
 }
 
@@ -137,7 +137,7 @@ void tst_ELementPropGUI::OpeningReadsTheFile()
     QCOMPARE(StoredNames(), QStringList({"A", "B"}));
 }
 
-void tst_ELementPropGUI::OpeningKeepsWhatMemoryHolds()
+void tst_ELementPropGUI::OpeningKeepsTheRecordsInMemory()
 {
     WriteProperties({"A", "B"});
     CQLTElemPropDef* const held = Hold("A", "changed in memory");
@@ -265,7 +265,7 @@ void tst_ELementPropGUI::OkWritesAndCancelDoesNot()
     });
     const QSignalSpy finished(&manager, SIGNAL(finished(int)));
     const FileAtHiding file(manager);
-    // Hidden, not accepted: the code says rejected in every case.
+    // The dialog is hidden, not accepted: the result is always Rejected.
     QCOMPARE(manager.exec(), int(QDialog::Rejected));
     QVERIFY(!manager.isVisible());
     QCOMPARE(finished.count(), way == "OK" || way == "Cancel" ? 0 : 1);

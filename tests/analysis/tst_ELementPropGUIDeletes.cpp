@@ -15,7 +15,7 @@ private Q_SLOTS:
     void DeleteOfAnEmptyNameIsRefused();
     void DeleteActsOnTheTableOnly();
     void ARowAddedAfterADeleteIsRefused();
-    void ATableRefilledBehindTheQuestionKeepsItsRows();
+    void ATableRefilledDuringTheQuestionKeepsItsRows();
 };
 
 void tst_ELementPropGUIDeletes::DeleteNeedsARow()
@@ -132,7 +132,7 @@ void tst_ELementPropGUIDeletes::ARowAddedAfterADeleteIsRefused()
     QCOMPARE(ColumnTexts(Table(manager)), QStringList({"A", "B", "C", "D", "E"}));
 }
 
-void tst_ELementPropGUIDeletes::ATableRefilledBehindTheQuestionKeepsItsRows()
+void tst_ELementPropGUIDeletes::ATableRefilledDuringTheQuestionKeepsItsRows()
 {
     HoldAll({"A", "B"});
     ELementPropGUI manager(nullptr);

@@ -18,7 +18,7 @@ private Q_SLOTS:
     void OnlyAddedPropertiesAreReturned();
     void AddedPropertiesAreWrittenAndReadBack();
     void TheWholeChainRunsByClicks();
-    void ARenameNotWrittenComesBackBesideTheOldName();
+    void AnUnsavedRenameReappearsWithTheOldName();
     void EditNeedsARow();
     void EditNeedsARecord();
     void EditShowsTheRecord();
@@ -27,8 +27,8 @@ private Q_SLOTS:
     void AnEditReplacesThePropertyOfItsNewName();
     void EditCancelledKeepsHeadersAndRecord();
     void CancellingARefusedEditKeepsBothProperties();
-    void TheHostMayDestroyTheManagerBehindTheEditor_data();
-    void TheHostMayDestroyTheManagerBehindTheEditor();
+    void TheHostMayDestroyTheManagerWhileTheEditorIsOpen_data();
+    void TheHostMayDestroyTheManagerWhileTheEditorIsOpen();
 };
 
 void tst_ELementPropGUIEdits::AddEntersARowAndARecord()
@@ -44,7 +44,7 @@ void tst_ELementPropGUIEdits::AddEntersARowAndARecord()
             Click(editor, "pushbu_OK");
         });
         Click(shown, "pushButton_add");
-        // At the end until the next refill.
+        // At the end, until the next refill.
         QCOMPARE(ColumnTexts(Table(shown)), QStringList({"M", "A"}));
         QCOMPARE(RowTexts(Table(shown), 1), QStringList({"A", "Shell", "Bronze"}));
         QCOMPARE(SelectedRows(Table(shown)), QVector<int>({1}));
@@ -81,7 +81,7 @@ void tst_ELementPropGUIEdits::AddOfANameThatIsHeldEntersASecondRow()
     QCOMPARE(ColumnTexts(Table(manager)), QStringList({"A", "A", "A"}));
     QCOMPARE(StoredNames(), QStringList({"A"}));
     QVERIFY(Store().GetProptyDataMap()["A"] != old);
-    // The replaced record is still there for whoever got it before.
+    // The replaced record still exists for earlier users of its pointer.
     QCOMPARE(old->m_strMaterialName, "Steel");
     QCOMPARE(manager.GetSelectedProp(), Store().GetProptyDataMap()["A"]);
 }
@@ -186,7 +186,7 @@ void tst_ELementPropGUIEdits::TheWholeChainRunsByClicks()
     QCOMPARE(manager.GetSelectedProp()->m_dThickness, 4.0);
 }
 
-void tst_ELementPropGUIEdits::ARenameNotWrittenComesBackBesideTheOldName()
+void tst_ELementPropGUIEdits::AnUnsavedRenameReappearsWithTheOldName()
 {
     WriteProperties({"A"});
     ELementPropGUI manager(nullptr);
@@ -327,14 +327,14 @@ void tst_ELementPropGUIEdits::CancellingARefusedEditKeepsBothProperties()
     QCOMPARE(StoredNames(), QStringList({"A", "B"}));
 }
 
-void tst_ELementPropGUIEdits::TheHostMayDestroyTheManagerBehindTheEditor_data()
+void tst_ELementPropGUIEdits::TheHostMayDestroyTheManagerWhileTheEditorIsOpen_data()
 {
     QTest::addColumn<QByteArray>("button");
     NewRow("Add", QByteArray("pushButton_add"));
     NewRow("Edit", QByteArray("pushButton__edit"));
 }
 
-void tst_ELementPropGUIEdits::TheHostMayDestroyTheManagerBehindTheEditor()
+void tst_ELementPropGUIEdits::TheHostMayDestroyTheManagerWhileTheEditorIsOpen()
 {
     QFETCH(QByteArray, button);
     Hold("A");

@@ -126,7 +126,7 @@ void tst_KVMaterialLibrary::TheTabIsTheOnlyOne()
 void tst_KVMaterialLibrary::TheWindowIconIsTheHostsFile()
 {
     const QDir directory = QDir::current();
-    // Where the host ships no such file there is none.
+    // Without the host's file there is no icon.
     QVERIFY(KVMaterialLibrary().windowIcon().availableSizes().isEmpty());
     QVERIFY(directory.mkpath("Varnhollow/images"));
     QVERIFY(directory.mkpath("bin"));
@@ -179,7 +179,7 @@ void tst_KVMaterialLibrary::OpeningReadsTheSystemFileOnly()
 void tst_KVMaterialLibrary::OpeningWithoutAFileShowsNothing()
 {
     WriteMaterials(UserFile, {{"Bronze", "1", "2", "3"}});
-    // Held already, but the table is filled only when the file was read.
+    // The store holds them, but the table is filled only if the file was read.
     Store().ReadXML(UserFile, MATERIAL_USER);
     const KVMaterialLibrary library;
     QCOMPARE(Table(library).rowCount(), 0);

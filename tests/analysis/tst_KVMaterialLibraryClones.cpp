@@ -16,11 +16,11 @@ struct Proposal
 
 const QVector<Proposal>& Proposals()
 {
-    static const QVector<Proposal> proposals = {// The first one is appended.
+    static const QVector<Proposal> proposals = {// The first digit is appended.
                                                 {0, "Steel", "Steel0"},
                                                 {0, "A", "A0"},
                                                 {0, "", "0"},
-                                                // One digit takes the place of the last character.
+                                                // One digit replaces the last character.
                                                 {1, "Steel0", "Steel1"},
                                                 {1, "Steel", "Stee1"},
                                                 {1, "A", "1"},
@@ -28,12 +28,12 @@ const QVector<Proposal>& Proposals()
                                                 {3, "Steel", "Stee3"},
                                                 {9, "Steel0", "Steel9"},
                                                 {9, "Steel", "Stee9"},
-                                                // Two digits do so as well, once.
+                                                // The first two digits do as well.
                                                 {10, "Steel9", "Steel10"},
                                                 {10, "Steel", "Stee10"},
                                                 {10, "A", "10"},
                                                 {10, "", ""},
-                                                // From here on they take the place of the last two.
+                                                // From here on, they replace the last two.
                                                 {11, "Steel10", "Steel11"},
                                                 {11, "Steel", "Ste11"},
                                                 {11, "AB", "11"},
@@ -86,7 +86,7 @@ private:
     QString ProposedName(QDialog& library, const QString& name);
 };
 
-/// What cloning the material of that name proposes; the clone is cancelled.
+/// The name proposed for a clone of the given material; the clone is then cancelled.
 QString tst_KVMaterialLibraryClones::ProposedName(QDialog& library, const QString& name)
 {
     QString proposed = "nothing was proposed";
@@ -116,7 +116,7 @@ void tst_KVMaterialLibraryClones::TheFirstCloneIsEnteredLikeAnAddition()
     library.Reset();
     Then([&](QDialog& shown) {
         for (const Proposal& row : Proposals()) {
-            // None of these is confirmed, so the count stays at 0.
+            // None of these is confirmed, so the count remains 0.
             if (row.count == 0)
                 QCOMPARE(ProposedName(shown, row.name), row.proposed);
         }
@@ -178,7 +178,7 @@ void tst_KVMaterialLibraryClones::AProposedNameThatIsHeldIsRefused()
         });
         ClickRow(Table(shown), BaseNames.indexOf("A"));
         Click(shown, "pushButton_3");
-        // The count has stayed at 11.
+        // The count is still 11.
         QCOMPARE(ProposedName(shown, "Steel"), "Ste11");
         Click(shown, "pushButton_8");
     });

@@ -16,7 +16,7 @@ ShownBox Rename()
     return ShownBox::Notice("Warning", "Material rename!");
 }
 
-/// What the material editor shows: the name and the three values.
+/// The name and the three values that the material editor shows.
 QStringList Shown(const QWidget& editor)
 {
     QStringList texts = {Find<QLineEdit>(editor, "lineEditName").text()};
@@ -57,8 +57,8 @@ private Q_SLOTS:
     void ACancelledAddChangesNothing();
     void AddIntoAFilteredTableEntersTheStoreOnly();
     void AddAfterAnEditEntersTheStoreOnly();
-    void TheHostMayDestroyTheLibraryBehindTheEditor_data();
-    void TheHostMayDestroyTheLibraryBehindTheEditor();
+    void TheHostMayDestroyTheLibraryWhileTheEditorIsOpen_data();
+    void TheHostMayDestroyTheLibraryWhileTheEditorIsOpen();
 };
 
 void tst_KVMaterialLibraryEdits::EachActionNeedsARow_data()
@@ -128,7 +128,7 @@ void tst_KVMaterialLibraryEdits::AnEditEntersACopyUnderANewName()
         QCOMPARE(ColumnTexts(Table(shown)),
                  QStringList({"Bell bronze", "steam", "Glass", "Steel"}));
         QCOMPARE(SelectedRows(Table(shown)), QVector<int>({0}));
-        // The old one is listed again at the next refill.
+        // The next refill lists the old one again.
         Click(shown, "checkBox_3");
         QCOMPARE(ColumnTexts(Table(shown)), QStringList({"Bronze", "steam", "Bell bronze"}));
     });
@@ -196,7 +196,7 @@ void tst_KVMaterialLibraryEdits::ADoubleClickNeedsNoRow()
 {
     KVMaterialLibrary library;
     library.Reset();
-    // Even where no row is current: then name and values are empty.
+    // Even without a current row: name and values are then empty.
     Then([](QDialog& editor) {
         QCOMPARE(Shown(editor), QStringList({"", "", "", ""}));
         editor.reject();
@@ -266,7 +266,7 @@ void tst_KVMaterialLibraryEdits::AddIntoAFilteredTableEntersTheStoreOnly()
         ClickRow(Table(shown), 0);
         Then(Confirm("Lead"));
         Click(shown, "pushButton_2");
-        // The table is shorter than the store and refuses the row.
+        // The table is shorter than the store and rejects the row.
         QCOMPARE(ColumnTexts(Table(shown)), QStringList({"Bronze", "steam"}));
         QCOMPARE(SelectedRows(Table(shown)), QVector<int>({0}));
         Click(shown, "checkBox_3");
@@ -287,7 +287,7 @@ void tst_KVMaterialLibraryEdits::AddAfterAnEditEntersTheStoreOnly()
     QCOMPARE(Store().GetMaterialNameList(), AllNames + QStringList({"Bell bronze", "Lead"}));
 }
 
-void tst_KVMaterialLibraryEdits::TheHostMayDestroyTheLibraryBehindTheEditor_data()
+void tst_KVMaterialLibraryEdits::TheHostMayDestroyTheLibraryWhileTheEditorIsOpen_data()
 {
     QTest::addColumn<QByteArray>("button");
     NewRow("View/Edit", QByteArray("pushButton"));
@@ -295,7 +295,7 @@ void tst_KVMaterialLibraryEdits::TheHostMayDestroyTheLibraryBehindTheEditor_data
     NewRow("Clone", QByteArray("pushButton_3"));
 }
 
-void tst_KVMaterialLibraryEdits::TheHostMayDestroyTheLibraryBehindTheEditor()
+void tst_KVMaterialLibraryEdits::TheHostMayDestroyTheLibraryWhileTheEditorIsOpen()
 {
     QFETCH(QByteArray, button);
     auto* const library = new KVMaterialLibrary;

@@ -36,7 +36,7 @@ private Q_SLOTS:
     void RemoveSelectsTheNextRow();
     void TheRemovalBoxHasNoDefaultButton();
     void RemoveOfAnEmptyNameIsRefused();
-    void ATableRefilledBehindTheRemovalKeepsItsRows();
+    void ATableRefilledDuringTheRemovalKeepsItsRows();
     void AllMessagesButOneAreTranslated();
     void CancelKeepsChangesInMemoryOnly();
     void OkWritesTheChanges();
@@ -69,7 +69,7 @@ void tst_KVMaterialLibraryRemovals::RemoveSelectsTheNextRow_data()
     QTest::addColumn<QString>("selected");
     NewRow("the first", 0, "steam");
     NewRow("one between", 1, "Glass");
-    // No row follows. The one before has become current, but is not selected.
+    // No row follows. The previous row is now current, but not selected.
     NewRow("the last", 3, "Glass");
 }
 
@@ -112,7 +112,7 @@ void tst_KVMaterialLibraryRemovals::RemoveOfAnEmptyNameIsRefused()
     QCOMPARE(Store().MapDataRow(), 3);
 }
 
-void tst_KVMaterialLibraryRemovals::ATableRefilledBehindTheRemovalKeepsItsRows()
+void tst_KVMaterialLibraryRemovals::ATableRefilledDuringTheRemovalKeepsItsRows()
 {
     RunLibrary([&](QDialog& shown) {
         ClickRow(Table(shown), 1);
@@ -121,7 +121,7 @@ void tst_KVMaterialLibraryRemovals::ATableRefilledBehindTheRemovalKeepsItsRows()
         Click(shown, "pushButton_4");
         QCOMPARE(ColumnTexts(Table(shown)), AllNames);
     });
-    // The material goes by its name.
+    // The material is removed by name.
     QCOMPARE(Store().GetMaterialNameList(), QStringList({"Bronze", "Glass", "Steel"}));
 }
 

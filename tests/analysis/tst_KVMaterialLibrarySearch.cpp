@@ -103,7 +103,7 @@ void tst_KVMaterialLibrarySearch::ResetSelectsByThePositionInTheFullList()
     Click(library, "checkBox_2");
     library.SetComToItemData("G1");
     library.Reset();
-    // The second of all names, but the table lacks the first.
+    // The second of all names, although the table lacks the first.
     QCOMPARE(Table(library).currentRow(), 1);
     QCOMPARE(library.selectedMaterialName(), "G2");
     library.SetComToItemData("G3");
@@ -138,11 +138,11 @@ void tst_KVMaterialLibrarySearch::TheBoxesFilter()
     QCOMPARE(ColumnTexts(Table(library)), names);
     if (project && libraries)
         return;
-    // A refill selects nothing; the store keeps what was pointed at last.
+    // A refill selects nothing; the store keeps the last current name.
     QCOMPARE(Table(library).currentRow(), -1);
     QCOMPARE(SelectedRows(Table(library)), QVector<int>());
     QCOMPARE(Store().CurrentMaterialName(), "steam");
-    // A box that the host turns does not filter; only a click does.
+    // Setting a box from code does not filter; only a click does.
     Find<QCheckBox>(library, "checkBox_2").setChecked(!project);
     QCOMPARE(ColumnTexts(Table(library)), names);
 }
@@ -163,7 +163,7 @@ void tst_KVMaterialLibrarySearch::SearchSelectsTheFirstNameThatBeginsWithTheText
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<int>("row");
-    // Row 2 is selected beforehand, so it stays where nothing is found.
+    // Row 2 is pre-selected, so it stays selected if nothing is found.
     NewRow("st", "st", 1);
     NewRow("ST", "ST", 1);
     NewRow("sT", "sT", 1);
@@ -190,7 +190,7 @@ void tst_KVMaterialLibrarySearch::SearchSelectsTheFirstNameThatBeginsWithTheText
     Search(library, key);
     QCOMPARE(SelectedRows(Table(library)), QVector<int>({row}));
     QCOMPARE(Table(library).currentRow(), row);
-    // The same again with the button.
+    // The same with the button.
     Click(library, "pushButton_7");
     QCOMPARE(Table(library).currentRow(), row);
 }

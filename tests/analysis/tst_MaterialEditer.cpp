@@ -44,7 +44,7 @@ QTableWidget& Table(const QWidget& editor)
     return Find<QTableWidget>(editor, "tableWidget");
 }
 
-/// What the record of the editor holds, in the order of its fields.
+/// The contents of the editor's record, in the order of its fields.
 QStringList Record(const MaterialEditer& editor)
 {
     const std::unique_ptr<KVMaterialInfo> material(editor.CreateMaterialInfo());
@@ -79,7 +79,7 @@ private Q_SLOTS:
     void ValuesBeyondTheThirdAreIgnored();
     void AShortListEndsTheProgram_data();
     void AShortListEndsTheProgram();
-    void TheRecordHoldsWhatTheFieldsHold();
+    void TheRecordHoldsTheFields();
     void EveryRecordIsANewOne();
     void AnyTextIsAccepted_data();
     void AnyTextIsAccepted();
@@ -194,7 +194,7 @@ void tst_MaterialEditer::AShortListEndsTheProgram()
     QVERIFY2(output.contains("index out of range"), output);
 }
 
-void tst_MaterialEditer::TheRecordHoldsWhatTheFieldsHold()
+void tst_MaterialEditer::TheRecordHoldsTheFields()
 {
     MaterialEditer editor(nullptr);
     Then([](QDialog& shown) {
@@ -346,7 +346,7 @@ void tst_MaterialEditer::AClearedCellIsAnEmptyValue()
     });
     QCOMPARE(editor.exec(), int(QDialog::Accepted));
     QCOMPARE(Record(editor), QStringList({"1", "Material", "", "1", "0", "", "", ""}));
-    // A cell that is missing altogether counts as empty, too.
+    // A missing cell also counts as empty.
     delete Table(editor).takeItem(1, 1);
     QCOMPARE(Record(editor), QStringList({"1", "Material", "", "", "0", "", "", ""}));
 }

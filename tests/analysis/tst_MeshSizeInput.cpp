@@ -7,7 +7,7 @@
 #include <limits>
 #include <type_traits>
 
-// A default parent on the second constructor would make the size of the host's 0 a guess.
+// With a default parent on the second constructor, the argument 0 would be ambiguous.
 static_assert(!std::is_constructible_v<MeshSizeInput, double>);
 static_assert(!std::is_convertible_v<QWidget*, MeshSizeInput>);
 
@@ -78,7 +78,7 @@ void tst_MeshSizeInput::WithoutASizeItOpensWithOne()
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     QCOMPARE(dialog.GetMeshSize(), 1.0);
 
-    // One argument is the parent, also when it is written as 0.
+    // A single argument is the parent, even if it is written as 0.
     MeshSizeInput withoutParent(nullptr);
     QCOMPARE(withoutParent.GetMeshSize(), 1.0);
 }
@@ -158,7 +158,7 @@ void tst_MeshSizeInput::TheSizeIsReadAfterLeaving()
         Leave(shown, way, "pushButton_2");
     });
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    // The field is read, however the dialog ended.
+    // The field is read however the dialog has ended.
     QCOMPARE(dialog.GetMeshSize(), 8.0);
 }
 

@@ -278,7 +278,7 @@ void tst_frequencySetting::InvalidValuesAreRefused()
         QCOMPARE(Find<QLineEdit>(shown, "lineEdit_MinFreq").text(), minText);
         QCOMPARE(Find<QLineEdit>(shown, "lineEdit_MaxFreq").text(), maxText);
         QCOMPARE(Find<QLineEdit>(shown, "lineEdit_NumFreq").text(), countText);
-        // The rejected values are kept all the same.
+        // The rejected values are still kept.
         CompareSweep(Returned(dialog), {min, max, count});
         Click(shown, "pushButton_2");
     });

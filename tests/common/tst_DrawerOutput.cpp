@@ -27,7 +27,7 @@ private Q_SLOTS:
     void ALongTextIsCutAt1023Bytes();
     void NoHalfCharacterIsLeftAtTheCut_data();
     void NoHalfCharacterIsLeftAtTheCut();
-    void ACharacterThatIsOneByteTooLongIsLeftOut();
+    void ACharacterThatIsOneByteTooLongIsDropped();
 };
 
 void tst_DrawerOutput::EveryCallOfGetInstanceGivesTheOneObject()
@@ -131,7 +131,7 @@ void tst_DrawerOutput::TheDecimalSignIsTheFullStopUnderEveryLocale()
 {
     UseLocale("de_DE.UTF-8");
     QCOMPARE(DrawerOutput::GetQStringFromChar("%.3f", 1.0), QStringLiteral("1.000"));
-    // The locale of the host is not disturbed.
+    // The host's locale is unchanged.
     QCOMPARE(std::localeconv()->decimal_point, ",");
 }
 
@@ -183,7 +183,7 @@ void tst_DrawerOutput::NoHalfCharacterIsLeftAtTheCut()
              filler + character.repeated((1023 - filler.size()) / width));
 }
 
-void tst_DrawerOutput::ACharacterThatIsOneByteTooLongIsLeftOut()
+void tst_DrawerOutput::ACharacterThatIsOneByteTooLongIsDropped()
 {
     UseCodePage("UTF-8");
     const QString filler(1022, QLatin1Char('a'));

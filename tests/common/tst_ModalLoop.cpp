@@ -22,15 +22,15 @@ private Q_SLOTS:
     void AnOpenDialogRunsAsUsual_data();
     void AnOpenDialogRunsAsUsual();
     void OpeningTheDialogAfterTheErrorLeavesItNotModal();
-    void TheErrorPassesThroughTheRunOfAnotherDialog();
-    void AfterTheErrorADialogToBeDeletedOnCloseIsDeletedWhenItIsClosed();
+    void TheErrorPropagatesThroughTheRunOfAnotherDialog();
+    void AfterTheErrorADialogWithDeleteOnCloseIsDeletedWhenClosed();
     void AnEarlierResultIsForgotten();
     void TheSignalsAreTheUsualOnes();
     void ASecondRunInsideTheFirstIsRefused();
     void DestroyingTheRunningDialogRejects_data();
     void DestroyingTheRunningDialogRejects();
-    void ADialogToBeDeletedOnCloseIsDeletedAfterTheRun();
-    void TheDialogRunsAsOftenAsTheHostLikes();
+    void ADialogWithDeleteOnCloseIsDeletedAfterTheRun();
+    void TheDialogCanRunRepeatedly();
 
 private:
     // Presses OK with a zero direction.
@@ -141,7 +141,7 @@ void tst_ModalLoop::OpeningTheDialogAfterTheErrorLeavesItNotModal()
     QVERIFY(!dialog.isModal());
 }
 
-void tst_ModalLoop::TheErrorPassesThroughTheRunOfAnotherDialog()
+void tst_ModalLoop::TheErrorPropagatesThroughTheRunOfAnotherDialog()
 {
     ExtrudInputDlg outer(nullptr);
     ExtrudInputDlg inner(nullptr);
@@ -162,7 +162,7 @@ void tst_ModalLoop::TheErrorPassesThroughTheRunOfAnotherDialog()
     QVERIFY(!outer.isModal() && !inner.isModal());
 }
 
-void tst_ModalLoop::AfterTheErrorADialogToBeDeletedOnCloseIsDeletedWhenItIsClosed()
+void tst_ModalLoop::AfterTheErrorADialogWithDeleteOnCloseIsDeletedWhenClosed()
 {
     const QPointer<QDialog> dialog = new ExtrudInputDlg(nullptr);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -234,7 +234,7 @@ void tst_ModalLoop::DestroyingTheRunningDialogRejects()
     QVERIFY(!guard);
 }
 
-void tst_ModalLoop::ADialogToBeDeletedOnCloseIsDeletedAfterTheRun()
+void tst_ModalLoop::ADialogWithDeleteOnCloseIsDeletedAfterTheRun()
 {
     auto* const dialog = new ExtrudInputDlg(nullptr);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -247,7 +247,7 @@ void tst_ModalLoop::ADialogToBeDeletedOnCloseIsDeletedAfterTheRun()
     QVERIFY(!guard);
 }
 
-void tst_ModalLoop::TheDialogRunsAsOftenAsTheHostLikes()
+void tst_ModalLoop::TheDialogCanRunRepeatedly()
 {
     ExtrudInputDlg dialog(nullptr);
     for (int run = 0; run < 3; ++run) {

@@ -87,7 +87,7 @@ private:
         Check(state == expected, QString("%1 the getters say %2").arg(when, state));
     }
 
-    // Through the window, as an event of the user: a blocked window does not get it.
+    // Through the window, like a user event: a blocked window does not receive it.
     void CheckWindowIsUsable(bool usable, const QString& when)
     {
         const int before = m_clicks;
@@ -251,7 +251,7 @@ void tst_ModalLoopHost::AHostSurvivesTheKernelsError()
 {
     QFETCH(QStringList, arguments);
     QProcess host;
-    // An error that passes the window system's events leaves the one at hand behind.
+    // An exception that passes through the window system's event loop leaks the current event.
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("ASAN_OPTIONS", "detect_leaks=0");
     host.setProcessEnvironment(environment);

@@ -8,7 +8,7 @@ class tst_Notice : public DialogTest
 private Q_SLOTS:
     void ANoticeIsAnInformationBoxWithOneOkButtonAndNoParent();
     void ANoticeIsClosedWithItsCloseButtonToo();
-    void EventsAreDeliveredBehindANotice();
+    void EventsAreDeliveredWhileANoticeIsOpen();
 };
 
 void tst_Notice::ANoticeIsAnInformationBoxWithOneOkButtonAndNoParent()
@@ -30,7 +30,7 @@ void tst_Notice::ANoticeIsClosedWithItsCloseButtonToo()
     QCOMPARE(Boxes().size(), 1);
 }
 
-void tst_Notice::EventsAreDeliveredBehindANotice()
+void tst_Notice::EventsAreDeliveredWhileANoticeIsOpen()
 {
     bool delivered = false;
     User().WhileBoxOpen([&delivered](QMessageBox&) {

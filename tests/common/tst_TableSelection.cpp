@@ -18,7 +18,7 @@ void Fill(QTableWidget& table)
     }
 }
 
-/// How many times the style sheet of a widget was set.
+/// Counts how often the style sheet of a widget is set.
 class StyleChanges : public QObject
 {
 public:
@@ -143,7 +143,7 @@ void tst_TableSelection::TheRowIsScrolledIntoView()
     table.show();
     tarn::SelectRow(table, 400);
     QVERIFY(table.viewport()->rect().contains(table.visualItemRect(table.item(400, 0))));
-    // Again after the user has scrolled away.
+    // The same after the user has scrolled away.
     table.scrollToTop();
     tarn::SelectRow(table, 400);
     QVERIFY(table.viewport()->rect().contains(table.visualItemRect(table.item(400, 0))));

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/// What the tests of the DOE dialog share: its two tables and the stores behind them.
+/// Shared by the tests of the DOE dialog: its two tables and their stores.
 
 using Values = std::vector<double>;
 

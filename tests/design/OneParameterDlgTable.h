@@ -9,7 +9,7 @@
 #include <QRadioButton>
 #include <QTableWidget>
 
-/// What the tests of the sampling dialog share: its boxes, its fields and its table.
+/// Shared by the tests of the sampling dialog: its boxes, its fields and its table.
 
 inline const ShownBox BadInput = ShownBox::Notice("Error", "Check input data!");
 inline const ShownBox NoGauss = ShownBox::Notice("Error", "Not implement yet");

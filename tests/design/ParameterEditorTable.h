@@ -8,7 +8,7 @@
 #include <QComboBox>
 #include <QTranslator>
 
-/// What the tests of the parameter editor share: its table and the store behind it.
+/// Shared by the tests of the parameter editor: its table and its store.
 
 enum Column
 {

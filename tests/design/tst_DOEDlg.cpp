@@ -75,7 +75,7 @@ QStringList Names(const QWidget& dialog)
     return ColumnTexts(Parameters(dialog), NameColumn);
 }
 
-// Which rows are ticked, and which have their button enabled: "x" and "-".
+// The rows that are ticked and those with an enabled button, as "x" and "-".
 QString Ticks(const QWidget& dialog)
 {
     QString ticks;
@@ -122,7 +122,7 @@ private Q_SLOTS:
     void AnyNumberButZeroIsATick();
 
     void ATickEntersARecord();
-    void ATickTakenBackLeavesTheRecord();
+    void RemovingATickKeepsTheRecord();
     void ATickRebuildsTheRunTable();
     void ATickWithoutSamplesEmptiesTheRunTable();
     void TheSpaceBarTicks();
@@ -252,7 +252,7 @@ void tst_DOEDlg::AnEmptyStoreLeavesTheTablesEmpty()
 
 void tst_DOEDlg::TicksAreShownByPosition()
 {
-    // The store's order is c, a, b: the first record, a, marks the row of c.
+    // The store's order is c, a, b: the first record, a, ticks the row of c.
     AddParameters({"c", "a", "b"});
     AddRecord("a", 1, {1});
     AddRecord("b", 0, {1});
@@ -261,7 +261,7 @@ void tst_DOEDlg::TicksAreShownByPosition()
     QCOMPARE(Ticks(dialog), QStringLiteral("x-x"));
     QCOMPARE(EnabledButtons(dialog), QStringLiteral("x-x"));
     QCOMPARE(Names(dialog), QStringList({"c", "a", "b"}));
-    // Showing them changes no record.
+    // Showing the ticks changes no record.
     QCOMPARE(g_mapParaArrays.at("b").bChecked, 0);
     QCOMPARE(RunTableSize(dialog), QSize(2, 1));
 
@@ -295,7 +295,7 @@ void tst_DOEDlg::ARegistryLargerThanTheTableStopsAtTheLastRow()
         AddRecord(name, 1, {1, 2});
     const DOEDlg dialog(nullptr);
     QCOMPARE(Ticks(dialog), QStringLiteral("x"));
-    // The records of parameters that are gone take part all the same.
+    // Records of parameters that no longer exist still take part.
     QCOMPARE(RunTableSize(dialog), QSize(4, 16));
 }
 
@@ -324,7 +324,7 @@ void tst_DOEDlg::ATickEntersARecord()
     QVERIFY(g_mapParaArrays.at("b").vecValues.empty());
 }
 
-void tst_DOEDlg::ATickTakenBackLeavesTheRecord()
+void tst_DOEDlg::RemovingATickKeepsTheRecord()
 {
     AddParameters({"a"});
     AddRecord("a", 1, {1, 2});
@@ -412,7 +412,7 @@ void tst_DOEDlg::SetArrayOpensTheSamplingDialog()
             Click(sampling, "pushButton_OK");
         });
         QTest::mouseClick(&SetArray(shown, 1), Qt::LeftButton);
-        QTest::mouseClick(&SetArray(shown, 0), Qt::LeftButton); // disabled: opens nothing
+        QTest::mouseClick(&SetArray(shown, 0), Qt::LeftButton); // Disabled, so it opens nothing.
         shown.reject();
     });
     dialog.exec();

@@ -40,14 +40,14 @@ private Q_SLOTS:
     void GenerateWritesTheRunIntoTheStore();
     void GenerateSetsAllOtherParametersToZero();
     void GenerateLeavesTheOtherFieldsAlone();
-    void GenerateWritesWhatTheCellsShow();
+    void GenerateWritesTheShownValues();
     void GenerateReadsEditedCells_data();
     void GenerateReadsEditedCells();
     void GenerateOfAnAddedRowWritesZeros();
     void GenerateReadsTheRowsAsSorted();
     void GenerateTakesTheCurrentRow();
     void GenerateWithoutARowIsRefused();
-    void TheHostMayDestroyTheDialogBehindTheRefusal();
+    void TheHostMayDestroyTheDialogDuringTheRefusal();
     void WithoutATickTheMissingRowIsReported();
     void FewerColumnsThanBeforeAreRefusedUntilReopened();
     void FewerColumnsWithoutARowReportTheMissingRow();
@@ -115,7 +115,7 @@ void tst_DOEDlgGenerate::GenerateLeavesTheOtherFieldsAlone()
     const DOEDlg dialog(nullptr);
     Generate(dialog, 0);
     const ParametersDef& stored = Stored("v");
-    // A number for every parameter, also for a Vector.
+    // A number for every parameter, even for a Vector.
     QCOMPARE(stored.m_strValue, QStringLiteral("0"));
     QCOMPARE(stored.m_nType, int(ParametersDef::VectorType));
     QCOMPARE(Values({stored.m_dX, stored.m_dY, stored.m_dZ}), Values({1, 2, 3}));
@@ -126,9 +126,9 @@ void tst_DOEDlgGenerate::GenerateLeavesTheOtherFieldsAlone()
     QCOMPARE(GlobalParaMeterMgr::m_nameMapParameters.size(), std::size_t(1));
 }
 
-void tst_DOEDlgGenerate::GenerateWritesWhatTheCellsShow()
+void tst_DOEDlgGenerate::GenerateWritesTheShownValues()
 {
-    // The text counts, with its six digits, and not the number that it was made from.
+    // The text with its six digits counts, not the original number.
     AddParameter("a");
     Tick("a", {1.0 / 3});
     const DOEDlg dialog(nullptr);
@@ -221,7 +221,7 @@ void tst_DOEDlgGenerate::GenerateWithoutARowIsRefused()
     QCOMPARE(Stored("a").m_dValue, 5.0);
 }
 
-void tst_DOEDlgGenerate::TheHostMayDestroyTheDialogBehindTheRefusal()
+void tst_DOEDlgGenerate::TheHostMayDestroyTheDialogDuringTheRefusal()
 {
     auto* const dialog = new DOEDlg(nullptr);
     const QPointer<QWidget> watched = dialog;
@@ -263,7 +263,7 @@ void tst_DOEDlgGenerate::FewerColumnsThanBeforeAreRefusedUntilReopened()
         QCOMPARE(Boxes(), ShownBoxes({NotEqual, NotEqual}));
         QCOMPARE(spy.count(), 0);
         QCOMPARE(Stored("b").m_dValue, 5.0);
-        // As wide as before, it works again.
+        // It works again with as many columns as before.
         check->click();
         Generate(dialog, 0);
         QCOMPARE(spy.count(), 1);
@@ -302,7 +302,7 @@ void tst_DOEDlgGenerate::MoreColumnsThanBeforeAreAccepted()
 
 void tst_DOEDlgGenerate::OtherColumnsThanBeforeAreAccepted()
 {
-    // As many as before; nothing is left of the parameter that was a column then.
+    // As many columns as before; nothing remains of the parameter that had one of them.
     AddParameters({"a", "b"});
     Tick("a", {1});
     AddRecord("b", 0, {2});
@@ -402,7 +402,7 @@ void tst_DOEDlgGenerate::TheHostMayRefreshFromTheSignal()
 
 void tst_DOEDlgGenerate::RefusedRunsCountAsColumnsOfTheDialog()
 {
-    // As with an empty list: the names were collected, so fewer columns are refused later.
+    // As with an empty list, the names are collected, so fewer columns are refused later.
     Tick("a", Counted(2000));
     Tick("b", Counted(2000));
     const DOEDlg dialog(nullptr);

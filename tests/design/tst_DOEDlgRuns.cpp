@@ -39,7 +39,7 @@ private Q_SLOTS:
     void TwoDialogsDoNotDisturbEachOther();
     void VeryManyParametersMayBeTicked();
 
-    void AMillionRunsAreTheLimit();
+    void TheLimitIsAMillionRuns();
     void TooManyRunsAreRefused_data();
     void TooManyRunsAreRefused();
     void TooManyRunsAreRefusedAtTheConstruction();
@@ -113,7 +113,7 @@ void tst_DOEDlgRuns::TheHeaderShowsTheNamesOfTheRecords()
 
 void tst_DOEDlgRuns::TheRegistryAloneDecides()
 {
-    // Neither the store nor the ticks that the window shows.
+    // The store and the ticks in the window do not matter.
     AddParameter("x");
     Tick("a", {1, 2});
     const DOEDlg dialog(nullptr);
@@ -164,7 +164,7 @@ void tst_DOEDlgRuns::TheTableCanBeBuiltRepeatedly()
 
 void tst_DOEDlgRuns::TheViewsFollowTheTable()
 {
-    // The cells come in silence; the counts must not.
+    // Setting the cells emits no signals, but changing their number must.
     Tick("a", {1, 2, 3});
     DOEDlg dialog(nullptr);
     dialog.show();
@@ -219,7 +219,7 @@ void tst_DOEDlgRuns::VeryManyParametersMayBeTicked()
     QCOMPARE(Runs(dialog).horizontalHeaderItem(Count - 1)->text(), QStringLiteral("p199999"));
 }
 
-void tst_DOEDlgRuns::AMillionRunsAreTheLimit()
+void tst_DOEDlgRuns::TheLimitIsAMillionRuns()
 {
     QCOMPARE(DOEDlg::MaximumRuns, 1000000);
     Tick("a", Counted(1000));
@@ -262,7 +262,7 @@ void tst_DOEDlgRuns::TooManyRunsAreRefusedAtTheConstruction()
     Tick("a", Counted(2000));
     Tick("b", Counted(2000));
     AddParameter("a");
-    // The host takes the tick back behind the box.
+    // The host removes the tick while the box is open.
     User().WhileBoxOpen([](QMessageBox&) { g_mapParaArrays.erase("b"); });
     const DOEDlg dialog(nullptr);
     QCOMPARE(Boxes(), ShownBoxes({TooMany}));

@@ -18,10 +18,10 @@ private Q_SLOTS:
     void OtherRolesAreThoseOfAnOrdinaryItem();
     void AnEditedTextIsKeptAsTyped_data();
     void AnEditedTextIsKeptAsTyped();
-    void AnEditWithoutChangeIsNoChange();
+    void AnEditWithoutChangeIsIgnored();
     void AnUnsetTextIsEmpty();
     void ItemsSortAsOrdinaryOnes();
-    void AClonedItemIsAnItemOfItsOwn();
+    void AClonedItemIsIndependent();
     void AStreamedItemIsReadAsAnOrdinaryOne();
     void AStreamReplacesTheNumber();
 };
@@ -100,7 +100,7 @@ void tst_NumberItem::AnEditedTextIsKeptAsTyped()
     QCOMPARE(changed.count(), 2);
 }
 
-void tst_NumberItem::AnEditWithoutChangeIsNoChange()
+void tst_NumberItem::AnEditWithoutChangeIsIgnored()
 {
     QTableWidget table(1, 2);
     table.setItem(0, 0, new NumberItem(1.0 / 3));
@@ -122,7 +122,7 @@ void tst_NumberItem::AnUnsetTextIsEmpty()
 
 void tst_NumberItem::ItemsSortAsOrdinaryOnes()
 {
-    // By text, as ordinary items do: 10 stands before 9.
+    // By text, like ordinary items: 10 comes before 9.
     QTableWidget table(4, 2);
     int row = 0;
     for (const double value : {9.0, 10.0, -1.0, 0.5}) {
@@ -138,7 +138,7 @@ void tst_NumberItem::ItemsSortAsOrdinaryOnes()
     QVERIFY(QTableWidgetItem("10") < NumberItem(9.0));
 }
 
-void tst_NumberItem::AClonedItemIsAnItemOfItsOwn()
+void tst_NumberItem::AClonedItemIsIndependent()
 {
     NumberItem item(2.5);
     item.setToolTip("tip");

@@ -90,9 +90,9 @@ private Q_SLOTS:
     void OkOfGaussStoresTheExistingRows();
     void CancelLeavesTheRegistryAlone_data();
     void CancelLeavesTheRegistryAlone();
-    void TheHostMayChangeTheRegistryBehindABox();
-    void TheHostMayDestroyTheDialogBehindABox_data();
-    void TheHostMayDestroyTheDialogBehindABox();
+    void TheHostMayChangeTheRegistryWhileABoxIsOpen();
+    void TheHostMayDestroyTheDialogWhileABoxIsOpen_data();
+    void TheHostMayDestroyTheDialogWhileABoxIsOpen();
 
 private:
     std::unique_ptr<QDialog> NewDialog(QDialog* parent) const override
@@ -260,7 +260,7 @@ void tst_OneParameterDlg::OkStoresTheRecord()
         Click(shown, "radioButton_Linear");
         Click(shown, "pushButton_OK");
     });
-    // The first edit leaves min = max, which is refused on the way.
+    // The first edit gives min = max, which is refused in between.
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     QCOMPARE(Boxes(), ShownBoxes({BadInput}));
     const sParaArrayData& record = g_mapParaArrays.at("a");
@@ -277,7 +277,7 @@ void tst_OneParameterDlg::OkStoresTheRecord()
 
 void tst_OneParameterDlg::TheNextOkReplacesTheSamples()
 {
-    // The same dialog, run twice.
+    // The same dialog runs twice.
     OneParameterDlg dialog(nullptr, "a");
     QCOMPARE(RunAndPress(dialog, "pushButton_OK"), int(QDialog::Accepted));
     QCOMPARE(g_mapParaArrays.at("a").vecValues, Values({0, 1}));
@@ -330,7 +330,7 @@ void tst_OneParameterDlg::ARowWithoutItemCountsAsZero()
 
 void tst_OneParameterDlg::OkStoresTheRowsAsShown()
 {
-    // What is shown with six digits is stored with six digits.
+    // Values are stored with the six digits that are shown.
     StoreRange("a", 1, 3, 2, Ln);
     OneParameterDlg dialog(nullptr, "a");
     Click(dialog, "pushButton_OK");
@@ -379,7 +379,7 @@ void tst_OneParameterDlg::CancelLeavesTheRegistryAlone()
     QCOMPARE(record.nSampleType, int(Log10));
 }
 
-void tst_OneParameterDlg::TheHostMayChangeTheRegistryBehindABox()
+void tst_OneParameterDlg::TheHostMayChangeTheRegistryWhileABoxIsOpen()
 {
     StoreRange("a", 2, 1, 0.5);
     User().WhileBoxOpen([](QMessageBox&) { g_mapParaArrays.clear(); });
@@ -391,7 +391,7 @@ void tst_OneParameterDlg::TheHostMayChangeTheRegistryBehindABox()
     QCOMPARE(g_mapParaArrays.at("a").bChecked, 1);
 }
 
-void tst_OneParameterDlg::TheHostMayDestroyTheDialogBehindABox_data()
+void tst_OneParameterDlg::TheHostMayDestroyTheDialogWhileABoxIsOpen_data()
 {
     QTest::addColumn<QString>("max");
     QTest::addColumn<QString>("text");
@@ -400,7 +400,7 @@ void tst_OneParameterDlg::TheHostMayDestroyTheDialogBehindABox_data()
     NewRow("m_Slot_Delete", "1", NoRow.text);
 }
 
-void tst_OneParameterDlg::TheHostMayDestroyTheDialogBehindABox()
+void tst_OneParameterDlg::TheHostMayDestroyTheDialogWhileABoxIsOpen()
 {
     QFETCH(QString, max);
     QFETCH(QString, text);

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Leaves a field, as it stands, with Tab.
+// Leaves a field with Tab without changing it.
 void FinishEdit(const QWidget& dialog, const char* name)
 {
     auto& edit = Find<QLineEdit>(dialog, name);
@@ -29,14 +29,14 @@ private Q_SLOTS:
     void ABadRangeIsRefused();
     void AStoredBadRangeIsRefusedAtTheOpening_data();
     void AStoredBadRangeIsRefusedAtTheOpening();
-    void AMillionRowsAreTheLimit();
+    void TheLimitIsAMillionRows();
     void EachFieldRegeneratesWhenItIsLeft_data();
     void EachFieldRegeneratesWhenItIsLeft();
     void LinearAndLogRegenerateAtOnce();
     void LnAndGaussWaitForTheNextEdit();
     void GaussIsRememberedWithoutRows();
     void WithoutATypeNothingIsGenerated();
-    void ARefusedRangeLeavesTheTypeAsItWas();
+    void ARefusedRangeKeepsTheType();
 
     void ABadEditShowsOneBox_data();
     void ABadEditShowsOneBox();
@@ -58,7 +58,7 @@ void tst_OneParameterDlgSamples::TheRangeGeneratesTheSamples_data()
            QStringList({"0", "0.25", "0.5", "0.75", "1"}));
     NewRow("the end is not reached", "0", "1", "0.3", int(Linear),
            QStringList({"0", "0.3", "0.6", "0.9"}));
-    // Ten steps of 0.1 add up to a little less than 1, three steps to a little more than 0.3.
+    // Ten steps of 0.1 give slightly less than 1, three steps slightly more than 0.3.
     NewRow("added up below the end", "0", "1", "0.1", int(Linear),
            QStringList({"0", "0.1", "0.2", "0.3", "0.4", "0.5", "0.6", "0.7", "0.8", "0.9", "1"}));
     NewRow("added up beyond the end", "0", "0.3", "0.1", int(Linear),
@@ -171,7 +171,7 @@ void tst_OneParameterDlgSamples::AStoredBadRangeIsRefusedAtTheOpening()
     QCOMPARE(Rows(dialog), QStringList());
 }
 
-void tst_OneParameterDlgSamples::AMillionRowsAreTheLimit()
+void tst_OneParameterDlgSamples::TheLimitIsAMillionRows()
 {
     OneParameterDlg dialog(nullptr, "a");
     SetFields(dialog, "1", "1000000", "1");
@@ -233,7 +233,7 @@ void tst_OneParameterDlgSamples::LnAndGaussWaitForTheNextEdit()
         QCOMPARE(Rows(shown), QStringList({"0", "0.693147"}));
         Click(shown, "radioButton_Gauss");
         QCOMPARE(Rows(shown), QStringList({"0", "0.693147"}));
-        // The type of the last generation counts, and not the button that is checked by now.
+        // The type of the last generation counts, not the button that is now checked.
         Click(shown, "pushButton_OK");
     });
     dialog.exec();
@@ -266,7 +266,7 @@ void tst_OneParameterDlgSamples::WithoutATypeNothingIsGenerated()
     QCOMPARE(Rows(dialog), QStringList());
 }
 
-void tst_OneParameterDlgSamples::ARefusedRangeLeavesTheTypeAsItWas()
+void tst_OneParameterDlgSamples::ARefusedRangeKeepsTheType()
 {
     StoreRange("a", 1, 2, 1, Ln);
     OneParameterDlg dialog(nullptr, "a");

@@ -25,10 +25,10 @@ private Q_SLOTS:
     void TheValueOfThePreviousApplyHasSixDigits();
     void ACycleIsEvaluatedOnce();
     void OnlyTheVectorTextIsTranslated();
-    void TheHostMayChangeTheStoreBehindTheBox_data();
-    void TheHostMayChangeTheStoreBehindTheBox();
-    void TheHostMayDestroyTheEditorBehindABox_data();
-    void TheHostMayDestroyTheEditorBehindABox();
+    void TheHostMayChangeTheStoreWhileTheBoxIsOpen_data();
+    void TheHostMayChangeTheStoreWhileTheBoxIsOpen();
+    void TheHostMayDestroyTheEditorWhileABoxIsOpen_data();
+    void TheHostMayDestroyTheEditorWhileABoxIsOpen();
 };
 
 void tst_ParameterEditorExpressions::AnExpressionIsEvaluatedOverItsParameters()
@@ -256,7 +256,7 @@ void tst_ParameterEditorExpressions::OnlyTheVectorTextIsTranslated()
 using StoreAction = void (*)(ParameterEditor&);
 Q_DECLARE_METATYPE(StoreAction)
 
-void tst_ParameterEditorExpressions::TheHostMayChangeTheStoreBehindTheBox_data()
+void tst_ParameterEditorExpressions::TheHostMayChangeTheStoreWhileTheBoxIsOpen_data()
 {
     QTest::addColumn<StoreAction>("action");
     QTest::addColumn<QString>("left");
@@ -298,7 +298,7 @@ void tst_ParameterEditorExpressions::TheHostMayChangeTheStoreBehindTheBox_data()
            "a=2 r=4 s=6");
 }
 
-void tst_ParameterEditorExpressions::TheHostMayChangeTheStoreBehindTheBox()
+void tst_ParameterEditorExpressions::TheHostMayChangeTheStoreWhileTheBoxIsOpen()
 {
     QFETCH(StoreAction, action);
     ParameterEditor editor(nullptr);
@@ -319,7 +319,7 @@ void tst_ParameterEditorExpressions::TheHostMayChangeTheStoreBehindTheBox()
     QCOMPARE(Table(editor).rowCount(), left.size());
 }
 
-void tst_ParameterEditorExpressions::TheHostMayDestroyTheEditorBehindABox_data()
+void tst_ParameterEditorExpressions::TheHostMayDestroyTheEditorWhileABoxIsOpen_data()
 {
     QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("names");
@@ -330,7 +330,7 @@ void tst_ParameterEditorExpressions::TheHostMayDestroyTheEditorBehindABox_data()
     NewRow("expression, OK", "Scalar", "x", "pushButton_OK");
 }
 
-void tst_ParameterEditorExpressions::TheHostMayDestroyTheEditorBehindABox()
+void tst_ParameterEditorExpressions::TheHostMayDestroyTheEditorWhileABoxIsOpen()
 {
     QFETCH(QString, type);
     QFETCH(QString, names);

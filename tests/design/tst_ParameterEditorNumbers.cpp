@@ -2,7 +2,7 @@
 
 #include <QSignalSpy>
 
-/// What the editor refuses in the "Value" column.
+/// The texts that the editor refuses in the "Value" column.
 class tst_ParameterEditorNumbers : public With<DialogTest, EmptyDesignStores>
 {
     Q_OBJECT
@@ -13,8 +13,8 @@ private Q_SLOTS:
     void TheCurrentColumnCountsAndNotTheChangedOne();
     void FillingTheTableIsNotChecked();
     void AMissingItemIsIgnored();
-    void TheHostMayChangeTheTableBehindTheBox_data();
-    void TheHostMayChangeTheTableBehindTheBox();
+    void TheHostMayChangeTheTableWhileTheBoxIsOpen_data();
+    void TheHostMayChangeTheTableWhileTheBoxIsOpen();
 };
 
 namespace {
@@ -96,7 +96,7 @@ void tst_ParameterEditorNumbers::AMissingItemIsIgnored()
     QVERIFY(Boxes().isEmpty());
 }
 
-void tst_ParameterEditorNumbers::TheHostMayChangeTheTableBehindTheBox_data()
+void tst_ParameterEditorNumbers::TheHostMayChangeTheTableWhileTheBoxIsOpen_data()
 {
     QTest::addColumn<EditorAction>("action");
     QTest::addColumn<QString>("left");
@@ -120,7 +120,7 @@ void tst_ParameterEditorNumbers::TheHostMayChangeTheTableBehindTheBox_data()
            "1  3");
 }
 
-void tst_ParameterEditorNumbers::TheHostMayChangeTheTableBehindTheBox()
+void tst_ParameterEditorNumbers::TheHostMayChangeTheTableWhileTheBoxIsOpen()
 {
     QFETCH(EditorAction, action);
     Store("a", "1");

@@ -19,7 +19,7 @@ private Q_SLOTS:
     void RowsAreWrittenAsTyped();
     void ARowWithoutItemsIsWrittenUnderTheEmptyName();
     void ARewrittenRecordIsReplacedAsAWhole();
-    void TheHostMayChangeTheTableBehindTheRefusalOfAVector();
+    void TheHostMayChangeTheTableDuringTheRefusalOfAVector();
 };
 
 void tst_ParameterEditorRows::AVectorTakesItsComponentsFromThreeParts_data()
@@ -95,7 +95,7 @@ void tst_ParameterEditorRows::ARefusedVectorStopsTheWritingOfRows()
     QCOMPARE(StoredNames(), QStringList({"v", "late", "early"}));
     QCOMPARE(Stored("early").m_dValue, 2.0);
     QCOMPARE(Stored("late").m_dValue, 1.0);
-    // The table shows what is stored, and no longer what was typed.
+    // The table shows what is stored, not what was typed.
     QCOMPARE(Table(editor).rowCount(), 3);
     QCOMPARE(RowTexts(editor, 0), QStringList({"v", "1,2,3", "Vector", "", "", ""}));
     QCOMPARE(RowTexts(editor, 1).at(ValueColumn), "1");
@@ -156,7 +156,7 @@ void tst_ParameterEditorRows::RowsAreWrittenAsTyped()
     QCOMPARE(Stored("").m_strValue, "2");
     QCOMPARE(Stored(" a").m_strValue, "4");
     QCOMPARE(Stored("bad").m_strExpression, std::string("1 +* ("));
-    // What has no value is no number, and stays none when the text is read again.
+    // An expression without a value gives NaN, and reading its text again gives NaN.
     QVERIFY(std::isnan(Stored("bad").m_dValue));
     QVERIFY(std::isnan(Stored("bad").m_varRawValue.toDouble()));
     QCOMPARE(Stored("bad").m_strValue, "nan");
@@ -190,7 +190,7 @@ void tst_ParameterEditorRows::ARewrittenRecordIsReplacedAsAWhole()
     QCOMPARE(StoredNames().size(), 1);
 }
 
-void tst_ParameterEditorRows::TheHostMayChangeTheTableBehindTheRefusalOfAVector()
+void tst_ParameterEditorRows::TheHostMayChangeTheTableDuringTheRefusalOfAVector()
 {
     ParameterEditor editor(nullptr);
     AddRow(editor, "a", "2");

@@ -14,7 +14,7 @@ private Q_SLOTS:
     void ACodeChoosesItsEntry_data();
     void ACodeChoosesItsEntry();
     void AnUnknownEntryIsAScalar();
-    void OfferingIsNoChangeByTheUser();
+    void OfferingIsNotAChangeByTheUser();
     void ItHasTheSizeOfItsCell();
     void NumbersGrow();
 };
@@ -68,7 +68,7 @@ void tst_TypeCombo::AnUnknownEntryIsAScalar()
     }
 }
 
-void tst_TypeCombo::OfferingIsNoChangeByTheUser()
+void tst_TypeCombo::OfferingIsNotAChangeByTheUser()
 {
     const QTableWidget table(1, 1);
     TypeCombo combo(table, 0);

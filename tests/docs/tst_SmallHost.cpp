@@ -41,7 +41,7 @@ void ExtrudeAlong(QDialog& dialog, const char* z)
     Click(dialog, "pushButton_OK");
 }
 
-// What a user does once the window is visible.
+// The actions of the user once the window is visible.
 void UseTheHost()
 {
     QMainWindow* window = nullptr;

@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QSet>
 
-// What all forms have in common; the test of each dialog covers its own form.
+// Checks that apply to all forms; the test of each dialog covers its own form.
 class tst_Forms : public TestCase
 {
     Q_OBJECT

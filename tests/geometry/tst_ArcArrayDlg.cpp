@@ -80,7 +80,7 @@ private Q_SLOTS:
     void ANewRecordHasTheZAxis();
     void TheDirectionIsNormalised_data();
     void TheDirectionIsNormalised();
-    void AZeroDirectionRaisesTheKernelsError();
+    void AZeroDirectionThrowsTheKernelsError();
 
 private:
     QString Values(const ArcArrayDlg& dialog) const override
@@ -117,7 +117,7 @@ void tst_ArcArrayDlg::TheDirectionIsNormalised()
     QCOMPARE(KernelText(dialog.GetArrayParameter().m_axis.Direction()), direction);
 }
 
-void tst_ArcArrayDlg::AZeroDirectionRaisesTheKernelsError()
+void tst_ArcArrayDlg::AZeroDirectionThrowsTheKernelsError()
 {
     ArcArrayDlg dialog(nullptr);
     FillAndPress(dialog, {{"lineEdit_AxisPtx", "1"}}, "pushButtonOK");

@@ -64,8 +64,8 @@ public:
 private Q_SLOTS:
     void TheGroupBoxHasTenPoints();
     void TheDirectionIsNormalised();
-    void AZeroDirectionRaisesTheKernelsError_data();
-    void AZeroDirectionRaisesTheKernelsError();
+    void AZeroDirectionThrowsTheKernelsError_data();
+    void AZeroDirectionThrowsTheKernelsError();
 
 private:
     QString Values(const ExtrudInputDlg& dialog) const override;
@@ -95,7 +95,7 @@ void tst_ExtrudInputDlg::TheDirectionIsNormalised()
     QCOMPARE(Values(dialog), QString("7 along (0, 0, 1)"));
 }
 
-void tst_ExtrudInputDlg::AZeroDirectionRaisesTheKernelsError_data()
+void tst_ExtrudInputDlg::AZeroDirectionThrowsTheKernelsError_data()
 {
     QTest::addColumn<QString>("z");
     QTest::newRow("zero") << "0";
@@ -104,7 +104,7 @@ void tst_ExtrudInputDlg::AZeroDirectionRaisesTheKernelsError_data()
     QTest::newRow("at the limit") << "2.2250738585072014e-308";
 }
 
-void tst_ExtrudInputDlg::AZeroDirectionRaisesTheKernelsError()
+void tst_ExtrudInputDlg::AZeroDirectionThrowsTheKernelsError()
 {
     QFETCH(QString, z);
     ExtrudInputDlg dialog(nullptr);

@@ -83,13 +83,13 @@ private Q_SLOTS:
     void LeavingStoresNothing();
     void AxisTextIsConverted_data() { AddConversionRows(); }
     void AxisTextIsConverted();
-    void AZeroAxisDirectionRaisesTheKernelsError();
+    void AZeroAxisDirectionThrowsTheKernelsError();
     void TheOtherModesIgnoreAZeroAxisDirection();
 
 private:
     void CompareAfterEnter(QDialog& dialog) override;
 
-    /// Runs the dialog as a user who picks a mode, fills the fields and presses OK.
+    /// Runs the dialog as a user who selects a mode, fills the fields and presses OK.
     int PickFillAndOK(MirrorDialog& dialog, const char* mode, const FieldTexts& fields);
 };
 
@@ -189,7 +189,7 @@ void tst_MirrorDialog::CancelDoesNothing()
 void tst_MirrorDialog::LeavingStoresNothing_data()
 {
     QTest::addColumn<QString>("way");
-    // Cancel is no way to leave.
+    // The dialog cannot be cancelled here.
     NewRow("Escape", "Escape");
     NewRow("close", "close");
 }
@@ -217,7 +217,7 @@ void tst_MirrorDialog::AxisTextIsConverted()
              int(QDialog::Accepted));
     gp_Trsf transform;
     dialog.GetMirrorData(transform);
-    // About the axis (0, y, 0) along z the origin goes to (0, 2 y, 0).
+    // About the axis (0, y, 0) along z, the image of the origin is (0, 2 y, 0).
     const double image = transform.TranslationPart().Y();
     if (std::isfinite(number))
         QCOMPARE(AllDigits(image), AllDigits(2.0 * number));
@@ -225,7 +225,7 @@ void tst_MirrorDialog::AxisTextIsConverted()
         QVERIFY(!std::isfinite(image));
 }
 
-void tst_MirrorDialog::AZeroAxisDirectionRaisesTheKernelsError()
+void tst_MirrorDialog::AZeroAxisDirectionThrowsTheKernelsError()
 {
     MirrorDialog dialog(nullptr);
     PickFillAndOK(dialog, "radioButton", {});

@@ -18,7 +18,7 @@ private Q_SLOTS:
     void ItHasNoSlotsAndNoSignals();
     void EveryCallOfGetInstanceGivesTheOneObject();
     void TheInstanceIsAHiddenWindow();
-    void AWidgetOfItsOwnIsAnother();
+    void AnOwnWidgetIsIndependentOfTheInstance();
     void WithAParentItIsAnOrdinaryChild();
     void TheFieldsTakeAnyText();
     void TheHostReachesTheFields();
@@ -83,7 +83,7 @@ void tst_PosInputDlg::TheInstanceIsAHiddenWindow()
     QVERIFY(!input->isVisible());
 }
 
-void tst_PosInputDlg::AWidgetOfItsOwnIsAnother()
+void tst_PosInputDlg::AnOwnWidgetIsIndependentOfTheInstance()
 {
     PosInputDlg* const shared = PosInputDlg::GetInstance();
     {

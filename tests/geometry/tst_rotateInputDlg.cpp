@@ -73,8 +73,8 @@ private Q_SLOTS:
     void TheLabelsHaveTheFontOfTheDialog();
     void TheAngleIsConverted_data() { AddConversionRows(); }
     void TheAngleIsConverted();
-    void AZeroDirectionRaisesTheKernelsError_data();
-    void AZeroDirectionRaisesTheKernelsError();
+    void AZeroDirectionThrowsTheKernelsError_data();
+    void AZeroDirectionThrowsTheKernelsError();
     void TheShortestDirectionIsNormalised();
 
 private:
@@ -107,7 +107,7 @@ void tst_rotateInputDlg::TheAngleIsConverted()
     QCOMPARE(AllDigits(dialog.GetAngle()), AllDigits(number * Pi / 180));
 }
 
-void tst_rotateInputDlg::AZeroDirectionRaisesTheKernelsError_data()
+void tst_rotateInputDlg::AZeroDirectionThrowsTheKernelsError_data()
 {
     QTest::addColumn<QString>("x");
     QTest::addColumn<QString>("z");
@@ -119,7 +119,7 @@ void tst_rotateInputDlg::AZeroDirectionRaisesTheKernelsError_data()
     NewRow("at the limit", "0", "2.2250738585072014e-308");
 }
 
-void tst_rotateInputDlg::AZeroDirectionRaisesTheKernelsError()
+void tst_rotateInputDlg::AZeroDirectionThrowsTheKernelsError()
 {
     QFETCH(QString, x);
     QFETCH(QString, z);

@@ -103,7 +103,7 @@ void tst_sphereParaInputdlg::TheFirstAngleTakesNoDecimalComma()
     QVERIFY(edit.hasAcceptableInput());
 }
 
-// What the stock validator lets pass while it is typed, OK takes.
+// OK accepts everything that the validator allows to be typed.
 void tst_sphereParaInputdlg::TheFirstAngleRefusesTyping_data()
 {
     QTest::addColumn<QByteArray>("locale");

@@ -3,6 +3,7 @@
 #include "FeatureBuilder.h"
 #include "FeatureList.h"
 #include "GlobalParaMeterMgr.h"
+#include "GuardedTest.h"
 
 #include <BRepGProp.hxx>
 #include <BRepTools.hxx>
@@ -17,7 +18,7 @@
 #include <cmath>
 #include <sstream>
 
-// What bodies weigh by formula and by the kernel, and short ways to write lists of features.
+// Volumes and centres by formula and by the kernel, and short ways to write lists of features.
 
 const double Pi = std::acos(-1.0);
 
@@ -142,7 +143,7 @@ inline FeatureList List(const QByteArray& json)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson("[" + json + "]", &error);
     if (error.error != QJsonParseError::NoError)
-        qFatal("The test's list is no JSON: %s", json.constData());
+        FailTest(QString("The test's list is not JSON: %1").arg(QString(json)));
     return FeatureList::FromJson(document.array());
 }
 
@@ -188,7 +189,7 @@ inline QString Reason(const FeatureList& list)
 
 inline bool AreClose(const Mass& built, const Mass& expected)
 {
-    // A centre is told relative to the size of the body.
+    // The tolerance of a centre is relative to the size of the body.
     const double size = std::max(1.0, std::cbrt(expected.volume));
     bool close = std::abs(built.volume - expected.volume) <= 1e-9 * expected.volume;
     for (std::size_t axis = 0; axis < 3; ++axis)

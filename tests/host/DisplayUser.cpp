@@ -1,5 +1,7 @@
 #include "DisplayUser.h"
 
+#include "GuardedTest.h"
+
 #include <QByteArray>
 
 #include <X11/XKBlib.h>
@@ -54,7 +56,7 @@ DisplayUser::DisplayUser()
     : m_connection(std::make_unique<Connection>())
 {
     if (m_connection->display == nullptr)
-        qFatal("There is no X display");
+        FailTest("There is no X display");
     // A window may disappear while it is looked at.
     XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
 }

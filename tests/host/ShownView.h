@@ -67,7 +67,7 @@ public:
     QImage Picture() const { return view->grab().toImage(); }
     QPoint Middle() const { return view->rect().center(); }
 
-    // Not the framework's way, which moves the pointer of the screen and waits for what comes.
+    // QTest would move the pointer of the screen and wait for events.
     void MoveTo(const QPoint& to) const
     {
         QMouseEvent move(QEvent::MouseMove, to, view->mapToGlobal(to), Qt::NoButton, Qt::NoButton,
@@ -134,11 +134,11 @@ inline int BlackPixels(const QImage& image)
     return count;
 }
 
-/// The rows of a test: each standard view, and where it looks from.
+/// The rows of a test: each standard view and its side.
 inline void AddStandardViews()
 {
     QTest::addColumn<PartView::StandardView>("view");
-    QTest::addColumn<QString>("middle"); // What is seen there of the block; * is not known exactly.
+    QTest::addColumn<QString>("middle"); // The visible point of the block; * is not known exactly.
     QTest::addColumn<QString>("right");  // The axis that points to the right.
     QTest::newRow("front") << PartView::FrontView << "* 0 *"
                            << "+x";

@@ -87,7 +87,8 @@ private:
     QProcess m_process;
 };
 
-/// The parameter editor as the program shows it for the same project: tells where its widgets are.
+/// The parameter editor as the program shows it for the same project, with the same positions of
+/// its widgets.
 class TwinEditor
 {
 public:

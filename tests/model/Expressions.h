@@ -11,7 +11,7 @@
 #include <map>
 #include <string>
 
-/// What the tests of expressions share.
+/// Shared by the tests of expressions.
 namespace expressions {
 
 using Variables = std::map<std::string, double>;

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-/// What tests need to have several processes use the same files.
+/// Helpers for tests in which several processes use the same files.
 
 /// Runs @p work in a process of its own and returns its id. The exit code is 0 if @p work returned
 /// true.

@@ -6,7 +6,7 @@
 
 #include <QRegularExpression>
 
-/// What becomes of the old content of a file that is written.
+/// The backups of the old content when a file is written.
 class tst_KVMaterialDataCopies : public MaterialStoreTest
 {
     Q_OBJECT

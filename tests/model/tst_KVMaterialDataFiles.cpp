@@ -3,7 +3,7 @@
 #include "TestFiles.h"
 #include "XmlFiles.h"
 
-/// What is read from and written to the files of materials.
+/// Reading and writing the files of materials.
 class tst_KVMaterialDataFiles : public MaterialStoreTest
 {
     Q_OBJECT

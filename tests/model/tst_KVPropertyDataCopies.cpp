@@ -4,7 +4,7 @@
 #include "TestFiles.h"
 #include "XmlFiles.h"
 
-/// What becomes of the old content of a file that is written.
+/// The backups of the old content when a file is written.
 class tst_KVPropertyDataCopies : public PropertyStoreTest
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <limits>
 
-/// What is read from and written to the file of element properties.
+/// Reading and writing the file of element properties.
 class tst_KVPropertyDataFiles : public PropertyStoreTest
 {
     Q_OBJECT

@@ -28,7 +28,7 @@ class tst_SafeFile : public TestCase
 
 private Q_SLOTS:
     void UnknownContentIsBackedUp();
-    void WhatIsRememberedIsReplaced();
+    void KnownContentIsReplaced();
     void ACopyIsKeptBesideTheTargetOfALink();
     void ACopyHasThePermissionsOfTheFile();
     void CopiesDoNotReplaceEachOther();
@@ -70,7 +70,7 @@ void tst_SafeFile::UnknownContentIsBackedUp()
     QCOMPARE(ContentOf(Name), QByteArray("fourth"));
 }
 
-void tst_SafeFile::WhatIsRememberedIsReplaced()
+void tst_SafeFile::KnownContentIsReplaced()
 {
     QDir().mkdir("elsewhere");
     Put("elsewhere/real.xml", "old");

@@ -45,7 +45,7 @@ private Q_SLOTS:
     void AnUnreadableFileIsReported();
     void AResourceIsRead();
 
-    void WhatIsNotAFileIsNotReplaced();
+    void OnlyRegularFilesAreReplaced();
     void AWriteWithoutFolderFails();
     void AReadOnlyFolderLeavesTheOldFile();
     void AReadOnlyFileIsNotReplaced();
@@ -163,7 +163,7 @@ void tst_WholeFile::AResourceIsRead()
     QVERIFY((ModeOf("copy.png") & S_IWUSR) != 0);
 }
 
-void tst_WholeFile::WhatIsNotAFileIsNotReplaced()
+void tst_WholeFile::OnlyRegularFilesAreReplaced()
 {
     EnterTemporaryDirectory();
     QDir().mkdir("folder");

@@ -1,4 +1,4 @@
-// Plays an outside solver or viewer: writes its arguments and its working directory to "run.txt"
+// Plays an external solver or viewer: writes its arguments and its working directory to "run.txt"
 // there, then does what OUTSIDE_PROGRAM_ACTION says.
 #include <unistd.h>
 

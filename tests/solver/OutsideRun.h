@@ -6,7 +6,7 @@
 #include <QDialog>
 #include <QString>
 
-/// What OutsideProgram does while this lives.
+/// Sets the action of OutsideProgram for its lifetime.
 class OutsideAction
 {
 public:
@@ -42,11 +42,11 @@ private:
     bool m_hasTimeLimit = false;
 };
 
-/// Presses Browse and picks the path in the file dialog; an empty path cancels.
+/// Presses Browse and picks the path in the file dialog; cancels if the path is empty.
 void Browse(QDialog& dialog, const QString& path);
 
 /// Presses Run and returns the boxes that came up.
 ShownBoxes PressRun(QDialog& dialog);
 
-/// What OutsideProgram wrote in the working directory.
+/// The file that OutsideProgram wrote to the working directory.
 QString RunRecord();

@@ -110,7 +110,7 @@ void ProgramFormChecks::TheChosenPathIsShown()
     QCOMPARE(Find<QLineEdit>(*dialog, "lineEdit_Path").toolTip(), QString(OUTSIDE_PROGRAM));
 }
 
-void ProgramFormChecks::CancellingTheFileDialogEmptiesThePath()
+void ProgramFormChecks::CancellingTheFileDialogClearsThePath()
 {
     const std::unique_ptr<QDialog> dialog = NewDialogWithProgram();
     Browse(*dialog, QString());
@@ -120,7 +120,7 @@ void ProgramFormChecks::CancellingTheFileDialogEmptiesThePath()
     QCOMPARE(RunRecord(), QString());
 }
 
-void ProgramFormChecks::TheHostMayDestroyTheDialogBehindTheFileDialog()
+void ProgramFormChecks::TheHostMayDestroyTheDialogWhileTheFileDialogIsOpen()
 {
     const QPointer<QDialog> dialog = NewDialog(nullptr).release();
     Then([dialog](QDialog& picker) {

@@ -4,19 +4,19 @@
 
 #include <QDialog>
 
-/// What a form that runs an outside program shows and does.
+/// A form that runs an external program, with the names of its widgets.
 struct ProgramFacts
 {
     const char* form;    ///< Name of the form.
     const char* title;   ///< Of the window.
     const char* program; ///< The label before the path.
-    const char* slot;    ///< That Browse calls.
+    const char* slot;    ///< Called by Browse.
     const char* caption; ///< Of the file dialog.
     const char* model;   ///< The file that the program is given.
     ShownBoxes ending;   ///< The boxes after a normal end.
 };
 
-/// What holds for both forms that ask for an outside program and run it.
+/// Tests what the two forms that ask for an external program and run it have in common.
 ///
 /// A test class derives from ProgramFormTest and passes the facts of its form; these functions then
 /// run before its own.
@@ -37,8 +37,8 @@ private Q_SLOTS:
     void TheFileDialogIsPlain();
     void OnlyAHiddenFileDialogHasTheCaption();
     void TheChosenPathIsShown();
-    void CancellingTheFileDialogEmptiesThePath();
-    void TheHostMayDestroyTheDialogBehindTheFileDialog();
+    void CancellingTheFileDialogClearsThePath();
+    void TheHostMayDestroyTheDialogWhileTheFileDialogIsOpen();
     void TheProgramRunsOnTheModelInTheWorkingDirectory();
     void EveryEndIsReportedAsDesigned_data();
     void EveryEndIsReportedAsDesigned();

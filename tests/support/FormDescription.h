@@ -10,7 +10,7 @@ QString ShownText(const QWidget& widget);
 /// The object names below @p window, sorted, without those that the toolkit gives.
 QStringList WidgetNames(const QWidget& window);
 
-/// What a form consists of: a line for each named widget and layout and for each spacer, such as
+/// Describes a form: a line for each named widget and layout and for each spacer, such as
 ///
 ///     QLineEdit lineEdit_Num in ArcArrayDlg at 270,20 81x21: 4
 ///     QLabel label_5 in ArcArrayDlg at 190,20 81x21: Number, for lineEdit_Num
@@ -19,8 +19,8 @@ QStringList WidgetNames(const QWidget& window);
 ///     QSpacerItem at hboxLayout[0]: 131x31, horizontal
 ///
 /// The place is that in the layout (in a grid: row, column, rows x columns) or, without a layout,
-/// that in the parent. Behind the text or title stand the buddy of a label and what is unusual:
-/// checked, disabled, read-only, validator. Each widget also has a line without its place.
+/// that in the parent. The text or title is followed by the buddy of a label and by anything
+/// unusual: checked, disabled, read-only, validator. Each widget also has a line without its place.
 QStringList DescribeForm(const QWidget& form);
 
 /// The texts that a form shows: of its widgets, tabs and column headers, its accessible names and

@@ -9,7 +9,7 @@
 
 #include <memory>
 
-/// What a dialog shows when it opens, and how the keyboard works in it.
+/// The appearance of a dialog when it opens, and its use by keyboard.
 struct FormFacts
 {
     const char* name = nullptr; ///< Class of the form: name of the dialog and context of its texts.

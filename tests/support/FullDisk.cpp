@@ -1,5 +1,7 @@
 #include "FullDisk.h"
 
+#include "GuardedTest.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -36,7 +38,7 @@ FullDisk::FullDisk()
     // The filler must not be among the files of the test.
     const QString folder = m_directory.filePath(QStringLiteral("disk"));
     if (!QDir().mkdir(folder) || !QDir::setCurrent(folder))
-        qFatal("The test's disk could not be entered.");
+        FailTest("The test's disk could not be entered.");
 }
 
 FullDisk::~FullDisk()
@@ -69,7 +71,7 @@ void FullDisk::Fill(int pages)
     }
     QFile filler(Filler());
     if (!filler.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
-        qFatal("The test's disk could not be filled.");
+        FailTest("The test's disk could not be filled.");
     const QByteArray page(PageSize, '\0');
     while (filler.write(page) == page.size()) {
     }

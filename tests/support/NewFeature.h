@@ -2,6 +2,7 @@
 
 #include "Feature.h"
 #include "FeatureKinds.h"
+#include "GuardedTest.h"
 
 #include <map>
 
@@ -10,7 +11,7 @@ inline const FeatureKind& KindOf(const char* word)
 {
     const FeatureKind* const kind = FeatureKinds::Find(word);
     if (kind == nullptr)
-        qFatal("There is no kind \"%s\"", word);
+        FailTest(QString("There is no kind \"%1\"").arg(word));
     return *kind;
 }
 
@@ -19,7 +20,7 @@ inline int FieldIndex(const Feature& feature, const char* key)
 {
     const std::size_t index = feature.kind->IndexOf(key);
     if (index >= feature.kind->fields.size())
-        qFatal("There is no field \"%s\"", key);
+        FailTest(QString("There is no field \"%1\"").arg(key));
     return int(index);
 }
 

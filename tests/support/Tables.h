@@ -32,7 +32,7 @@ QVector<int> SelectedRows(const QTableWidget& table);
 /// Clicks into the first cell of a row.
 void ClickRow(QTableWidget& table, int row);
 
-/// Clicks twice into a cell, as a user does.
+/// Double-clicks a cell as a user does.
 void DoubleClickCell(QTableWidget& table, int row, int column);
 
 /// Opens the editor of a cell with a double-click and replaces its text. The editor stays open.

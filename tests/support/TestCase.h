@@ -36,13 +36,13 @@ protected:
     /// Sets the local 8-bit code page to @p codec for the running test function.
     void UseCodePage(const char* codec);
 
-    /// What a fixture does before and after each test function. An override of TearDown() returns
+    /// Run by a fixture before and after each test function. An override of TearDown() returns
     /// the failures that it found.
     virtual void SetUp() {}
     virtual QStringList TearDown() { return {}; }
 
 protected Q_SLOTS:
-    /// What runs before and after each test function. An override calls this one as well.
+    /// Run before and after each test function. An override calls this one as well.
     virtual void init();
     virtual void cleanup();
 
@@ -116,7 +116,7 @@ QStringList TabOrder(QWidget& window);
 /// The path of a file or folder of the project, from its @p place relative to the top folder.
 QString SourcePath(const QString& place);
 
-/// What a test program does before it makes its application object.
+/// Prepares a test program; called before it creates its application object.
 void PrepareTestProgram();
 
 /// Runs a test class as a program: main() of every test.

@@ -1,5 +1,7 @@
 #include "TestFiles.h"
 
+#include "GuardedTest.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -9,7 +11,7 @@ void Put(const QString& path, const QByteArray& content)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush())
-        qFatal("The test's file %s could not be written.", qPrintable(path));
+        FailTest(QString("The test's file %1 could not be written.").arg(path));
 }
 
 QByteArray ContentOf(const QString& path)

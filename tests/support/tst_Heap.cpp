@@ -11,8 +11,8 @@ class tst_Heap : public TestCase
 private Q_SLOTS:
     void ALeakIsFound_data();
     void ALeakIsFound();
-    void WhatIsFreedIsNoLeak();
-    void ACacheThatGrowsNowAndThenIsNoLeak();
+    void FreedMemoryIsNotALeak();
+    void ACacheThatGrowsNowAndThenIsNotALeak();
     void ALargeBlockCounts();
 };
 
@@ -35,7 +35,7 @@ void tst_Heap::ALeakIsFound()
     QVERIFY2(growth < bytes + 4096, qPrintable(QString::number(growth)));
 }
 
-void tst_Heap::WhatIsFreedIsNoLeak()
+void tst_Heap::FreedMemoryIsNotALeak()
 {
     const double growth = HeapGrowth([] {
         for (const std::size_t bytes : {std::size_t(50), std::size_t(5000), std::size_t(500000)})
@@ -44,7 +44,7 @@ void tst_Heap::WhatIsFreedIsNoLeak()
     QVERIFY2(growth < SmallestLeak, qPrintable(QString::number(growth)));
 }
 
-void tst_Heap::ACacheThatGrowsNowAndThenIsNoLeak()
+void tst_Heap::ACacheThatGrowsNowAndThenIsNotALeak()
 {
     std::vector<std::unique_ptr<char[]>> cache;
     int calls = 0;

@@ -29,7 +29,7 @@ constexpr unsigned int DotsPerInch = 96;
 constexpr double FitMargin = 0.05;
 constexpr int Samples = 4;
 
-// How high the view may be, in millimetres: the wheel goes no further.
+// The limits of zooming: the height of the view in millimetres.
 constexpr double LeastHeight = 1e-4;
 constexpr double GreatestHeight = 1e8;
 
@@ -37,7 +37,7 @@ constexpr double GreatestHeight = 1e8;
 
 PartScene::PartScene(QOpenGLContext& context)
 {
-    // The kernel asks for the window of the context; the toolkit's own, a buffer, is none to it.
+    // The kernel needs a window for the context, and Qt's own is only a buffer.
     m_surface.setSurfaceType(QSurface::OpenGLSurface);
     m_surface.setFormat(context.format());
     m_surface.create();
@@ -49,7 +49,7 @@ PartScene::PartScene(QOpenGLContext& context)
         new Aspect_DisplayConnection(static_cast<Aspect_XDisplay*>(wrapped->GetDisplay())), false);
     m_driver->ChangeOptions().buffersNoSwap = true;
     m_driver->ChangeOptions().buffersOpaqueAlpha = true;
-    // The toolkit's buffer takes colours as they are on the screen.
+    // Qt's buffer takes the colours of the screen.
     m_driver->ChangeOptions().sRGBDisable = true;
     m_driver->ChangeOptions().useSystemBuffer = false;
 
@@ -249,7 +249,7 @@ void PartScene::OnSelectionChanged(const Handle(AIS_InteractiveContext) & contex
 void PartScene::handleViewRedraw(const Handle(AIS_InteractiveContext) & context,
                                  const Handle(V3d_View) & view)
 {
-    // In place of drawing at once: the toolkit says when.
+    // Qt decides when to draw.
     Q_UNUSED(context)
     Q_UNUSED(view)
     if (IsTurning()) {

@@ -17,10 +17,10 @@ class QOpenGLContext;
 class QPalette;
 class V3d_View;
 
-/// What a PartView shows, in the kernel's viewer, and how the mouse works on it.
+/// The content of a PartView in the kernel's viewer, and its mouse gestures.
 ///
-/// Belongs to one OpenGL context, which is current whenever a member is called. Lengths on the
-/// screen are in the device's pixels. The kernel's failures leave it as Standard_Failure.
+/// Belongs to one OpenGL context, which must be current whenever a member is called. Lengths on the
+/// screen are in device pixels. Failures of the kernel are thrown as Standard_Failure.
 class PartScene : public QObject, public AIS_ViewController
 {
     Q_OBJECT
@@ -53,15 +53,17 @@ public:
     Handle(Graphic3d_Camera) Camera() const;
     void SetCamera(const Handle(Graphic3d_Camera) & camera);
 
-    /// Passes on what the mouse has done. True when that was a click, which may have selected.
+    /// Handles the mouse events received so far. Returns true after a click, which may have changed
+    /// the selection.
     bool HandleMouse();
-    /// Whether the wheel may go on; at some point all digits are used up.
+    /// False at the limit, where the camera has no more precision.
     bool CanZoom(bool isCloser) const;
-    /// A click on the cube has set off a turn: HandleMouse() is to be called for each frame.
+    /// True while the view turns after a click on the cube; HandleMouse() must then run for each
+    /// frame.
     bool IsTurning() const;
-    /// Nothing is under the cursor any longer.
+    /// The cursor has left the view.
     void Leave();
-    /// What of the part is under the cursor, which is at (@p x, @p y).
+    /// The face under the cursor, which is at (@p x, @p y).
     std::optional<Hit> Detected(int x, int y) const;
 
 Q_SIGNALS:

@@ -174,7 +174,7 @@ QSize PartView::sizeHint() const
 
 void PartView::initializeGL()
 {
-    // The context goes when the view moves into another window; a new one comes then.
+    // Moving the view into another window destroys the context and creates a new one.
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &PartView::DropScene);
     MakeScene();
 }
@@ -247,7 +247,7 @@ void PartView::paintGL()
 
 void PartView::Fail(const Standard_Failure& failure)
 {
-    // Queued, as whoever hears of it may delete this, which must not be while it is drawn.
+    // Queued, because a receiver may delete the view, which must not happen while it is drawn.
     const QString reason = QString::fromLocal8Bit(failure.GetMessageString());
     QMetaObject::invokeMethod(
         this, [this, reason] { Q_EMIT Failed(reason); }, Qt::QueuedConnection);
@@ -319,7 +319,7 @@ void PartView::HandleMouse(const QPointF& position)
         const QPoint pixel = DevicePosition(position);
         hit = scene.Detected(pixel.x(), pixel.y());
     });
-    // From here on others act, who may show other shapes.
+    // From here on, receivers of the signals may show other shapes.
     TellPoint(hit.has_value() ? std::optional<gp_Pnt>(hit->point) : std::nullopt);
     if (m_isPicking && wasClicked && hit.has_value()) {
         EndPicking();

@@ -20,14 +20,14 @@ class Standard_Failure;
 /// Shift) pans; the wheel zooms about the cursor; a click selects a face; the cube in the corner
 /// turns to the view that is clicked on it. Lengths are in millimetres.
 ///
-/// Make one only where UnavailableReason() gives no reason against it. Should the driver fail
-/// later, Failed() comes once and the view stays empty.
+/// Create one only if UnavailableReason() is empty. If the driver fails later, the view emits
+/// Failed() once and stays empty.
 class PartView : public QOpenGLWidget
 {
     Q_OBJECT
 
 public:
-    /// Where the eye is; z is upwards except in the views from the top and the bottom.
+    /// The position of the eye; z points upwards except in the views from the top and the bottom.
     enum StandardView
     {
         FrontView, ///< Looks along +y.
@@ -45,23 +45,22 @@ public:
         Wireframe
     };
 
-    /// Why this system cannot show a PartView, for the user; empty when it can. Asked of the
-    /// driver once, then remembered.
+    /// Why this system cannot show a PartView, for the user; empty if it can. The driver is tried
+    /// once.
     static QString UnavailableReason();
 
     explicit PartView(QWidget* parent = nullptr);
     ~PartView() override;
 
-    /// Shows @p shape in place of the earlier one; a null shape empties the view. The camera stays,
-    /// but where @p fitFirstTime is set and nothing was shown before, the shape is fitted into the
-    /// view. The selected face is selected no longer.
+    /// Shows @p shape instead of the earlier one; a null shape empties the view. The camera stays,
+    /// except that @p fitFirstTime fits the shape into an empty view. Clears the selection.
     void ShowShape(const TopoDS_Shape& shape, bool fitFirstTime = true);
 
     /// Shows @p shape, which may lie within the part, on top of it in a signal colour; a null shape
-    /// ends that.
+    /// removes the highlight.
     void HighlightShape(const TopoDS_Shape& shape);
 
-    /// Marks a point, in place of the one marked earlier.
+    /// Marks a point instead of the one marked earlier.
     void ShowPoint(const gp_Pnt& point);
     void HidePoint();
 
@@ -71,8 +70,8 @@ public:
     void SetDisplayMode(DisplayMode mode);
     DisplayMode CurrentDisplayMode() const { return m_mode; }
 
-    /// The next click on a face is told with FacePicked(). Escape, or CancelPicking(), ends the
-    /// wait with PickingCancelled(); a click beside the part does not.
+    /// The next click on a face emits FacePicked(). Escape or CancelPicking() ends the wait with
+    /// PickingCancelled(); a click beside the part does not.
     void PickFace();
     void CancelPicking();
     bool IsPicking() const { return m_isPicking; }
@@ -80,7 +79,7 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// @p point is where the face was clicked on, exactly on the face's surface.
+    /// @p point is the clicked point, exactly on the surface of the face.
     void FacePicked(const TopoDS_Face& face, const gp_Pnt& point);
     void PickingCancelled();
 
@@ -105,21 +104,21 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    /// Runs @p act on the scene, if there is one, with its context; false if that failed.
+    /// Runs @p act on the scene, if there is one, in its context; false if that failed.
     bool WithScene(const std::function<void(PartScene&)>& act);
     void MakeScene();
     void DropScene();
     void Resize(PartScene& scene) const;
     void Fail(const Standard_Failure& failure);
     void EndPicking();
-    /// Passes on what the mouse did at @p position, and tells what came of it.
+    /// Lets the scene handle the mouse at @p position, and emits the results.
     void HandleMouse(const QPointF& position);
     void TellPoint(const std::optional<gp_Pnt>& point);
     /// The position in the device's pixels.
     QPoint DevicePosition(const QPointF& position) const;
 
     std::unique_ptr<PartScene> m_scene; // Of the OpenGL context; null before there is one.
-    // What a new scene is to show.
+    // The content for a new scene.
     TopoDS_Shape m_shape;
     TopoDS_Shape m_highlight;
     std::optional<gp_Pnt> m_mark;

@@ -11,14 +11,14 @@ class QLineEdit;
 /// The point under the cursor on the part, and a place to type one.
 ///
 /// The fields follow the cursor until one of them has the focus. Enter in a field takes the three
-/// texts as coordinates in millimetres, marks the point in the view, and tells PointEntered(). A
-/// text that is no coordinate is told in the message channel and stays as it is.
+/// texts as coordinates in millimetres, marks the point in the view, and emits PointEntered(). The
+/// message channel reports a text that is not a coordinate; the text stays.
 class PositionDock : public QDockWidget
 {
     Q_OBJECT
 
 public:
-    /// @p view may be null, where there is no OpenGL; then only typed points come.
+    /// @p view is null without OpenGL; the dock then only takes typed points.
     PositionDock(PartView* view, QWidget* parent);
     ~PositionDock() override;
 

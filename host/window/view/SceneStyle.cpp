@@ -38,7 +38,7 @@ Quantity_Color Colour(const QColor& colour)
 
 const QColor PartColour(0x9d, 0xb0, 0xc4);
 const QColor EdgeColour(0x00, 0x00, 0x00);
-const QColor WireColour(0x3f, 0x6e, 0xa5); // To be seen on a light and on a dark background.
+const QColor WireColour(0x3f, 0x6e, 0xa5); // Visible on a light and on a dark background.
 const QColor CursorColour(0x96, 0xd2, 0xf8);
 const QColor SelectionColour(0xff, 0x9a, 0x2e);
 const QColor MarkColour(0xd0, 0x20, 0x20);

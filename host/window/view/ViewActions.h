@@ -11,9 +11,9 @@ class QAction;
 class QMenu;
 class QToolBar;
 
-/// What menu and toolbar offer for the view: fit, the standard views, the way of display.
+/// The actions of the menu and toolbar for the view: fit, the standard views, the display mode.
 ///
-/// Without a view, where there is no OpenGL, the actions are there but disabled.
+/// Without a view, because there is no OpenGL, the actions are disabled.
 class ViewActions : public QObject
 {
     Q_OBJECT

@@ -100,7 +100,7 @@ void tst_MainWindow::TheDocksSurroundTheShape()
     QVERIFY(Find<QTableWidget>(window, "parameterTable").isVisible());
     QVERIFY(Find<QTreeWidget>(window, "featureTree").isVisible());
     QVERIFY(Find<QTableWidget>(window, "fieldTable").isVisible());
-    // A tab behind the features.
+    // It shares the tabs of the features.
     QCOMPARE(window.tabifiedDockWidgets(window.findChild<QDockWidget*>("featureDock")),
              QList<QDockWidget*>({window.findChild<QDockWidget*>("modelTreeDock")}));
     QVERIFY(window.centralWidget()->isVisible());

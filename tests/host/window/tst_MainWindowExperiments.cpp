@@ -66,7 +66,7 @@ void tst_MainWindowExperiments::GenerateRestoresTheParametersOutsideTheRun()
     open.Trigger("action_DesignOfExperiments");
     QCOMPARE(Stored("outer_diameter"), 200.0);
     QCOMPARE(Stored("hub_height"), 30.0);
-    // Settled anew from the run's bore.
+    // Evaluated again from the bore of the run.
     QCOMPARE(Stored("hub_diameter"), 128.0);
     const auto& overview = Find<QTableWidget>(open.window, "parameterTable");
     QCOMPARE(

@@ -127,7 +127,7 @@ void tst_MainWindowProjects::SaveOverwritesTheFileOfTheProject()
     open.Trigger("action_SaveProject");
     QVERIFY(!open.window.isWindowModified());
     QCOMPARE(Project::Load("mine.json").Features().Find("flange"), -1);
-    // Undone, it is no longer what was saved.
+    // After undo, the project differs from the file.
     open.Trigger("action_Undo");
     QVERIFY(open.window.isWindowModified());
     open.Trigger("action_Redo");

@@ -14,14 +14,14 @@ private Q_SLOTS:
     void ANewModelIsAVibrationWithoutRecords();
     void RecordsKeepTheirOrder();
     void NamesOfRecordsAreTaken();
-    void ARemovedRecordIsGoneAndItsNameFree();
+    void RemovingARecordFreesItsName();
     void TheNameOfTheRecordItselfCanBeGiven();
     void AnEmptyNameIsANameToo();
     void AnUnknownNameRemovesNoRecord();
     void ClearMakesAModelNewAndFreesItsNames();
-    void NamesAreFreeWhenTheModelIsGone();
+    void NamesAreFreeAfterTheModelIsDestroyed();
     void NamesOfOthersStayTaken();
-    void EveryChangeIsTold();
+    void EveryChangeIsReported();
 };
 
 namespace {
@@ -81,7 +81,7 @@ void tst_AnalysisRecords::NamesOfRecordsAreTaken()
     QVERIFY(IsTaken("pulled"));
 }
 
-void tst_AnalysisRecords::ARemovedRecordIsGoneAndItsNameFree()
+void tst_AnalysisRecords::RemovingARecordFreesItsName()
 {
     const EmptyAttributeNames names;
     AnalysisRecords model;
@@ -150,7 +150,7 @@ void tst_AnalysisRecords::ClearMakesAModelNewAndFreesItsNames()
     QVERIFY(!IsTaken("pulled"));
 }
 
-void tst_AnalysisRecords::NamesAreFreeWhenTheModelIsGone()
+void tst_AnalysisRecords::NamesAreFreeAfterTheModelIsDestroyed()
 {
     const EmptyAttributeNames names;
     {
@@ -174,7 +174,7 @@ void tst_AnalysisRecords::NamesOfOthersStayTaken()
     QVERIFY(IsTaken("somebody's"));
 }
 
-void tst_AnalysisRecords::EveryChangeIsTold()
+void tst_AnalysisRecords::EveryChangeIsReported()
 {
     const EmptyAttributeNames names;
     AnalysisRecords model;

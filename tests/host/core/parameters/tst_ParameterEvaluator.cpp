@@ -18,7 +18,7 @@ private Q_SLOTS:
     void AnUnknownNameIsReportedAndTheRecordKeepsItsValue();
     void AnExpressionWithoutValueIsReportedAndGivesNaN();
     void AConsequenceOfAFailureIsNotReported();
-    void AFailureOfItsOwnIsReportedAfterOneThatKeptItsValue();
+    void AFailureIsReportedAfterOneThatKeptItsValue();
     void ACycleIsNamed_data();
     void ACycleIsNamed();
     void EachCycleIsReportedOnce();
@@ -146,7 +146,7 @@ void tst_ParameterEvaluator::AConsequenceOfAFailureIsNotReported()
     QVERIFY(std::isnan(Value("c")));
 }
 
-void tst_ParameterEvaluator::AFailureOfItsOwnIsReportedAfterOneThatKeptItsValue()
+void tst_ParameterEvaluator::AFailureIsReportedAfterOneThatKeptItsValue()
 {
     const EmptyDesignStores stores;
     Add("a", "nobody", "nobody", 2.0);

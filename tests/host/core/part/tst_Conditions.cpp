@@ -16,14 +16,14 @@ class tst_Conditions : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void TheFirstConditionThatDoesNotHoldIsTold_data();
-    void TheFirstConditionThatDoesNotHoldIsTold();
-    void ValuesStandInTheMessage();
-    void WhatIsWrittenReadsBackTheSame();
-    void BadJsonIsToldInOneLine_data();
-    void BadJsonIsToldInOneLine();
-    void TheSampleTellsWhatCannotBe_data();
-    void TheSampleTellsWhatCannotBe();
+    void TheFirstFailedConditionIsReported_data();
+    void TheFirstFailedConditionIsReported();
+    void TheMessageContainsTheValues();
+    void WrittenContentReadsBackUnchanged();
+    void BadJsonIsReportedInOneLine_data();
+    void BadJsonIsReportedInOneLine();
+    void TheSampleReportsImpossibleParameters_data();
+    void TheSampleReportsImpossibleParameters();
 };
 
 static void Store(const QString& name, double value)
@@ -45,7 +45,7 @@ static QString Reason(const std::vector<Condition>& conditions)
     return "all hold";
 }
 
-void tst_Conditions::TheFirstConditionThatDoesNotHoldIsTold_data()
+void tst_Conditions::TheFirstFailedConditionIsReported_data()
 {
     QTest::addColumn<QString>("first");
     QTest::addColumn<QString>("second");
@@ -66,7 +66,7 @@ void tst_Conditions::TheFirstConditionThatDoesNotHoldIsTold_data()
         "follow.)");
 }
 
-void tst_Conditions::TheFirstConditionThatDoesNotHoldIsTold()
+void tst_Conditions::TheFirstFailedConditionIsReported()
 {
     const EmptyDesignStores stores;
     Store("a", 1.0);
@@ -76,7 +76,7 @@ void tst_Conditions::TheFirstConditionThatDoesNotHoldIsTold()
     QTEST(Reason({{first, "First."}, {second, "Second."}}), "reason");
 }
 
-void tst_Conditions::ValuesStandInTheMessage()
+void tst_Conditions::TheMessageContainsTheValues()
 {
     const EmptyDesignStores stores;
     Store("a", 1.23456789);
@@ -85,14 +85,14 @@ void tst_Conditions::ValuesStandInTheMessage()
     QCOMPARE(Reason({}), QString("all hold"));
 }
 
-void tst_Conditions::WhatIsWrittenReadsBackTheSame()
+void tst_Conditions::WrittenContentReadsBackUnchanged()
 {
     const std::vector<Condition> conditions = {{"a < b", "短"}, {"宽 > 0", "No {宽}."}};
     QVERIFY(ReadConditions(ConditionsToJson(conditions)) == conditions);
     QVERIFY(ReadConditions({}).empty());
 }
 
-void tst_Conditions::BadJsonIsToldInOneLine_data()
+void tst_Conditions::BadJsonIsReportedInOneLine_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("reason");
@@ -108,7 +108,7 @@ void tst_Conditions::BadJsonIsToldInOneLine_data()
         "condition 1 has the unknown entry \"x\"");
 }
 
-void tst_Conditions::BadJsonIsToldInOneLine()
+void tst_Conditions::BadJsonIsReportedInOneLine()
 {
     QFETCH(QByteArray, json);
     QString reason = "it was read";
@@ -120,7 +120,7 @@ void tst_Conditions::BadJsonIsToldInOneLine()
     QTEST(reason, "reason");
 }
 
-void tst_Conditions::TheSampleTellsWhatCannotBe_data()
+void tst_Conditions::TheSampleReportsImpossibleParameters_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<double>("value");
@@ -151,7 +151,7 @@ void tst_Conditions::TheSampleTellsWhatCannotBe_data()
         "0.002\" has no value: Position 18: the value of 'bore_diameter' is not finite.)");
 }
 
-void tst_Conditions::TheSampleTellsWhatCannotBe()
+void tst_Conditions::TheSampleReportsImpossibleParameters()
 {
     const EmptyDesignStores stores;
     QFETCH(QString, name);

@@ -21,9 +21,9 @@ class tst_FeatureBuilder : public TestCase
 private Q_SLOTS:
     void TheSampleFlangeHasTheVolumeOfItsFormula_data();
     void TheSampleFlangeHasTheVolumeOfItsFormula();
-    void ThePartIsWhatNoFeatureUses();
-    void SuppressedFeaturesStandAside_data();
-    void SuppressedFeaturesStandAside();
+    void ThePartConsistsOfTheUnusedFeatures();
+    void SuppressedFeaturesAreNotEvaluated_data();
+    void SuppressedFeaturesAreNotEvaluated();
     void EveryNumericFieldTakesAnExpression_data();
     void EveryNumericFieldTakesAnExpression();
     void RandomListsAreBuiltTheSameTwice();
@@ -75,7 +75,7 @@ void tst_FeatureBuilder::TheSampleFlangeHasTheVolumeOfItsFormula()
     QTEST(Count(flange, TopAbs_FACE), "faces");
 }
 
-void tst_FeatureBuilder::ThePartIsWhatNoFeatureUses()
+void tst_FeatureBuilder::ThePartConsistsOfTheUnusedFeatures()
 {
     const EmptyDesignStores stores;
     QVERIFY(FeatureBuilder::Build(FeatureList()).shape.IsNull());
@@ -96,7 +96,7 @@ void tst_FeatureBuilder::ThePartIsWhatNoFeatureUses()
     QVERIFY(!it.More());
 }
 
-void tst_FeatureBuilder::SuppressedFeaturesStandAside_data()
+void tst_FeatureBuilder::SuppressedFeaturesAreNotEvaluated_data()
 {
     QTest::addColumn<QByteArray>("list");
     QTest::addColumn<double>("volume"); // 0 where there is no part.
@@ -127,7 +127,7 @@ void tst_FeatureBuilder::SuppressedFeaturesStandAside_data()
         1000.0);
 }
 
-void tst_FeatureBuilder::SuppressedFeaturesStandAside()
+void tst_FeatureBuilder::SuppressedFeaturesAreNotEvaluated()
 {
     const EmptyDesignStores stores;
     QFETCH(QByteArray, list);

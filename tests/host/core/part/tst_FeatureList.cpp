@@ -12,12 +12,12 @@ class tst_FeatureList : public TestCase
 
 private Q_SLOTS:
     void AFeatureIsReadWithAllItsEntries();
-    void WhatIsWrittenReadsBackTheSame();
-    void NumbersAreWrittenAsNumbersAndTextsAsTheyStand();
-    void BadJsonIsToldInOneLine_data();
-    void BadJsonIsToldInOneLine();
-    void WhatCannotStandInAListNamesTheFeature_data();
-    void WhatCannotStandInAListNamesTheFeature();
+    void WrittenContentReadsBackUnchanged();
+    void NumbersAreWrittenAsNumbersAndTextsUnchanged();
+    void BadJsonIsReportedInOneLine_data();
+    void BadJsonIsReportedInOneLine();
+    void AnInvalidListNamesTheFeature_data();
+    void AnInvalidListNamesTheFeature();
     void FeaturesAreFoundByName();
     void NewNamesAreUnique();
     void ARenamedFeatureKeepsItsUsers();
@@ -32,7 +32,7 @@ static QJsonArray Json(const QByteArray& features)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson("[" + features + "]", &error);
     if (error.error != QJsonParseError::NoError)
-        qFatal("The test's list is no JSON: %s", features.constData());
+        FailTest(QString("The test's list is not JSON: %1").arg(QString(features)));
     return document.array();
 }
 
@@ -87,7 +87,7 @@ void tst_FeatureList::AFeatureIsReadWithAllItsEntries()
     QVERIFY(List("").IsEmpty());
 }
 
-void tst_FeatureList::WhatIsWrittenReadsBackTheSame()
+void tst_FeatureList::WrittenContentReadsBackUnchanged()
 {
     FeatureList list;
     for (const FeatureKind& kind : FeatureKinds::All()) {
@@ -107,7 +107,7 @@ void tst_FeatureList::WhatIsWrittenReadsBackTheSame()
     QVERIFY(FourFeatures() != list);
 }
 
-void tst_FeatureList::NumbersAreWrittenAsNumbersAndTextsAsTheyStand()
+void tst_FeatureList::NumbersAreWrittenAsNumbersAndTextsUnchanged()
 {
     FeatureList list;
     for (const QStringList& fields :
@@ -128,7 +128,7 @@ void tst_FeatureList::NumbersAreWrittenAsNumbersAndTextsAsTheyStand()
     QVERIFY(FeatureList::FromJson(json) == list);
 }
 
-void tst_FeatureList::BadJsonIsToldInOneLine_data()
+void tst_FeatureList::BadJsonIsReportedInOneLine_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("reason");
@@ -170,7 +170,7 @@ void tst_FeatureList::BadJsonIsToldInOneLine_data()
         "features: a: another feature has the same name.");
 }
 
-void tst_FeatureList::BadJsonIsToldInOneLine()
+void tst_FeatureList::BadJsonIsReportedInOneLine()
 {
     QFETCH(QByteArray, json);
     QString reason = "it was read";
@@ -182,7 +182,7 @@ void tst_FeatureList::BadJsonIsToldInOneLine()
     QTEST(reason, "reason");
 }
 
-void tst_FeatureList::WhatCannotStandInAListNamesTheFeature_data()
+void tst_FeatureList::AnInvalidListNamesTheFeature_data()
 {
     QTest::addColumn<FeatureList>("list");
     QTest::addColumn<QString>("reason");
@@ -226,7 +226,7 @@ void tst_FeatureList::WhatCannotStandInAListNamesTheFeature_data()
     QTest::newRow("too many") << list << "Too many features: 1001 (maximum 1000).";
 }
 
-void tst_FeatureList::WhatCannotStandInAListNamesTheFeature()
+void tst_FeatureList::AnInvalidListNamesTheFeature()
 {
     QFETCH(FeatureList, list);
     QTEST(Reason(list), "reason");

@@ -16,8 +16,8 @@ private Q_SLOTS:
     void TextsAreEvaluated();
     void TheStoreIsReadWhenTheValuesAreMade();
     void TheDecimalSignIsTheFullStopUnderEveryLocale();
-    void WhatHasNoValueNamesTheField_data();
-    void WhatHasNoValueNamesTheField();
+    void AMissingValueNamesTheField_data();
+    void AMissingValueNamesTheField();
 };
 
 static void Store(const char* name, int type, double value)
@@ -29,7 +29,7 @@ static void Store(const char* name, int type, double value)
     GlobalParaMeterMgr::AddParameter(name, record);
 }
 
-// A raw value that differs, a Bool, a Vector, and values that are no numbers.
+// A raw value that differs, a Bool, a Vector, and values that are not numbers.
 static void FillStore()
 {
     Store("width", 1, 5.0);
@@ -99,7 +99,7 @@ void tst_FieldValues::TheDecimalSignIsTheFullStopUnderEveryLocale()
     QVERIFY(std::isnan(FieldValues().Evaluate("2,5")));
 }
 
-void tst_FieldValues::WhatHasNoValueNamesTheField_data()
+void tst_FieldValues::AMissingValueNamesTheField_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("reason");
@@ -122,7 +122,7 @@ void tst_FieldValues::WhatHasNoValueNamesTheField_data()
         R"(("width - 9") is -4, but has to be from 0.0001 to 1000000 mm.)");
 }
 
-void tst_FieldValues::WhatHasNoValueNamesTheField()
+void tst_FieldValues::AMissingValueNamesTheField()
 {
     const EmptyDesignStores stores;
     FillStore();

@@ -13,8 +13,8 @@ class tst_ParameterJson : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void ParametersAreWrittenAsTheyStand_data();
-    void ParametersAreWrittenAsTheyStand();
+    void ParametersAreWrittenUnchanged_data();
+    void ParametersAreWrittenUnchanged();
     void ParametersKeepTheirOrder();
 };
 
@@ -23,7 +23,7 @@ static QByteArray Text(const QJsonArray& json)
     return QJsonDocument(json).toJson(QJsonDocument::Compact);
 }
 
-void tst_ParameterJson::ParametersAreWrittenAsTheyStand_data()
+void tst_ParameterJson::ParametersAreWrittenUnchanged_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<double>("value");
@@ -49,7 +49,7 @@ void tst_ParameterJson::ParametersAreWrittenAsTheyStand_data()
         << "2*" << QByteArray(R"([{"expression":"2*","name":"a","type":"Scalar"}])");
 }
 
-void tst_ParameterJson::ParametersAreWrittenAsTheyStand()
+void tst_ParameterJson::ParametersAreWrittenUnchanged()
 {
     const EmptyDesignStores stores;
     QFETCH(int, type);

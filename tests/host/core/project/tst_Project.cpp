@@ -28,8 +28,8 @@ private Q_SLOTS:
     void SamplesAreARangeOrSingleValues();
     void BadFilesAreToldInOneLine_data();
     void BadFilesAreToldInOneLine();
-    void AMissingFileIsTold();
-    void AFolderIsTold();
+    void AMissingFileIsReported();
+    void AFolderIsReported();
     void APipeIsNotWaitedFor();
     void AHugeFileIsNotRead();
     void AnEndlessFileIsNotRead();
@@ -282,14 +282,14 @@ void tst_Project::BadFilesAreToldInOneLine()
     QTEST(Reason(Write(content)), "reason");
 }
 
-void tst_Project::AMissingFileIsTold()
+void tst_Project::AMissingFileIsReported()
 {
     EnterTemporaryDirectory();
     QCOMPARE(Reason("none.json"),
              QString("none.json: cannot be opened: No such file or directory"));
 }
 
-void tst_Project::AFolderIsTold()
+void tst_Project::AFolderIsReported()
 {
     EnterTemporaryDirectory();
     QVERIFY(QDir().mkdir("d.json"));

@@ -13,16 +13,16 @@ class tst_ResultsTable : public TestCase
 
 private Q_SLOTS:
     void TheFileIsATableWithAHeader();
-    void WhatIsWrittenIsReadAgain();
+    void WrittenContentIsReadAgain();
     void AwkwardNamesAndErrorsAreQuoted();
     void TheDecimalSignIsTheFullStopEverywhere();
-    void WhatIsNoTableOfTheStudyIsTold_data();
-    void WhatIsNoTableOfTheStudyIsTold();
+    void ABadTableIsReported_data();
+    void ABadTableIsReported();
     void ABadFileLeavesTheRunsAsTheyWere();
-    void AMissingFileIsTold();
+    void AMissingFileIsReported();
     void OnlyAFileIsReadAndReplaced_data();
     void OnlyAFileIsReadAndReplaced();
-    void AFolderThatIsNotThereIsTold();
+    void AMissingFolderIsReported();
     void AFullDiskLeavesTheOldFile();
 };
 
@@ -73,7 +73,7 @@ void tst_ResultsTable::TheFileIsATableWithAHeader()
                  "2,nan,2,,,,,,,,,,failed,no\n");
 }
 
-void tst_ResultsTable::WhatIsWrittenIsReadAgain()
+void tst_ResultsTable::WrittenContentIsReadAgain()
 {
     EnterTemporaryDirectory();
     ResultsTable written({"a", "b"});
@@ -123,7 +123,7 @@ void tst_ResultsTable::TheDecimalSignIsTheFullStopEverywhere()
     QCOMPARE(table.Runs().at(1).values, Good().values);
 }
 
-void tst_ResultsTable::WhatIsNoTableOfTheStudyIsTold_data()
+void tst_ResultsTable::ABadTableIsReported_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("reason");
@@ -144,7 +144,7 @@ void tst_ResultsTable::WhatIsNoTableOfTheStudyIsTold_data()
     row("cut off", Header + good + good.left(9), "row 3 is no run of a study");
 }
 
-void tst_ResultsTable::WhatIsNoTableOfTheStudyIsTold()
+void tst_ResultsTable::ABadTableIsReported()
 {
     QFETCH(QByteArray, content);
     EnterTemporaryDirectory();
@@ -163,7 +163,7 @@ void tst_ResultsTable::ABadFileLeavesTheRunsAsTheyWere()
     QCOMPARE(table.Runs().size(), std::size_t(1));
 }
 
-void tst_ResultsTable::AMissingFileIsTold()
+void tst_ResultsTable::AMissingFileIsReported()
 {
     EnterTemporaryDirectory();
     ResultsTable table({"a", "b"});
@@ -193,7 +193,7 @@ void tst_ResultsTable::OnlyAFileIsReadAndReplaced()
     QCOMPARE(AllFiles(), before);
 }
 
-void tst_ResultsTable::AFolderThatIsNotThereIsTold()
+void tst_ResultsTable::AMissingFolderIsReported()
 {
     EnterTemporaryDirectory();
     QVERIFY_EXCEPTION_THROWN(ResultsTable({"a"}).Write("none/r.csv"), HostError);

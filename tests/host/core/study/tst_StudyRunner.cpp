@@ -17,8 +17,8 @@ class tst_StudyRunner : public TestCase
 
 private Q_SLOTS:
     void EveryRunIsBuiltAndWritten();
-    void ARunHoldsWhatItsPartHas();
-    void ASecondCallPassesOverWhatIsDone();
+    void ARunHoldsTheMeasuresOfItsPart();
+    void ASecondCallSkipsWhatIsDone();
     void ARunWithoutItsStepFileIsDoneAgain();
     void AFailedRunDoesNotStopTheStudyAndIsTriedAgain();
     void SamplesKeepAllTheirDigits();
@@ -92,7 +92,7 @@ void tst_StudyRunner::EveryRunIsBuiltAndWritten()
     QCOMPARE(Results().Runs().size(), std::size_t(4));
 }
 
-void tst_StudyRunner::ARunHoldsWhatItsPartHas()
+void tst_StudyRunner::ARunHoldsTheMeasuresOfItsPart()
 {
     const EmptyDesignStores stores;
     EnterTemporaryDirectory();
@@ -110,7 +110,7 @@ void tst_StudyRunner::ARunHoldsWhatItsPartHas()
     QVERIFY(std::abs(run.measures.boundingBox[5] - 40.0) < 1e-6);
 }
 
-void tst_StudyRunner::ASecondCallPassesOverWhatIsDone()
+void tst_StudyRunner::ASecondCallSkipsWhatIsDone()
 {
     const EmptyDesignStores stores;
     EnterTemporaryDirectory();

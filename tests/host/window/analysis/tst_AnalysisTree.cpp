@@ -15,8 +15,8 @@ class tst_AnalysisTree : public TestCase
 
 private Q_SLOTS:
     void AnEmptyModelHasItsGroups();
-    void TheAnalysisTypeIsTold_data();
-    void TheAnalysisTypeIsTold();
+    void TheAnalysisTypeIsReported_data();
+    void TheAnalysisTypeIsReported();
     void TheFixedDegreesOfFreedomAreShown_data();
     void TheFixedDegreesOfFreedomAreShown();
     void AForceIsShownAsStored_data();
@@ -63,7 +63,7 @@ public:
     {
         const auto groups = Tree().findItems(title, Qt::MatchExactly, AnalysisTree::NameColumn);
         if (groups.size() != 1)
-            qFatal("There is no one group \"%s\"", qPrintable(title));
+            FailTest(QString("There is not exactly one group \"%1\"").arg(title));
         return *groups.first();
     }
 
@@ -139,7 +139,7 @@ void tst_AnalysisTree::AnEmptyModelHasItsGroups()
                                   "Sub-shape mesh: not set"}));
 }
 
-void tst_AnalysisTree::TheAnalysisTypeIsTold_data()
+void tst_AnalysisTree::TheAnalysisTypeIsReported_data()
 {
     QTest::addColumn<int>("family");
     QTest::addColumn<int>("kind");
@@ -153,7 +153,7 @@ void tst_AnalysisTree::TheAnalysisTypeIsTold_data()
     QTest::newRow("1 5") << 1 << 5 << "unknown (family 1, kind 5)";
 }
 
-void tst_AnalysisTree::TheAnalysisTypeIsTold()
+void tst_AnalysisTree::TheAnalysisTypeIsReported()
 {
     QFETCH(int, family);
     QFETCH(int, kind);

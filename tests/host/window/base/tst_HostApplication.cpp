@@ -24,7 +24,7 @@ namespace {
 
 const QString DialogFont = QStringLiteral("微软雅黑");
 
-// What the application object left behind, noted before the test framework sets its own locale.
+// The settings of the application object, before the test framework sets its own locale.
 bool g_hasDecimalPoint = false;
 bool g_codePageIsUtf8 = false;
 

@@ -13,13 +13,13 @@ class tst_KernelMessages : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void WhatFailedIsPosted_data();
-    void WhatFailedIsPosted();
+    void AFailureIsPosted_data();
+    void AFailureIsPosted();
     void ConversionsInATextStay();
     void NoPrinterIsLeftForTheConsole();
 };
 
-void tst_KernelMessages::WhatFailedIsPosted_data()
+void tst_KernelMessages::AFailureIsPosted_data()
 {
     QTest::addColumn<int>("gravity");
     QTest::addColumn<bool>("isPosted");
@@ -30,7 +30,7 @@ void tst_KernelMessages::WhatFailedIsPosted_data()
     QTest::newRow("failure") << int(Message_Fail) << true;
 }
 
-void tst_KernelMessages::WhatFailedIsPosted()
+void tst_KernelMessages::AFailureIsPosted()
 {
     QFETCH(int, gravity);
     QFETCH(bool, isPosted);

@@ -19,16 +19,16 @@ private Q_SLOTS:
     void TheLevelIsShownAsAWord_data();
     void TheLevelIsShownAsAWord();
     void ALineShowsTimeLevelAndText();
-    void LinesStandInTheOrderInWhichTheyCame();
+    void LinesAreInTheOrderOfArrival();
     void ARepeatIsCountedAndMovesToTheEnd();
     void TheSameTextAtAnotherLevelIsAnotherLine();
     void TheOldestLinesGo();
-    void ALineThatWentIsCountedAnew();
+    void ADroppedLineIsCountedFromOneAgain();
     void TheNewestLineIsInView();
     void SelectedLinesAreCopiedByTheKeyboard();
     void CtrlCInTheDockCopiesNothingWhenNothingIsSelected();
     void ClearRemovesAllLines();
-    void ATextIsShownAsItIs();
+    void ATextIsShownUnchanged();
     void LinesCannotBeEdited();
 
 private:
@@ -81,7 +81,7 @@ void tst_MessageDock::ALineShowsTimeLevelAndText()
     QCOMPARE(Cell(dock, 0, MessageDock::TextColumn), QStringLiteral("mesh: 12"));
 }
 
-void tst_MessageDock::LinesStandInTheOrderInWhichTheyCame()
+void tst_MessageDock::LinesAreInTheOrderOfArrival()
 {
     MessageDock dock(nullptr);
     for (const char* const text : {"a", "c", "b"})
@@ -124,7 +124,7 @@ void tst_MessageDock::TheOldestLinesGo()
              QString::number(MessageDock::MaximumLines + 2));
 }
 
-void tst_MessageDock::ALineThatWentIsCountedAnew()
+void tst_MessageDock::ADroppedLineIsCountedFromOneAgain()
 {
     MessageDock dock(nullptr);
     for (int i = 0; i <= MessageDock::MaximumLines; ++i)
@@ -199,7 +199,7 @@ void tst_MessageDock::ClearRemovesAllLines()
     QCOMPARE(Cell(dock, 0, MessageDock::CountColumn), QString());
 }
 
-void tst_MessageDock::ATextIsShownAsItIs()
+void tst_MessageDock::ATextIsShownUnchanged()
 {
     MessageDock dock(nullptr);
     Post(InfoLevel, "<b>100%s</b> 长度");

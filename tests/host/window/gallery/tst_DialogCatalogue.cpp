@@ -46,7 +46,7 @@ QMultiMap<QString, QString> FindInHeaders(const char* pattern)
         for (const QFileInfo& header : headers) {
             QFile file(header.filePath());
             if (!file.open(QIODevice::ReadOnly))
-                qFatal("%s cannot be read", qPrintable(file.fileName()));
+                FailTest(QString("%1 cannot be read").arg(file.fileName()));
             QRegularExpressionMatchIterator match =
                 expression.globalMatch(QString::fromUtf8(file.readAll()));
             while (match.hasNext())

@@ -16,7 +16,7 @@ class tst_ParameterOverview : public TestCase
 private Q_SLOTS:
     void AnEmptyStoreGivesNoRows();
     void ARecordIsShownInFull();
-    void RowsStandInTheStoresOrder();
+    void RowsAreInTheOrderOfTheStore();
     void TheTypeIsAWord_data();
     void TheTypeIsAWord();
     void TheRawValueCanBeReadBackExactly_data();
@@ -81,7 +81,7 @@ void tst_ParameterOverview::ARecordIsShownInFull()
     QCOMPARE(Cell(overview, 0, ParameterOverview::DescriptionColumn), QStringLiteral("the length"));
 }
 
-void tst_ParameterOverview::RowsStandInTheStoresOrder()
+void tst_ParameterOverview::RowsAreInTheOrderOfTheStore()
 {
     const EmptyDesignStores stores;
     Store("z", 1);

@@ -19,13 +19,13 @@ private Q_SLOTS:
     void NameInputsAndFieldsHaveARowEach();
     void OnlyTextsCanBeEdited();
     void ATypedTextChangesTheFeature();
-    void ATextWithoutAUsableValueIsKeptAndSaysWhy_data();
-    void ATextWithoutAUsableValueIsKeptAndSaysWhy();
+    void ATextWithoutAUsableValueIsKeptAndShowsTheReason_data();
+    void ATextWithoutAUsableValueIsKeptAndShowsTheReason();
     void ValuesFollowTheParameters();
     void ATypedNameRenamesTheFeature();
     void TypedInputsAreTaken();
-    void ARefusedTextStaysAndIsTold_data();
-    void ARefusedTextStaysAndIsTold();
+    void ARefusedTextStaysAndIsReported_data();
+    void ARefusedTextStaysAndIsReported();
     void UndoIsShown();
     void AnImportShowsItsFile();
     void ADeletedFeatureIsShownNoLonger();
@@ -56,7 +56,7 @@ struct ShownFields
             if (Table().item(row, FeatureFields::LabelColumn)->text() == label)
                 return *Table().item(row, column);
         }
-        qFatal("There is no field \"%s\"", qPrintable(label));
+        FailTest(QString("There is no field \"%1\"").arg(label));
     }
     QString Text(const QString& label) const
     {
@@ -96,7 +96,7 @@ struct ShownFields
                 edit = child;
         }
         if (edit == nullptr)
-            qFatal("There is no editor for \"%s\"", qPrintable(label));
+            FailTest(QString("There is no editor for \"%1\"").arg(label));
         edit->selectAll();
         QTest::keyClicks(edit, text);
         return edit;
@@ -183,7 +183,7 @@ void tst_FeatureFields::ATypedTextChangesTheFeature()
     QCOMPARE(shown.posted.count(), 0);
 }
 
-void tst_FeatureFields::ATextWithoutAUsableValueIsKeptAndSaysWhy_data()
+void tst_FeatureFields::ATextWithoutAUsableValueIsKeptAndShowsTheReason_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("value");
@@ -205,7 +205,7 @@ void tst_FeatureFields::ATextWithoutAUsableValueIsKeptAndSaysWhy_data()
                               << "";
 }
 
-void tst_FeatureFields::ATextWithoutAUsableValueIsKeptAndSaysWhy()
+void tst_FeatureFields::ATextWithoutAUsableValueIsKeptAndShowsTheReason()
 {
     QFETCH(QString, text);
     QFETCH(QString, value);
@@ -261,7 +261,7 @@ void tst_FeatureFields::TypedInputsAreTaken()
     QCOMPARE(shown.Text("Inputs"), QString("pin, plate"));
 }
 
-void tst_FeatureFields::ARefusedTextStaysAndIsTold_data()
+void tst_FeatureFields::ARefusedTextStaysAndIsReported_data()
 {
     QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("text");
@@ -283,7 +283,7 @@ void tst_FeatureFields::ARefusedTextStaysAndIsTold_data()
                                      << "a,b";
 }
 
-void tst_FeatureFields::ARefusedTextStaysAndIsTold()
+void tst_FeatureFields::ARefusedTextStaysAndIsReported()
 {
     QFETCH(QString, label);
     QFETCH(QString, text);

@@ -14,9 +14,9 @@ class tst_FeatureTree : public TestCase
 
 private Q_SLOTS:
     void AFeatureHasARowInItsOrder();
-    void ARowTellsWhatTheFeatureIsMadeFrom();
+    void ARowShowsTheInputsAndFieldsOfTheFeature();
     void ASuppressedFeatureIsStruckOut();
-    void AFailedFeatureIsMarkedAndSaysWhy();
+    void AFailedFeatureIsMarkedAndShowsTheReason();
     void SelectedNamesComeInTheOrderOfSelecting();
     void TheSelectionOutlivesChanges();
     void ARenamedFeatureStaysSelected();
@@ -66,7 +66,7 @@ void tst_FeatureTree::AFeatureHasARowInItsOrder()
     QCOMPARE(rows, QStringList({"plate/Box", "pin/Cylinder", "body/Fuse"}));
 }
 
-void tst_FeatureTree::ARowTellsWhatTheFeatureIsMadeFrom()
+void tst_FeatureTree::ARowShowsTheInputsAndFieldsOfTheFeature()
 {
     ShownTree shown;
     QCOMPARE(shown.Row(0).text(FeatureTree::FieldsColumn),
@@ -89,7 +89,7 @@ void tst_FeatureTree::ASuppressedFeatureIsStruckOut()
     QVERIFY(!shown.Row(1).font(FeatureTree::NameColumn).strikeOut());
 }
 
-void tst_FeatureTree::AFailedFeatureIsMarkedAndSaysWhy()
+void tst_FeatureTree::AFailedFeatureIsMarkedAndShowsTheReason()
 {
     ShownTree shown;
     QVERIFY(shown.Row(1).icon(FeatureTree::NameColumn).isNull());

@@ -21,7 +21,7 @@ private Q_SLOTS:
     void TooManySelectedAreRefused();
     void TooFewBodiesAreRefused();
     void EditRunsTheDialog();
-    void EditGoesToTheFieldsWhereThereIsNoDialog();
+    void EditOpensTheFieldsIfThereIsNoDialog();
     void UpAndDownMoveTheFeature();
     void AMoveBeforeAnInputIsRefusedWithAMessage();
     void SuppressToggles();
@@ -167,7 +167,7 @@ void tst_PartActions::EditRunsTheDialog()
     QCOMPARE(modelling.model.UndoStack().undoText(), QString("Change \"ring\""));
 }
 
-void tst_PartActions::EditGoesToTheFieldsWhereThereIsNoDialog()
+void tst_PartActions::EditOpensTheFieldsIfThereIsNoDialog()
 {
     Modelling modelling;
     modelling.AddSamples();

@@ -26,7 +26,7 @@ private Q_SLOTS:
     void ParametersAreFollowed();
     void AConditionThatDoesNotHoldFailsTheBuild();
     void TheShapeOfAFeatureIsThatOfTheLastGoodPart();
-    void BodiesAreWhatNoFeatureUses();
+    void BodiesAreTheUnusedFeatures();
     void OpeningForgetsWhatWasBefore();
 };
 
@@ -312,7 +312,7 @@ void tst_PartModel::TheShapeOfAFeatureIsThatOfTheLastGoodPart()
     QCOMPARE(Measure(open.model.ShapeOf("plate")).volume, 1000.0);
 }
 
-void tst_PartModel::BodiesAreWhatNoFeatureUses()
+void tst_PartModel::BodiesAreTheUnusedFeatures()
 {
     OpenModel open;
     QCOMPARE(open.model.Bodies(), QStringList({"body"}));

@@ -14,11 +14,11 @@ class tst_PartPanel : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void AtFirstThereIsNoShape();
+    void InitiallyThereIsNoShape();
     void AShapeIsShownWithItsMeasures();
     void BodiesThatOverlapAreAWarning();
     void AFailureKeepsTheLastGoodShape();
-    void AFailureWithoutAnEarlierShapeSaysSo();
+    void AFailureWithoutAnEarlierShapeIsReported();
     void ClearForgetsTheShape();
     void WithoutOpenGlThereIsALineDrawingAndOneWarning();
 };
@@ -38,7 +38,7 @@ QString Shown(const PartPanel& summary, const char* label)
 
 } // namespace
 
-void tst_PartPanel::AtFirstThereIsNoShape()
+void tst_PartPanel::InitiallyThereIsNoShape()
 {
     const PartPanel summary(nullptr);
     QCOMPARE(Shown(summary, "label_Status"), QStringLiteral("There is no shape yet"));
@@ -89,7 +89,7 @@ void tst_PartPanel::AFailureKeepsTheLastGoodShape()
     QCOMPARE(drawing.grab().toImage(), picture);
 }
 
-void tst_PartPanel::AFailureWithoutAnEarlierShapeSaysSo()
+void tst_PartPanel::AFailureWithoutAnEarlierShapeIsReported()
 {
     PartPanel summary(nullptr);
     summary.ShowFailure("the bore is too large");

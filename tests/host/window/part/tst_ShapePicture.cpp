@@ -16,7 +16,7 @@ class tst_ShapePicture : public TestCase
 private Q_SLOTS:
     void WithoutAShapeThePictureIsEmpty();
     void AShapeIsDrawn();
-    void AShapeFillsThePictureWhateverItsSize();
+    void AShapeOfAnySizeFillsThePicture();
     void ANullShapeTakesThePictureAway();
     void AnotherShapeReplacesTheFirst();
     void ATextReplacesTheDrawingOfALargePart();
@@ -63,7 +63,7 @@ void tst_ShapePicture::AShapeIsDrawn()
     QVERIFY(!Inked(Drawn(picture)).isEmpty());
 }
 
-void tst_ShapePicture::AShapeFillsThePictureWhateverItsSize()
+void tst_ShapePicture::AShapeOfAnySizeFillsThePicture()
 {
     ShapePicture picture(nullptr);
     for (const double size : {0.01, 1.0, 1e5}) {

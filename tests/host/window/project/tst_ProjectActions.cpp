@@ -24,7 +24,7 @@ private Q_SLOTS:
     void ImportsAreFoundAfterSavingElsewhere();
     void ChangedSamplesAreAChange();
     void UndoingAFeatureKeepsChangedSamplesAChange();
-    void SaveTellsThatItSaved();
+    void SaveEmitsThatItSaved();
     void AFailedSaveLosesNothing();
 };
 
@@ -132,7 +132,7 @@ void tst_ProjectActions::UndoingAFeatureKeepsChangedSamplesAChange()
     QVERIFY(!opened.actions->ConfirmDiscard());
 }
 
-void tst_ProjectActions::SaveTellsThatItSaved()
+void tst_ProjectActions::SaveEmitsThatItSaved()
 {
     const QString directory = EnterTemporaryDirectory();
     Opened opened;
@@ -157,7 +157,7 @@ void tst_ProjectActions::AFailedSaveLosesNothing()
     opened.model.Add(NewFeature("cube_2", "box"));
     QSignalSpy saved(opened.actions, &ProjectActions::Saved);
     QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
-    // Chosen in the question before leaving, a failed save is no leave.
+    // After a failed save, the project must not be discarded.
     opened.user.Answer(QMessageBox::Save);
     QVERIFY(!opened.actions->ConfirmDiscard());
     QVERIFY(opened.user.IsDone());

@@ -21,7 +21,7 @@ private Q_SLOTS:
     void ARangeIsKeptWithItsSamples();
     void SingleValuesAreKeptExactly();
     void AProblemIsReportedAndLeavesNoSamples();
-    void WhatWasFilledInIsRegistered();
+    void FilledInSamplesAreRegistered();
     void SamplesOfTheDialogAreARange();
     void RecordsWithoutParameterOrSamplesAreLeftOut();
 };
@@ -84,7 +84,7 @@ void tst_SampleRegistry::AProblemIsReportedAndLeavesNoSamples()
     QVERIFY(posted[0][1].toString().contains("\"a\" has Gauss spacing"));
 }
 
-void tst_SampleRegistry::WhatWasFilledInIsRegistered()
+void tst_SampleRegistry::FilledInSamplesAreRegistered()
 {
     const EmptyDesignStores stores;
     GlobalParaMeterMgr::AddParameter("a", {});

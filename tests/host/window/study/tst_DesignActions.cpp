@@ -18,8 +18,8 @@ class tst_DesignActions : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void ApplyTellsThatParametersChanged();
-    void ACancelledEditorTellsNothing();
+    void ApplyEmitsTheParameterChange();
+    void ACancelledEditorEmitsNothing();
     void ARunTellsThatParametersChanged();
     void RestoreBringsTheDesignBackAndTells();
     void ASavedRunIsToldUntilTheDesignIsBack();
@@ -69,7 +69,7 @@ double Stored(const QString& name)
 
 } // namespace
 
-void tst_DesignActions::ApplyTellsThatParametersChanged()
+void tst_DesignActions::ApplyEmitsTheParameterChange()
 {
     Design design;
     design.user.Then([](QDialog& editor) {
@@ -81,7 +81,7 @@ void tst_DesignActions::ApplyTellsThatParametersChanged()
     QCOMPARE(design.changed.count(), 1);
 }
 
-void tst_DesignActions::ACancelledEditorTellsNothing()
+void tst_DesignActions::ACancelledEditorEmitsNothing()
 {
     Design design;
     design.user.Then([](QDialog& editor) { Click(editor, "pushButton_Cancel"); });

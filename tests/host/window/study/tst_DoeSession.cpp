@@ -17,18 +17,18 @@ class tst_DoeSession : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void TicksStandInTheRowsOfTheirParameters();
+    void TicksAreInTheRowsOfTheirParameters();
     void ParametersOutsideTheRunGetTheirRecordsBack();
     void ExpressionsFollowTheRun();
     void ATickedParameterWithAnExpressionKeepsTheRunsValue();
     void ParametersOutsideEveryRunStayThroughSeveralRuns();
     void ATickTakenInTheDialogCounts();
     void TheRunIsCompleteBeforeTheHostHears();
-    void TheChannelTellsARunOnce();
-    void ProblemsAreToldAndKept();
+    void TheChannelReportsARunOnce();
+    void ProblemsAreReportedAndKept();
     void TheRecordsFromBeforeAreKept();
     void AParameterRemovedMeanwhileStaysRemoved();
-    void ASecondSessionStartsFromWhatTheFirstLeft();
+    void ASecondSessionStartsFromTheResultOfTheFirst();
 };
 
 static void Add(const QString& name, double value, const char* expression = "",
@@ -97,7 +97,7 @@ static void Run(DOEDlg& dialog, const std::function<void(QDialog&)>& step)
     QCOMPARE(user.Boxes(), QVector<ShownBox>());
 }
 
-void tst_DoeSession::TicksStandInTheRowsOfTheirParameters()
+void tst_DoeSession::TicksAreInTheRowsOfTheirParameters()
 {
     const BoxInStores stores;
     Tick("depth", {1.0});
@@ -199,7 +199,7 @@ void tst_DoeSession::TheRunIsCompleteBeforeTheHostHears()
     QCOMPARE(heard, QVector<double>({11.0, 220.0, 5.0}));
 }
 
-void tst_DoeSession::TheChannelTellsARunOnce()
+void tst_DoeSession::TheChannelReportsARunOnce()
 {
     const BoxInStores stores;
     Tick("width", {11.5});
@@ -214,7 +214,7 @@ void tst_DoeSession::TheChannelTellsARunOnce()
                      "from before again."));
 }
 
-void tst_DoeSession::ProblemsAreToldAndKept()
+void tst_DoeSession::ProblemsAreReportedAndKept()
 {
     const BoxInStores stores;
     Add("bad", 1.0, "x", "x");
@@ -261,7 +261,7 @@ void tst_DoeSession::AParameterRemovedMeanwhileStaysRemoved()
     QCOMPARE(Value("area"), 220.0);
 }
 
-void tst_DoeSession::ASecondSessionStartsFromWhatTheFirstLeft()
+void tst_DoeSession::ASecondSessionStartsFromTheResultOfTheFirst()
 {
     const BoxInStores stores;
     Tick("width", {11.0, 12.0});

@@ -85,7 +85,7 @@ void tst_PartView::ATypedPointIsMarked()
     shown.view->SetStandardView(PartView::FrontView);
     const QImage before = shown.Picture();
     QVERIFY(!IsOrange(At(before, shown.Middle())));
-    // Within the block: a mark is seen all the same.
+    // The mark is visible even within the block.
     shown.view->ShowPoint({50.0, 30.0, 20.0});
     QVERIFY(IsOrange(At(shown.Picture(), shown.Middle())));
     shown.view->ShowPoint({20.0, 30.0, 20.0});
@@ -104,7 +104,7 @@ void tst_PartView::AFeatureWithinThePartIsHighlighted()
     shown.view->HighlightShape(
         BRepPrimAPI_MakeBox(gp_Pnt(30.0, 20.0, 10.0), gp_Pnt(70.0, 40.0, 30.0)).Shape());
     QVERIFY(IsOrange(At(shown.Picture(), inside)));
-    // It is no part to pick.
+    // The highlight cannot be picked.
     shown.MoveTo(shown.Middle());
     QVERIFY(std::abs(shown.point.value().Y()) < 1e-9);
     shown.MoveTo({5, shown.view->height() - 5});
@@ -233,7 +233,7 @@ void tst_PartView::NothingIsWrittenToTheConsole()
     QVERIFY(child.waitForFinished(60000));
     QCOMPARE(child.exitStatus(), QProcess::NormalExit);
     QString errors = QString::fromLocal8Bit(child.readAllStandardError());
-    // The offscreen platform says so of every window.
+    // The offscreen platform prints this for every window.
     errors.remove("This plugin does not support propagateSizeHints()\n");
     QCOMPARE(errors, QString());
     QCOMPARE(QString::fromLocal8Bit(child.readAllStandardOutput()), QString());
@@ -257,7 +257,7 @@ static bool LettersFitTheCube(const QImage& picture)
     return letters > 0;
 }
 
-// 0: the view shows a part, is turned, and finds a point on it. 1: there can be no view.
+// Returns 0 if the view shows a part, turns, and finds a point on it, 1 if there is no view.
 static int ShowAView()
 {
     if (!PartView::UnavailableReason().isEmpty())

@@ -103,7 +103,7 @@ void tst_PartViewCamera::DraggingPans()
     const QRect before = PartRect(shown);
     shown.Drag(button, keys, shown.Middle(), {-40, 24});
     const QRect after = PartRect(shown);
-    // What lies under the cursor stays there.
+    // The point under the cursor stays there.
     QVERIFY(std::abs(after.left() - before.left() + 40) <= 2);
     QVERIFY(std::abs(after.top() - before.top() - 24) <= 2);
     QVERIFY(std::abs(after.width() - before.width()) <= 2);

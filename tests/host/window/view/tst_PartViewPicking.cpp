@@ -14,11 +14,11 @@ private Q_SLOTS:
     void TheFaceUnderTheCursorIsHighlighted();
     void AClickedFaceStaysHighlighted();
     void AnotherClickSelectsAnotherFace();
-    void PickingTellsTheClickedFace_data();
-    void PickingTellsTheClickedFace();
+    void PickingReportsTheClickedFace_data();
+    void PickingReportsTheClickedFace();
     void PickingWaitsForAFace();
     void EscapeEndsPicking();
-    void WithoutPickingNoFaceIsTold();
+    void WithoutPickingNoFaceIsReported();
     void ADragPicksNothing();
     void ThePointUnderTheCursorIsOnTheSurface();
     void ThePointIsLostBesideThePart();
@@ -66,12 +66,12 @@ void tst_PartViewPicking::AnotherClickSelectsAnotherFace()
     QVERIFY(IsOrange(At(shown.Picture(), second)));
 }
 
-void tst_PartViewPicking::PickingTellsTheClickedFace_data()
+void tst_PartViewPicking::PickingReportsTheClickedFace_data()
 {
     AddStandardViews();
 }
 
-void tst_PartViewPicking::PickingTellsTheClickedFace()
+void tst_PartViewPicking::PickingReportsTheClickedFace()
 {
     QFETCH(PartView::StandardView, view);
     QFETCH(QString, middle);
@@ -128,7 +128,7 @@ void tst_PartViewPicking::EscapeEndsPicking()
     QCOMPARE(shown.picked, 0);
 }
 
-void tst_PartViewPicking::WithoutPickingNoFaceIsTold()
+void tst_PartViewPicking::WithoutPickingNoFaceIsReported()
 {
     const ShownView shown;
     QTest::mouseClick(shown.view, Qt::LeftButton, {}, shown.Middle());

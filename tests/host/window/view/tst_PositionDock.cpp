@@ -26,10 +26,10 @@ private Q_SLOTS:
     void CoordinatesAreShort_data();
     void CoordinatesAreShort();
     void AFieldWithTheFocusIsLeftAlone();
-    void EnterTellsAndMarksThePoint();
-    void NumbersHaveAFullStopWhateverTheLocale();
-    void BadTextIsToldAndStays_data();
-    void BadTextIsToldAndStays();
+    void EnterReportsAndMarksThePoint();
+    void NumbersHaveAFullStopUnderEveryLocale();
+    void BadTextIsReportedAndStays_data();
+    void BadTextIsReportedAndStays();
     void WithoutAViewPointsCanBeTyped();
 };
 
@@ -163,7 +163,7 @@ void tst_PositionDock::AFieldWithTheFocusIsLeftAlone()
     QCOMPARE(shown.Texts().at(1), QStringLiteral("0"));
 }
 
-void tst_PositionDock::EnterTellsAndMarksThePoint()
+void tst_PositionDock::EnterReportsAndMarksThePoint()
 {
     for (const char* const field : FieldNames) {
         const ShownDock shown;
@@ -179,7 +179,7 @@ void tst_PositionDock::EnterTellsAndMarksThePoint()
     }
 }
 
-void tst_PositionDock::NumbersHaveAFullStopWhateverTheLocale()
+void tst_PositionDock::NumbersHaveAFullStopUnderEveryLocale()
 {
     const ShownDock shown;
     UseLocale("de_DE.UTF-8");
@@ -188,7 +188,7 @@ void tst_PositionDock::NumbersHaveAFullStopWhateverTheLocale()
     QCOMPARE(shown.entered, QStringList(KernelText(gp_Pnt(0.5, 1.25, 2.0))));
 }
 
-void tst_PositionDock::BadTextIsToldAndStays_data()
+void tst_PositionDock::BadTextIsReportedAndStays_data()
 {
     QTest::addColumn<QStringList>("texts");
     QTest::addColumn<int>("bad");
@@ -202,7 +202,7 @@ void tst_PositionDock::BadTextIsToldAndStays_data()
     QTest::newRow("the first of two") << QStringList({"1", "b", "%s"}) << 1;
 }
 
-void tst_PositionDock::BadTextIsToldAndStays()
+void tst_PositionDock::BadTextIsReportedAndStays()
 {
     QFETCH(QStringList, texts);
     QFETCH(int, bad);

@@ -19,7 +19,7 @@ private Q_SLOTS:
     void MenuAndToolBarOfferTheSame();
     void EveryActionChangesTheView_data();
     void EveryActionChangesTheView();
-    void TheWayOfDisplayIsChecked();
+    void TheDisplayModeIsChecked();
     void TheToolBarWorks();
     void WithoutAViewAllIsDisabled();
 };
@@ -106,7 +106,7 @@ void tst_ViewActions::EveryActionChangesTheView()
     QCOMPARE(shown.Picture(), turned);
 }
 
-void tst_ViewActions::TheWayOfDisplayIsChecked()
+void tst_ViewActions::TheDisplayModeIsChecked()
 {
     ShownView shown;
     QAction& shaded = FindAction(shown.actions, "action_ShadedWithEdges");

@@ -21,7 +21,7 @@ class tst_BodyCheck : public TestCase
 
 private Q_SLOTS:
     void ASoundBodyPasses();
-    void WhatIsNotASolidIsRefused();
+    void OnlySolidsAreAccepted();
     void AnOpenBodyIsRefused();
     void ABodyInsideOutIsRefused();
     void ABodyOfAnInputIsNotCheckedAgain();
@@ -96,7 +96,7 @@ void tst_BodyCheck::ASoundBodyPasses()
     QCOMPARE(Refusal(Compound({BoxBody(), MovedBy(BoxBody(3.0), 20.0)})), QString());
 }
 
-void tst_BodyCheck::WhatIsNotASolidIsRefused()
+void tst_BodyCheck::OnlySolidsAreAccepted()
 {
     for (const TopAbs_ShapeEnum type : {TopAbs_SHELL, TopAbs_FACE, TopAbs_WIRE, TopAbs_VERTEX}) {
         const TopoDS_Shape piece = TopExp_Explorer(BoxBody(), type).Current();

@@ -27,7 +27,7 @@ class tst_StepFile : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void WhatIsWrittenCanBeRead();
+    void WrittenFilesCanBeRead();
     void AFileIsReplaced();
     void AMissingFolderIsReported();
     void AFolderIsNotReplacedAndNothingIsLeft();
@@ -77,7 +77,7 @@ static QString Reason(const TopoDS_Shape& shape, const QString& path)
     return Reason([&] { WriteStepFile(shape, path); });
 }
 
-void tst_StepFile::WhatIsWrittenCanBeRead()
+void tst_StepFile::WrittenFilesCanBeRead()
 {
     EnterTemporaryDirectory();
     WriteStepFile(Box(10.0), "长 a.step");
@@ -225,14 +225,14 @@ void tst_StepFile::AFileWithoutAShapeIsReportedAndNothingIsPrinted_data()
         "refers to entities that it does not contain");
 }
 
-// What is written to standard output and error while @p action runs.
+// The output of @p action to standard output and error.
 template<class Action>
 static QByteArray Printed(const Action& action)
 {
     std::fflush(nullptr);
     QFile caught("printed");
     if (!caught.open(QIODevice::ReadWrite | QIODevice::Truncate))
-        qFatal("The test's file could not be written.");
+        FailTest("The test's file could not be written.");
     const int out = dup(STDOUT_FILENO);
     const int error = dup(STDERR_FILENO);
     dup2(caught.handle(), STDOUT_FILENO);

@@ -20,7 +20,7 @@ void tst_EdgeFeatures::BodiesMatchTheirFormulas_data()
         AddBody(name, OnBrick(kind, fields), expected);
     };
     const Mass brick = Box(10, 20, 30);
-    // What a fillet of 2 takes from the edge at x = y = 0: a square less a quarter of a disc.
+    // A fillet of 2 removes from the edge at x = y = 0 a square less a quarter of a disc.
     const double disc = Pi * 4.0 / 4.0;
     const double middle = (4.0 * 1.0 - disc * (2.0 - 8.0 / (3.0 * Pi))) / (4.0 - disc);
     placed("fillet", "fillet", R"("radius": 2, "z": 15)",

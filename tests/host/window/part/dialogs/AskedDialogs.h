@@ -15,7 +15,7 @@
 
 // The dialogs of features as a user fills them in.
 
-/// What is typed into one dialog: object names of line edits, and texts.
+/// The texts typed into one dialog, by object name of the line edit.
 using Typed = std::vector<std::pair<QString, QString>>;
 Q_DECLARE_METATYPE(Typed)
 

@@ -34,7 +34,7 @@ const std::vector<const char*> DialogKinds = {
     "sphere", "torus",  "cone",       "wedge",      "polygon",
     "move",   "rotate", "mirrorAxis", "polarArray", "rectangularArray"};
 
-// The dialogs of a kind one after another, with what they must be given before OK.
+// Presses OK in the dialogs of a kind, one after the other, with the texts that they require.
 void PressThrough(ModalDriver& user, const QByteArray& kind, bool isNew)
 {
     if (kind == "polygon")
@@ -81,7 +81,7 @@ void tst_FeatureDialogs::OKTakesTheDialogsDefaults()
     QFETCH(QByteArray, kind);
     Asked asked;
     PressThrough(asked.user, kind, true);
-    // Whatever the fields are before: the dialog's own defaults count.
+    // The dialog's own defaults replace the fields.
     Feature feature(KindOf(kind));
     const std::optional<Feature> result = asked.dialogs.AskNew(feature);
     QVERIFY(asked.user.IsDone());

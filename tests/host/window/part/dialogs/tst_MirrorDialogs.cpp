@@ -63,7 +63,7 @@ void tst_MirrorDialogs::AMirrorOpensInItsMode()
 
 void tst_MirrorDialogs::APointMirrorIsAtTheOrigin()
 {
-    // The dialog gives the origin whatever is typed: the point is for the fields of the feature.
+    // The dialog ignores the typed point and gives the origin; users edit the point as a field.
     Asked asked;
     asked.user.Then([](QDialog& dialog) {
         Find<QRadioButton>(dialog, "radioButton").setChecked(true);
