@@ -64,6 +64,152 @@
     </message>
 </context>
 <context>
+    <name>AnalysisTree</name>
+    <message>
+        <source>Static</source>
+        <translation>静力</translation>
+    </message>
+    <message>
+        <source>Vibration</source>
+        <translation>振动</translation>
+    </message>
+    <message>
+        <source>Buckling</source>
+        <translation>屈曲</translation>
+    </message>
+    <message>
+        <source>Transient</source>
+        <translation>瞬态</translation>
+    </message>
+    <message>
+        <source>Frequency response</source>
+        <translation>频率响应</translation>
+    </message>
+    <message>
+        <source>Complex eigenvalue</source>
+        <translation>复特征值</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>%1 (family %2, kind %3)</source>
+        <translation>%1（族 %2，类 %3）</translation>
+    </message>
+    <message>
+        <source>fixes nothing</source>
+        <translation>无约束</translation>
+    </message>
+    <message>
+        <source>fixes %1</source>
+        <translation>约束 %1</translation>
+    </message>
+    <message>
+        <source>FX = %1, FY = %2, FZ = %3</source>
+        <translation>FX = %1，FY = %2，FZ = %3</translation>
+    </message>
+    <message>
+        <source>normal to surface, %1</source>
+        <translation>垂直于表面，%1</translation>
+    </message>
+    <message>
+        <source>no type</source>
+        <translation>无类型</translation>
+    </message>
+    <message>
+        <source>no material</source>
+        <translation>无材料</translation>
+    </message>
+    <message>
+        <source>material %1</source>
+        <translation>材料 %1</translation>
+    </message>
+    <message>
+        <source>%1, %2, thickness %3</source>
+        <translation>%1，%2，厚度 %3</translation>
+    </message>
+    <message>
+        <source>Analysis model</source>
+        <translation>分析模型</translation>
+    </message>
+    <message>
+        <source>&amp;Delete boundary condition or load</source>
+        <translation>删除边界条件或载荷(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>存储值</translation>
+    </message>
+    <message>
+        <source>Analysis type</source>
+        <translation>分析类型</translation>
+    </message>
+    <message>
+        <source>Boundary conditions</source>
+        <translation>边界条件</translation>
+    </message>
+    <message>
+        <source>Loads</source>
+        <translation>载荷</translation>
+    </message>
+    <message>
+        <source>Element properties</source>
+        <translation>单元属性</translation>
+    </message>
+    <message>
+        <source>Frequency range</source>
+        <translation>频率范围</translation>
+    </message>
+    <message>
+        <source>%1 to %2, %3 points</source>
+        <translation>%1 至 %2，%3 个点</translation>
+    </message>
+    <message>
+        <source>Mesh size</source>
+        <translation>网格尺寸</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>未设置</translation>
+    </message>
+    <message>
+        <source>Sub-shape mesh</source>
+        <translation>子形状网格</translation>
+    </message>
+    <message>
+        <source>size %1, number %2</source>
+        <translation>尺寸 %1，数量 %2</translation>
+    </message>
+</context>
+<context>
+    <name>BodyOverlaps</name>
+    <message>
+        <source>The bodies were not all compared for overlaps; volume and mass may count a region twice.</source>
+        <translation>未检查所有实体是否重叠；体积和质量可能重复计算某些区域。</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 和 %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>；</translation>
+    </message>
+    <message>
+        <source>Bodies overlap, and volume and mass count the common region twice: %1.</source>
+        <translation>实体重叠，体积和质量重复计算公共区域：%1。</translation>
+    </message>
+    <message>
+        <source>Bodies overlap, and volume and mass count the common region twice: %1; there may be more.</source>
+        <translation>实体重叠，体积和质量重复计算公共区域：%1；可能还有更多。</translation>
+    </message>
+</context>
+<context>
     <name>BuildError</name>
     <message>
         <source>its direction is zero.</source>
@@ -590,6 +736,29 @@
     </message>
 </context>
 <context>
+    <name>FeatureTree</name>
+    <message>
+        <source>of %1</source>
+        <translation>源自 %1</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>特征</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>特征</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Made from</source>
+        <translation>构成</translation>
+    </message>
+</context>
+<context>
     <name>FieldRule</name>
     <message>
         <source>above %1 and at most %2</source>
@@ -618,29 +787,6 @@
     <message>
         <source>a whole number %1</source>
         <translation>%1 的整数</translation>
-    </message>
-</context>
-<context>
-    <name>FeatureTree</name>
-    <message>
-        <source>of %1</source>
-        <translation>源自 %1</translation>
-    </message>
-    <message>
-        <source>Features</source>
-        <translation>特征</translation>
-    </message>
-    <message>
-        <source>Feature</source>
-        <translation>特征</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>类型</translation>
-    </message>
-    <message>
-        <source>Made from</source>
-        <translation>构成</translation>
     </message>
 </context>
 <context>
@@ -919,129 +1065,6 @@
     </message>
 </context>
 <context>
-    <name>AnalysisTree</name>
-    <message>
-        <source>Static</source>
-        <translation>静力</translation>
-    </message>
-    <message>
-        <source>Vibration</source>
-        <translation>振动</translation>
-    </message>
-    <message>
-        <source>Buckling</source>
-        <translation>屈曲</translation>
-    </message>
-    <message>
-        <source>Transient</source>
-        <translation>瞬态</translation>
-    </message>
-    <message>
-        <source>Frequency response</source>
-        <translation>频率响应</translation>
-    </message>
-    <message>
-        <source>Complex eigenvalue</source>
-        <translation>复特征值</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>未知</translation>
-    </message>
-    <message>
-        <source>%1 (family %2, kind %3)</source>
-        <translation>%1（族 %2，类 %3）</translation>
-    </message>
-    <message>
-        <source>fixes nothing</source>
-        <translation>无约束</translation>
-    </message>
-    <message>
-        <source>fixes %1</source>
-        <translation>约束 %1</translation>
-    </message>
-    <message>
-        <source>FX = %1, FY = %2, FZ = %3</source>
-        <translation>FX = %1，FY = %2，FZ = %3</translation>
-    </message>
-    <message>
-        <source>normal to surface, %1</source>
-        <translation>垂直于表面，%1</translation>
-    </message>
-    <message>
-        <source>no type</source>
-        <translation>无类型</translation>
-    </message>
-    <message>
-        <source>no material</source>
-        <translation>无材料</translation>
-    </message>
-    <message>
-        <source>material %1</source>
-        <translation>材料 %1</translation>
-    </message>
-    <message>
-        <source>%1, %2, thickness %3</source>
-        <translation>%1，%2，厚度 %3</translation>
-    </message>
-    <message>
-        <source>Analysis model</source>
-        <translation>分析模型</translation>
-    </message>
-    <message>
-        <source>&amp;Delete boundary condition or load</source>
-        <translation>删除边界条件或载荷(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Record</source>
-        <translation>记录</translation>
-    </message>
-    <message>
-        <source>Stored</source>
-        <translation>存储值</translation>
-    </message>
-    <message>
-        <source>Analysis type</source>
-        <translation>分析类型</translation>
-    </message>
-    <message>
-        <source>Boundary conditions</source>
-        <translation>边界条件</translation>
-    </message>
-    <message>
-        <source>Loads</source>
-        <translation>载荷</translation>
-    </message>
-    <message>
-        <source>Element properties</source>
-        <translation>单元属性</translation>
-    </message>
-    <message>
-        <source>Frequency range</source>
-        <translation>频率范围</translation>
-    </message>
-    <message>
-        <source>%1 to %2, %3 points</source>
-        <translation>%1 至 %2，%3 个点</translation>
-    </message>
-    <message>
-        <source>Mesh size</source>
-        <translation>网格尺寸</translation>
-    </message>
-    <message>
-        <source>not set</source>
-        <translation>未设置</translation>
-    </message>
-    <message>
-        <source>Sub-shape mesh</source>
-        <translation>子形状网格</translation>
-    </message>
-    <message>
-        <source>size %1, number %2</source>
-        <translation>尺寸 %1，数量 %2</translation>
-    </message>
-</context>
-<context>
     <name>OpenGlSupport</name>
     <message>
         <source>the system does not provide OpenGL</source>
@@ -1049,10 +1072,69 @@
     </message>
 </context>
 <context>
-    <name>PartView</name>
+    <name>ParameterEvaluator</name>
     <message>
-        <source>The 3D view cannot show this: %1</source>
-        <translation>三维视图无法显示：%1</translation>
+        <source>Circular reference: %1</source>
+        <translation>表达式相互依赖：%1</translation>
+    </message>
+    <message>
+        <source>%1: its expression uses &quot;%2&quot;, which is not a parameter</source>
+        <translation>%1：其表达式使用的“%2”不是参数</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterOverview</name>
+    <message>
+        <source>Bool</source>
+        <translation>布尔</translation>
+    </message>
+    <message>
+        <source>Scalar</source>
+        <translation>标量</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>矢量</translation>
+    </message>
+    <message>
+        <source>Tensor</source>
+        <translation>张量</translation>
+    </message>
+    <message>
+        <source>unknown (%1)</source>
+        <translation>未知（%1）</translation>
+    </message>
+    <message>
+        <source>Stored parameters</source>
+        <translation>存储的参数</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Raw value</source>
+        <translation>原始值</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>表达式</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>描述</translation>
+    </message>
+    <message>
+        <source>&amp;Remove parameters</source>
+        <translation>删除参数(&amp;R)</translation>
     </message>
 </context>
 <context>
@@ -1151,72 +1233,6 @@
     </message>
 </context>
 <context>
-    <name>ParameterOverview</name>
-    <message>
-        <source>Bool</source>
-        <translation>布尔</translation>
-    </message>
-    <message>
-        <source>Scalar</source>
-        <translation>标量</translation>
-    </message>
-    <message>
-        <source>Vector</source>
-        <translation>矢量</translation>
-    </message>
-    <message>
-        <source>Tensor</source>
-        <translation>张量</translation>
-    </message>
-    <message>
-        <source>unknown (%1)</source>
-        <translation>未知（%1）</translation>
-    </message>
-    <message>
-        <source>Stored parameters</source>
-        <translation>存储的参数</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>类型</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>值</translation>
-    </message>
-    <message>
-        <source>Raw value</source>
-        <translation>原始值</translation>
-    </message>
-    <message>
-        <source>Expression</source>
-        <translation>表达式</translation>
-    </message>
-    <message>
-        <source>Description</source>
-        <translation>描述</translation>
-    </message>
-    <message>
-        <source>&amp;Remove parameters</source>
-        <translation>删除参数(&amp;R)</translation>
-    </message>
-</context>
-<context>
-    <name>ParameterEvaluator</name>
-    <message>
-        <source>Circular reference: %1</source>
-        <translation>表达式相互依赖：%1</translation>
-    </message>
-    <message>
-        <source>%1: its expression uses &quot;%2&quot;, which is not a parameter</source>
-        <translation>%1：其表达式使用的“%2”不是参数</translation>
-    </message>
-</context>
-<context>
     <name>PartModel</name>
     <message>
         <source>There is no feature %1</source>
@@ -1273,6 +1289,90 @@
     <message>
         <source>Delete %1</source>
         <translation>删除 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PartPanel</name>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>体积</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>表面积</translation>
+    </message>
+    <message>
+        <source>Mass</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>Bounding box</source>
+        <translation>包围盒</translation>
+    </message>
+    <message>
+        <source>From, to</source>
+        <translation>起点，终点</translation>
+    </message>
+    <message>
+        <source>%1 cm³</source>
+        <translation>%1 cm³</translation>
+    </message>
+    <message>
+        <source>%1 cm²</source>
+        <translation>%1 cm²</translation>
+    </message>
+    <message>
+        <source>%1 kg</source>
+        <translation>%1 kg</translation>
+    </message>
+    <message>
+        <source>%1 × %2 × %3 mm</source>
+        <translation>%1 × %2 × %3 mm</translation>
+    </message>
+    <message>
+        <source>(%1, %2, %3), (%4, %5, %6) mm</source>
+        <translation>(%1, %2, %3)，(%4, %5, %6) mm</translation>
+    </message>
+    <message>
+        <source>Built at %1</source>
+        <translation>生成于 %1</translation>
+    </message>
+    <message>
+        <source>There is no earlier shape.</source>
+        <translation>没有更早的形状。</translation>
+    </message>
+    <message>
+        <source>Showing the last valid shape, built at %1.</source>
+        <translation>显示的是上一个有效形状，生成于 %1。</translation>
+    </message>
+    <message>
+        <source>Not built: %1
+%2</source>
+        <translation>未生成：%1
+%2</translation>
+    </message>
+    <message>
+        <source>There is no shape yet</source>
+        <translation>尚无形状</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>The part is shown as a line drawing: %1</source>
+        <translation>零件以线框图显示：%1</translation>
+    </message>
+</context>
+<context>
+    <name>PartView</name>
+    <message>
+        <source>The 3D view cannot show this: %1</source>
+        <translation>三维视图无法显示：%1</translation>
     </message>
 </context>
 <context>
@@ -1413,83 +1513,6 @@
     <message>
         <source>The part has too many faces for a line drawing.</source>
         <translation>零件的面过多，无法绘制线条图。</translation>
-    </message>
-</context>
-<context>
-    <name>PartPanel</name>
-    <message>
-        <source>Status</source>
-        <translation>状态</translation>
-    </message>
-    <message>
-        <source>Volume</source>
-        <translation>体积</translation>
-    </message>
-    <message>
-        <source>Surface</source>
-        <translation>表面积</translation>
-    </message>
-    <message>
-        <source>Mass</source>
-        <translation>质量</translation>
-    </message>
-    <message>
-        <source>Bounding box</source>
-        <translation>包围盒</translation>
-    </message>
-    <message>
-        <source>From, to</source>
-        <translation>起点，终点</translation>
-    </message>
-    <message>
-        <source>%1 cm³</source>
-        <translation>%1 cm³</translation>
-    </message>
-    <message>
-        <source>%1 cm²</source>
-        <translation>%1 cm²</translation>
-    </message>
-    <message>
-        <source>%1 kg</source>
-        <translation>%1 kg</translation>
-    </message>
-    <message>
-        <source>%1 × %2 × %3 mm</source>
-        <translation>%1 × %2 × %3 mm</translation>
-    </message>
-    <message>
-        <source>(%1, %2, %3), (%4, %5, %6) mm</source>
-        <translation>(%1, %2, %3)，(%4, %5, %6) mm</translation>
-    </message>
-    <message>
-        <source>Built at %1</source>
-        <translation>生成于 %1</translation>
-    </message>
-    <message>
-        <source>There is no earlier shape.</source>
-        <translation>没有更早的形状。</translation>
-    </message>
-    <message>
-        <source>Showing the last valid shape, built at %1.</source>
-        <translation>显示的是上一个有效形状，生成于 %1。</translation>
-    </message>
-    <message>
-        <source>Not built: %1
-%2</source>
-        <translation>未生成：%1
-%2</translation>
-    </message>
-    <message>
-        <source>There is no shape yet</source>
-        <translation>尚无形状</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>无</translation>
-    </message>
-    <message>
-        <source>The part is shown as a line drawing: %1</source>
-        <translation>零件以线框图显示：%1</translation>
     </message>
 </context>
 <context>
@@ -1635,29 +1658,6 @@
     <message>
         <source>&amp;Wireframe</source>
         <translation>线框(&amp;W)</translation>
-    </message>
-</context>
-<context>
-    <name>BodyOverlaps</name>
-    <message>
-        <source>The bodies were not all compared for overlaps; volume and mass may count a region twice.</source>
-        <translation>未检查所有实体是否重叠；体积和质量可能重复计算某些区域。</translation>
-    </message>
-    <message>
-        <source>%1 and %2</source>
-        <translation>%1 和 %2</translation>
-    </message>
-    <message>
-        <source>; </source>
-        <translation>；</translation>
-    </message>
-    <message>
-        <source>Bodies overlap, and volume and mass count the common region twice: %1.</source>
-        <translation>实体重叠，体积和质量重复计算公共区域：%1。</translation>
-    </message>
-    <message>
-        <source>Bodies overlap, and volume and mass count the common region twice: %1; there may be more.</source>
-        <translation>实体重叠，体积和质量重复计算公共区域：%1；可能还有更多。</translation>
     </message>
 </context>
 </TS>
