@@ -27,7 +27,7 @@ private Q_SLOTS:
     void AFullDiskLeavesNoFile();
     void ALibraryThatCannotBeProvidedGivesAWarning();
     void TheFilesFillTheStores();
-    void WhatTheStoresHoldStays();
+    void TheContentsOfTheStoresStay();
 };
 
 namespace {
@@ -171,7 +171,7 @@ void tst_AnalysisFiles::TheFilesFillTheStores()
     QCOMPARE(properties.GetProptyDataMap().count("plate"), std::size_t(1));
 }
 
-void tst_AnalysisFiles::WhatTheStoresHoldStays()
+void tst_AnalysisFiles::TheContentsOfTheStoresStay()
 {
     const EmptyAnalysisStores stores;
     EnterTemporaryDirectory();

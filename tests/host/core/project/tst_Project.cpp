@@ -26,8 +26,8 @@ private Q_SLOTS:
     void TheParameterStoreIsReplaced();
     void ParametersKeepTheOrderOfTheFile();
     void SamplesAreARangeOrSingleValues();
-    void BadFilesAreToldInOneLine_data();
-    void BadFilesAreToldInOneLine();
+    void BadFilesAreReportedInOneLine_data();
+    void BadFilesAreReportedInOneLine();
     void AMissingFileIsReported();
     void AFolderIsReported();
     void APipeIsNotWaitedFor();
@@ -172,7 +172,7 @@ void tst_Project::SamplesAreARangeOrSingleValues()
     QVERIFY(!lists[1].ticked);
 }
 
-void tst_Project::BadFilesAreToldInOneLine_data()
+void tst_Project::BadFilesAreReportedInOneLine_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("reason");
@@ -275,7 +275,7 @@ void tst_Project::BadFilesAreToldInOneLine_data()
         "sample list 1, \"a\", has a \"ticked\" that is not true or false");
 }
 
-void tst_Project::BadFilesAreToldInOneLine()
+void tst_Project::BadFilesAreReportedInOneLine()
 {
     QFETCH(QByteArray, content);
     EnterTemporaryDirectory();

@@ -23,9 +23,9 @@ private Q_SLOTS:
     void EveryNameIsSaved_data();
     void EveryNameIsSaved();
     void ImportsAreFoundFromAnotherFolder();
-    void WhatCouldNotBeLoadedIsNotSaved_data();
-    void WhatCouldNotBeLoadedIsNotSaved();
-    void AFileThatCannotBeWrittenIsTold();
+    void AProjectThatCouldNotBeReloadedIsNotSaved_data();
+    void AProjectThatCouldNotBeReloadedIsNotSaved();
+    void AnUnwritableFileIsReported();
     void OnlyAFileIsReplaced_data();
     void OnlyAFileIsReplaced();
     void AFullDiskLeavesTheOldFile();
@@ -186,7 +186,7 @@ void tst_ProjectSaving::ImportsAreFoundFromAnotherFolder()
     QCOMPARE(Project::Load("q.json").Features().At(0).file, QString("a/parts/a.step"));
 }
 
-void tst_ProjectSaving::WhatCouldNotBeLoadedIsNotSaved_data()
+void tst_ProjectSaving::AProjectThatCouldNotBeReloadedIsNotSaved_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<double>("value");
@@ -199,7 +199,7 @@ void tst_ProjectSaving::WhatCouldNotBeLoadedIsNotSaved_data()
         << "b" << 1.0 << 2 << "features: x: another feature has the same name.";
 }
 
-void tst_ProjectSaving::WhatCouldNotBeLoadedIsNotSaved()
+void tst_ProjectSaving::AProjectThatCouldNotBeReloadedIsNotSaved()
 {
     const EmptyDesignStores stores;
     QFETCH(QString, name);
@@ -231,7 +231,7 @@ void tst_ProjectSaving::WhatCouldNotBeLoadedIsNotSaved()
     QCOMPARE(project.Path(), QString("p.json"));
 }
 
-void tst_ProjectSaving::AFileThatCannotBeWrittenIsTold()
+void tst_ProjectSaving::AnUnwritableFileIsReported()
 {
     const EmptyDesignStores stores;
     EnterTemporaryDirectory();

@@ -20,9 +20,9 @@ class tst_DesignActions : public TestCase
 private Q_SLOTS:
     void ApplyEmitsTheParameterChange();
     void ACancelledEditorEmitsNothing();
-    void ARunTellsThatParametersChanged();
-    void RestoreBringsTheDesignBackAndTells();
-    void ASavedRunIsToldUntilTheDesignIsBack();
+    void ARunEmitsTheParameterChange();
+    void RestoreResetsTheDesignAndEmits();
+    void SavingARunIsReportedUntilTheDesignIsRestored();
     void AnotherProjectForgetsTheDesign();
     void RemovedParametersDoNotReturn();
 };
@@ -90,7 +90,7 @@ void tst_DesignActions::ACancelledEditorEmitsNothing()
     QCOMPARE(design.changed.count(), 0);
 }
 
-void tst_DesignActions::ARunTellsThatParametersChanged()
+void tst_DesignActions::ARunEmitsTheParameterChange()
 {
     Design design;
     QSignalSpy edited(design.actions, &DesignActions::SamplesEdited);
@@ -100,7 +100,7 @@ void tst_DesignActions::ARunTellsThatParametersChanged()
     QCOMPARE(Stored("thickness"), 24.0);
 }
 
-void tst_DesignActions::RestoreBringsTheDesignBackAndTells()
+void tst_DesignActions::RestoreResetsTheDesignAndEmits()
 {
     Design design;
     QVERIFY(!design.Action("action_RestoreParameters").isEnabled());
@@ -111,7 +111,7 @@ void tst_DesignActions::RestoreBringsTheDesignBackAndTells()
     QVERIFY(!design.Action("action_RestoreParameters").isEnabled());
 }
 
-void tst_DesignActions::ASavedRunIsToldUntilTheDesignIsBack()
+void tst_DesignActions::SavingARunIsReportedUntilTheDesignIsRestored()
 {
     Design design;
     design.actions->WarnIfRunIsStored();
