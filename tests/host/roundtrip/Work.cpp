@@ -11,6 +11,7 @@
 #include <BRepGProp.hxx>
 #include <GProp_GProps.hxx>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <Standard_Failure.hxx>
 #include <TopoDS_Shape.hxx>
@@ -92,13 +93,21 @@ void DamageOnce(QByteArray& text, Dice& dice)
     }
 }
 
+// The file without what the kernel writes differently each time: how many it has written, and when.
+QByteArray ReproducibleText(const TopoDS_Shape& shape)
+{
+    static const QRegularExpression changing("translator [\\d. ]+|\\d{4}-\\d\\d-\\d\\dT[\\d:]+");
+    return QString::fromLatin1(StepText(shape)).remove(changing).toLatin1();
+}
+
 QByteArray DamagedText(unsigned seed)
 {
     Dice dice(seed);
     QByteArray text;
     while (text.isEmpty()) {
         try {
-            text = StepText(FeatureBuilder::Build(RandomList(unsigned(dice.Below(200)))).shape);
+            const FeatureList list = RandomList(unsigned(dice.Below(200)));
+            text = ReproducibleText(FeatureBuilder::Build(list).shape);
         } catch (const std::exception&) {
             continue; // Not each list can be built.
         }
