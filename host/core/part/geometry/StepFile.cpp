@@ -138,7 +138,7 @@ TopoDS_Shape ReadStepFile(const QString& path)
 void WriteStepFile(const TopoDS_Shape& shape, const QString& path)
 {
     const QByteArray text = NamingFile(path, [&] {
-        const QByteArray written = StepText(shape);
+        QByteArray written = StepText(shape);
         CheckRoundTrip(shape, written);
         return written;
     });
