@@ -132,7 +132,10 @@ int main(int argc, char** argv)
             };
             benchmark::RegisterBenchmark(name, regenerate)->Arg(100)->Unit(benchmark::kMillisecond);
         };
-        add("Flange/ours", [](const Project& project) { return project.Build().shape; });
+        add("Flange/ours", [](const Project& project) {
+            ResultCache cache;
+            return FeatureBuilder(cache).Build(project.Plan()).shape;
+        });
         add("Flange/reference", [](const Project&) { return BuildByHand(); });
     });
 }

@@ -40,7 +40,7 @@ int main(int argc, char** argv)
             };
             benchmark::RegisterBenchmark(name, run)->Arg(1)->Unit(benchmark::kMillisecond);
         };
-        const TopoDS_Shape flange = project.Build().shape;
+        const TopoDS_Shape flange = FeatureBuilder::Build(project.Features()).shape;
         add("Export/ours", [flange](const QString& path) { WriteStepFile(flange, path); });
         add("Export/reference", [flange](const QString& path) {
             STEPControl_Writer writer;

@@ -1,13 +1,13 @@
 #include "AnalysisFiles.h"
 #include "CommandLine.h"
 #include "HostApplication.h"
-#include "KernelSignals.h"
 #include "Language.h"
 #include "MainWindow.h"
 #include "MessageLevel.h"
 #include "Project.h"
 #include "Screenshots.h"
 #include "StudyRunner.h"
+#include "WorkerProcess.h"
 
 #include <QLocale>
 #include <QTextCodec>
@@ -137,7 +137,8 @@ QStringList Arguments(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    InstallKernelSignalHandlers();
+    if (IsWorker(argc, argv))
+        return RunWorker(argc, argv);
     // Even before the application object says so: file names in the arguments are UTF-8.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     try {

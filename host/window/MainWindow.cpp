@@ -102,6 +102,11 @@ void MainWindow::ConnectPart()
 {
     connect(m_part, &PartModel::PartBuilt, this, &MainWindow::ShowBuiltPart);
     connect(m_part, &PartModel::BuildFailed, this, &MainWindow::ShowFailure);
+    connect(m_part, &PartModel::Progressed, m_summary, &PartPanel::ShowProgress);
+    for (const auto end : {&PartModel::BuildFailed, &PartModel::Exported, &PartModel::ExportFailed})
+        connect(m_part, end, m_summary, &PartPanel::EndProgress);
+    connect(m_part, &PartModel::PartBuilt, m_summary, &PartPanel::EndProgress);
+    connect(m_summary, &PartPanel::CancelWanted, m_part, &PartModel::Cancel);
     connect(m_features, &FeatureTree::SelectionChanged, this, &MainWindow::ShowSelectedFeature);
     connect(m_position, &PositionDock::PointEntered, m_partActions, &PartActions::TakePoint);
 }
@@ -131,7 +136,7 @@ void MainWindow::ShowBuiltPart()
     if (m_part->Shape().IsNull())
         m_summary->Clear();
     else
-        m_summary->ShowShape(m_part->Shape(), m_projectActions->Density());
+        m_summary->ShowShape(m_part->Shape(), m_part->Measures(), m_projectActions->Density());
     PostMessageToChannel(InfoLevel, tr("The part was built"));
 }
 

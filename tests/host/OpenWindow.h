@@ -7,6 +7,7 @@
 #include "MenuUser.h"
 #include "MessageLevel.h"
 #include "ModalDriver.h"
+#include "PartModel.h"
 #include "Project.h"
 
 #include <QFile>
@@ -21,10 +22,21 @@ struct OpenWindow
     OpenWindow()
     {
         window.show();
-        window.OpenProject(Project::Load(Project::SamplePath()));
+        OpenProject(Project::SamplePath());
     }
 
-    void Trigger(const char* name) const { ::Trigger(window, name); }
+    void OpenProject(const QString& path)
+    {
+        window.OpenProject(Project::Load(path));
+        window.Part().WaitUntilIdle();
+    }
+
+    /// Also waits for the part that the action changes.
+    void Trigger(const char* name)
+    {
+        ::Trigger(window, name);
+        window.Part().WaitUntilIdle();
+    }
 
     void SelectFeature(const QString& name)
     {

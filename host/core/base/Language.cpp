@@ -6,8 +6,17 @@
 #include <QLibraryInfo>
 #include <QLocale>
 
+namespace {
+
+const Language* s_current = nullptr;
+
+}
+
 Language::Language(const QString& name)
+    : m_name(name)
+    , m_outer(s_current)
 {
+    s_current = this;
     const QString own = BuiltInPath(QStringLiteral("translations"));
     const auto add = [this, &name](const QString& texts, const QString& directory) {
         auto translator = std::make_unique<QTranslator>();
@@ -23,7 +32,15 @@ Language::Language(const QString& name)
 }
 
 // A translator removes itself from the application when it is destroyed.
-Language::~Language() = default;
+Language::~Language()
+{
+    s_current = m_outer;
+}
+
+QString Language::Current()
+{
+    return s_current == nullptr ? Known().first() : s_current->m_name;
+}
 
 QStringList Language::Known()
 {

@@ -19,6 +19,9 @@ public:
     ~Language();
     Q_DISABLE_COPY(Language)
 
+    /// The language that is used now.
+    static QString Current();
+
     /// The available languages, as locale names: "en" and "zh_CN".
     static QStringList Known();
 
@@ -27,5 +30,7 @@ public:
     static QString BestOf(const QStringList& wanted);
 
 private:
+    QString m_name;
+    const Language* m_outer; // The one that was used before.
     std::vector<std::unique_ptr<QTranslator>> m_translators;
 };

@@ -1,7 +1,7 @@
 #include "Project.h"
 
+#include "BuildError.h"
 #include "BuiltInFiles.h"
-#include "FeatureBuilder.h"
 #include "GlobalParaMeterMgr.h"
 #include "JsonSection.h"
 #include "ParameterJson.h"
@@ -13,6 +13,8 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QSet>
+
+#include <algorithm>
 
 using namespace ProjectKeys;
 
@@ -155,13 +157,15 @@ void Project::Save(const QString& path)
     *this = read;
 }
 
-BuiltPart Project::Build() const
+PartPlan Project::Plan() const
 {
     CheckConditions(m_conditions);
-    BuiltPart part = FeatureBuilder::Build(m_features, Folder());
-    if (part.shape.IsNull())
+    PartPlan plan = PlanPart(m_features, Folder());
+    const bool buildsSomething = std::any_of(
+        plan.begin(), plan.end(), [](const BuildStep& step) { return !step.suppressed; });
+    if (!buildsSomething)
         throw BuildError(BuildError::tr("The project has no features, so there is no part."));
-    return part;
+    return plan;
 }
 
 void Project::FillParameterStore() const

@@ -4,6 +4,7 @@
 #include "FeatureList.h"
 #include "HostError.h"
 #include "ParametersDef.h"
+#include "PartPlan.h"
 #include "SampleList.h"
 
 #include <QString>
@@ -13,7 +14,6 @@
 
 class QJsonObject;
 class QJsonValue;
-struct BuiltPart;
 
 /// Why a project file cannot be read or written: one line, with the file's name.
 class ProjectError : public HostError
@@ -51,9 +51,9 @@ public:
     /// Where the files of imports are looked for.
     QString Folder() const;
 
-    /// Builds the part from the features with the values that the store holds now, when all
-    /// conditions hold. @throws BuildError, also when there is nothing to build
-    BuiltPart Build() const;
+    /// The features with the values that the store holds now. @throws BuildError if a condition
+    /// does not hold, or if there is nothing to build
+    PartPlan Plan() const;
 
     /// Writes the project to the file at @p path: the parameters as GlobalParaMeterMgr holds them
     /// now, the rest as it is here. Path() is @p path from then on; relative paths of imports

@@ -1,19 +1,16 @@
 #include "StudyRunner.h"
 
-#include "FeatureBuilder.h"
+#include "BuildError.h"
 #include "GlobalParaMeterMgr.h"
 #include "NumberTexts.h"
 #include "Project.h"
 #include "ResultsTable.h"
-#include "StepFile.h"
 #include "Study.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <Standard_Failure.hxx>
-#include <TopoDS_Shape.hxx>
 
 #include <algorithm>
 #include <utility>
@@ -53,7 +50,8 @@ QString StepPath(const QDir& directory, int run)
     return directory.filePath(QStringLiteral("run_%1.step").arg(run, 4, 10, QLatin1Char('0')));
 }
 
-RunResult BuildRun(const Study& study, int run, const Project& project, const QString& stepPath)
+RunResult BuildRun(const Study& study, int run, const Project& project, KernelWorker& worker,
+                   const QString& stepPath)
 {
     RunResult result;
     QFile::remove(stepPath); // An existing file is not the part of this run.
@@ -61,17 +59,22 @@ RunResult BuildRun(const Study& study, int run, const Project& project, const QS
     result.values = ParameterValues();
     if (!result.error.isEmpty())
         return result;
+    PartRequest request;
+    request.wantsShapes = false;
+    request.stepPath = QFileInfo(stepPath).absoluteFilePath();
     try {
-        const TopoDS_Shape shape = project.Build().shape;
-        result.measures = Measure(shape);
-        result.mass = Mass(result.measures, project.Density());
-        WriteStepFile(shape, stepPath);
-        result.ok = true;
-    } catch (const Standard_Failure& failure) {
-        result.error = QStringLiteral("The geometry kernel failed while measuring the part: %1")
-                           .arg(QString::fromLocal8Bit(failure.GetMessageString()));
-    } catch (const std::exception& error) {
-        result.error = QString::fromUtf8(error.what());
+        request.plan = project.Plan();
+    } catch (const BuildError& error) {
+        result.error = error.Reason();
+        return result;
+    }
+    const PartReply reply = worker.Run(request);
+    result.ok = reply.outcome == PartReply::Done;
+    if (result.ok) {
+        result.measures = reply.measures;
+        result.mass = reply.measures.Mass(project.Density());
+    } else {
+        result.error = reply.Reason();
     }
     return result;
 }
@@ -85,7 +88,7 @@ void CheckEarlierRuns(const Study& study, const ResultsTable& table, double dens
         if (exists)
             study.Choose(run);
         if (!exists || !HaveSameDigits(earlier.values, ParameterValues()) ||
-            (earlier.ok && earlier.mass != Mass(earlier.measures, density)))
+            (earlier.ok && earlier.mass != earlier.measures.Mass(density)))
             throw HostError(
                 QStringLiteral(
                     "%1: run %2 in it belongs to a different study; choose another folder")
@@ -156,7 +159,7 @@ std::pair<int, int> StudyRunner::RequestedRuns(int runs) const
 }
 
 void StudyRunner::DoRun(const Study& study, int run, const QString& stepPath, ResultsTable& table,
-                        Summary& summary) const
+                        Summary& summary)
 {
     const QString place = QStringLiteral("run %1 of %2").arg(run).arg(study.RunCount());
     const auto earlier = table.Runs().find(run);
@@ -165,7 +168,7 @@ void StudyRunner::DoRun(const Study& study, int run, const QString& stepPath, Re
         m_tell(QStringLiteral("%1: done before").arg(place));
         return;
     }
-    const RunResult result = BuildRun(study, run, m_project, stepPath);
+    const RunResult result = BuildRun(study, run, m_project, m_worker, stepPath);
     table.Set(run, result);
     if (result.ok) {
         ++summary.ok;

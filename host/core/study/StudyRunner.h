@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KernelWorker.h"
+
 #include <QString>
 
 #include <functional>
@@ -43,9 +45,10 @@ public:
 private:
     std::pair<int, int> RequestedRuns(int runs) const;
     void DoRun(const Study& study, int run, const QString& stepPath, ResultsTable& table,
-               Summary& summary) const;
+               Summary& summary);
 
     const Project& m_project;
     Options m_options;
     std::function<void(const QString&)> m_tell;
+    KernelWorker m_worker;
 };

@@ -53,6 +53,7 @@ std::unique_ptr<MainWindow> NewMainWindow(const Project& project)
 {
     auto window = std::make_unique<MainWindow>();
     window->OpenProject(project);
+    window->Part().WaitUntilIdle();
     FillSampleAnalysis(window->Analysis());
     // A feature with fields, so that the dock shows them.
     for (const Feature& feature : window->Part().Features().Features()) {

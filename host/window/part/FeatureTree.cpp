@@ -48,6 +48,7 @@ FeatureTree::FeatureTree(PartModel& model, QWidget* parent)
     connect(m_tree, &QTreeWidget::itemSelectionChanged, this, &FeatureTree::NoteSelection);
     connect(m_tree, &QTreeWidget::itemDoubleClicked, this, &FeatureTree::EditWanted);
     connect(&m_model, &PartModel::Changed, this, &FeatureTree::Refresh);
+    connect(&m_model, &PartModel::BuildFailed, this, &FeatureTree::Refresh);
     Refresh();
 }
 

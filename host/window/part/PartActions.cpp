@@ -1,5 +1,6 @@
 #include "PartActions.h"
 
+#include "BuildLimitsDialog.h"
 #include "FeatureDialog.h"
 #include "FeatureFields.h"
 #include "FeatureKinds.h"
@@ -9,7 +10,6 @@
 #include "MessageLevel.h"
 #include "PartModel.h"
 #include "PartView.h"
-#include "StepFile.h"
 
 #include <QAction>
 #include <QDir>
@@ -73,6 +73,11 @@ PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fie
     connect(&tree, &FeatureTree::EditWanted, this, &PartActions::Edit);
     // A waiting feature was made for the former features.
     connect(&model, &PartModel::Changed, this, &PartActions::EndPicking);
+    connect(&model, &PartModel::PartBuilt, this, &PartActions::EndPicking);
+    connect(&model, &PartModel::Exported, this,
+            [](const QString& path) { PostMessageToChannel(InfoLevel, tr("Wrote %1").arg(path)); });
+    connect(&model, &PartModel::ExportFailed, this,
+            [](const QString& reason) { PostMessageToChannel(ErrorLevel, reason); });
     if (m_view != nullptr) {
         connect(m_view, &PartView::FacePicked, this,
                 [this](const TopoDS_Face&, const gp_Pnt& point) { TakePoint(point); });
@@ -113,6 +118,9 @@ void PartActions::FillMenu(QMenu& menu)
     menu.addActions({undo, redo});
     menu.addSeparator();
     menu.addAction(m_export);
+    menu.addSeparator();
+    menu.addAction(NewAction(tr("&Limits of building"), "action_BuildLimits", this,
+                             &PartActions::AskForLimits));
 }
 
 void PartActions::OfferKinds(QMenu& menu, FeatureGroup group)
@@ -313,9 +321,9 @@ QString PartActions::AskForStepFile()
 void PartActions::ExportStep()
 {
     const QStringList& selected = m_tree.Selected();
-    const TopoDS_Shape shape =
-        selected.size() == 1 ? m_model.ShapeOf(selected.first()) : m_model.Shape();
-    if (shape.IsNull()) {
+    const QString feature = selected.size() == 1 ? selected.first() : QString();
+    const TopoDS_Shape shape = feature.isEmpty() ? m_model.Shape() : m_model.ShapeOf(feature);
+    if (shape.IsNull() && !m_model.IsBusy()) {
         PostMessageToChannel(WarningLevel, tr("There is no shape to export"));
         return;
     }
@@ -324,9 +332,14 @@ void PartActions::ExportStep()
     dialog.setDefaultSuffix(QStringLiteral("step"));
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const QString path = dialog.selectedFiles().value(0);
-    Try([&shape, &path] {
-        WriteStepFile(shape, path);
-        PostMessageToChannel(InfoLevel, tr("Wrote %1").arg(QDir::toNativeSeparators(path)));
-    });
+    m_model.ExportStep(feature, dialog.selectedFiles().value(0));
+}
+
+void PartActions::AskForLimits()
+{
+    BuildLimitsDialog dialog(BuildLimits::Stored(), m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    dialog.Limits().Store();
+    m_model.SetLimits(dialog.Limits());
 }

@@ -60,6 +60,7 @@ private:
 
     QString AskForStepFile();
     void ExportStep();
+    void AskForLimits();
 
     PartModel& m_model;
     FeatureTree& m_tree;

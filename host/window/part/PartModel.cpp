@@ -4,7 +4,10 @@
 #include "FeatureKind.h"
 #include "JsonSection.h"
 
-#include <Standard_Failure.hxx>
+#include <QCoreApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
 
 /// One change, as the whole list before and after: a list is small, and no detail is lost.
 class PartModel::ChangeCommand : public QUndoCommand
@@ -61,6 +64,8 @@ void CheckNewName(const QString& name)
 PartModel::PartModel(QObject* parent)
     : QObject(parent)
 {
+    connect(&m_worker, &KernelWorker::Progressed, this, &PartModel::ShowProgress);
+    connect(&m_worker, &KernelWorker::Finished, this, &PartModel::TakeReply);
 }
 
 PartModel::~PartModel() = default;
@@ -88,8 +93,16 @@ void PartModel::Open(const FeatureList& features, const std::vector<Condition>& 
     m_conditions = conditions;
     m_folder = folder;
     m_part = BuiltPart();
+    m_measures = ShapeMeasures();
     m_builtFeatures = FeatureList();
+    m_builtPlan.clear();
     SetFeatures(features);
+}
+
+void PartModel::WaitUntilIdle() const
+{
+    while (IsBusy())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void PartModel::Rebuild()
@@ -99,32 +112,106 @@ void PartModel::Rebuild()
 
 void PartModel::SetFeatures(const FeatureList& features)
 {
+    if (m_isExporting)
+        EndExport(tr("the part was changed meanwhile"));
     m_features = features;
     m_failure.clear();
     m_failedFeature.clear();
     Build();
-    if (HasFailed())
-        Q_EMIT BuildFailed(m_failure);
-    else
-        Q_EMIT PartBuilt();
-    Q_EMIT Changed();
 }
 
 void PartModel::Build()
 {
+    PartReply failed;
     try {
         CheckConditions(m_conditions);
-        m_part = FeatureBuilder::Build(m_features, m_folder);
-        m_builtFeatures = m_features;
+        PartRequest request;
+        request.plan = PlanPart(m_features, m_folder);
+        m_plan = request.plan;
+        m_worker.Start(request, m_part);
+        Q_EMIT Changed();
+        return;
     } catch (const FeatureError& error) {
-        m_failedFeature = error.FeatureName();
-        m_failure = error.Reason();
+        failed.failedFeature = error.FeatureName();
+        failed.cause = error.Cause();
     } catch (const BuildError& error) {
-        m_failure = error.Reason();
-    } catch (const Standard_Failure& failure) {
-        m_failure = tr("The geometry kernel failed: %1")
-                        .arg(QString::fromLocal8Bit(failure.GetMessageString()));
+        failed.cause = error.Reason();
     }
+    m_worker.Discard();
+    Q_EMIT Changed();
+    Fail(failed);
+}
+
+void PartModel::Fail(const PartReply& reply)
+{
+    m_failedFeature = reply.failedFeature;
+    m_failure = reply.Reason();
+    Q_EMIT BuildFailed(m_failure);
+    if (m_export.has_value())
+        EndExport(tr("the part could not be built"));
+}
+
+void PartModel::ShowProgress(int step)
+{
+    if (m_isExporting)
+        Q_EMIT Progressed(tr("Writing %1").arg(QFileInfo(m_export->path).fileName()));
+    else if (step < int(m_plan.size()))
+        Q_EMIT Progressed(tr("Building %1, %2 of %3")
+                              .arg(Quoted(m_plan[std::size_t(step)].name))
+                              .arg(step + 1)
+                              .arg(m_plan.size()));
+    else
+        Q_EMIT Progressed(tr("Measuring the part"));
+}
+
+void PartModel::TakeReply(const PartReply& reply)
+{
+    const bool isDone = reply.outcome == PartReply::Done;
+    if (m_isExporting) {
+        EndExport(isDone ? QString() : reply.Reason());
+        return;
+    }
+    if (!isDone) {
+        Fail(reply);
+        return;
+    }
+    m_part = reply.part;
+    m_measures = reply.measures;
+    m_builtFeatures = m_features;
+    m_builtPlan = m_plan;
+    Q_EMIT PartBuilt();
+    if (m_export.has_value())
+        StartExport();
+}
+
+void PartModel::ExportStep(const QString& feature, const QString& path)
+{
+    m_export = Export{feature, path};
+    if (!IsBusy())
+        StartExport();
+}
+
+void PartModel::StartExport()
+{
+    PartRequest request;
+    request.plan = m_builtPlan;
+    request.wantsShapes = false;
+    request.stepPath = QFileInfo(m_export->path).absoluteFilePath();
+    if (!m_export->feature.isEmpty())
+        request.stepFeature = m_builtFeatures.Find(m_export->feature);
+    m_isExporting = true;
+    m_worker.Start(request);
+}
+
+void PartModel::EndExport(const QString& failure)
+{
+    m_isExporting = false;
+    const QString path = QDir::toNativeSeparators(m_export->path);
+    m_export.reset();
+    if (failure.isEmpty())
+        Q_EMIT Exported(path);
+    else
+        Q_EMIT ExportFailed(tr("The export failed: %1").arg(failure));
 }
 
 void PartModel::Push(const FeatureList& features, const QString& text)

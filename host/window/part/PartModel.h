@@ -4,9 +4,12 @@
 #include "FeatureBuilder.h"
 #include "FeatureList.h"
 #include "HostError.h"
+#include "KernelWorker.h"
 
 #include <QObject>
 #include <QUndoStack>
+
+#include <optional>
 
 /// Why a change of the features is rejected: one line.
 class ModellingError : public HostError
@@ -17,8 +20,8 @@ public:
 
 /// The part of the open project: its features, their bodies, and the changes that can be undone.
 ///
-/// Each change goes onto the undo stack and rebuilds the part. If that fails, the last valid shape
-/// stays.
+/// Each change goes onto the undo stack and starts a build in the worker process. Until it ends,
+/// and if it fails, the last valid shape stays. A newer change replaces a build that is running.
 class PartModel : public QObject
 {
     Q_OBJECT
@@ -33,10 +36,18 @@ public:
 
     /// The last valid part; null before the first one.
     const TopoDS_Shape& Shape() const { return m_part.shape; }
+    const ShapeMeasures& Measures() const { return m_measures; } ///< Of Shape().
     /// The body of @p feature in the last valid part; null if it has none.
     TopoDS_Shape ShapeOf(const QString& feature) const;
     /// The features that no other feature uses, in order: the bodies of the part.
     QStringList Bodies() const;
+
+    /// Whether a build or an export is running.
+    bool IsBusy() const { return m_worker.IsBusy(); }
+    /// Waits, while events are processed, until nothing is running.
+    void WaitUntilIdle() const;
+    /// Ends a build or an export, within 0.2 s.
+    void Cancel() { m_worker.Cancel(); }
 
     /// Whether the last build failed, why, and at which feature; empty if not at a feature.
     bool HasFailed() const { return !m_failure.isEmpty(); }
@@ -63,13 +74,26 @@ public:
     /// Rejected if another feature uses one of them.
     void Remove(const QStringList& names);
 
+    /// What later builds may use.
+    void SetLimits(const BuildLimits& limits) { m_worker.SetLimits(limits); }
+
+    /// Starts to write the body of @p feature, or the whole part if that is empty, to a STEP file.
+    /// Waits for a build that is running.
+    void ExportStep(const QString& feature, const QString& path);
+
 Q_SIGNALS:
-    /// The features, the values of their fields or the result of the build changed.
+    /// The features or the values of their fields changed. A build has been started unless it has
+    /// failed already.
     void Changed();
-    /// The part was built. Precedes Changed().
+    /// What the build is doing, such as "holes, 7 of 11".
+    void Progressed(const QString& text);
+    /// The part was built.
     void PartBuilt();
-    /// The part could not be built; @p reason names the feature. Precedes Changed().
+    /// The part could not be built; @p reason names the feature.
     void BuildFailed(const QString& reason);
+    /// A STEP file was written.
+    void Exported(const QString& path);
+    void ExportFailed(const QString& reason);
 
 private:
     class ChangeCommand;
@@ -77,15 +101,34 @@ private:
     void Push(const FeatureList& features, const QString& text);
     void SetFeatures(const FeatureList& features);
     void Build();
+    void Fail(const PartReply& reply);
+    void ShowProgress(int step);
+    void TakeReply(const PartReply& reply);
 
     FeatureList m_features;
     std::vector<Condition> m_conditions;
     QString m_folder;
 
     BuiltPart m_part;
+    ShapeMeasures m_measures;
     FeatureList m_builtFeatures; // Those of m_part.
+    PartPlan m_builtPlan;
     QString m_failure;
     QString m_failedFeature;
+
+    KernelWorker m_worker;
+    PartPlan m_plan; // That is being built.
+
+    struct Export
+    {
+        QString feature;
+        QString path;
+    };
+    void EndExport(const QString& failure = QString());
+    void StartExport();
+
+    std::optional<Export> m_export; // That is running or waits for the build.
+    bool m_isExporting = false;
 
     QUndoStack m_undoStack;
 };

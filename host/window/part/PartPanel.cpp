@@ -7,11 +7,16 @@
 #include "ShapePicture.h"
 
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
 #include <QTime>
 #include <QVBoxLayout>
 
 namespace {
+
+constexpr int ProgressDelay = 200; // ms
 
 constexpr double CubicMillimetresPerCubicCentimetre = 1e3;
 constexpr double SquareMillimetresPerSquareCentimetre = 1e2;
@@ -57,6 +62,8 @@ PartPanel::PartPanel(QWidget* parent)
     form->addRow(m_overlaps);
 
     m_layout->addLayout(form);
+    m_progressRow = NewProgressRow();
+    m_layout->addWidget(m_progressRow);
     const QString reason = PartView::UnavailableReason();
     if (reason.isEmpty()) {
         m_view = new PartView(this);
@@ -69,6 +76,48 @@ PartPanel::PartPanel(QWidget* parent)
 }
 
 PartPanel::~PartPanel() = default;
+
+QWidget* PartPanel::NewProgressRow()
+{
+    auto* const row = new QWidget(this);
+    m_progress = new QLabel(row);
+    m_progress->setObjectName(QStringLiteral("label_Progress"));
+    auto* const cancel = new QPushButton(tr("Cancel"), row);
+    cancel->setObjectName(QStringLiteral("pushButton_CancelBuild"));
+    auto* const layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_progress, 1);
+    layout->addWidget(cancel);
+    // The view does not change its height with each build.
+    QSizePolicy policy = row->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    row->setSizePolicy(policy);
+    row->hide();
+
+    // Belongs to the row: while that is hidden, Escape is free for others.
+    auto* const escape = new QShortcut(QKeySequence(Qt::Key_Escape), row);
+    for (const auto signal : {&QShortcut::activated, &QShortcut::activatedAmbiguously})
+        connect(escape, signal, this, &PartPanel::CancelWanted);
+    connect(cancel, &QPushButton::clicked, this, &PartPanel::CancelWanted);
+
+    m_progressDelay.setSingleShot(true);
+    m_progressDelay.setInterval(ProgressDelay);
+    connect(&m_progressDelay, &QTimer::timeout, row, &QWidget::show);
+    return row;
+}
+
+void PartPanel::ShowProgress(const QString& text)
+{
+    m_progress->setText(text);
+    if (m_progressRow->isHidden() && !m_progressDelay.isActive())
+        m_progressDelay.start();
+}
+
+void PartPanel::EndProgress()
+{
+    m_progressDelay.stop();
+    m_progressRow->hide();
+}
 
 void PartPanel::UsePicture(const QString& reason)
 {
@@ -94,15 +143,14 @@ void PartPanel::Show(const TopoDS_Shape& shape)
     m_warning.clear();
 }
 
-void PartPanel::ShowShape(const TopoDS_Shape& shape, double density)
+void PartPanel::ShowShape(const TopoDS_Shape& shape, const ShapeMeasures& measures, double density)
 {
-    const ShapeMeasures measures = Measure(shape);
     const std::array<double, 6>& box = measures.boundingBox;
     m_volume->setText(
         tr("%1 cm³").arg(ShortText(measures.volume / CubicMillimetresPerCubicCentimetre)));
     m_area->setText(
         tr("%1 cm²").arg(ShortText(measures.area / SquareMillimetresPerSquareCentimetre)));
-    m_mass->setText(tr("%1 kg").arg(ShortText(Mass(measures, density))));
+    m_mass->setText(tr("%1 kg").arg(ShortText(measures.Mass(density))));
     m_size->setText(tr("%1 × %2 × %3 mm")
                         .arg(LengthText(box[3] - box[0]), LengthText(box[4] - box[1]),
                              LengthText(box[5] - box[2])));

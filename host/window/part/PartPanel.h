@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <TopoDS_Shape.hxx>
 
@@ -7,6 +8,7 @@ class PartView;
 class QLabel;
 class QVBoxLayout;
 class ShapePicture;
+struct ShapeMeasures;
 
 /// Shows the part: in three dimensions, with its measures, and whether the last build succeeded.
 ///
@@ -21,7 +23,12 @@ public:
     ~PartPanel() override;
 
     /// Shows a shape that was just built; @p density is in kg/m3.
-    void ShowShape(const TopoDS_Shape& shape, double density);
+    void ShowShape(const TopoDS_Shape& shape, const ShapeMeasures& measures, double density);
+
+    /// Shows what a build is doing, and a button to cancel it. Builds of less than a moment show
+    /// neither.
+    void ShowProgress(const QString& text);
+    void EndProgress();
 
     /// Shows why the last build failed. The last valid shape and its measures stay.
     void ShowFailure(const QString& reason);
@@ -32,7 +39,12 @@ public:
     /// The view, which belongs to this; null where there is no OpenGL.
     PartView* View() const { return m_view; }
 
+Q_SIGNALS:
+    /// The user pressed "Cancel" or Escape while a build was running.
+    void CancelWanted();
+
 private:
+    QWidget* NewProgressRow();
     void UsePicture(const QString& reason);
     void Show(const TopoDS_Shape& shape);
     void ShowOverlaps(const QString& warning);
@@ -43,6 +55,9 @@ private:
     TopoDS_Shape m_shape;
     QString m_warning; // Why there is a picture; empty once it was posted.
     QLabel* m_status;
+    QWidget* m_progressRow;
+    QLabel* m_progress;
+    QTimer m_progressDelay;
     QLabel* m_volume;
     QLabel* m_area;
     QLabel* m_mass;

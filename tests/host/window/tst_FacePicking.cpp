@@ -3,6 +3,7 @@
 #include "EmptyDesignStores.h"
 #include "FeatureTree.h"
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "MainWindow.h"
 #include "MenuUser.h"
 #include "ModalDriver.h"
@@ -48,12 +49,24 @@ public:
         if (!QTest::qWaitForWindowActive(&window))
             FailTest("The window does not become active");
         view = &Find<PartView>(window, "modelView");
-        window.Part().Add(NewFeature("cube", "box"));
+        Add(NewFeature("cube", "box"));
         Trigger("action_RightView");
         view->grab();
     }
 
-    void Trigger(const char* name) const { ::Trigger(window, name); }
+    void Add(const Feature& feature)
+    {
+        window.Part().Add(feature);
+        window.Part().WaitUntilIdle();
+        // The layout follows the messages below the view.
+        QCoreApplication::sendPostedEvents();
+    }
+    /// Also waits for the part that the action changes.
+    void Trigger(const char* name)
+    {
+        ::Trigger(window, name);
+        window.Part().WaitUntilIdle();
+    }
 
     // With "Pick One Face" and OK; the window then waits for the click.
     void AskForFace(const char* action)
@@ -73,10 +86,11 @@ public:
                          Qt::NoModifier);
         QCoreApplication::sendEvent(view, &move);
     }
-    void ClickInTheMiddle() const
+    void ClickInTheMiddle()
     {
         MoveTo(view->rect().center());
         QTest::mouseClick(view, Qt::LeftButton, {}, view->rect().center());
+        window.Part().WaitUntilIdle();
     }
 
     const Feature& Last() { return window.Part().Features().Features().back(); }
@@ -120,8 +134,7 @@ void tst_FacePicking::AClickNamesTheFaceOfTheMirror()
 void tst_FacePicking::AnEditedMirrorShowsItsInputToPickFrom()
 {
     OpenWindow open;
-    open.window.Part().Add(
-        NewFeature("twin", "mirrorFace", {"cube"}, {{"x", "10"}, {"y", "5"}, {"z", "5"}}));
+    open.Add(NewFeature("twin", "mirrorFace", {"cube"}, {{"x", "10"}, {"y", "5"}, {"z", "5"}}));
     QCOMPARE(open.Extent(), QList<int>({10, 20}));
     open.window.Features().Select("twin");
     open.Trigger("action_LeftView");
@@ -136,8 +149,8 @@ void tst_FacePicking::AnEditedMirrorShowsItsInputToPickFrom()
 void tst_FacePicking::AFaceOfAnotherBodyIsNotInTheWay()
 {
     OpenWindow open;
-    open.window.Part().Add(NewFeature("screen", "box"));
-    open.window.Part().Add(NewFeature("before", "move", {"screen"}, {{"dx", "30"}}));
+    open.Add(NewFeature("screen", "box"));
+    open.Add(NewFeature("before", "move", {"screen"}, {{"dx", "30"}}));
     open.window.Features().Select("cube");
     open.AskForFace("action_Add_mirror");
     open.ClickInTheMiddle();
@@ -148,8 +161,8 @@ void tst_FacePicking::AFaceOfAnotherBodyIsNotInTheWay()
 void tst_FacePicking::EscapeBringsThePartBack()
 {
     OpenWindow open;
-    open.window.Part().Add(NewFeature("high", "box"));
-    open.window.Part().Add(NewFeature("moved", "move", {"high"}, {{"dz", "12"}}));
+    open.Add(NewFeature("high", "box"));
+    open.Add(NewFeature("moved", "move", {"high"}, {{"dz", "12"}}));
     open.window.Features().Select("cube");
     open.Trigger("action_RightView");
     const QImage before = open.view->grab().toImage();
@@ -202,5 +215,5 @@ void tst_FacePicking::ThePositionFollowsTheCursor()
     QCOMPARE(shown("lineEdit"), QString());
 }
 
-TARN_TEST_MAIN(tst_FacePicking, HostApplication)
+TARN_HOST_TEST_MAIN(tst_FacePicking, HostApplication)
 #include "tst_FacePicking.moc"

@@ -1,4 +1,5 @@
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "OpenWindow.h"
 #include "TestFiles.h"
 
@@ -59,6 +60,7 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                                  "Model/Undo",
                                  "Model/Redo",
                                  "Model/Export STEP",
+                                 "Model/Limits of building",
                                  "Analysis/Analysis type",
                                  "Analysis/Boundary condition",
                                  "Analysis/Load force",
@@ -170,7 +172,7 @@ void tst_MainWindow::ClosingAsksBeforeDiscardingChanges()
     OpenWindow open;
     const QString directory = EnterTemporaryDirectory();
     Put("mine.json", SampleProject());
-    open.window.OpenProject(Project::Load(directory + "/mine.json"));
+    open.OpenProject(directory + "/mine.json");
     open.Trigger("action_Add_box");
     open.user.Answer(answer);
     open.window.close();
@@ -192,5 +194,5 @@ void tst_MainWindow::WithoutChangesNothingIsAsked()
     QVERIFY(!open.window.isVisible());
 }
 
-TARN_TEST_MAIN(tst_MainWindow, HostApplication)
+TARN_HOST_TEST_MAIN(tst_MainWindow, HostApplication)
 #include "tst_MainWindow.moc"

@@ -1,4 +1,5 @@
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "OpenWindow.h"
 #include "ParameterOverview.h"
 
@@ -209,5 +210,5 @@ void tst_MainWindowExperiments::AppliedValuesBecomeTheDesignOfTheNextRun()
     QCOMPARE(Stored("thickness"), 33.0);
 }
 
-TARN_TEST_MAIN(tst_MainWindowExperiments, HostApplication)
+TARN_HOST_TEST_MAIN(tst_MainWindowExperiments, HostApplication)
 #include "tst_MainWindowExperiments.moc"

@@ -1,5 +1,6 @@
 #include "FileChoice.h"
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "OpenWindow.h"
 #include "ParameterOverview.h"
 
@@ -170,5 +171,5 @@ void tst_MainWindowParameters::AFailedBuildIsReportedOnceAndKeepsTheLastShape()
     QVERIFY(open.Shown("label_Status").startsWith("Built at "));
 }
 
-TARN_TEST_MAIN(tst_MainWindowParameters, HostApplication)
+TARN_HOST_TEST_MAIN(tst_MainWindowParameters, HostApplication)
 #include "tst_MainWindowParameters.moc"

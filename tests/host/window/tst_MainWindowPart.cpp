@@ -1,4 +1,5 @@
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "OpenWindow.h"
 
 #include <QTableWidget>
@@ -52,11 +53,14 @@ void tst_MainWindowPart::UndoAndRedoHaveShortcuts()
     auto& fields = Find<QTableWidget>(open.window, "fieldTable");
     open.SelectFeature("plate");
     fields.item(2, 1)->setText("150");
+    open.window.Part().WaitUntilIdle();
     QCOMPARE(open.Shown("label_BoundingBox"), QString("300 × 300 × 50 mm"));
     QTest::keyClick(&open.window, Qt::Key_Z, Qt::ControlModifier);
+    open.window.Part().WaitUntilIdle();
     QCOMPARE(open.Shown("label_BoundingBox"), box);
     QCOMPARE(fields.item(2, 1)->text(), QString("outer_diameter / 2"));
     QTest::keyClick(&open.window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    open.window.Part().WaitUntilIdle();
     QCOMPARE(open.Shown("label_BoundingBox"), QString("300 × 300 × 50 mm"));
 }
 
@@ -98,6 +102,7 @@ void tst_MainWindowPart::AFailedRebuildMarksTheFeatureAndKeepsTheShape()
     const PostedMessages posted;
     open.SelectFeature("flange");
     Find<QTableWidget>(open.window, "fieldTable").item(2, 1)->setText("80");
+    open.window.Part().WaitUntilIdle();
     const QStringList errors = posted.At(ErrorLevel);
     QCOMPARE(errors.size(), 1);
     QVERIFY2(errors[0].startsWith("The part cannot be built: flange: "), qPrintable(errors[0]));
@@ -141,5 +146,5 @@ void tst_MainWindowPart::AZeroDirectionIsReportedAsAWarning()
     QCOMPARE(open.Shown("label_BoundingBox"), QString("200 × 50 × 200 mm"));
 }
 
-TARN_TEST_MAIN(tst_MainWindowPart, HostApplication)
+TARN_HOST_TEST_MAIN(tst_MainWindowPart, HostApplication)
 #include "tst_MainWindowPart.moc"

@@ -2,6 +2,7 @@
 #include "EmptyAttributeNames.h"
 #include "FileChoice.h"
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "OpenWindow.h"
 #include "PartModel.h"
 #include "TestFiles.h"
@@ -53,7 +54,7 @@ void tst_MainWindowProjects::AnotherProjectHasAnAnalysisOfItsOwn()
     open.user.Then(accept);
     open.Trigger("action_LoadForce");
     QCOMPARE(open.window.Analysis().Loads().size(), std::size_t(1));
-    open.window.OpenProject(Project::Load(Project::SamplePath()));
+    open.OpenProject(Project::SamplePath());
     QVERIFY(open.window.Analysis().Loads().empty());
     open.user.Then(accept);
     open.Trigger("action_LoadForce");
@@ -107,9 +108,9 @@ void tst_MainWindowProjects::ASavedProjectIsReadBackUnchanged()
     QVERIFY(open.user.IsDone());
     QVERIFY(!open.window.isWindowModified());
 
-    open.window.OpenProject(Project::Load(Project::SamplePath()));
+    open.OpenProject(Project::SamplePath());
     QVERIFY(open.Shown("label_Mass") != mass);
-    open.window.OpenProject(Project::Load(directory + "/saved.json"));
+    open.OpenProject(directory + "/saved.json");
     QVERIFY(open.window.Part().Features() == features);
     QCOMPARE(open.Shown("label_Mass"), mass);
     QCOMPARE(Stored("outer_diameter"), 240.0);
@@ -120,7 +121,7 @@ void tst_MainWindowProjects::SaveOverwritesTheFileOfTheProject()
     OpenWindow open;
     const QString directory = EnterTemporaryDirectory();
     Put("mine.json", SampleProject());
-    open.window.OpenProject(Project::Load(directory + "/mine.json"));
+    open.OpenProject(directory + "/mine.json");
     open.SelectFeature("flange");
     open.Trigger("action_DeleteFeature");
     QVERIFY(open.window.isWindowModified());
@@ -173,7 +174,7 @@ void tst_MainWindowProjects::AFailedSaveIsReported()
     const QString directory = EnterTemporaryDirectory();
     QVERIFY(QDir().mkpath("gone"));
     Put("gone/mine.json", SampleProject());
-    open.window.OpenProject(Project::Load(directory + "/gone/mine.json"));
+    open.OpenProject(directory + "/gone/mine.json");
     open.SelectFeature("flange");
     open.Trigger("action_DeleteFeature");
     QVERIFY(QDir("gone").removeRecursively());
@@ -214,5 +215,5 @@ void tst_MainWindowProjects::OpeningAsksBeforeDiscardingChanges()
     QVERIFY(open.window.Part().Features().Find("box") >= 0);
 }
 
-TARN_TEST_MAIN(tst_MainWindowProjects, HostApplication)
+TARN_HOST_TEST_MAIN(tst_MainWindowProjects, HostApplication)
 #include "tst_MainWindowProjects.moc"

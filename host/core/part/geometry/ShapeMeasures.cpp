@@ -50,8 +50,8 @@ ShapeMeasures Measure(const TopoDS_Shape& shape)
     return GuardKernelCall([&shape] { return MeasuresOf(shape); });
 }
 
-double Mass(const ShapeMeasures& measures, double density)
+double ShapeMeasures::Mass(double density) const
 {
     constexpr double CubicMillimetresPerCubicMetre = 1e9;
-    return measures.volume * density / CubicMillimetresPerCubicMetre;
+    return volume * density / CubicMillimetresPerCubicMetre;
 }

@@ -13,10 +13,10 @@ struct ShapeMeasures
     double area = 0.0;                   ///< mm2
     std::array<double, 6> boundingBox{}; ///< Minimum x, y, z, maximum x, y, z, in mm; tight.
     BodyOverlaps overlaps;
+
+    /// The mass in kg; @p density is in kg/m3.
+    double Mass(double density) const;
 };
 
 /// Measures @p shape. @throws Standard_Failure if the kernel fails
 ShapeMeasures Measure(const TopoDS_Shape& shape);
-
-/// The mass in kg; @p density is in kg/m3.
-double Mass(const ShapeMeasures& measures, double density);

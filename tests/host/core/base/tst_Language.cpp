@@ -2,12 +2,12 @@
 #include "FeatureList.h"
 #include "FieldValues.h"
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "Language.h"
 #include "MainWindow.h"
 #include "MatrixArrayDlg.h"
 #include "NewFeature.h"
 #include "StepFile.h"
-#include "TestCase.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -189,5 +189,5 @@ void tst_Language::TheBestOfTheUsersLanguagesIsTaken()
     QTEST(Language::BestOf(wanted), "taken");
 }
 
-TARN_TEST_MAIN(tst_Language, HostApplication)
+TARN_HOST_TEST_MAIN(tst_Language, HostApplication)
 #include "tst_Language.moc"

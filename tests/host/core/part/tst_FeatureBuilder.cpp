@@ -66,7 +66,7 @@ void tst_FeatureBuilder::TheSampleFlangeHasTheVolumeOfItsFormula()
     StoreScalar("bolt_count", count);
     StoreScalar("fillet_radius", fillet);
     QVERIFY(EvaluateParameters().empty());
-    const TopoDS_Shape flange = project.Build().shape;
+    const TopoDS_Shape flange = FeatureBuilder::Build(project.Features()).shape;
     const double expected = FlangeVolume(70.0, count, fillet);
     const double built = MassOf(flange).volume;
     QVERIFY2(std::abs(built - expected) <= 1e-9 * expected,

@@ -1,6 +1,6 @@
 #include "CommandLine.h"
+#include "HostTestMain.h"
 #include "Project.h"
-#include "TestCase.h"
 
 class tst_CommandLine : public TestCase
 {
@@ -152,5 +152,5 @@ void tst_CommandLine::BadArgumentsAreToldInOneLine()
     }
 }
 
-TARN_TEST_MAIN(tst_CommandLine)
+TARN_HOST_TEST_MAIN(tst_CommandLine)
 #include "tst_CommandLine.moc"

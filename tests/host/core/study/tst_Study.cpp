@@ -1,7 +1,7 @@
 #include "EmptyDesignStores.h"
+#include "HostTestMain.h"
 #include "Project.h"
 #include "Study.h"
-#include "TestCase.h"
 #include "TestFiles.h"
 
 #include <cmath>
@@ -149,5 +149,5 @@ void tst_Study::ABadStudyIsRefused()
     }
 }
 
-TARN_TEST_MAIN(tst_Study)
+TARN_HOST_TEST_MAIN(tst_Study)
 #include "tst_Study.moc"

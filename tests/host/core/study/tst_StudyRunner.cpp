@@ -1,9 +1,9 @@
 #include "EmptyDesignStores.h"
 #include "FlangeStudy.h"
+#include "HostTestMain.h"
 #include "Project.h"
 #include "ResultsTable.h"
 #include "StudyRunner.h"
-#include "TestCase.h"
 #include "TestFiles.h"
 
 #include <QDir>
@@ -319,5 +319,5 @@ void tst_StudyRunner::AFolderThatCannotBeMadeIsTold()
     QCOMPARE(RunStudy(Flange()).error, QString("out: cannot create the folder"));
 }
 
-TARN_TEST_MAIN(tst_StudyRunner)
+TARN_HOST_TEST_MAIN(tst_StudyRunner)
 #include "tst_StudyRunner.moc"

@@ -3,12 +3,12 @@
 #include "EmptyDesignStores.h"
 #include "HostApplication.h"
 #include "HostError.h"
+#include "HostTestMain.h"
 #include "KVMaterialData.h"
 #include "KVPropertyData.h"
 #include "ModalDriver.h"
 #include "Project.h"
 #include "Screenshots.h"
-#include "TestCase.h"
 
 #include <QDir>
 #include <QFile>
@@ -138,5 +138,5 @@ void tst_Screenshots::TheWorkingDirectoryAndTheStoresStayClean()
     QVERIFY(!AttributeCommonMgr::GetInstance()->FindName(name));
 }
 
-TARN_TEST_MAIN(tst_Screenshots, HostApplication)
+TARN_HOST_TEST_MAIN(tst_Screenshots, HostApplication)
 #include "tst_Screenshots.moc"

@@ -34,7 +34,12 @@ struct Modelling
     }
 
     QAction& Action(const char* name) const { return FindAction(window, name); }
-    void Trigger(const char* name) const { ::Trigger(window, name); }
+    /// Also waits for the part that the action changes.
+    void Trigger(const char* name) const
+    {
+        ::Trigger(window, name);
+        model.WaitUntilIdle();
+    }
     void Select(const QStringList& names)
     {
         auto& list = Find<QTreeWidget>(window, "featureTree");
@@ -57,6 +62,7 @@ struct Modelling
         model.Add(NewFeature("plate", "box"));
         model.Add(NewFeature("pin", "cylinder", {}, {{"radius", "2"}}));
         model.Add(NewFeature("body", "fuse", {"plate", "pin"}));
+        model.WaitUntilIdle();
     }
     void CheckRefused(const QString& words) const
     {

@@ -1,10 +1,10 @@
 #include "DrawerOutput.h"
 #include "EmptyDesignStores.h"
 #include "FeatureFields.h"
+#include "HostTestMain.h"
 #include "MessageLevel.h"
 #include "NewFeature.h"
 #include "PartModel.h"
-#include "TestCase.h"
 
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -371,5 +371,5 @@ void tst_FeatureFields::AHalfTypedTextBelongsToItsOwnFeature()
     QCOMPARE(shown.posted.count(), 0);
 }
 
-TARN_TEST_MAIN(tst_FeatureFields)
+TARN_HOST_TEST_MAIN(tst_FeatureFields)
 #include "tst_FeatureFields.moc"

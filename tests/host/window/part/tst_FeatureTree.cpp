@@ -1,8 +1,8 @@
 #include "EmptyDesignStores.h"
 #include "FeatureTree.h"
+#include "HostTestMain.h"
 #include "NewFeature.h"
 #include "PartModel.h"
-#include "TestCase.h"
 
 #include <QAction>
 #include <QSignalSpy>
@@ -184,5 +184,5 @@ void tst_FeatureTree::OfferedActionsHaveTheirKeysInTheList()
     QCOMPARE(triggered.count(), 1);
 }
 
-TARN_TEST_MAIN(tst_FeatureTree)
+TARN_HOST_TEST_MAIN(tst_FeatureTree)
 #include "tst_FeatureTree.moc"

@@ -1,4 +1,5 @@
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "Modelling.h"
 #include "ShapeMeasures.h"
 
@@ -274,5 +275,5 @@ void tst_PartActions::TheSelectionEnablesActions()
     QCOMPARE(enabled(), QString("Suppress DeleteFeature"));
 }
 
-TARN_TEST_MAIN(tst_PartActions, HostApplication)
+TARN_HOST_TEST_MAIN(tst_PartActions, HostApplication)
 #include "tst_PartActions.moc"

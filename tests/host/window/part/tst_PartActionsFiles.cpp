@@ -1,6 +1,7 @@
 #include "FileChoice.h"
 #include "FullDisk.h"
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "Modelling.h"
 #include "ShapeMeasures.h"
 
@@ -54,6 +55,7 @@ void tst_PartActionsFiles::TheSelectedFeaturesShapeIsExported()
     Feature import = NewFeature("import", "import");
     import.file = directory + "/plate.step";
     modelling.model.Add(import);
+    modelling.model.WaitUntilIdle();
     QVERIFY(qFuzzyCompare(Measure(modelling.model.ShapeOf("import")).volume, 1000.0));
 }
 
@@ -129,6 +131,7 @@ void tst_PartActionsFiles::AVanishedFileIsReportedAndTheShapeStays()
     const TopoDS_Shape shape = modelling.model.Shape();
     QVERIFY(QFile::remove("part.step"));
     modelling.model.Rebuild();
+    modelling.model.WaitUntilIdle();
     QCOMPARE(modelling.model.FailedFeature(), QString("import"));
     QVERIFY(modelling.model.Failure().contains("part.step: cannot be opened"));
     QVERIFY(modelling.model.Shape().IsEqual(shape));
@@ -140,5 +143,5 @@ void tst_PartActionsFiles::AVanishedFileIsReportedAndTheShapeStays()
     QCOMPARE(modelling.Names(), QStringList({"box", "import"}));
 }
 
-TARN_TEST_MAIN(tst_PartActionsFiles, HostApplication)
+TARN_HOST_TEST_MAIN(tst_PartActionsFiles, HostApplication)
 #include "tst_PartActionsFiles.moc"

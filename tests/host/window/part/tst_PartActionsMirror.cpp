@@ -1,4 +1,5 @@
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "Modelling.h"
 #include "PartView.h"
 
@@ -123,5 +124,5 @@ void tst_PartActionsMirror::ATypedPointNeedsAWaitingMirror()
     QCOMPARE(modelling.model.Features().Size(), 3);
 }
 
-TARN_TEST_MAIN(tst_PartActionsMirror, HostApplication)
+TARN_HOST_TEST_MAIN(tst_PartActionsMirror, HostApplication)
 #include "tst_PartActionsMirror.moc"

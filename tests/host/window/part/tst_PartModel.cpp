@@ -1,8 +1,9 @@
 #include "EmptyDesignStores.h"
+#include "HostTestMain.h"
 #include "NewFeature.h"
 #include "PartModel.h"
 #include "ShapeMeasures.h"
-#include "TestCase.h"
+#include "StepFile.h"
 
 #include <QSignalSpy>
 
@@ -28,6 +29,12 @@ private Q_SLOTS:
     void TheShapeOfAFeatureIsThatOfTheLastGoodPart();
     void BodiesAreTheUnusedFeatures();
     void OpeningForgetsWhatWasBefore();
+    void ProgressNamesTheFeature();
+    void ACancelledBuildKeepsTheLastGoodShape();
+    void ANewerChangeReplacesTheBuild();
+    void AnExportWaitsForTheBuild();
+    void AnExportFailsWithTheBuild();
+    void AChangeEndsAnExport();
 };
 
 namespace {
@@ -45,7 +52,11 @@ FeatureList SampleList()
 
 struct OpenModel
 {
-    OpenModel() { model.Open(SampleList(), {}, {}); }
+    OpenModel()
+    {
+        model.Open(SampleList(), {}, {});
+        model.WaitUntilIdle();
+    }
 
     EmptyDesignStores stores;
     PartModel model;
@@ -61,6 +72,7 @@ QStringList Names(const PartModel& model)
 
 double Volume(const PartModel& model)
 {
+    model.WaitUntilIdle();
     return Measure(model.Shape()).volume;
 }
 
@@ -105,9 +117,11 @@ void tst_PartModel::AnAddedFeatureIsBuilt()
     QSignalSpy built(&model, &PartModel::PartBuilt);
     QSignalSpy changed(&model, &PartModel::Changed);
     model.Add(NewFeature("box", "box", {}, {{"z", "20"}}));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(built.count(), 0);
+    QCOMPARE(Volume(model), 2000.0);
     QCOMPARE(built.count(), 1);
     QCOMPARE(changed.count(), 1);
-    QCOMPARE(Volume(model), 2000.0);
 }
 
 void tst_PartModel::EveryChangeHasATextAndAWayBack_data()
@@ -231,6 +245,7 @@ void tst_PartModel::ANewNameReachesTheUsers()
 {
     OpenModel open;
     open.model.Change("pin", NewFeature("bolt", "cylinder"));
+    open.model.WaitUntilIdle();
     QCOMPARE(open.model.Features().At(2).inputs, QStringList({"plate", "bolt"}));
     QVERIFY(!open.model.HasFailed());
 }
@@ -243,6 +258,7 @@ void tst_PartModel::SeveralAreDeletedTogether()
     open.model.UndoStack().undo();
     QCOMPARE(Names(open.model), Before);
     open.model.Remove(Before);
+    open.model.WaitUntilIdle();
     QVERIFY(open.model.Shape().IsNull());
     QVERIFY(!open.model.HasFailed());
 }
@@ -269,6 +285,7 @@ void tst_PartModel::AFailureIsOverWithTheNextGoodBuild()
     open.model.Change("pin", NewFeature("pin", "cylinder", {}, {{"radius", "-2"}}));
     QVERIFY(open.model.HasFailed());
     open.model.UndoStack().undo();
+    open.model.WaitUntilIdle();
     QVERIFY(!open.model.HasFailed());
     QCOMPARE(open.model.FailedFeature(), QString());
 }
@@ -292,6 +309,7 @@ void tst_PartModel::AConditionThatDoesNotHoldFailsTheBuild()
     SetParameter("size", 10.0);
     PartModel model;
     model.Open(SampleList(), {{"size < 20", "The size is 20 or more."}}, {});
+    model.WaitUntilIdle();
     QVERIFY(!model.HasFailed());
     SetParameter("size", 20.0);
     model.Rebuild();
@@ -331,5 +349,85 @@ void tst_PartModel::OpeningForgetsWhatWasBefore()
     QCOMPARE(open.model.Folder(), QString("/somewhere"));
 }
 
-TARN_TEST_MAIN(tst_PartModel)
+void tst_PartModel::ProgressNamesTheFeature()
+{
+    const EmptyDesignStores stores;
+    PartModel model;
+    QStringList texts;
+    connect(&model, &PartModel::Progressed, this, [&](const QString& text) { texts << text; });
+    model.Open(SampleList(), {}, {});
+    QVERIFY(model.IsBusy());
+    model.WaitUntilIdle();
+    QCOMPARE(texts, QStringList({"Building \"plate\", 1 of 3", "Building \"pin\", 2 of 3",
+                                 "Building \"body\", 3 of 3", "Measuring the part"}));
+}
+
+void tst_PartModel::ACancelledBuildKeepsTheLastGoodShape()
+{
+    OpenModel open;
+    const double volume = Volume(open.model);
+    const TopoDS_Shape shape = open.model.Shape();
+    QSignalSpy failed(&open.model, &PartModel::BuildFailed);
+    open.model.Change("pin", NewFeature("pin", "cylinder", {}, {{"radius", "3"}}));
+    open.model.Cancel();
+    open.model.WaitUntilIdle();
+    QCOMPARE(failed.count(), 1);
+    QCOMPARE(open.model.Failure(), QString("The build was cancelled."));
+    QVERIFY(open.model.Shape().IsSame(shape));
+    // The change itself stays.
+    QCOMPARE(FieldText(open.model.Features().At(1), "radius"), QString("3"));
+    open.model.Rebuild();
+    QVERIFY(Volume(open.model) != volume);
+}
+
+void tst_PartModel::ANewerChangeReplacesTheBuild()
+{
+    OpenModel open;
+    QSignalSpy built(&open.model, &PartModel::PartBuilt);
+    open.model.Remove({"body"});
+    open.model.Remove({"pin"});
+    QCOMPARE(Volume(open.model), 1000.0);
+    QCOMPARE(built.count(), 1);
+}
+
+void tst_PartModel::AnExportWaitsForTheBuild()
+{
+    const QString directory = EnterTemporaryDirectory();
+    OpenModel open;
+    QSignalSpy exported(&open.model, &PartModel::Exported);
+    open.model.Remove({"body", "pin"});
+    open.model.ExportStep({}, directory + "/a.step");
+    open.model.WaitUntilIdle();
+    QCOMPARE(exported.count(), 1);
+    QVERIFY(qFuzzyCompare(Measure(ReadStepFile("a.step")).volume, 1000.0));
+}
+
+void tst_PartModel::AnExportFailsWithTheBuild()
+{
+    const QString directory = EnterTemporaryDirectory();
+    OpenModel open;
+    QSignalSpy failed(&open.model, &PartModel::ExportFailed);
+    open.model.Change("pin", NewFeature("pin", "cylinder", {}, {{"radius", "3"}}));
+    open.model.ExportStep({}, directory + "/a.step");
+    open.model.Cancel();
+    open.model.WaitUntilIdle();
+    QCOMPARE(failed.count(), 1);
+    QCOMPARE(failed[0][0].toString(), QString("The export failed: the part could not be built"));
+    QVERIFY(!QFile::exists("a.step"));
+}
+
+void tst_PartModel::AChangeEndsAnExport()
+{
+    const QString directory = EnterTemporaryDirectory();
+    OpenModel open;
+    QSignalSpy failed(&open.model, &PartModel::ExportFailed);
+    open.model.ExportStep({}, directory + "/a.step");
+    open.model.Remove({"body"});
+    QCOMPARE(failed.count(), 1);
+    QCOMPARE(failed[0][0].toString(), QString("The export failed: the part was changed meanwhile"));
+    open.model.WaitUntilIdle();
+    QVERIFY(!open.model.HasFailed());
+}
+
+TARN_HOST_TEST_MAIN(tst_PartModel)
 #include "tst_PartModel.moc"

@@ -2,11 +2,14 @@
 #include "DrawerOutput.h"
 #include "MessageLevel.h"
 #include "PartPanel.h"
+#include "ShapeMeasures.h"
 #include "TestCase.h"
 
 #include <BRepPrimAPI_MakeBox.hxx>
 #include <QLabel>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QTimer>
 #include <TopoDS_Shape.hxx>
 
 class tst_PartPanel : public TestCase
@@ -21,6 +24,8 @@ private Q_SLOTS:
     void AFailureWithoutAnEarlierShapeIsReported();
     void ClearForgetsTheShape();
     void WithoutOpenGlThereIsALineDrawingAndOneWarning();
+    void ALongBuildShowsItsProgressAndCanBeCancelled();
+    void AShortBuildShowsNothing();
 };
 
 namespace {
@@ -28,7 +33,8 @@ namespace {
 // 100 x 200 x 50 mm from (0, 0, 0), of 7,850 kg/m3.
 void ShowBlock(PartPanel& summary)
 {
-    summary.ShowShape(BRepPrimAPI_MakeBox(100.0, 200.0, 50.0).Shape(), 7850.0);
+    const TopoDS_Shape box = BRepPrimAPI_MakeBox(100.0, 200.0, 50.0).Shape();
+    summary.ShowShape(box, Measure(box), 7850.0);
 }
 
 QString Shown(const PartPanel& summary, const char* label)
@@ -67,7 +73,8 @@ void tst_PartPanel::BodiesThatOverlapAreAWarning()
     const TopoDS_Shape box = BRepPrimAPI_MakeBox(10.0, 10.0, 10.0).Shape();
     ShowBlock(summary);
     QVERIFY(warning.isHidden());
-    summary.ShowShape(Compound({box, box}), 7850.0);
+    const TopoDS_Shape shape = Compound({box, box});
+    summary.ShowShape(shape, Measure(shape), 7850.0);
     QVERIFY(!warning.isHidden());
     QCOMPARE(warning.text(), QStringLiteral("Bodies overlap, and volume and mass count the common "
                                             "region twice: 1 and 2."));
@@ -128,6 +135,47 @@ void tst_PartPanel::WithoutOpenGlThereIsALineDrawingAndOneWarning()
     summary.Clear();
     ShowBlock(summary);
     QCOMPARE(posted.size(), 1);
+}
+
+void tst_PartPanel::ALongBuildShowsItsProgressAndCanBeCancelled()
+{
+    PartPanel summary(nullptr);
+    summary.show();
+    summary.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&summary));
+    QSignalSpy cancel(&summary, &PartPanel::CancelWanted);
+    auto& button = Find<QPushButton>(summary, "pushButton_CancelBuild");
+    QVERIFY(!button.isVisible());
+    QTest::keyClick(&summary, Qt::Key_Escape);
+    QCOMPARE(cancel.count(), 0);
+
+    summary.ShowProgress("Building \"holes\", 7 of 11");
+    QTRY_VERIFY(button.isVisible());
+    QCOMPARE(Shown(summary, "label_Progress"), QString("Building \"holes\", 7 of 11"));
+    summary.ShowProgress("Measuring the part");
+    QCOMPARE(Shown(summary, "label_Progress"), QString("Measuring the part"));
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(cancel.count(), 1);
+    QTest::keyClick(&summary, Qt::Key_Escape);
+    QCOMPARE(cancel.count(), 2);
+    summary.EndProgress();
+    QVERIFY(!button.isVisible());
+}
+
+void tst_PartPanel::AShortBuildShowsNothing()
+{
+    PartPanel summary(nullptr);
+    summary.show();
+    const auto& button = Find<QPushButton>(summary, "pushButton_CancelBuild");
+    summary.ShowProgress("Building \"plate\", 1 of 2");
+    QVERIFY(!button.isVisible());
+    summary.EndProgress();
+    // Longer than a build has to last to be shown.
+    QTimer later;
+    later.setSingleShot(true);
+    later.start(300);
+    QTRY_VERIFY(!later.isActive());
+    QVERIFY(!button.isVisible());
 }
 
 TARN_TEST_MAIN(tst_PartPanel)

@@ -1,12 +1,12 @@
 #include "DrawerOutput.h"
 #include "EmptyDesignStores.h"
 #include "FileChoice.h"
+#include "HostTestMain.h"
 #include "MenuUser.h"
 #include "ModalDriver.h"
 #include "NewFeature.h"
 #include "PartModel.h"
 #include "ProjectActions.h"
-#include "TestCase.h"
 #include "TestFiles.h"
 
 #include <QDir>
@@ -167,5 +167,5 @@ void tst_ProjectActions::AFailedSaveLosesNothing()
     QVERIFY(opened.window.isWindowModified());
 }
 
-TARN_TEST_MAIN(tst_ProjectActions)
+TARN_HOST_TEST_MAIN(tst_ProjectActions)
 #include "tst_ProjectActions.moc"

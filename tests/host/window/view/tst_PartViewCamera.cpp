@@ -1,4 +1,5 @@
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "ShownView.h"
 
 #include <BRepPrimAPI_MakeBox.hxx>
@@ -216,5 +217,5 @@ void tst_PartViewCamera::ARebuildKeepsTheCamera()
     QCOMPARE(shown.Picture(), before);
 }
 
-TARN_TEST_MAIN(tst_PartViewCamera, HostApplication)
+TARN_HOST_TEST_MAIN(tst_PartViewCamera, HostApplication)
 #include "tst_PartViewCamera.moc"

@@ -1,11 +1,11 @@
 #include "DrawerOutput.h"
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "KernelText.h"
 #include "MessageLevel.h"
 #include "PartView.h"
 #include "PosInputDlg.h"
 #include "PositionDock.h"
-#include "TestCase.h"
 
 #include <BRepPrimAPI_MakeBox.hxx>
 #include <QLineEdit>
@@ -236,5 +236,5 @@ void tst_PositionDock::WithoutAViewPointsCanBeTyped()
     QCOMPARE(entered, QStringList(KernelText(gp_Pnt(7.0, 7.0, 7.0))));
 }
 
-TARN_TEST_MAIN(tst_PositionDock, HostApplication)
+TARN_HOST_TEST_MAIN(tst_PositionDock, HostApplication)
 #include "tst_PositionDock.moc"

@@ -1,4 +1,5 @@
 #include "HostApplication.h"
+#include "HostTestMain.h"
 #include "MenuUser.h"
 #include "PartView.h"
 #include "ViewActions.h"
@@ -145,5 +146,5 @@ void tst_ViewActions::WithoutAViewAllIsDisabled()
         QVERIFY(!action->isEnabled());
 }
 
-TARN_TEST_MAIN(tst_ViewActions, HostApplication)
+TARN_HOST_TEST_MAIN(tst_ViewActions, HostApplication)
 #include "tst_ViewActions.moc"

@@ -55,6 +55,7 @@ void tst_KernelSignals::ACrashBecomesAnException()
     // More than once: the first crash does not leave its signal blocked.
     for (int i = 0; i < 3; ++i)
         QVERIFY_EXCEPTION_THROWN(GuardKernelCall([] { std::raise(SIGSEGV); }), OSD_SIGSEGV);
+    QVERIFY(HasKernelCrashed());
     QCOMPARE(GuardKernelCall([] { return 5; }), 5);
 }
 

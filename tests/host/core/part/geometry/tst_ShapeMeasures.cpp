@@ -89,7 +89,7 @@ void tst_ShapeMeasures::TheMassIsInKilograms()
 {
     ShapeMeasures measures;
     measures.volume = 2e6;
-    QCOMPARE(Mass(measures, 7850.0), 15.7);
+    QCOMPARE(measures.Mass(7850.0), 15.7);
 }
 
 TARN_TEST_MAIN(tst_ShapeMeasures)

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QHash>
+#include <QString>
+#include <TopoDS_Shape.hxx>
+
+#include <list>
+
+/// The results of features by key, in bounded memory: the one that was not used for longest goes
+/// first.
+class ResultCache
+{
+public:
+    static constexpr qint64 DefaultSize = 512 * 1024 * 1024; ///< In bytes, as estimated.
+
+    explicit ResultCache(qint64 size = DefaultSize)
+        : m_size(size)
+    {
+    }
+
+    /// The result with this key; null if it is not kept.
+    TopoDS_Shape Find(const QByteArray& key);
+    /// Results that are larger than the whole cache are not kept.
+    void Keep(const QByteArray& key, const TopoDS_Shape& result);
+
+    /// A hash of the content of the file at @p path. If the file cannot be read, a value that no
+    /// other call returns.
+    ///
+    /// Reads the file again only if its size or time has changed, or if it has changed so recently
+    /// that a further change would not show in its time.
+    QByteArray ContentHash(const QString& path);
+
+private:
+    struct Entry
+    {
+        QByteArray key;
+        TopoDS_Shape result;
+        qint64 size;
+    };
+    struct KnownFile
+    {
+        qint64 size;
+        QDateTime time;
+        QByteArray hash;
+    };
+
+    qint64 m_size;
+    qint64 m_used = 0;
+    std::list<Entry> m_entries; // The one that was used last comes first.
+    QHash<QByteArray, std::list<Entry>::iterator> m_places;
+    QHash<QString, KnownFile> m_files;
+};

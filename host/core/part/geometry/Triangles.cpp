@@ -1,0 +1,36 @@
+#include "Triangles.h"
+
+#include "Angles.h"
+#include "KernelSignals.h"
+
+#include <BRepBndLib.hxx>
+#include <BRepMesh_IncrementalMesh.hxx>
+#include <BRepTools.hxx>
+#include <Bnd_Box.hxx>
+#include <TopoDS_Shape.hxx>
+
+#include <algorithm>
+
+void AddTriangles(const TopoDS_Shape& shape)
+{
+    GuardKernelCall([&shape] {
+        constexpr bool UseTriangulation = false;
+        Bnd_Box box;
+        BRepBndLib::Add(shape, box, UseTriangulation);
+        if (box.IsVoid())
+            return;
+        // The view's own rule: a fraction of the longest side of the box.
+        constexpr double Fraction = 0.004;
+        constexpr bool IsRelative = false;
+        constexpr double Angle = 20.0;
+        const gp_Vec diagonal(box.CornerMin(), box.CornerMax());
+        const double longest = std::max({diagonal.X(), diagonal.Y(), diagonal.Z()});
+        BRepMesh_IncrementalMesh(shape, longest * Fraction, IsRelative,
+                                 Angle * tarn::RadiansPerDegree);
+    });
+}
+
+void RemoveTriangles(const TopoDS_Shape& shape)
+{
+    BRepTools::Clean(shape);
+}

@@ -1,0 +1,235 @@
+#include "WorkerMessages.h"
+
+#include "FeatureKinds.h"
+
+#include <BRep_Builder.hxx>
+#include <QDataStream>
+#include <QtEndian>
+#include <TopoDS_Compound.hxx>
+#include <TopoDS_Iterator.hxx>
+
+#include <BinTools.hxx>
+
+#include <sstream>
+#include <unordered_map>
+
+namespace {
+
+// The file format of the shapes depends on it as well: both processes are of the same program.
+constexpr QDataStream::Version StreamVersion = QDataStream::Qt_5_15;
+constexpr int LengthSize = 4;
+
+QDataStream& operator<<(QDataStream& out, const BuildStep& step);
+QDataStream& operator>>(QDataStream& in, BuildStep& step);
+
+QDataStream& operator<<(QDataStream& out, const std::pair<int, int>& pair)
+{
+    return out << pair.first << pair.second;
+}
+
+QDataStream& operator>>(QDataStream& in, std::pair<int, int>& pair)
+{
+    return in >> pair.first >> pair.second;
+}
+
+template<class T>
+QDataStream& operator<<(QDataStream& out, const std::vector<T>& values)
+{
+    out << quint32(values.size());
+    for (const T& value : values)
+        out << value;
+    return out;
+}
+
+template<class T>
+QDataStream& operator>>(QDataStream& in, std::vector<T>& values)
+{
+    quint32 size = 0;
+    in >> size;
+    values.clear();
+    while (values.size() < size && in.status() == QDataStream::Ok) {
+        values.emplace_back();
+        in >> values.back();
+    }
+    return in;
+}
+
+QDataStream& operator<<(QDataStream& out, const BuildStep& step)
+{
+    return out << step.name << QString(step.kind->word) << step.suppressed << step.inputs
+               << step.values << step.file;
+}
+
+QDataStream& operator>>(QDataStream& in, BuildStep& step)
+{
+    QString word;
+    in >> step.name >> word >> step.suppressed >> step.inputs >> step.values >> step.file;
+    step.kind = FeatureKinds::Find(word);
+    return in;
+}
+
+QDataStream& operator<<(QDataStream& out, const ShapeMeasures& measures)
+{
+    out << measures.volume << measures.area;
+    for (const double side : measures.boundingBox)
+        out << side;
+    return out << measures.overlaps.pairs << measures.overlaps.isComplete;
+}
+
+QDataStream& operator>>(QDataStream& in, ShapeMeasures& measures)
+{
+    in >> measures.volume >> measures.area;
+    for (double& side : measures.boundingBox)
+        in >> side;
+    return in >> measures.overlaps.pairs >> measures.overlaps.isComplete;
+}
+
+template<class Write>
+QByteArray Written(const Write& write)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setVersion(StreamVersion);
+    write(out);
+    return bytes;
+}
+
+// In one file, so that what the shapes have in common stays so.
+QByteArray ShapesToBytes(const std::vector<TopoDS_Shape>& shapes)
+{
+    const BRep_Builder builder;
+    TopoDS_Compound all;
+    builder.MakeCompound(all);
+    for (const TopoDS_Shape& shape : shapes)
+        builder.Add(all, shape);
+    std::ostringstream out;
+    BinTools::Write(all, out);
+    return QByteArray::fromStdString(out.str());
+}
+
+std::vector<TopoDS_Shape> ShapesFromBytes(const QByteArray& bytes)
+{
+    TopoDS_Shape all;
+    std::istringstream in(bytes.toStdString());
+    BinTools::Read(all, in);
+    std::vector<TopoDS_Shape> shapes;
+    for (TopoDS_Iterator child(all); child.More(); child.Next())
+        shapes.push_back(child.Value());
+    return shapes;
+}
+
+// Null shapes have no key. A key that occurs again stands for the same shape.
+void ReadShapes(const QByteArray& bytes, BuiltPart& part, const PartRequest& request,
+                const BuiltPart& known)
+{
+    QHash<QByteArray, TopoDS_Shape> shapes;
+    for (std::size_t place = 0; place < known.keys.size(); ++place)
+        shapes.insert(known.keys[place], known.shapes[place]);
+    auto sent = ShapesFromBytes(bytes);
+    std::size_t next = 0;
+    for (const QByteArray& key : part.keys) {
+        if (!key.isEmpty() && !shapes.contains(key))
+            shapes.insert(key, sent.at(next++));
+        part.shapes.push_back(shapes.value(key));
+    }
+    part.shape = WholePart(request.plan, part.shapes);
+}
+
+} // namespace
+
+QString PartReply::Reason() const
+{
+    return failedFeature.isEmpty() ? cause : FeatureError(failedFeature, cause).Reason();
+}
+
+QByteArray ToBytes(const PartRequest& request)
+{
+    return Written([&](QDataStream& out) {
+        out << request.plan << request.known << request.wantsShapes << request.stepPath
+            << request.stepFeature;
+    });
+}
+
+PartRequest RequestFromBytes(const QByteArray& bytes)
+{
+    QDataStream in(bytes);
+    in.setVersion(StreamVersion);
+    PartRequest request;
+    in >> request.plan >> request.known >> request.wantsShapes >> request.stepPath >>
+        request.stepFeature;
+    return request;
+}
+
+QByteArray ProgressToBytes(int step)
+{
+    return Written([&](QDataStream& out) { out << false << step; });
+}
+
+bool IsReply(const QByteArray& bytes)
+{
+    return bytes.at(0) != 0;
+}
+
+QByteArray ToBytes(const PartReply& reply, const PartRequest& request)
+{
+    QByteArray shapes;
+    if (request.wantsShapes && reply.outcome == PartReply::Done) {
+        QSet<QByteArray> known = request.known;
+        std::vector<TopoDS_Shape> sent;
+        for (std::size_t place = 0; place < reply.part.keys.size(); ++place) {
+            const QByteArray& key = reply.part.keys[place];
+            if (key.isEmpty() || known.contains(key))
+                continue;
+            known.insert(key);
+            sent.push_back(reply.part.shapes[place]);
+        }
+        shapes = ShapesToBytes(sent);
+    }
+    return Written([&](QDataStream& out) {
+        out << true << int(reply.outcome) << reply.cause << reply.failedFeature << reply.part.keys
+            << reply.measures << reply.isLast << shapes;
+    });
+}
+
+WorkerMessage MessageFromBytes(const QByteArray& bytes, const PartRequest& request,
+                               const BuiltPart& known)
+{
+    QDataStream in(bytes);
+    in.setVersion(StreamVersion);
+    WorkerMessage message;
+    bool isReply = false;
+    in >> isReply;
+    if (!isReply) {
+        in >> message.step;
+        return message;
+    }
+    PartReply reply;
+    int outcome = 0;
+    QByteArray shapes;
+    in >> outcome >> reply.cause >> reply.failedFeature >> reply.part.keys >> reply.measures >>
+        reply.isLast >> shapes;
+    reply.outcome = PartReply::Outcome(outcome);
+    if (!shapes.isEmpty())
+        ReadShapes(shapes, reply.part, request, known);
+    message.reply = reply;
+    return message;
+}
+
+QByteArray Frame(const QByteArray& message)
+{
+    QByteArray frame(LengthSize, Qt::Uninitialized);
+    qToBigEndian(quint32(message.size()), frame.data());
+    return frame + message;
+}
+
+std::optional<QByteArray> TakeFrame(QByteArray& bytes)
+{
+    if (bytes.size() < LengthSize)
+        return std::nullopt;
+    const auto length = qint64(qFromBigEndian<quint32>(bytes.constData()));
+    if (bytes.size() - LengthSize < length)
+        return std::nullopt;
+    const QByteArray message = bytes.mid(LengthSize, int(length));
+    bytes.remove(0, LengthSize + int(length));
+    return message;
+}

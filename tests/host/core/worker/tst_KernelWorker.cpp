@@ -1,0 +1,289 @@
+#include "BodyFormulas.h"
+#include "EmptyDesignStores.h"
+#include "HostTestMain.h"
+#include "KernelWorker.h"
+#include "StepFile.h"
+#include "TestFiles.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QSignalSpy>
+
+#include <csignal>
+
+class tst_KernelWorker : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void APartIsBuiltAsInTheSameProcess();
+    void AFailureNamesTheFeature();
+    void ProgressNamesEachStepThatIsBuilt();
+    void OneProcessServesAllRequests();
+    void AnUnusedWorkerHasNoProcess();
+    void AStepFileIsWritten_data();
+    void AStepFileIsWritten();
+    void AKilledBuildFailsByNameAndTheNextOneWorks();
+    void AnIdleWorkerThatWasKilledIsReplaced();
+    void ACrashEndsTheProcessAfterItsReply();
+    void CancelEndsABuild();
+    void ANewRequestReplacesTheOneAtHand();
+    void ADiscardedRequestHasNoReply();
+    void TheTimeLimitEndsABuild();
+#ifndef __SANITIZE_ADDRESS__
+    void TheMemoryLimitFailsTheFeature();
+#endif
+    void TheWorkerEndsWithItsOwner();
+};
+
+namespace {
+
+// Two hundred crossing tori take the kernel far longer than any test waits.
+const QByteArray Endless =
+    R"({"name": "ring", "kind": "torus"},
+       {"name": "rings", "kind": "polarArray", "inputs": ["ring"],
+        "fields": {"number": 200, "angle": 1.7, "dx": 1, "dz": 0, "y": 3}},
+       {"name": "knot", "kind": "fuse", "inputs": ["rings", "ring"]})";
+
+PartRequest Request(const QByteArray& list)
+{
+    PartRequest request;
+    request.plan = PlanPart(List(list));
+    return request;
+}
+
+/// A worker whose requests are watched.
+struct Watched
+{
+    Watched()
+    {
+        QObject::connect(&worker, &KernelWorker::Progressed, [this](int s) { steps << s; });
+    }
+
+    /// Starts to build Endless, and waits until its last feature is begun.
+    void StartEndless()
+    {
+        steps.clear();
+        worker.Start(Request(Endless));
+        QTRY_VERIFY_WITH_TIMEOUT(steps.contains(2), 30000);
+    }
+
+    qint64 ProcessId() const
+    {
+        const auto* const process = worker.findChild<QProcess*>();
+        return process == nullptr ? 0 : process->processId();
+    }
+
+    PartReply Last() const { return replies.last()[0].value<PartReply>(); }
+
+    EmptyDesignStores stores;
+    KernelWorker worker;
+    QSignalSpy replies{&worker, &KernelWorker::Finished};
+    QList<int> steps;
+};
+
+} // namespace
+
+void tst_KernelWorker::APartIsBuiltAsInTheSameProcess()
+{
+    Watched watched;
+    const QByteArray list = A10 + R"(, {"name": "b", "kind": "sphere"},
+                                       {"name": "c", "kind": "cut", "inputs": ["a", "b"]})";
+    const PartReply reply = watched.worker.Run(Request(list));
+    QCOMPARE(reply.outcome, PartReply::Done);
+    QVERIFY(!watched.worker.IsBusy());
+    const BuiltPart part = FeatureBuilder::Build(List(list));
+    const ShapeMeasures measures = Measure(part.shape);
+    QCOMPARE(reply.measures.volume, measures.volume);
+    QCOMPARE(reply.measures.area, measures.area);
+    QVERIFY(reply.measures.boundingBox == measures.boundingBox);
+    QCOMPARE(MassOf(reply.part.shape).volume, MassOf(part.shape).volume);
+    QCOMPARE(reply.part.shapes.size(), std::size_t(3));
+}
+
+void tst_KernelWorker::AFailureNamesTheFeature()
+{
+    Watched watched;
+    const PartReply reply =
+        watched.worker.Run(Request(A10 + R"(, {"name": "b", "kind": "fillet", "inputs": ["a"],
+                            "fields": {"radius": 30, "x": 5, "y": 0, "z": 10}})"));
+    QCOMPARE(reply.outcome, PartReply::Failed);
+    QCOMPARE(reply.failedFeature, QString("b"));
+    QVERIFY2(reply.Reason().startsWith("b: a fillet of 30 mm"), qPrintable(reply.Reason()));
+}
+
+void tst_KernelWorker::ProgressNamesEachStepThatIsBuilt()
+{
+    Watched watched;
+    watched.worker.Run(Request(A10 + R"(, {"name": "b", "kind": "sphere"})"));
+    QCOMPARE(watched.steps, QList<int>({0, 1, 2}));
+    watched.steps.clear();
+    watched.worker.Run(
+        Request(A10 + R"(, {"name": "b", "kind": "sphere", "fields": {"radius": 3}})"));
+    QCOMPARE(watched.steps, QList<int>({1, 2}));
+}
+
+void tst_KernelWorker::OneProcessServesAllRequests()
+{
+    Watched watched;
+    watched.worker.Run(Request(A10));
+    const qint64 first = watched.ProcessId();
+    QVERIFY(first != 0);
+    watched.worker.Run(Request(Brick));
+    QCOMPARE(watched.ProcessId(), first);
+}
+
+void tst_KernelWorker::AnUnusedWorkerHasNoProcess()
+{
+    const Watched watched;
+    QCOMPARE(watched.ProcessId(), qint64(0));
+}
+
+void tst_KernelWorker::AStepFileIsWritten_data()
+{
+    QTest::addColumn<int>("feature");
+    QTest::addColumn<double>("volume");
+    QTest::newRow("whole part") << int(PartRequest::WholePart) << 8000.0;
+    QTest::newRow("one feature") << 0 << 1000.0;
+}
+
+void tst_KernelWorker::AStepFileIsWritten()
+{
+    QFETCH(int, feature);
+    QFETCH(double, volume);
+    const QString directory = EnterTemporaryDirectory();
+    Watched watched;
+    PartRequest request = Request(A10 + R"(, {"name": "b", "kind": "box", "fields": {"x": 70}})");
+    request.wantsShapes = false;
+    request.stepPath = directory + "/长.step";
+    request.stepFeature = feature;
+    const PartReply reply = watched.worker.Run(request);
+    QVERIFY2(reply.outcome == PartReply::Done, qPrintable(reply.Reason()));
+    QVERIFY(qFuzzyCompare(Measure(ReadStepFile("长.step")).volume, volume));
+    // Where it cannot be written, the reason is that of the file.
+    request.stepPath = directory + "/none/a.step";
+    const QString reason = watched.worker.Run(request).Reason();
+    QVERIFY2(reason.startsWith("a.step: "), qPrintable(reason));
+}
+
+void tst_KernelWorker::AKilledBuildFailsByNameAndTheNextOneWorks()
+{
+    Watched watched;
+    watched.StartEndless();
+    ::kill(pid_t(watched.ProcessId()), SIGKILL);
+    QTRY_COMPARE(watched.replies.count(), 1);
+    QCOMPARE(watched.Last().outcome, PartReply::Failed);
+    QCOMPARE(watched.Last().Reason(), QString("knot: the geometry kernel crashed."));
+    QCOMPARE(watched.worker.Run(Request(A10)).measures.volume, 1000.0);
+}
+
+void tst_KernelWorker::AnIdleWorkerThatWasKilledIsReplaced()
+{
+    Watched watched;
+    watched.worker.Run(Request(A10));
+    ::kill(pid_t(watched.ProcessId()), SIGKILL);
+    QCOMPARE(watched.worker.Run(Request(Brick)).measures.volume, 6000.0);
+}
+
+void tst_KernelWorker::ACrashEndsTheProcessAfterItsReply()
+{
+    Watched watched;
+    watched.worker.Run(Request(A10));
+    const qint64 before = watched.ProcessId();
+    // The kernel crashes at this one, and catches that itself.
+    const PartReply reply = watched.worker.Run(Request(
+        R"({"name": "a", "kind": "box", "fields": {"x": 30, "y": 30, "z": 10}},
+           {"name": "b", "kind": "fillet", "inputs": ["a"],
+            "fields": {"radius": 3, "x": 15, "y": 0, "z": 10}},
+           {"name": "c", "kind": "fillet", "inputs": ["b"],
+            "fields": {"radius": 12, "x": 0, "y": 15, "z": 10}})"));
+    QCOMPARE(reply.failedFeature, QString("c"));
+    QCOMPARE(watched.worker.Run(Request(A10)).measures.volume, 1000.0);
+    QVERIFY(watched.ProcessId() != before);
+}
+
+void tst_KernelWorker::CancelEndsABuild()
+{
+    Watched watched;
+    watched.worker.Cancel();
+    watched.StartEndless();
+    watched.worker.Cancel();
+    QTRY_COMPARE(watched.replies.count(), 1);
+    QCOMPARE(watched.Last().outcome, PartReply::Abandoned);
+    QCOMPARE(watched.Last().Reason(), QString("The build was cancelled."));
+    QCOMPARE(watched.worker.Run(Request(A10)).measures.volume, 1000.0);
+}
+
+void tst_KernelWorker::ANewRequestReplacesTheOneAtHand()
+{
+    Watched watched;
+    watched.StartEndless();
+    watched.worker.Start(Request(A10));
+    watched.worker.Start(Request(Brick));
+    QTRY_COMPARE(watched.replies.count(), 1);
+    QCOMPARE(watched.Last().outcome, PartReply::Done);
+    QCOMPARE(watched.Last().measures.volume, 6000.0);
+    // Before the worker has begun as well.
+    KernelWorker fresh;
+    QSignalSpy replies(&fresh, &KernelWorker::Finished);
+    fresh.Start(Request(A10));
+    fresh.Start(Request(Brick));
+    QTRY_COMPARE(replies.count(), 1);
+    QCOMPARE(replies[0][0].value<PartReply>().measures.volume, 6000.0);
+}
+
+void tst_KernelWorker::ADiscardedRequestHasNoReply()
+{
+    Watched watched;
+    watched.StartEndless();
+    watched.worker.Discard();
+    QTRY_VERIFY(!watched.worker.IsBusy());
+    QCOMPARE(watched.replies.count(), 0);
+    QCOMPARE(watched.worker.Run(Request(A10)).measures.volume, 1000.0);
+}
+
+void tst_KernelWorker::TheTimeLimitEndsABuild()
+{
+    Watched watched;
+    BuildLimits limits;
+    limits.seconds = 2;
+    watched.worker.SetLimits(limits);
+    QCOMPARE(watched.worker.Run(Request(Endless)).Reason(),
+             QString("knot: the geometry kernel did not finish within 2 s, the time limit."));
+    QCOMPARE(watched.worker.Run(Request(A10)).measures.volume, 1000.0);
+}
+
+#ifndef __SANITIZE_ADDRESS__
+void tst_KernelWorker::TheMemoryLimitFailsTheFeature()
+{
+    Watched watched;
+    BuildLimits limits;
+    limits.megabytes = BuildLimits::MinimumMegabytes;
+    watched.worker.SetLimits(limits);
+    const PartReply reply = watched.worker.Run(Request(Endless));
+    QCOMPARE(reply.failedFeature, QString("knot"));
+    QVERIFY2(reply.Reason().contains("the limit of 512 MB"), qPrintable(reply.Reason()));
+    QCOMPARE(watched.worker.Run(Request(A10)).measures.volume, 1000.0);
+}
+#endif
+
+void tst_KernelWorker::TheWorkerEndsWithItsOwner()
+{
+    qint64 idle = 0;
+    qint64 busy = 0;
+    {
+        Watched watched;
+        watched.worker.Run(Request(A10));
+        idle = watched.ProcessId();
+        Watched other;
+        other.StartEndless();
+        busy = other.ProcessId();
+        QVERIFY(idle != 0 && busy != 0);
+    }
+    for (const qint64 id : {idle, busy})
+        QCOMPARE(::kill(pid_t(id), 0), -1);
+}
+
+TARN_HOST_TEST_MAIN(tst_KernelWorker)
+#include "tst_KernelWorker.moc"
