@@ -403,6 +403,37 @@
         <source>the bodies of the part could not all be compared for overlaps; fuse them before the analysis.</source>
         <translation>无法检查零件的所有实体是否重叠；请在分析前将其合并。</translation>
     </message>
+    <message>
+        <source>the geometry kernel crashed.</source>
+        <translation>几何内核崩溃。</translation>
+    </message>
+</context>
+<context>
+    <name>BuildLimitsDialog</name>
+    <message>
+        <source>Limits of building</source>
+        <translation>构建限制</translation>
+    </message>
+    <message>
+        <source>The geometry kernel ends a build that exceeds one of these limits.</source>
+        <translation>构建超过以下任一限制时将被终止。</translation>
+    </message>
+    <message>
+        <source>&amp;Memory</source>
+        <translation>内存(&amp;M)</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>&amp;Time</source>
+        <translation>时间(&amp;T)</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
 </context>
 <context>
     <name>DesignActions</name>
@@ -979,6 +1010,33 @@
     </message>
 </context>
 <context>
+    <name>KernelWorker</name>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分钟</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>The process of the geometry kernel cannot be started: %1</source>
+        <translation>无法启动几何内核进程：%1</translation>
+    </message>
+    <message>
+        <source>The build was cancelled.</source>
+        <translation>构建已取消。</translation>
+    </message>
+    <message>
+        <source>the geometry kernel did not finish within %1, the time limit.</source>
+        <translation>几何内核未能在时间限制 %1 内完成。</translation>
+    </message>
+    <message>
+        <source>The finished part: %1</source>
+        <translation>完成的零件：%1</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Tarn host</source>
@@ -1231,16 +1289,16 @@
         <source>Wrote %1</source>
         <translation>已写入 %1</translation>
     </message>
+    <message>
+        <source>&amp;Limits of building</source>
+        <translation>构建限制(&amp;L)</translation>
+    </message>
 </context>
 <context>
     <name>PartModel</name>
     <message>
         <source>There is no feature %1</source>
         <translation>没有特征 %1</translation>
-    </message>
-    <message>
-        <source>The geometry kernel failed: %1</source>
-        <translation>几何内核失败：%1</translation>
     </message>
     <message>
         <source>Add %1 %2</source>
@@ -1289,6 +1347,30 @@
     <message>
         <source>Delete %1</source>
         <translation>删除 %1</translation>
+    </message>
+    <message>
+        <source>the part was changed meanwhile</source>
+        <translation>零件在此期间已更改</translation>
+    </message>
+    <message>
+        <source>the part could not be built</source>
+        <translation>无法构建零件</translation>
+    </message>
+    <message>
+        <source>Writing %1</source>
+        <translation>正在写入 %1</translation>
+    </message>
+    <message>
+        <source>Building %1, %2 of %3</source>
+        <translation>正在构建 %1，第 %2 个，共 %3 个</translation>
+    </message>
+    <message>
+        <source>Measuring the part</source>
+        <translation>正在测量零件</translation>
+    </message>
+    <message>
+        <source>The export failed: %1</source>
+        <translation>导出失败：%1</translation>
     </message>
 </context>
 <context>
@@ -1366,6 +1448,10 @@
     <message>
         <source>The part is shown as a line drawing: %1</source>
         <translation>零件以线框图显示：%1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -1658,6 +1744,21 @@
     <message>
         <source>&amp;Wireframe</source>
         <translation>线框(&amp;W)</translation>
+    </message>
+</context>
+<context>
+    <name>WorkerProcess</name>
+    <message>
+        <source>%1 The memory was almost used up: the limit of %2 MB may be too low.</source>
+        <translation>%1 内存几乎用尽：%2 MB 的限制可能过低。</translation>
+    </message>
+    <message>
+        <source>it needs more memory than the limit of %1 MB.</source>
+        <translation>所需内存超过 %1 MB 的限制。</translation>
+    </message>
+    <message>
+        <source>The geometry kernel failed while it measured the part: %1</source>
+        <translation>几何内核在测量零件时失败：%1</translation>
     </message>
 </context>
 </TS>

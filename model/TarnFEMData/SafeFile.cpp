@@ -25,8 +25,8 @@ void WaitFor(QLockFile& lock, const QString& path)
     if (info.exists() && !info.isFile())
         return;
     // Far longer than a process holds the lock, in ms.
-    constexpr int StaleTime = 2000;
-    constexpr int LongestWait = 3000;
+    constexpr int StaleTime = 6000;
+    constexpr int LongestWait = 8000;
     constexpr quint32 LongestPause = 5;
     lock.setStaleLockTime(StaleTime);
     const QDeadlineTimer deadline(LongestWait);

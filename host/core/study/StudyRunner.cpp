@@ -54,7 +54,9 @@ RunResult BuildRun(const Study& study, int run, const Project& project, KernelWo
                    const QString& stepPath)
 {
     RunResult result;
-    QFile::remove(stepPath); // An existing file is not the part of this run.
+    // An existing file is not the part of this run. What is no file stays, and is refused later.
+    if (QFileInfo(stepPath).isFile())
+        QFile::remove(stepPath);
     result.error = study.Choose(run);
     result.values = ParameterValues();
     if (!result.error.isEmpty())
