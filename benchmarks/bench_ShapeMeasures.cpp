@@ -63,7 +63,8 @@ int main(int argc, char** argv)
         const Project project = Project::Load(Project::SamplePath());
         project.FillParameterStore();
         EvaluateParameters();
-        const auto add = [flange = FeatureBuilder::Build(project.Features()).shape](const char* name, auto measuring) {
+        const auto add = [flange = FeatureBuilder::Build(project.Features()).shape](
+                             const char* name, auto measuring) {
             const auto run = [flange, measuring](benchmark::State& state) {
                 Run(state, flange, measuring);
             };
