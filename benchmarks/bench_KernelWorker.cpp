@@ -111,7 +111,10 @@ int main(int argc, char** argv)
         return RunWorker(argc, argv);
     return RunBenchmarks(argc, argv, [] {
         const auto add = [](const char* name, int size, const auto& run) {
-            benchmark::RegisterBenchmark(name, run)->Arg(size)->Unit(benchmark::kMillisecond);
+            benchmark::RegisterBenchmark(name, run)
+                ->Arg(size)
+                ->Unit(benchmark::kMillisecond)
+                ->UseRealTime();
         };
         add("Flange/ours", 100, [](benchmark::State& state) {
             KernelWorker worker;

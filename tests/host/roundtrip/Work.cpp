@@ -1,60 +1,37 @@
 #include "Work.h"
 
-#include "BodyCheck.h"
-#include "BodyVolumes.h"
 #include "Dice.h"
-#include "FeatureBuilder.h"
+#include "NewFeature.h"
 #include "RandomList.h"
-#include "StepFile.h"
-#include "StepText.h"
+#include "TestFiles.h"
 
-#include <BRepGProp.hxx>
-#include <GProp_GProps.hxx>
-#include <QFile>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <Standard_Failure.hxx>
-#include <TopoDS_Shape.hxx>
 
 #include <cmath>
 
 namespace {
-
-struct Moments
-{
-    double volume = 0.0;
-    double area = 0.0;
-    gp_Pnt centre;
-};
-
-Moments MomentsOf(const TopoDS_Shape& shape)
-{
-    constexpr double Accuracy = 1e-9;
-    GProp_GProps volume;
-    BRepGProp::VolumeProperties(shape, volume, Accuracy);
-    GProp_GProps area;
-    BRepGProp::SurfaceProperties(shape, area, Accuracy);
-    return {volume.Mass(), area.Mass(), volume.CentreOfMass()};
-}
 
 QString Result(const char* word, const QString& reason = {})
 {
     return QLatin1String(word) + QLatin1Char(' ') + reason;
 }
 
-QString Compared(const TopoDS_Shape& part, const TopoDS_Shape& read)
+QString Failure(const char* word, const PartReply& reply)
+{
+    const QString reason = reply.Reason();
+    if (reason.contains("crashed"))
+        return Result("crash", reason);
+    return Result(reason.contains("time limit") ? "timeout" : word, reason);
+}
+
+QString Compared(const ShapeMeasures& part, const ShapeMeasures& read)
 {
     constexpr double Tolerance = 2e-6; // Twice that of the export, whose integration is coarser.
-    const Moments a = MomentsOf(part);
-    const Moments b = MomentsOf(read);
-    const double volume = std::abs(a.volume - b.volume) / a.volume;
-    const double area = std::abs(a.area - b.area) / a.area;
-    const double centre = a.centre.Distance(b.centre) / std::sqrt(a.area);
-    if (volume <= Tolerance && area <= Tolerance && centre <= Tolerance)
+    const double volume = std::abs(part.volume - read.volume) / part.volume;
+    const double area = std::abs(part.area - read.area) / part.area;
+    if (volume <= Tolerance && area <= Tolerance)
         return Result("same");
-    return Result(
-        "different",
-        QStringLiteral("volume by %1, area by %2, centre by %3").arg(volume).arg(area).arg(centre));
+    return Result("different", QStringLiteral("volume by %1, area by %2").arg(volume).arg(area));
 }
 
 void DamageOnce(QByteArray& text, Dice& dice)
@@ -93,67 +70,69 @@ void DamageOnce(QByteArray& text, Dice& dice)
     }
 }
 
-// The file without what the kernel writes differently each time: how many it has written, and when.
-QByteArray ReproducibleText(const TopoDS_Shape& shape)
+// Without what the kernel writes differently each time: how many files it has written, and when.
+QByteArray Reproducible(const QByteArray& text)
 {
     static const QRegularExpression changing("translator [\\d. ]+|\\d{4}-\\d\\d-\\d\\dT[\\d:]+");
-    return QString::fromLatin1(StepText(shape)).remove(changing).toLatin1();
-}
-
-QByteArray DamagedText(unsigned seed)
-{
-    Dice dice(seed);
-    QByteArray text;
-    while (text.isEmpty()) {
-        try {
-            const FeatureList list = RandomList(unsigned(dice.Below(200)));
-            text = ReproducibleText(FeatureBuilder::Build(list).shape);
-        } catch (const std::exception&) {
-            continue; // Not each list can be built.
-        }
-    }
-    const int damages = 1 + dice.Below(5);
-    for (int i = 0; i < damages; ++i)
-        DamageOnce(text, dice);
-    return text;
+    return QString::fromLatin1(text).remove(changing).toLatin1();
 }
 
 } // namespace
 
-QString RoundTrip(unsigned seed)
+Work::Work()
+    : m_path(m_directory.filePath("part.step"))
 {
-    const QTemporaryDir directory;
-    const QString path = directory.filePath("part.step");
-    TopoDS_Shape part;
-    try {
-        part = FeatureBuilder::Build(RandomList(seed)).shape;
-    } catch (const BuildError& error) {
-        return Result("unbuilt", error.Reason());
-    }
-    try {
-        WriteStepFile(part, path);
-        return Compared(part, ReadStepFile(path));
-    } catch (const StepError& error) {
-        return Result("refused", error.Reason());
-    }
+    BuildLimits limits;
+    limits.seconds = 20;
+    m_worker.SetLimits(limits);
 }
 
-QString ReadDamagedFile(unsigned seed)
+QString Work::Do(const QString& work, unsigned seed)
 {
-    const QTemporaryDir directory;
-    const QString path = directory.filePath("part.step");
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("The file could not be written.");
-    file.write(DamagedText(seed));
-    file.close();
-    TopoDS_Shape shape;
-    try {
-        shape = ReadStepFile(path);
-        BodyVolumes volumes;
-        CheckNewBodies(shape, {}, volumes);
-        return Result("sound");
-    } catch (const HostError& error) {
-        return Result(shape.IsNull() ? "refused" : "unsound", error.Reason());
+    return work == "models" ? RoundTrip(seed) : ReadDamagedFile(seed);
+}
+
+PartReply Work::Write(unsigned seed)
+{
+    PartRequest request;
+    request.plan = PlanPart(RandomList(seed));
+    request.wantsShapes = false;
+    request.stepPath = m_path;
+    return m_worker.Run(request);
+}
+
+PartReply Work::Read()
+{
+    Feature import = NewFeature("import", "import");
+    import.file = m_path;
+    FeatureList list;
+    list.Append(import);
+    PartRequest request;
+    request.plan = PlanPart(list);
+    return m_worker.Run(request);
+}
+
+QString Work::RoundTrip(unsigned seed)
+{
+    const PartReply written = Write(seed);
+    if (written.outcome != PartReply::Done)
+        return Failure(written.failedFeature.isEmpty() ? "refused" : "unbuilt", written);
+    const PartReply read = Read();
+    return read.outcome == PartReply::Done ? Compared(written.measures, read.measures)
+                                           : Failure("different", read);
+}
+
+QString Work::ReadDamagedFile(unsigned seed)
+{
+    Dice dice(seed);
+    // Not each list can be built.
+    while (Write(unsigned(dice.Below(200))).outcome != PartReply::Done) {
     }
+    QByteArray text = Reproducible(ContentOf(m_path));
+    const int damages = 1 + dice.Below(5);
+    for (int i = 0; i < damages; ++i)
+        DamageOnce(text, dice);
+    Put(m_path, text);
+    const PartReply read = Read();
+    return read.outcome == PartReply::Done ? Result("sound") : Failure("refused", read);
 }
