@@ -1702,6 +1702,10 @@
         <source>is damaged: %1</source>
         <translation>已损坏：%1</translation>
     </message>
+    <message>
+        <source>a body is not valid</source>
+        <translation>有实体无效</translation>
+    </message>
 </context>
 <context>
     <name>ViewActions</name>

@@ -5,6 +5,7 @@
 #include "StepText.h"
 #include "WholeFile.h"
 
+#include <BRepCheck_Analyzer.hxx>
 #include <BRepGProp.hxx>
 #include <GProp_GProps.hxx>
 #include <QFileInfo>
@@ -117,10 +118,12 @@ void CheckRoundTrip(const TopoDS_Shape& whole, const QByteArray& wholeText)
     QString reason;
     try {
         const TopoDS_Shape read = ShapeFromStep(text);
-        if (HaveSameMoments(shape, read, Integration::Fast) ||
-            HaveSameMoments(shape, read, Integration::Exact))
+        const bool isSame = HaveSameMoments(shape, read, Integration::Fast) ||
+                            HaveSameMoments(shape, read, Integration::Exact);
+        if (isSame && BRepCheck_Analyzer(read).IsValid())
             return;
-        reason = StepError::tr("volume, area or centre of mass differ");
+        reason = isSame ? StepError::tr("a body is not valid")
+                        : StepError::tr("volume, area or centre of mass differ");
     } catch (const StepError& error) {
         reason = error.Reason();
     }

@@ -4,6 +4,7 @@
 #include "StepCheck.h"
 #include "StepError.h"
 
+#include <BRepCheck_Analyzer.hxx>
 #include <IFSelect_ReturnStatus.hxx>
 #include <Interface_Static.hxx>
 #include <Message.hxx>
@@ -13,6 +14,7 @@
 #include <STEPControl_Controller.hxx>
 #include <STEPControl_Reader.hxx>
 #include <STEPControl_Writer.hxx>
+#include <ShapeFix_Shape.hxx>
 #include <StepData_Protocol.hxx>
 #include <StepData_StepModel.hxx>
 #include <StepData_StepWriter.hxx>
@@ -51,6 +53,16 @@ void ApplySettings()
     Interface_Static::SetIVal("read.surfacecurve.mode", OnlyCurvesInSpace);
 }
 
+// The reader leaves small faults in some shapes, such as curves that miss a vertex.
+TopoDS_Shape Mended(const TopoDS_Shape& shape)
+{
+    if (BRepCheck_Analyzer(shape).IsValid())
+        return shape;
+    ShapeFix_Shape fix(shape);
+    fix.Perform();
+    return fix.Shape();
+}
+
 } // namespace
 
 QByteArray StepText(const TopoDS_Shape& shape)
@@ -84,5 +96,5 @@ TopoDS_Shape ShapeFromStep(const QByteArray& text)
     TopoDS_Shape shape = reader.OneShape();
     CheckStepBodies(shape);
     RefineEdgeCurves(shape);
-    return shape;
+    return Mended(shape);
 }

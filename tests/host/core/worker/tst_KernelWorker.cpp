@@ -5,11 +5,6 @@
 #include "StepFile.h"
 #include "TestFiles.h"
 
-#include <QElapsedTimer>
-#include <QFile>
-#include <QProcess>
-#include <QSignalSpy>
-
 #include <csignal>
 
 class tst_KernelWorker : public TestCase
@@ -31,59 +26,8 @@ private Q_SLOTS:
     void ANewRequestReplacesTheOneAtHand();
     void ADiscardedRequestHasNoReply();
     void TheTimeLimitEndsABuild();
-#ifndef __SANITIZE_ADDRESS__
-    void TheMemoryLimitFailsTheFeature();
-#endif
     void TheWorkerEndsWithItsOwner();
 };
-
-namespace {
-
-// Two hundred crossing tori take the kernel far longer than any test waits.
-const QByteArray Endless =
-    R"({"name": "ring", "kind": "torus"},
-       {"name": "rings", "kind": "polarArray", "inputs": ["ring"],
-        "fields": {"number": 200, "angle": 1.7, "dx": 1, "dz": 0, "y": 3}},
-       {"name": "knot", "kind": "fuse", "inputs": ["rings", "ring"]})";
-
-PartRequest Request(const QByteArray& list)
-{
-    PartRequest request;
-    request.plan = PlanPart(List(list));
-    return request;
-}
-
-/// A worker whose requests are watched.
-struct Watched
-{
-    Watched()
-    {
-        QObject::connect(&worker, &KernelWorker::Progressed, [this](int s) { steps << s; });
-    }
-
-    /// Starts to build Endless, and waits until its last feature is begun.
-    void StartEndless()
-    {
-        steps.clear();
-        worker.Start(Request(Endless));
-        QTRY_VERIFY_WITH_TIMEOUT(steps.contains(2), 30000);
-    }
-
-    qint64 ProcessId() const
-    {
-        const auto* const process = worker.findChild<QProcess*>();
-        return process == nullptr ? 0 : process->processId();
-    }
-
-    PartReply Last() const { return replies.last()[0].value<PartReply>(); }
-
-    EmptyDesignStores stores;
-    KernelWorker worker;
-    QSignalSpy replies{&worker, &KernelWorker::Finished};
-    QList<int> steps;
-};
-
-} // namespace
 
 void tst_KernelWorker::APartIsBuiltAsInTheSameProcess()
 {
@@ -253,20 +197,6 @@ void tst_KernelWorker::TheTimeLimitEndsABuild()
              QString("knot: the geometry kernel did not finish within 2 s, the time limit."));
     QCOMPARE(watched.worker.Run(Request(A10)).measures.volume, 1000.0);
 }
-
-#ifndef __SANITIZE_ADDRESS__
-void tst_KernelWorker::TheMemoryLimitFailsTheFeature()
-{
-    Watched watched;
-    BuildLimits limits;
-    limits.megabytes = BuildLimits::MinimumMegabytes;
-    watched.worker.SetLimits(limits);
-    const PartReply reply = watched.worker.Run(Request(Endless));
-    QCOMPARE(reply.failedFeature, QString("knot"));
-    QVERIFY2(reply.Reason().contains("the limit of 512 MB"), qPrintable(reply.Reason()));
-    QCOMPARE(watched.worker.Run(Request(A10)).measures.volume, 1000.0);
-}
-#endif
 
 void tst_KernelWorker::TheWorkerEndsWithItsOwner()
 {
