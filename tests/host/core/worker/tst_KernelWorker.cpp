@@ -1,9 +1,7 @@
-#include "BodyFormulas.h"
-#include "EmptyDesignStores.h"
 #include "HostTestMain.h"
-#include "KernelWorker.h"
 #include "StepFile.h"
 #include "TestFiles.h"
+#include "WatchedWorker.h"
 
 #include <csignal>
 
