@@ -208,6 +208,14 @@
         <source>Bodies overlap, and volume and mass count the common region twice: %1; there may be more.</source>
         <translation>实体重叠，体积和质量重复计算公共区域：%1；可能还有更多。</translation>
     </message>
+    <message>
+        <source>The bodies %1 and %2 of the part overlap; fuse them before the analysis.</source>
+        <translation>零件的实体 %1 和 %2 重叠；请在分析前将其合并。</translation>
+    </message>
+    <message>
+        <source>The bodies of the part could not all be compared for overlaps; fuse them before the analysis.</source>
+        <translation>无法检查零件的所有实体是否重叠；请在分析前将其合并。</translation>
+    </message>
 </context>
 <context>
     <name>BuildError</name>
@@ -394,14 +402,6 @@
     <message>
         <source>its result extends beyond the original body: the geometry kernel failed; try a smaller radius or another order of features.</source>
         <translation>其结果超出原实体：几何内核失败；请尝试更小的半径或其他特征顺序。</translation>
-    </message>
-    <message>
-        <source>the bodies %1 and %2 of the part overlap; fuse them before the analysis.</source>
-        <translation>零件的实体 %1 和 %2 重叠；请在分析前将其合并。</translation>
-    </message>
-    <message>
-        <source>the bodies of the part could not all be compared for overlaps; fuse them before the analysis.</source>
-        <translation>无法检查零件的所有实体是否重叠；请在分析前将其合并。</translation>
     </message>
     <message>
         <source>the geometry kernel crashed.</source>

@@ -70,7 +70,7 @@ void MainWindow::CreateMenus()
     m_designActions->FillMenu(*menuBar()->addMenu(tr("&Design")));
     m_partActions = new PartActions(*m_part, *m_features, *m_fields, m_summary->View(), this);
     m_partActions->FillMenu(*menuBar()->addMenu(tr("&Model")));
-    auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, this);
+    auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, *m_part, this);
     analysis->FillMenu(*menuBar()->addMenu(tr("&Analysis")));
     auto* const solver = new SolverActions(this);
     solver->FillMenu(*menuBar()->addMenu(tr("&Solver")));

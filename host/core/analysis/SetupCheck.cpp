@@ -157,5 +157,8 @@ QStringList CheckSetup(const AnalysisSetup& setup)
     CheckConstraints(setup, problems);
     CheckLoads(setup, problems);
     CheckNumbers(setup, problems);
+    const QString overlaps = setup.overlaps.AnalysisProblem();
+    if (!overlaps.isEmpty())
+        problems << overlaps;
     return problems;
 }

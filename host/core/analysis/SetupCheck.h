@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BodyOverlaps.h"
 #include "CQLTElemPropDef.h"
 #include "KVMaterialInfo.h"
 #include "sConstrainData.h"
@@ -23,9 +24,10 @@ struct AnalysisSetup
     double minFrequency = 0.0;
     double maxFrequency = 0.0;
     std::optional<double> meshSize;
+    BodyOverlaps overlaps; ///< Of the part.
 };
 
-/// The current content of @p model and of the stores.
+/// The current content of @p model and of the stores. Leaves out the part.
 AnalysisSetup CurrentSetup(const AnalysisRecords& model);
 
 /// The problems that would prevent a solver from running, one text each. Ignores materials that no

@@ -16,6 +16,7 @@
 #include "MeshSizeInput.h"
 #include "MessageLevel.h"
 #include "NumberTexts.h"
+#include "PartModel.h"
 #include "SetupCheck.h"
 #include "SubShapeMeshParameterDlg.h"
 #include "frequencySetting.h"
@@ -36,10 +37,12 @@ std::unique_ptr<MeshSizeInput> NewMeshSizeInput(const std::optional<double>& siz
 
 } // namespace
 
-AnalysisActions::AnalysisActions(AnalysisRecords& model, AnalysisTree& tree, QWidget* window)
+AnalysisActions::AnalysisActions(AnalysisRecords& model, AnalysisTree& tree, const PartModel& part,
+                                 QWidget* window)
     : QObject(window)
     , m_model(model)
     , m_tree(tree)
+    , m_part(part)
     , m_window(window)
 {
 }
@@ -178,7 +181,9 @@ void AnalysisActions::CheckSetupNow()
 {
     ReadFiles();
     m_tree.Refresh();
-    const QStringList problems = CheckSetup(CurrentSetup(m_model));
+    AnalysisSetup setup = CurrentSetup(m_model);
+    setup.overlaps = m_part.Measures().overlaps;
+    const QStringList problems = CheckSetup(setup);
     for (const QString& problem : problems)
         PostMessageToChannel(WarningLevel, problem);
     if (problems.isEmpty())

@@ -4,6 +4,7 @@
 
 class AnalysisRecords;
 class AnalysisTree;
+class PartModel;
 class QMenu;
 class QWidget;
 
@@ -13,8 +14,10 @@ class AnalysisActions : public QObject
     Q_OBJECT
 
 public:
-    /// @p window is the parent of the dialogs and owns this object; model and tree must outlive it.
-    AnalysisActions(AnalysisRecords& model, AnalysisTree& tree, QWidget* window);
+    /// @p window is the parent of the dialogs and owns this object; model, tree and part must
+    /// outlive it.
+    AnalysisActions(AnalysisRecords& model, AnalysisTree& tree, const PartModel& part,
+                    QWidget* window);
     ~AnalysisActions() override;
 
     /// Adds an action for each dialog, for deleting in the tree, and for the check.
@@ -35,5 +38,6 @@ private:
 
     AnalysisRecords& m_model;
     AnalysisTree& m_tree;
+    const PartModel& m_part;
     QWidget* m_window;
 };

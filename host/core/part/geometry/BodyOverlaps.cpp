@@ -2,7 +2,6 @@
 
 #include "Bodies.h"
 #include "BodyVolumes.h"
-#include "BuildError.h"
 #include "Limits.h"
 
 #include <BRepAdaptor_Curve.hxx>
@@ -246,22 +245,20 @@ QString BodyOverlaps::Warning() const
                             .arg(shown.join(tr("; ")));
 }
 
+QString BodyOverlaps::AnalysisProblem() const
+{
+    if (!pairs.empty())
+        return tr("The bodies %1 and %2 of the part overlap; fuse them before the analysis.")
+            .arg(pairs.front().first)
+            .arg(pairs.front().second);
+    return isComplete ? QString()
+                      : tr("The bodies of the part could not all be compared for overlaps; fuse "
+                           "them before the analysis.");
+}
+
 BodyOverlaps FindOverlaps(const TopoDS_Shape& shape)
 {
     BodyOverlaps found = Found(PlacedBodies(shape));
     std::sort(found.pairs.begin(), found.pairs.end());
     return found;
-}
-
-void CheckNoOverlaps(const TopoDS_Shape& shape)
-{
-    const BodyOverlaps found = FindOverlaps(shape);
-    if (!found.pairs.empty())
-        throw BuildError(BuildError::tr("the bodies %1 and %2 of the part overlap; fuse them "
-                                        "before the analysis.")
-                             .arg(found.pairs.front().first)
-                             .arg(found.pairs.front().second));
-    if (!found.isComplete)
-        throw BuildError(BuildError::tr("the bodies of the part could not all be compared for "
-                                        "overlaps; fuse them before the analysis."));
 }

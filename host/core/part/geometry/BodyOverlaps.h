@@ -20,13 +20,12 @@ struct BodyOverlaps
 
     /// A warning of one line; empty if no bodies overlap and all were compared.
     QString Warning() const;
+    /// Why the part cannot be analysed, in one line: an analysis needs each point in one body at
+    /// most. Empty if it can.
+    QString AnalysisProblem() const;
 
     Q_DECLARE_TR_FUNCTIONS(BodyOverlaps)
 };
 
 /// Compares the bodies of @p shape with each other. Bodies that only touch do not overlap.
 BodyOverlaps FindOverlaps(const TopoDS_Shape& shape);
-
-/// For analyses, which need each point in one body at most.
-/// @throws BuildError if bodies of @p shape overlap or cannot all be compared
-void CheckNoOverlaps(const TopoDS_Shape& shape);

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void TheFrequencyRangeIsChecked();
     void TheMeshSizeIsChecked_data();
     void TheMeshSizeIsChecked();
+    void BodiesThatOverlapAreAProblem();
     void PerCentSignsInNamesStay();
     void SeveralProblemsAreAllListed();
     void TheCurrentSetUpComesFromModelAndStores();
@@ -339,6 +340,14 @@ void tst_SetupCheck::TheMeshSizeIsChecked()
     AnalysisSetup setup = Complete();
     setup.meshSize = isSet ? std::optional<double>(size) : std::nullopt;
     QCOMPARE(CheckSetup(setup), List(problem));
+}
+
+void tst_SetupCheck::BodiesThatOverlapAreAProblem()
+{
+    AnalysisSetup setup = Complete();
+    setup.overlaps.pairs = {{1, 3}};
+    QCOMPARE(CheckSetup(setup),
+             QStringList("The bodies 1 and 3 of the part overlap; fuse them before the analysis."));
 }
 
 void tst_SetupCheck::PerCentSignsInNamesStay()

@@ -10,6 +10,7 @@
 #include "MenuUser.h"
 #include "MessageLevel.h"
 #include "ModalDriver.h"
+#include "PartModel.h"
 
 #include <QMenu>
 #include <QSignalSpy>
@@ -25,7 +26,7 @@ public:
         , tree(model, &window)
     {
         test.EnterTemporaryDirectory();
-        (new AnalysisActions(model, tree, &window))->FillMenu(menu);
+        (new AnalysisActions(model, tree, part, &window))->FillMenu(menu);
     }
     ~AnalysisHost()
     {
@@ -69,6 +70,7 @@ public:
     QWidget window;
     AnalysisRecords model;
     AnalysisTree tree;
+    PartModel part;
     QMenu menu;
     ModalDriver user;
     QSignalSpy posted{DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage};
