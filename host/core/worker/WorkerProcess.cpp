@@ -78,9 +78,18 @@ private:
     QByteArray m_read;
 };
 
+// The address sanitizer needs far more address space than memory.
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool LimitsMemory = false;
+#else
+constexpr bool LimitsMemory = true;
+#endif
+
 // Whether the process has ever used nearly all the memory that it may.
 bool IsMemoryAlmostUsedUp(int megabytes)
 {
+    if (!LimitsMemory)
+        return false;
     constexpr double Almost = 0.9;
     constexpr double KilobytesPerMegabyte = 1024.0;
     QFile status(QStringLiteral("/proc/self/status"));
@@ -210,16 +219,13 @@ private:
     int m_step = 0;
 };
 
-// Not with the address sanitizer, which needs far more address space than memory.
 void LimitMemory(int megabytes)
 {
-#ifndef __SANITIZE_ADDRESS__
+    if (!LimitsMemory)
+        return;
     const rlim_t bytes = rlim_t(megabytes) * 1024 * 1024;
     const rlimit limit = {bytes, bytes};
     setrlimit(RLIMIT_AS, &limit);
-#else
-    Q_UNUSED(megabytes)
-#endif
 }
 
 // A program that is killed does not leave a worker behind that goes on building.
