@@ -13,7 +13,7 @@
 class ResultCache
 {
 public:
-    static constexpr qint64 DefaultSize = 512 * 1024 * 1024; ///< In bytes, as estimated.
+    static constexpr qint64 DefaultSize = qint64(512) * 1024 * 1024; ///< In bytes, as estimated.
 
     explicit ResultCache(qint64 size = DefaultSize)
         : m_size(size)
