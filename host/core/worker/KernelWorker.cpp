@@ -142,6 +142,11 @@ void KernelWorker::StartProcess()
     // A crash may print, and the console belongs to the user.
 #ifdef __SANITIZE_ADDRESS__
     m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    // The search for leaks takes longer than the owner waits for the end.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    const QString options = QStringLiteral("ASAN_OPTIONS");
+    environment.insert(options, environment.value(options) + QStringLiteral(":detect_leaks=0"));
+    m_process->setProcessEnvironment(environment);
 #else
     m_process->setStandardErrorFile(QProcess::nullDevice());
 #endif
