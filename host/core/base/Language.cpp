@@ -39,7 +39,7 @@ Language::~Language()
 
 QString Language::Current()
 {
-    return s_current == nullptr ? Known().first() : s_current->m_name;
+    return s_current == nullptr ? Known().constFirst() : s_current->m_name;
 }
 
 QStringList Language::Known()
