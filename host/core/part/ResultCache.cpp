@@ -66,7 +66,7 @@ QByteArray ResultCache::ContentHash(const QString& path)
     QByteArray content;
     if (!file.Read(content))
         return QUuid::createUuid().toRfc4122();
-    const QByteArray hash = QCryptographicHash::hash(content, QCryptographicHash::Sha256);
+    QByteArray hash = QCryptographicHash::hash(content, QCryptographicHash::Sha256);
     if (age > TimeResolution)
         m_files.insert(path, {content.size(), info.lastModified(), hash});
     return hash;

@@ -104,10 +104,11 @@ PartReply KernelWorker::Run(const PartRequest& request, const BuiltPart& known)
 {
     PartReply result;
     QEventLoop loop;
-    connect(this, &KernelWorker::Finished, &loop, [&](const PartReply& reply) {
-        result = reply;
-        loop.quit();
-    });
+    connect(this, &KernelWorker::Finished, &loop,
+            [target = &result, waiting = &loop](const PartReply& reply) {
+                *target = reply;
+                waiting->quit();
+            });
     Start(request, known);
     if (m_isBusy)
         loop.exec();

@@ -61,7 +61,7 @@ private:
     void DropProcess();
     void Abandon(End end);
     void Read();
-    void Receive(const QByteArray& message);
+    void Receive(const QByteArray& bytes);
     void HandleProcessEnd();
     void FinishWithoutReply();
     PartReply FailedAtStep(const QString& cause) const;
