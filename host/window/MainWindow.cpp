@@ -103,9 +103,10 @@ void MainWindow::ConnectPart()
     connect(m_part, &PartModel::PartBuilt, this, &MainWindow::ShowBuiltPart);
     connect(m_part, &PartModel::BuildFailed, this, &MainWindow::ShowFailure);
     connect(m_part, &PartModel::Progressed, m_summary, &PartPanel::ShowProgress);
-    for (const auto end : {&PartModel::BuildFailed, &PartModel::Exported, &PartModel::ExportFailed})
-        connect(m_part, end, m_summary, &PartPanel::EndProgress);
     connect(m_part, &PartModel::PartBuilt, m_summary, &PartPanel::EndProgress);
+    connect(m_part, &PartModel::BuildFailed, m_summary, &PartPanel::EndProgress);
+    connect(m_part, &PartModel::Exported, m_summary, &PartPanel::EndProgress);
+    connect(m_part, &PartModel::ExportFailed, m_summary, &PartPanel::EndProgress);
     connect(m_summary, &PartPanel::CancelWanted, m_part, &PartModel::Cancel);
     connect(m_features, &FeatureTree::SelectionChanged, this, &MainWindow::ShowSelectedFeature);
     connect(m_position, &PositionDock::PointEntered, m_partActions, &PartActions::TakePoint);

@@ -96,8 +96,8 @@ QWidget* PartPanel::NewProgressRow()
 
     // Belongs to the row: while that is hidden, Escape is free for others.
     auto* const escape = new QShortcut(QKeySequence(Qt::Key_Escape), row);
-    for (const auto signal : {&QShortcut::activated, &QShortcut::activatedAmbiguously})
-        connect(escape, signal, this, &PartPanel::CancelWanted);
+    connect(escape, &QShortcut::activated, this, &PartPanel::CancelWanted);
+    connect(escape, &QShortcut::activatedAmbiguously, this, &PartPanel::CancelWanted);
     connect(cancel, &QPushButton::clicked, this, &PartPanel::CancelWanted);
 
     m_progressDelay.setSingleShot(true);
