@@ -137,7 +137,8 @@ void ResultsTable::Read(const QString& path)
     std::map<int, RunResult> runs;
     for (std::size_t i = 1; i < rows.size(); ++i) {
         const auto fail = [&] {
-            throw HostError(QStringLiteral("%1: row %2 is no run of a study").arg(path).arg(i + 1));
+            throw HostError(
+                QStringLiteral("%1: row %2 is not a run of a study").arg(path).arg(i + 1));
         };
         if (rows[i].size() != header.size())
             fail();

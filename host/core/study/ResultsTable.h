@@ -27,7 +27,7 @@ public:
     explicit ResultsTable(const QStringList& parameters);
 
     /// Takes the runs of the file at @p path over. @throws HostError when it cannot be read or
-    /// is no table of these parameters; the runs are then as before.
+    /// is not a table of these parameters; the runs are then as before.
     void Read(const QString& path);
 
     /// Writes the file; an existing one is replaced as a whole or left alone. @throws HostError

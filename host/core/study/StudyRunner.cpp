@@ -54,7 +54,7 @@ RunResult BuildRun(const Study& study, int run, const Project& project, KernelWo
                    const QString& stepPath)
 {
     RunResult result;
-    // An existing file is not the part of this run. What is no file stays, and is refused later.
+    // An existing file is not the part of this run. A pipe or a folder stays, and is refused later.
     if (QFileInfo(stepPath).isFile())
         QFile::remove(stepPath);
     result.error = study.Choose(run);

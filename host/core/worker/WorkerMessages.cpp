@@ -1,11 +1,10 @@
 #include "WorkerMessages.h"
 
+#include "Bodies.h"
 #include "FeatureKinds.h"
 
-#include <BRep_Builder.hxx>
 #include <QDataStream>
 #include <QtEndian>
-#include <TopoDS_Compound.hxx>
 #include <TopoDS_Iterator.hxx>
 
 #include <BinTools.hxx>
@@ -97,13 +96,8 @@ QByteArray Written(const Write& write)
 // In one file, so that what the shapes have in common stays so.
 QByteArray ShapesToBytes(const std::vector<TopoDS_Shape>& shapes)
 {
-    const BRep_Builder builder;
-    TopoDS_Compound all;
-    builder.MakeCompound(all);
-    for (const TopoDS_Shape& shape : shapes)
-        builder.Add(all, shape);
     std::ostringstream out;
-    BinTools::Write(all, out);
+    BinTools::Write(Compound(shapes), out);
     return QByteArray::fromStdString(out.str());
 }
 

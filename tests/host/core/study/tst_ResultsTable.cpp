@@ -135,13 +135,13 @@ void tst_ResultsTable::ABadTableIsReported_data()
     row("empty", "", other);
     row("another header", "run,x\n", other);
     row("other parameters", QByteArray(Header).replace(",a,", ",c,"), other);
-    row("too few cells", Header + QByteArray("1,1,2\n"), "row 2 is no run of a study");
-    row("no number", Header + QByteArray(good).replace("11", "x"), "row 2 is no run of a study");
-    row("run 0", Header + QByteArray("0") + good.mid(1), "row 2 is no run of a study");
+    row("too few cells", Header + QByteArray("1,1,2\n"), "row 2 is not a run of a study");
+    row("no number", Header + QByteArray(good).replace("11", "x"), "row 2 is not a run of a study");
+    row("run 0", Header + QByteArray("0") + good.mid(1), "row 2 is not a run of a study");
     row("unknown status", Header + QByteArray(good).replace("ok", "fine"),
-        "row 2 is no run of a study");
-    row("a run twice", Header + good + good, "row 3 is no run of a study");
-    row("cut off", Header + good + good.left(9), "row 3 is no run of a study");
+        "row 2 is not a run of a study");
+    row("a run twice", Header + good + good, "row 3 is not a run of a study");
+    row("cut off", Header + good + good.left(9), "row 3 is not a run of a study");
 }
 
 void tst_ResultsTable::ABadTableIsReported()
@@ -159,7 +159,7 @@ void tst_ResultsTable::ABadFileLeavesTheRunsAsTheyWere()
     Put("r.csv", Header + QByteArray("5,1,2,,,,,,,,,,failed,no\n6\n"));
     ResultsTable table({"a", "b"});
     table.Set(1, Good());
-    QCOMPARE(ReasonNotRead(table), QString("r.csv: row 3 is no run of a study"));
+    QCOMPARE(ReasonNotRead(table), QString("r.csv: row 3 is not a run of a study"));
     QCOMPARE(table.Runs().size(), std::size_t(1));
 }
 
