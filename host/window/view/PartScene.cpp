@@ -43,7 +43,7 @@ PartScene::PartScene(QOpenGLContext& context)
     m_surface.create();
     const Handle(OpenGl_Context) wrapped = new OpenGl_Context;
     if (!context.makeCurrent(&m_surface) || !wrapped->Init() || !wrapped->IsGlGreaterEqual(2, 1))
-        throw Standard_ProgramError("the system's OpenGL is none that the geometry kernel can use");
+        throw Standard_ProgramError("the geometry kernel cannot use the system's OpenGL");
 
     m_driver = new OpenGl_GraphicDriver(
         new Aspect_DisplayConnection(static_cast<Aspect_XDisplay*>(wrapped->GetDisplay())), false);

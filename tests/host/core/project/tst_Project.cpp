@@ -34,7 +34,7 @@ private Q_SLOTS:
     void AHugeFileIsNotRead();
     void AnEndlessFileIsNotRead();
     void FeaturesAndConditionsAreRead();
-    void APartWithoutFeaturesIsTold();
+    void APartWithoutFeaturesIsReported();
 };
 
 static QString Reason(const QString& path)
@@ -332,7 +332,7 @@ void tst_Project::FeaturesAndConditionsAreRead()
              QString("p.json: the project has a \"conditions\" that is not a list"));
 }
 
-void tst_Project::APartWithoutFeaturesIsTold()
+void tst_Project::APartWithoutFeaturesIsReported()
 {
     const EmptyDesignStores stores;
     EnterTemporaryDirectory();

@@ -32,7 +32,7 @@ private Q_SLOTS:
     void AnExpressionThatCannotBeSettledFailsTheRun();
     void AFeatureThatCannotBeBuiltFailsTheRun_data();
     void AFeatureThatCannotBeBuiltFailsTheRun();
-    void AFolderThatCannotBeMadeIsTold();
+    void AFolderThatCannotBeMadeIsReported();
 };
 
 /// A study in the working directory: p.json into the folder "out".
@@ -311,7 +311,7 @@ void tst_StudyRunner::AFeatureThatCannotBeBuiltFailsTheRun()
     QVERIFY(!QFile::exists("out/run_0001.step"));
 }
 
-void tst_StudyRunner::AFolderThatCannotBeMadeIsTold()
+void tst_StudyRunner::AFolderThatCannotBeMadeIsReported()
 {
     const EmptyDesignStores stores;
     EnterTemporaryDirectory();
