@@ -6,6 +6,7 @@
 #include "ParameterEvaluator.h"
 #include "Project.h"
 #include "RunBenchmarks.h"
+#include "Triangles.h"
 #include "WorkerProcess.h"
 
 #include <benchmark/benchmark.h>
@@ -28,7 +29,7 @@ void ChooseRun(int run)
     EvaluateParameters();
 }
 
-// The sample flange, as the window wants it: with all shapes.
+// The sample flange, as the window wants it: with all shapes, and with triangles.
 template<class Build>
 void BuildFlanges(benchmark::State& state, const Build& build)
 {
@@ -51,6 +52,7 @@ PartReply BuiltHere(const PartRequest& request)
     PartReply reply;
     reply.part = FeatureBuilder(cache).Build(request.plan);
     reply.measures = Measure(reply.part.shape);
+    AddTriangles(reply.part.shape);
     return reply;
 }
 
