@@ -71,7 +71,7 @@ set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
 Headers, CMake package, pkg-config file and documentation for applications that
 use the dialogs.")
 set(CPACK_DEBIAN_HOST_PACKAGE_SECTION science)
-set(CPACK_DEBIAN_HOST_PACKAGE_RECOMMENDS "fonts-noto-cjk, qttranslations5-l10n")
+set(CPACK_DEBIAN_HOST_PACKAGE_RECOMMENDS "calculix-ccx, fonts-noto-cjk, gmsh, qttranslations5-l10n")
 set(CPACK_COMPONENT_HOST_DESCRIPTION
     "reference application of the TarnGUICommon dialog library
 Edits the parameters of a part, runs design studies with or without a window,

@@ -64,6 +64,17 @@
     </message>
 </context>
 <context>
+    <name>AnalysisTool</name>
+    <message>
+        <source>%1 is not a program; choose the path of %2, or leave it empty to look in PATH.</source>
+        <translation>%1 不是程序；请选择 %2 的路径，或留空以在 PATH 中查找。</translation>
+    </message>
+    <message>
+        <source>The program %1 is missing: install the Debian package %2, or set the path of the program.</source>
+        <translation>缺少程序 %1：请安装 Debian 软件包 %2，或设置该程序的路径。</translation>
+    </message>
+</context>
+<context>
     <name>AnalysisTree</name>
     <message>
         <source>Static</source>
@@ -1705,6 +1716,29 @@
     <message>
         <source>a body is not valid</source>
         <translation>有实体无效</translation>
+    </message>
+</context>
+<context>
+    <name>ToolProcess</name>
+    <message>
+        <source>%1 was cancelled.</source>
+        <translation>%1 已取消。</translation>
+    </message>
+    <message>
+        <source>%1 did not finish within %2 s, the time limit.</source>
+        <translation>%1 未能在时限 %2 s 内完成。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be started: %2</source>
+        <translation>无法启动 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 crashed.</source>
+        <translation>%1 崩溃。</translation>
+    </message>
+    <message>
+        <source>%1 ended with exit status %2.</source>
+        <translation>%1 以退出状态 %2 结束。</translation>
     </message>
 </context>
 <context>

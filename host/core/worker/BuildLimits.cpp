@@ -1,20 +1,11 @@
 #include "BuildLimits.h"
 
-#include <QSettings>
+#include "UserSettings.h"
 
 namespace {
 
 const QLatin1String MegabytesKey("limits/megabytes");
 const QLatin1String SecondsKey("limits/seconds");
-
-class UserSettings : public QSettings
-{
-public:
-    UserSettings()
-        : QSettings(IniFormat, UserScope, QStringLiteral("tarnhost"), QStringLiteral("tarnhost"))
-    {
-    }
-};
 
 } // namespace
 
