@@ -4,6 +4,7 @@
 #include "FrequencyPref.h"
 #include "KVMaterialData.h"
 #include "KVPropertyData.h"
+#include "MaterialLibrary.h"
 #include "NumberTexts.h"
 
 #include <QCoreApplication>
@@ -20,21 +21,6 @@ class Text
 {
     Q_DECLARE_TR_FUNCTIONS(SetupCheck)
 };
-
-struct MaterialValues
-{
-    QString elasticModulus;
-    QString poisson;
-    QString density;
-};
-
-MaterialValues ValuesOf(const KVMaterialInfo& material)
-{
-    if (material.m_nType == MATERIAL_SYSTEM)
-        return {material.m_strLibElasticModulus, material.m_strLibPoisson,
-                material.m_strLibDensity};
-    return {material.m_strElasticModulus, material.m_strPoisson, material.m_strDensity};
-}
 
 // Empty if the text is not a finite number.
 std::optional<double> Number(const QString& text)
@@ -60,7 +46,7 @@ void CheckPositive(const QString& material, const QString& what, const QString& 
 
 void CheckMaterial(const QString& name, const KVMaterialInfo& material, QStringList& problems)
 {
-    const MaterialValues values = ValuesOf(material);
+    const MaterialTexts values = TextsOf(material);
     CheckPositive(name, Text::tr("elastic modulus"), values.elasticModulus, problems);
     const std::optional<double> poisson = Number(values.poisson);
     if (!poisson.has_value())

@@ -1,7 +1,25 @@
 #include "JsonSection.h"
 
+#include "NumberTexts.h"
+
 #include <algorithm>
+#include <cmath>
+#include <optional>
 #include <utility>
+
+namespace {
+
+// Nothing if it is neither a number nor a text.
+std::optional<QString> ExpressionText(const QJsonValue& value)
+{
+    if (value.isDouble())
+        return ExactText(value.toDouble());
+    if (value.isString())
+        return value.toString();
+    return {};
+}
+
+} // namespace
 
 QString Quoted(const QString& text)
 {
@@ -104,6 +122,31 @@ QStringList JsonSection::Texts(QLatin1String key) const
     return texts;
 }
 
+QString JsonSection::Expression(QLatin1String key, const QString& byDefault) const
+{
+    if (!Has(key))
+        return byDefault;
+    const std::optional<QString> text = ExpressionText(m_object.value(key));
+    if (!text)
+        FailAt(key, JsonError::tr("a number or an expression"));
+    return *text;
+}
+
+std::array<QString, 3> JsonSection::Expressions(QLatin1String key) const
+{
+    std::array<QString, 3> texts;
+    const QJsonArray array = Array(key);
+    bool isComplete = array.size() == int(texts.size());
+    for (std::size_t place = 0; isComplete && place < texts.size(); ++place) {
+        const std::optional<QString> text = ExpressionText(array.at(int(place)));
+        isComplete = text.has_value();
+        texts[place] = text.value_or(QString());
+    }
+    if (!isComplete)
+        FailAt(key, JsonError::tr("a list of three numbers or expressions"));
+    return texts;
+}
+
 void JsonSection::Fail(const QString& what) const
 {
     throw JsonError(m_place + QLatin1Char(' ') + what);
@@ -112,4 +155,21 @@ void JsonSection::Fail(const QString& what) const
 void JsonSection::FailAt(QLatin1String key, const QString& wanted) const
 {
     Fail(JsonError::tr("has a \"%1\" that is not %2").arg(key, wanted));
+}
+
+QJsonValue ExpressionToJson(const QString& text)
+{
+    bool isNumber = false;
+    const double value = text.toDouble(&isNumber);
+    if (isNumber && std::isfinite(value) && ExactText(value) == text)
+        return value;
+    return text;
+}
+
+QJsonArray ExpressionsToJson(const std::array<QString, 3>& texts)
+{
+    QJsonArray array;
+    for (const QString& text : texts)
+        array.append(ExpressionToJson(text));
+    return array;
 }

@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <vector>
 
 /// An error in a JSON file: one line.
@@ -45,6 +46,10 @@ public:
     QJsonArray Array(QLatin1String key) const;
     std::vector<double> Numbers(QLatin1String key) const;
     QStringList Texts(QLatin1String key) const;
+    /// A number or an expression, as its text.
+    QString Expression(QLatin1String key, const QString& byDefault = QString()) const;
+    /// Three numbers or expressions.
+    std::array<QString, 3> Expressions(QLatin1String key) const;
 
     /// Throws a JsonError; @p what continues the sentence after the place: "is ...", "has ...".
     [[noreturn]] void Fail(const QString& what) const;
@@ -54,3 +59,7 @@ private:
     QString m_place;
     QJsonObject m_object;
 };
+
+/// The JSON value of a number or an expression: a number if that preserves the text.
+QJsonValue ExpressionToJson(const QString& text);
+QJsonArray ExpressionsToJson(const std::array<QString, 3>& texts);

@@ -3,12 +3,10 @@
 #include "BuildError.h"
 #include "FeatureKinds.h"
 #include "JsonSection.h"
-#include "NumberTexts.h"
 
 #include <QSet>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -18,16 +16,6 @@ const QLatin1String SuppressedKey("suppressed");
 const QLatin1String InputsKey("inputs");
 const QLatin1String FieldsKey("fields");
 const QLatin1String FileKey("file");
-
-// Numbers are written as numbers, if that preserves their text.
-QJsonValue FieldToJson(const QString& text)
-{
-    bool isNumber = false;
-    const double value = text.toDouble(&isNumber);
-    if (isNumber && std::isfinite(value) && ExactText(value) == text)
-        return value;
-    return text;
-}
 
 QStringList ReadFields(const JsonSection& section, const QString& place, const FeatureKind& kind)
 {
@@ -39,17 +27,8 @@ QStringList ReadFields(const JsonSection& section, const QString& place, const F
                              section.Has(FieldsKey) ? section.Value(FieldsKey) : QJsonObject(),
                              keys);
     QStringList texts;
-    for (const FieldDefinition& field : kind.fields) {
-        const QJsonValue value = values.Value(field.key);
-        if (value.isDouble())
-            texts << ExactText(value.toDouble());
-        else if (value.isString())
-            texts << value.toString();
-        else if (!values.Has(field.key))
-            texts << field.defaultText;
-        else
-            values.FailAt(field.key, JsonError::tr("a number or an expression"));
-    }
+    for (const FieldDefinition& field : kind.fields)
+        texts << values.Expression(field.key, field.defaultText);
     return texts;
 }
 
@@ -88,7 +67,7 @@ QJsonObject WriteFeature(const Feature& feature)
     QJsonObject fields;
     const int count = std::min(int(kind.fields.size()), feature.fields.size());
     for (int field = 0; field < count; ++field)
-        fields.insert(kind.fields[std::size_t(field)].key, FieldToJson(feature.fields[field]));
+        fields.insert(kind.fields[std::size_t(field)].key, ExpressionToJson(feature.fields[field]));
     if (!fields.isEmpty())
         json.insert(FieldsKey, fields);
     if (!feature.file.isEmpty())

@@ -4,7 +4,10 @@
 #include "Project.h"
 
 #include <QCommandLineParser>
+#include <QLocale>
 #include <QRegularExpression>
+
+#include <cmath>
 
 namespace {
 
@@ -21,11 +24,25 @@ struct Options
         QStringLiteral("Run the study of the project <file> without a window."),
         QStringLiteral("file")};
     QCommandLineOption out{QStringLiteral("out"),
-                           QStringLiteral("Write the study's results to the folder <dir>."),
+                           QStringLiteral("Write the results to the folder <dir>."),
                            QStringLiteral("dir")};
     QCommandLineOption runs{QStringLiteral("runs"),
                             QStringLiteral("Do only these runs of the study: 3-7, or 5."),
                             QStringLiteral("runs")};
+    QCommandLineOption solve{
+        QStringLiteral("solve"),
+        QStringLiteral("Analyse the part of the project <file> without a window: its natural "
+                       "frequencies, or with --static its displacements and stresses."),
+        QStringLiteral("file")};
+    QCommandLineOption isStatic{QStringLiteral("static"),
+                                QStringLiteral("Solve a static analysis.")};
+    QCommandLineOption set{
+        QStringLiteral("set"),
+        QStringLiteral("Give a parameter another value for this analysis: --set length=12.5. Can "
+                       "be repeated."),
+        QStringLiteral("name=value")};
+    QCommandLineOption noRun{QStringLiteral("no-run"),
+                             QStringLiteral("Write the solvers' decks, but do not solve.")};
     QCommandLineOption screenshots{
         QStringLiteral("screenshots"),
         QStringLiteral("Write a picture of every window to the folder <dir>."),
@@ -46,7 +63,8 @@ struct Options
     {
         parser.setApplicationDescription(
             QStringLiteral("Reference host of the dialogs: a bolted flange and its study."));
-        parser.addOptions({study, out, runs, screenshots, palette, lang, help, version});
+        parser.addOptions({study, solve, out, runs, isStatic, set, noRun, screenshots, palette,
+                           lang, help, version});
         parser.addPositionalArgument(QStringLiteral("project"),
                                      QStringLiteral("The project file; without, a sample project."),
                                      QStringLiteral("[project]"));
@@ -69,6 +87,17 @@ void ReadRuns(const QString& text, CommandLine& line)
                    .arg(text.simplified()));
 }
 
+// The last "=" separates: a name may contain one, a number cannot.
+void ReadValue(const QString& text, CommandLine& line)
+{
+    const int sign = text.lastIndexOf(QLatin1Char('='));
+    bool isNumber = false;
+    const double value = QLocale::c().toDouble(text.mid(sign + 1), &isNumber);
+    if (sign < 0 || !isNumber || !std::isfinite(value))
+        Refuse(QStringLiteral("--set %1: a value is given as NAME=NUMBER").arg(text.simplified()));
+    line.values.emplace_back(text.left(sign), value);
+}
+
 bool ReadPalette(const QString& text)
 {
     const bool isDark = text == QLatin1String("dark");
@@ -84,6 +113,30 @@ QString ReadLanguage(const QString& text)
         Refuse(QStringLiteral("--lang %1: the languages are %2")
                    .arg(text.simplified(), LanguageNames()));
     return text;
+}
+
+// Which options go together.
+void CheckCombination(const QCommandLineParser& parser, const Options& options)
+{
+    const bool study = parser.isSet(options.study);
+    const bool solve = parser.isSet(options.solve);
+    const bool screenshots = parser.isSet(options.screenshots);
+    if (study && screenshots)
+        Refuse(QStringLiteral("--study and --screenshots do not go together"));
+    if (solve && (study || screenshots))
+        Refuse(QStringLiteral("--solve goes with neither --study nor --screenshots"));
+    if (solve && !parser.isSet(options.out))
+        Refuse(QStringLiteral("--solve FILE needs --out DIR"));
+    if (!solve && study != parser.isSet(options.out))
+        Refuse(QStringLiteral("--study FILE and --out DIR need each other"));
+    if (parser.isSet(options.runs) && !study)
+        Refuse(QStringLiteral("--runs needs --study FILE"));
+    for (const QCommandLineOption& option : {options.isStatic, options.set, options.noRun}) {
+        if (parser.isSet(option) && !solve)
+            Refuse(QStringLiteral("--%1 needs --solve FILE").arg(option.names().constFirst()));
+    }
+    if (parser.isSet(options.palette) && !screenshots)
+        Refuse(QStringLiteral("--palette needs --screenshots DIR"));
 }
 
 } // namespace
@@ -106,20 +159,15 @@ CommandLine CommandLine::Parse(const QStringList& arguments)
         return line;
     }
 
+    CheckCombination(parser, options);
     const bool study = parser.isSet(options.study);
+    const bool solve = parser.isSet(options.solve);
     const bool screenshots = parser.isSet(options.screenshots);
-    if (study && screenshots)
-        Refuse(QStringLiteral("--study and --screenshots do not go together"));
-    if (study != parser.isSet(options.out))
-        Refuse(QStringLiteral("--study FILE and --out DIR need each other"));
-    if (parser.isSet(options.runs) && !study)
-        Refuse(QStringLiteral("--runs needs --study FILE"));
-    if (parser.isSet(options.palette) && !screenshots)
-        Refuse(QStringLiteral("--palette needs --screenshots DIR"));
-
     QStringList projects = parser.positionalArguments();
     if (study)
         projects.prepend(parser.value(options.study));
+    if (solve)
+        projects.prepend(parser.value(options.solve));
     if (projects.size() > 1)
         Refuse(QStringLiteral("there is more than one project: %1 and %2")
                    .arg(projects[0].simplified(), projects[1].simplified()));
@@ -128,13 +176,20 @@ CommandLine CommandLine::Parse(const QStringList& arguments)
     line.screenshotDirectory = parser.value(options.screenshots);
     if (study)
         line.action = RunStudy;
+    else if (solve)
+        line.action = Solve;
     else if (screenshots)
         line.action = WriteScreenshots;
-    if (line.projectFile.isEmpty() || (study && line.outputDirectory.isEmpty()) ||
+    if (line.projectFile.isEmpty() || ((study || solve) && line.outputDirectory.isEmpty()) ||
         (screenshots && line.screenshotDirectory.isEmpty()))
         Refuse(QStringLiteral("the name of a file or folder is empty"));
     if (parser.isSet(options.runs))
         ReadRuns(parser.value(options.runs), line);
+    line.isStatic = parser.isSet(options.isStatic);
+    line.isWithoutRun = parser.isSet(options.noRun);
+    const QStringList values = parser.values(options.set);
+    for (const QString& value : values)
+        ReadValue(value, line);
     if (parser.isSet(options.palette))
         line.isDark = ReadPalette(parser.value(options.palette));
     if (parser.isSet(options.lang))

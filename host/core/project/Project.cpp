@@ -1,5 +1,6 @@
 #include "Project.h"
 
+#include "AnalysisJson.h"
 #include "BuildError.h"
 #include "BuiltInFiles.h"
 #include "GlobalParaMeterMgr.h"
@@ -59,14 +60,15 @@ void Project::Read(const QJsonValue& json)
     // The version first: a newer file may have entries that are unknown here.
     const double version = json.toObject().value(VersionKey).toDouble(Version);
     if (version > Version)
-        throw JsonError(JsonError::tr("the project is of version %1; this program reads version %2")
-                            .arg(version)
-                            .arg(Version));
-    const JsonSection root(
-        JsonError::tr("the project"), json,
-        {VersionKey, TitleKey, DensityKey, ParametersKey, SamplesKey, FeaturesKey, ConditionsKey});
-    if (root.Number(VersionKey) != Version)
-        root.FailAt(VersionKey, QString::number(Version));
+        throw JsonError(
+            JsonError::tr("the project is of version %1; this program reads versions up to %2")
+                .arg(version)
+                .arg(Version));
+    const JsonSection root(JsonError::tr("the project"), json,
+                           {VersionKey, TitleKey, DensityKey, MaterialKey, ParametersKey,
+                            SamplesKey, FeaturesKey, ConditionsKey, AnalysisKey, StudyKey});
+    if (root.Number(VersionKey) != 1 && root.Number(VersionKey) != Version)
+        root.FailAt(VersionKey, JsonError::tr("1 or %1").arg(Version));
 
     m_title = root.Text(TitleKey, QFileInfo(m_path).completeBaseName());
     if (root.Has(DensityKey))
@@ -98,6 +100,11 @@ void Project::Read(const QJsonValue& json)
 
     m_features = FeatureList::FromJson(root.Array(FeaturesKey));
     m_conditions = ReadConditions(root.Array(ConditionsKey));
+    m_material = root.Text(MaterialKey);
+    if (root.Has(AnalysisKey))
+        m_analysis = ReadAnalysis(root.Value(AnalysisKey));
+    if (root.Has(StudyKey))
+        m_study = ReadStudy(root.Value(StudyKey));
 }
 
 QJsonObject Project::ToJson() const
@@ -111,6 +118,12 @@ QJsonObject Project::ToJson() const
         json.insert(FeaturesKey, m_features.ToJson());
     if (!m_conditions.empty())
         json.insert(ConditionsKey, ConditionsToJson(m_conditions));
+    if (!m_material.isEmpty())
+        json.insert(MaterialKey, m_material);
+    if (m_analysis != AnalysisDefinition())
+        json.insert(AnalysisKey, ::ToJson(m_analysis));
+    if (m_study != StudyDefinition())
+        json.insert(StudyKey, ::ToJson(m_study));
     return json;
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "AnalysisDefinition.h"
 #include "Conditions.h"
 #include "FeatureList.h"
 #include "HostError.h"
 #include "ParametersDef.h"
 #include "PartPlan.h"
 #include "SampleList.h"
+#include "StudyDefinition.h"
 
 #include <QString>
 
@@ -28,25 +30,40 @@ public:
 class Project
 {
 public:
-    static constexpr int Version = 1;                        ///< Of the files that are read.
+    /// Of the files that are written. Files of older versions are read as well.
+    static constexpr int Version = 2;
     static constexpr int MaximumFileSize = 16 * 1024 * 1024; ///< In bytes.
     static constexpr double SteelDensity = 7850.0; ///< For files that give none, in kg/m3.
 
     /// The path of the sample project, which is built into the program.
     static QString SamplePath();
 
+    /// A project without content, and without a file.
+    Project() = default;
+
     /// Reads the file at @p path. @throws ProjectError
     static Project Load(const QString& path);
 
     const QString& Path() const { return m_path; }   ///< As given to Load() or Save().
     const QString& Title() const { return m_title; } ///< What the project is called.
-    double Density() const { return m_density; }     ///< Of the part, in kg/m3.
+    void SetTitle(const QString& title) { m_title = title; }
+    /// Of a part without a material, in kg/m3. MaterialLibrary.h knows those of materials.
+    double Density() const { return m_density; }
+    void SetDensity(double density) { m_density = density; }
+    /// Of the part, by its name in the system's or the user's library; empty for none.
+    const QString& Material() const { return m_material; }
+    void SetMaterial(const QString& material) { m_material = material; }
     const std::vector<ParametersDef>& Parameters() const { return m_parameters; }
     const std::vector<SampleList>& SampleLists() const { return m_samples; }
     void SetSampleLists(std::vector<SampleList> lists) { m_samples = std::move(lists); }
     const FeatureList& Features() const { return m_features; }
     void SetFeatures(const FeatureList& features) { m_features = features; }
     const std::vector<Condition>& Conditions() const { return m_conditions; }
+    void SetConditions(std::vector<Condition> conditions) { m_conditions = std::move(conditions); }
+    const AnalysisDefinition& Analysis() const { return m_analysis; }
+    void SetAnalysis(AnalysisDefinition analysis) { m_analysis = std::move(analysis); }
+    const StudyDefinition& Study() const { return m_study; }
+    void SetStudy(StudyDefinition study) { m_study = std::move(study); }
 
     /// Where the files of imports are looked for.
     QString Folder() const;
@@ -65,8 +82,6 @@ public:
     void FillParameterStore() const;
 
 private:
-    Project() = default;
-
     void Read(const QJsonValue& json);
     QJsonObject ToJson() const;
     FeatureList FeaturesSeenFrom(const QString& path) const;
@@ -78,4 +93,7 @@ private:
     std::vector<SampleList> m_samples;
     FeatureList m_features;
     std::vector<Condition> m_conditions;
+    QString m_material;
+    AnalysisDefinition m_analysis;
+    StudyDefinition m_study;
 };

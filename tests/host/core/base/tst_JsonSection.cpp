@@ -7,6 +7,7 @@ class tst_JsonSection : public TestCase
 
 private Q_SLOTS:
     void EntriesAreReadByType();
+    void ExpressionsAreNumbersOrTexts();
     void MissingEntriesGiveTheDefault();
     void MessagesBeginWithThePlace();
     void QuotedTextsStayShortAndInOneLine();
@@ -28,6 +29,21 @@ void tst_JsonSection::EntriesAreReadByType()
     QCOMPARE(Section(true).Flag(Key, false), true);
     QCOMPARE(Section(QJsonArray({1, 2})).Numbers(Key), std::vector<double>({1.0, 2.0}));
     QCOMPARE(Section(QJsonArray({"a", "b"})).Texts(Key), QStringList({"a", "b"}));
+}
+
+void tst_JsonSection::ExpressionsAreNumbersOrTexts()
+{
+    QCOMPARE(Section(0.1).Expression(Key), QString("0.1"));
+    QCOMPARE(Section("a / 2").Expression(Key), QString("a / 2"));
+    const std::array<QString, 3> texts = {"1", "a", "-2.5"};
+    QVERIFY(Section(QJsonArray({1, "a", -2.5})).Expressions(Key) == texts);
+    QCOMPARE(ExpressionsToJson(texts), QJsonArray({1, "a", -2.5}));
+    // A text that is not the shortest one of its number stays a text.
+    for (const char* text : {"1.0", "1e3", " 1", "nan", "inf", "", "1e999"})
+        QCOMPARE(ExpressionToJson(text), QJsonValue(text));
+    QVERIFY_EXCEPTION_THROWN(Section(true).Expression(Key), JsonError);
+    QVERIFY_EXCEPTION_THROWN(Section(QJsonArray({1, 2})).Expressions(Key), JsonError);
+    QVERIFY_EXCEPTION_THROWN(Section(QJsonArray({1, 2, true})).Expressions(Key), JsonError);
 }
 
 void tst_JsonSection::MissingEntriesGiveTheDefault()

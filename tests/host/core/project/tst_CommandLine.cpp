@@ -12,6 +12,7 @@ private Q_SLOTS:
     void AStudyHasAProjectAFolderAndRuns();
     void RunsAreARangeOrANumber_data();
     void RunsAreARangeOrANumber();
+    void AnAnalysisHasAProjectAFolderAndValues();
     void ScreenshotsTakeTheSampleProjectOrAnother();
     void ScreenshotsMayBeDark();
     void TheLanguageOfTheWindowsCanBeChosen();
@@ -68,6 +69,24 @@ void tst_CommandLine::RunsAreARangeOrANumber()
     QTEST(line.lastRun, "last");
 }
 
+void tst_CommandLine::AnAnalysisHasAProjectAFolderAndValues()
+{
+    CommandLine line = Parse({"--solve", "a.json", "--out", "o"});
+    QCOMPARE(line.action, CommandLine::Solve);
+    QCOMPARE(line.projectFile, QString("a.json"));
+    QCOMPARE(line.outputDirectory, QString("o"));
+    QVERIFY(!line.isStatic && !line.isWithoutRun && line.values.empty());
+
+    line = Parse({"--solve", "a.json", "--out", "o", "--static", "--no-run", "--set", "长=-1.5e2",
+                  "--set", "a=b=3"});
+    QVERIFY(line.isStatic && line.isWithoutRun);
+    QCOMPARE(line.values.size(), std::size_t(2));
+    QCOMPARE(line.values[0].first, QString("长"));
+    QCOMPARE(line.values[0].second, -150.0);
+    QCOMPARE(line.values[1].first, QString("a=b"));
+    QCOMPARE(line.values[1].second, 3.0);
+}
+
 void tst_CommandLine::ScreenshotsTakeTheSampleProjectOrAnother()
 {
     CommandLine line = Parse({"--screenshots", "s"});
@@ -103,8 +122,9 @@ void tst_CommandLine::TheHelpNamesEveryOption()
 {
     const QString help = CommandLine::HelpText();
     for (const char* option :
-         {"--study <file>", "--out <dir>", "--runs <runs>", "--screenshots <dir>",
-          "--palette <name>", "--lang <name>", "--help", "--version", "[project]"})
+         {"--study <file>", "--out <dir>", "--runs <runs>", "--solve <file>", "--static",
+          "--set <name=value>", "--no-run", "--screenshots <dir>", "--palette <name>",
+          "--lang <name>", "--help", "--version", "[project]"})
         QVERIFY2(help.contains(option), option);
 }
 
@@ -123,6 +143,20 @@ void tst_CommandLine::BadArgumentsAreToldInOneLine_data()
     row("study and screenshots", {"--study", "a", "--out", "o", "--screenshots", "s"},
         "--study and --screenshots do not go together");
     row("palette without screenshots", {"--palette", "dark"}, "--palette needs --screenshots DIR");
+    row("analysis without folder", {"--solve", "a"}, "--solve FILE needs --out DIR");
+    row("analysis and study", {"--solve", "a", "--out", "o", "--study", "a"},
+        "--solve goes with neither --study nor --screenshots");
+    row("analysis and screenshots", {"--solve", "a", "--out", "o", "--screenshots", "s"},
+        "--solve goes with neither --study nor --screenshots");
+    row("static without analysis", {"--static"}, "--static needs --solve FILE");
+    row("value without analysis", {"--set", "a=1"}, "--set needs --solve FILE");
+    row("no run without analysis", {"--study", "a", "--out", "o", "--no-run"},
+        "--no-run needs --solve FILE");
+    row("empty analysis", {"--solve", "", "--out", "o"}, "the name of a file or folder is empty");
+    for (const char* value : {"a", "a=", "a=x", "a=1,5", "a=inf", "a=nan", "a=1e999", ""})
+        row(qPrintable(QString("value \"%1\"").arg(value)),
+            {"--solve", "a", "--out", "o", "--set", value},
+            qPrintable(QString("--set %1: a value is given as NAME=NUMBER").arg(value)));
     row("unknown palette", {"--screenshots", "s", "--palette", "Dark"},
         "--palette Dark: the colours are light or dark");
     for (const char* language : {"", "fr", "zh", "zh_cn", "en_US"})

@@ -186,9 +186,9 @@ void tst_Project::BadFilesAreReportedInOneLine_data()
     row("no version", "{}", "the project has no \"version\"");
     row("version is a text", "{\"version\": \"1\"}",
         "the project has a \"version\" that is not a number");
-    row("version 0", "{\"version\": 0}", "the project has a \"version\" that is not 1");
-    row("newer version", "{\"version\": 2, \"shiny\": 1}",
-        "the project is of version 2; this program reads version 1");
+    row("version 0", "{\"version\": 0}", "the project has a \"version\" that is not 1 or 2");
+    row("newer version", "{\"version\": 3, \"shiny\": 1}",
+        "the project is of version 3; this program reads versions up to 2");
     row("unknown entry", "{\"version\": 1, \"parametres\": []}",
         "the project has the unknown entry \"parametres\"");
     row("title is a number", "{\"version\": 1, \"title\": 5}",

@@ -77,6 +77,9 @@ void tst_ProjectSaving::ASavedProjectIsLoadedTheSame_data()
           {"name": "b", "kind": "import", "file": "parts/b.step", "suppressed": true},
           {"name": "c", "kind": "fuse", "inputs": ["a", "b"]}],
         "conditions": [{"expression": "z > 0", "message": "No {z}."}]})");
+    QTest::newRow("version 2") << QByteArray(R"({"version": 2, "material": "钢",
+        "analysis": {"meshSize": "t / 2", "localMeshes": [{"size": 2, "faces": ["a.xmin"]}]},
+        "study": {"design": "sobol", "runs": 8, "analyses": ["static"]}})");
 }
 
 void tst_ProjectSaving::ASavedProjectIsLoadedTheSame()
@@ -92,6 +95,9 @@ void tst_ProjectSaving::ASavedProjectIsLoadedTheSame()
     QCOMPARE(Everything(again), before);
     QVERIFY(again.Features() == Project::Load("p.json").Features());
     QVERIFY(again.Conditions() == Project::Load("p.json").Conditions());
+    QCOMPARE(again.Material(), Project::Load("p.json").Material());
+    QVERIFY(again.Analysis() == Project::Load("p.json").Analysis());
+    QVERIFY(again.Study() == Project::Load("p.json").Study());
 
     QFile file("saved.json");
     QVERIFY(file.open(QIODevice::ReadOnly));
