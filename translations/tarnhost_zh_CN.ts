@@ -1091,6 +1091,32 @@
     </message>
 </context>
 <context>
+    <name>MeshError</name>
+    <message>
+        <source>The file of the mesh is damaged or not complete.</source>
+        <translation>网格文件已损坏或不完整。</translation>
+    </message>
+    <message>
+        <source>The mesh has elements of the unknown kind %1.</source>
+        <translation>网格含有未知类型 %1 的单元。</translation>
+    </message>
+    <message>
+        <source>The mesh has no elements.</source>
+        <translation>网格没有单元。</translation>
+    </message>
+    <message>
+        <source>The file of the mesh %1</source>
+        <translation>网格文件 %1</translation>
+    </message>
+</context>
+<context>
+    <name>MeshEstimate</name>
+    <message>
+        <source>The mesh of size %1 mm would have about %2 degrees of freedom; the limit is %3. A mesh size of %4 mm would fit.</source>
+        <translation>网格尺寸 %1 mm 约有 %2 个自由度；上限为 %3。网格尺寸 %4 mm 可行。</translation>
+    </message>
+</context>
+<context>
     <name>MessageDock</name>
     <message>
         <source>Messages</source>
