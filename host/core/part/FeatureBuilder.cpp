@@ -11,12 +11,11 @@
 
 namespace {
 
-TopoDS_Shape Built(const BuildStep& step, const PartPlan& plan, const BuiltPart& part,
-                   BodyVolumes& volumes)
+TracedShape Built(const BuildStep& step, const BuiltPart& part, BodyVolumes& volumes)
 {
     std::vector<BuildInput::Body> bodies;
     for (const int input : step.inputs)
-        bodies.push_back({plan[std::size_t(input)].name, part.shapes[std::size_t(input)]});
+        bodies.push_back({part.plan[std::size_t(input)].name, part.shapes[std::size_t(input)]});
     return step.kind->Built({*step.kind, step.values, bodies, step.file}, volumes);
 }
 
@@ -41,29 +40,15 @@ auto NamingFeature(const QString& name, const Call& call)
     }
 }
 
-// Calls @p visit with each place of a shape of which the part consists.
-template<class Visit>
-void VisitResults(const PartPlan& plan, const std::vector<TopoDS_Shape>& shapes, const Visit& visit)
-{
-    std::vector<bool> isUsed(plan.size());
-    for (const BuildStep& step : plan) {
-        for (const int input : step.inputs)
-            isUsed[std::size_t(input)] = true;
-    }
-    for (std::size_t place = 0; place < plan.size(); ++place) {
-        if (!isUsed[place] && !shapes[place].IsNull())
-            visit(place);
-    }
-}
-
 } // namespace
 
 BuiltPart FeatureBuilder::Build(const PartPlan& plan, const Progress& progress)
 {
     BuiltPart part;
+    part.plan = plan;
     int bodies = 0;
     for (const BuildStep& step : plan) {
-        NamingFeature(step.name, [&] { Add(step, plan, part, progress); });
+        NamingFeature(step.name, [&] { Add(step, part, progress); });
         const TopoDS_Shape& shape = part.shapes.back();
         bodies += shape.IsNull() ? 0 : CountBodies(shape);
         // Checked after each feature: many large arrays would use up the memory.
@@ -72,7 +57,7 @@ BuiltPart FeatureBuilder::Build(const PartPlan& plan, const Progress& progress)
                                BuildError::tr("this feature would exceed the limit of %1 bodies.")
                                    .arg(MaximumBodies));
     }
-    part.shape = WholePart(plan, part.shapes);
+    part.JoinResults();
     return part;
 }
 
@@ -82,27 +67,28 @@ BuiltPart FeatureBuilder::Build(const FeatureList& list, const QString& folder)
     return FeatureBuilder(cache).Build(PlanPart(list, folder));
 }
 
-void FeatureBuilder::Add(const BuildStep& step, const PartPlan& plan, BuiltPart& part,
-                         const Progress& progress)
+void FeatureBuilder::Add(const BuildStep& step, BuiltPart& part, const Progress& progress)
 {
-    TopoDS_Shape shape;
+    TracedShape result;
     QByteArray key;
     if (step.suppressed) {
         if (!step.inputs.empty()) {
-            shape = part.shapes[std::size_t(step.inputs.front())];
-            key = part.keys[std::size_t(step.inputs.front())];
+            const auto input = std::size_t(step.inputs.front());
+            result = {part.shapes[input], part.faces[input]};
+            key = part.keys[input];
         }
     } else {
         key = KeyOf(step, part);
-        shape = m_cache.Find(key);
-        if (shape.IsNull()) {
+        result = m_cache.Find(key);
+        if (result.shape.IsNull()) {
             if (progress)
                 progress(int(part.shapes.size()));
-            shape = Built(step, plan, part, m_volumes);
-            m_cache.Keep(key, shape);
+            result = Built(step, part, m_volumes);
+            m_cache.Keep(key, result);
         }
     }
-    part.shapes.push_back(shape);
+    part.shapes.push_back(result.shape);
+    part.faces.push_back(result.faces);
     part.keys.push_back(key);
 }
 
@@ -120,13 +106,4 @@ QByteArray FeatureBuilder::KeyOf(const BuildStep& step, const BuiltPart& part)
     if (step.kind->readsFile)
         addPart(m_cache.ContentHash(step.file));
     return hash.result();
-}
-
-TopoDS_Shape WholePart(const PartPlan& plan, const std::vector<TopoDS_Shape>& shapes)
-{
-    std::vector<TopoDS_Shape> results;
-    VisitResults(plan, shapes, [&](std::size_t place) { results.push_back(shapes[place]); });
-    if (results.empty())
-        return {};
-    return results.size() == 1 ? results.front() : Compound(results);
 }

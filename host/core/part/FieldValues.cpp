@@ -1,6 +1,7 @@
 #include "FieldValues.h"
 
 #include "BuildError.h"
+#include "CommonFields.h"
 #include "ExpressionEngine.h"
 #include "FeatureKind.h"
 #include "GlobalParaMeterMgr.h"
@@ -56,4 +57,41 @@ std::vector<double> FieldValues::Of(const Feature& feature)
         values.push_back(value);
     }
     return values;
+}
+
+FaceTarget FieldValues::Of(const FaceReference& reference)
+{
+    FaceTarget target;
+    target.name = reference.name;
+    if (reference.IsPoint())
+        target.at = Point(reference.at);
+    return target;
+}
+
+EdgeTarget FieldValues::Of(const EdgeReference& reference)
+{
+    EdgeTarget target;
+    for (const FaceReference& face : reference.between)
+        target.between.push_back(Of(face));
+    if (reference.IsPoint())
+        target.at = Point(reference.at);
+    return target;
+}
+
+std::array<double, 3> FieldValues::Point(const PointTexts& texts)
+{
+    std::array<double, 3> point{};
+    for (std::size_t axis = 0; axis < point.size(); ++axis) {
+        const QString& text = texts[axis];
+        const double value = Evaluate(text);
+        if (std::isnan(value))
+            throw BuildError(BuildError::tr("the coordinate %1 of a point has no value: %2.")
+                                 .arg(Quoted(text), ExpressionEngine::LastError()));
+        if (!FieldRules::Coordinate.Allows(value))
+            throw BuildError(
+                BuildError::tr("the coordinate %1 of a point is %2, but has to be %3.")
+                    .arg(Quoted(text), ShortText(value), FieldRules::Coordinate.Text()));
+        point[axis] = value;
+    }
+    return point;
 }

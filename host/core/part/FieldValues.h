@@ -1,12 +1,14 @@
 #pragma once
 
 #include "Feature.h"
+#include "ShapeReference.h"
+#include "ShapeTargets.h"
 
 #include <map>
 #include <string>
 #include <vector>
 
-/// Evaluates the fields of features with the parameters.
+/// Evaluates the fields of features, and references to faces and edges, with the parameters.
 class FieldValues
 {
 public:
@@ -16,9 +18,17 @@ public:
     /// The value of each field; each is within its rule. @throws FeatureError
     std::vector<double> Of(const Feature& feature);
 
+    /// What the reference means now. @throws BuildError if a coordinate has no value, or one that
+    /// is too large
+    FaceTarget Of(const FaceReference& reference);
+    /// As for a face. @throws BuildError
+    EdgeTarget Of(const EdgeReference& reference);
+
     /// The value of @p text, or NaN; ExpressionEngine::LastError() then has the reason.
     double Evaluate(const QString& text);
 
 private:
+    std::array<double, 3> Point(const PointTexts& texts);
+
     std::map<std::string, double> m_variables;
 };

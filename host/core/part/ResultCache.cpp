@@ -29,7 +29,7 @@ qint64 EstimatedSize(const TopoDS_Shape& shape, QSet<const TopoDS_TShape*>& coun
 
 } // namespace
 
-TopoDS_Shape ResultCache::Find(const QByteArray& key)
+TracedShape ResultCache::Find(const QByteArray& key)
 {
     const auto place = m_places.constFind(key);
     if (place == m_places.cend())
@@ -38,10 +38,10 @@ TopoDS_Shape ResultCache::Find(const QByteArray& key)
     return m_entries.front().result;
 }
 
-void ResultCache::Keep(const QByteArray& key, const TopoDS_Shape& result)
+void ResultCache::Keep(const QByteArray& key, const TracedShape& result)
 {
     QSet<const TopoDS_TShape*> counted;
-    const qint64 size = EstimatedSize(result, counted);
+    const qint64 size = EstimatedSize(result.shape, counted) + result.faces.Size();
     if (size > m_size || m_places.contains(key))
         return;
     m_entries.push_front({key, result, size});

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "FaceOrigins.h"
+
 #include <QByteArray>
 #include <QDateTime>
 #include <QHash>
 #include <QString>
-#include <TopoDS_Shape.hxx>
 
 #include <list>
 
@@ -20,10 +21,10 @@ public:
     {
     }
 
-    /// The result with this key; null if it is not kept.
-    TopoDS_Shape Find(const QByteArray& key);
+    /// The result with this key; a null shape if it is not kept.
+    TracedShape Find(const QByteArray& key);
     /// Results that are larger than the whole cache are not kept.
-    void Keep(const QByteArray& key, const TopoDS_Shape& result);
+    void Keep(const QByteArray& key, const TracedShape& result);
 
     /// A hash of the content of the file at @p path. If the file cannot be read, a value that no
     /// other call returns.
@@ -36,7 +37,7 @@ private:
     struct Entry
     {
         QByteArray key;
-        TopoDS_Shape result;
+        TracedShape result;
         qint64 size;
     };
     struct KnownFile

@@ -18,8 +18,15 @@ namespace {
 constexpr QDataStream::Version StreamVersion = QDataStream::Qt_5_15;
 constexpr int LengthSize = 4;
 
+// The lists below are written before these are defined.
 QDataStream& operator<<(QDataStream& out, const BuildStep& step);
 QDataStream& operator>>(QDataStream& in, BuildStep& step);
+QDataStream& operator<<(QDataStream& out, const FaceTarget& target);
+QDataStream& operator>>(QDataStream& in, FaceTarget& target);
+QDataStream& operator<<(QDataStream& out, const EdgeTarget& target);
+QDataStream& operator>>(QDataStream& in, EdgeTarget& target);
+QDataStream& operator<<(QDataStream& out, const FoundTarget& found);
+QDataStream& operator>>(QDataStream& in, FoundTarget& found);
 
 QDataStream& operator<<(QDataStream& out, const std::pair<int, int>& pair)
 {
@@ -67,6 +74,46 @@ QDataStream& operator>>(QDataStream& in, BuildStep& step)
     return in;
 }
 
+QDataStream& operator<<(QDataStream& out, const std::array<double, 3>& point)
+{
+    return out << point[0] << point[1] << point[2];
+}
+
+QDataStream& operator>>(QDataStream& in, std::array<double, 3>& point)
+{
+    return in >> point[0] >> point[1] >> point[2];
+}
+
+QDataStream& operator<<(QDataStream& out, const FaceTarget& target)
+{
+    return out << target.name << target.at;
+}
+
+QDataStream& operator>>(QDataStream& in, FaceTarget& target)
+{
+    return in >> target.name >> target.at;
+}
+
+QDataStream& operator<<(QDataStream& out, const EdgeTarget& target)
+{
+    return out << target.between << target.at;
+}
+
+QDataStream& operator>>(QDataStream& in, EdgeTarget& target)
+{
+    return in >> target.between >> target.at;
+}
+
+QDataStream& operator<<(QDataStream& out, const FoundTarget& found)
+{
+    return out << found.numbers << found.error;
+}
+
+QDataStream& operator>>(QDataStream& in, FoundTarget& found)
+{
+    return in >> found.numbers >> found.error;
+}
+
 QDataStream& operator<<(QDataStream& out, const ShapeMeasures& measures)
 {
     out << measures.volume << measures.area;
@@ -93,6 +140,13 @@ QByteArray Written(const Write& write)
     return bytes;
 }
 
+// Those that the receiver does not have: each once, in the order of the plan.
+struct SentShapes
+{
+    QByteArray shapes; // Empty if the receiver wants none.
+    std::vector<FaceOrigins> faces;
+};
+
 // In one file, so that what the shapes have in common stays so.
 QByteArray ShapesToBytes(const std::vector<TopoDS_Shape>& shapes)
 {
@@ -113,20 +167,23 @@ std::vector<TopoDS_Shape> ShapesFromBytes(const QByteArray& bytes)
 }
 
 // Null shapes have no key. A key that occurs again stands for the same shape.
-void ReadShapes(const QByteArray& bytes, BuiltPart& part, const PartRequest& request,
-                const BuiltPart& known)
+void ReadShapes(const SentShapes& sent, BuiltPart& part, const BuiltPart& known)
 {
-    QHash<QByteArray, TopoDS_Shape> shapes;
+    QHash<QByteArray, TracedShape> results;
     for (std::size_t place = 0; place < known.keys.size(); ++place)
-        shapes.insert(known.keys[place], known.shapes[place]);
-    auto sent = ShapesFromBytes(bytes);
+        results.insert(known.keys[place], {known.shapes[place], known.faces[place]});
+    const std::vector<TopoDS_Shape> shapes = ShapesFromBytes(sent.shapes);
     std::size_t next = 0;
     for (const QByteArray& key : part.keys) {
-        if (!key.isEmpty() && !shapes.contains(key))
-            shapes.insert(key, sent.at(next++));
-        part.shapes.push_back(shapes.value(key));
+        if (!key.isEmpty() && !results.contains(key)) {
+            results.insert(key, {shapes.at(next), sent.faces.at(next)});
+            ++next;
+        }
+        const TracedShape result = results.value(key);
+        part.shapes.push_back(result.shape);
+        part.faces.push_back(result.faces);
     }
-    part.shape = WholePart(request.plan, part.shapes);
+    part.JoinResults();
 }
 
 } // namespace
@@ -140,7 +197,7 @@ QByteArray ToBytes(const PartRequest& request)
 {
     return Written([&](QDataStream& out) {
         out << request.plan << request.known << request.wantsShapes << request.stepPath
-            << request.stepFeature;
+            << request.stepFeature << request.brepPath << request.faces << request.edges;
     });
 }
 
@@ -150,7 +207,7 @@ PartRequest RequestFromBytes(const QByteArray& bytes)
     in.setVersion(StreamVersion);
     PartRequest request;
     in >> request.plan >> request.known >> request.wantsShapes >> request.stepPath >>
-        request.stepFeature;
+        request.stepFeature >> request.brepPath >> request.faces >> request.edges;
     return request;
 }
 
@@ -166,22 +223,24 @@ bool IsReply(const QByteArray& bytes)
 
 QByteArray ToBytes(const PartReply& reply, const PartRequest& request)
 {
-    QByteArray shapes;
+    SentShapes sent;
     if (request.wantsShapes && reply.outcome == PartReply::Done) {
         QSet<QByteArray> known = request.known;
-        std::vector<TopoDS_Shape> sent;
+        std::vector<TopoDS_Shape> shapes;
         for (std::size_t place = 0; place < reply.part.keys.size(); ++place) {
             const QByteArray& key = reply.part.keys[place];
             if (key.isEmpty() || known.contains(key))
                 continue;
             known.insert(key);
-            sent.push_back(reply.part.shapes[place]);
+            shapes.push_back(reply.part.shapes[place]);
+            sent.faces.push_back(reply.part.faces[place]);
         }
-        shapes = ShapesToBytes(sent);
+        sent.shapes = ShapesToBytes(shapes);
     }
     return Written([&](QDataStream& out) {
         out << true << int(reply.outcome) << reply.cause << reply.failedFeature << reply.part.keys
-            << reply.measures << reply.isLast << shapes;
+            << reply.measures << reply.faces << reply.edges << reply.solids << reply.isLast
+            << sent.shapes << sent.faces;
     });
 }
 
@@ -199,12 +258,13 @@ WorkerMessage MessageFromBytes(const QByteArray& bytes, const PartRequest& reque
     }
     PartReply reply;
     int outcome = 0;
-    QByteArray shapes;
+    SentShapes sent;
     in >> outcome >> reply.cause >> reply.failedFeature >> reply.part.keys >> reply.measures >>
-        reply.isLast >> shapes;
+        reply.faces >> reply.edges >> reply.solids >> reply.isLast >> sent.shapes >> sent.faces;
     reply.outcome = PartReply::Outcome(outcome);
-    if (!shapes.isEmpty())
-        ReadShapes(shapes, reply.part, request, known);
+    reply.part.plan = request.plan;
+    if (!sent.shapes.isEmpty())
+        ReadShapes(sent, reply.part, known);
     message.reply = reply;
     return message;
 }

@@ -3,6 +3,7 @@
 #include "FeatureBuilder.h"
 #include "PartPlan.h"
 #include "ShapeMeasures.h"
+#include "ShapeTargets.h"
 
 #include <QByteArray>
 #include <QMetaType>
@@ -27,6 +28,19 @@ struct PartRequest
     bool wantsShapes = true; ///< Whether the reply contains shapes, with triangles for display.
     QString stepPath;        ///< Where to write a STEP file; empty for none.
     int stepFeature = WholePart;
+
+    /// Where to write the whole part as a BREP file without triangles; empty for none. Faces and
+    /// edges in it have the same numbers as in TopExp::MapShapes() of the part.
+    QString brepPath;
+    std::vector<FaceTarget> faces; ///< To be found in the whole part.
+    std::vector<EdgeTarget> edges; ///< As well.
+};
+
+/// What a target means in the whole part.
+struct FoundTarget
+{
+    std::vector<int> numbers; ///< In TopExp::MapShapes(), from 1, ascending; empty if not found.
+    QString error;            ///< Why nothing was found; names the target.
 };
 
 /// What became of a request.
@@ -44,6 +58,11 @@ struct PartReply
     QString failedFeature; ///< Where it failed; empty if not at a feature.
     BuiltPart part;        ///< Shapes only if they were wanted.
     ShapeMeasures measures;
+    std::vector<FoundTarget> faces; ///< Of each target of the request, in its order.
+    std::vector<FoundTarget> edges; ///< As well.
+    /// Of each solid of the whole part, in the order of TopExp::MapShapes(): the feature whose
+    /// result it is in, as a place in the plan.
+    std::vector<int> solids;
     bool isLast = false; ///< The worker ends after this reply.
 
     /// Why it failed: one line that names the feature.

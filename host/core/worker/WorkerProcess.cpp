@@ -1,7 +1,9 @@
 #include "WorkerProcess.h"
 
+#include "BrepFile.h"
 #include "KernelSignals.h"
 #include "Language.h"
+#include "PartFaces.h"
 #include "StepFile.h"
 #include "Triangles.h"
 #include "WorkerMessages.h"
@@ -173,8 +175,32 @@ private:
         m_reply.measures = Measure(m_reply.part.shape);
         if (!m_request.stepPath.isEmpty())
             WriteStepFile(StepShape(), m_request.stepPath);
+        if (!m_request.brepPath.isEmpty())
+            WriteBrepFile(m_reply.part.shape, m_request.brepPath);
+        FindTargets();
         if (m_request.wantsShapes)
             AddTriangles(m_reply.part.shape);
+    }
+
+    void FindTargets()
+    {
+        const PartFaces faces(m_reply.part);
+        const auto found = [](const auto& find) {
+            FoundTarget answer;
+            try {
+                answer.numbers = GuardKernelCall(find);
+            } catch (const BuildError& error) {
+                answer.error = error.Reason();
+            }
+            return answer;
+        };
+        for (const FaceTarget& target : m_request.faces)
+            m_reply.faces.push_back(
+                found([&] { return faces.Faces(PartFaces::WholePart, target); }));
+        for (const EdgeTarget& target : m_request.edges)
+            m_reply.edges.push_back(
+                found([&] { return faces.Edges(PartFaces::WholePart, target); }));
+        m_reply.solids = m_reply.part.StepsOfSolids();
     }
 
     QByteArray Written()

@@ -3,13 +3,11 @@
 #include "BuildError.h"
 #include "NumberTexts.h"
 
-#include <BRepAdaptor_Surface.hxx>
 #include <BRepBndLib.hxx>
 #include <BRepBuilderAPI_MakeVertex.hxx>
 #include <BRepExtrema_DistShapeShape.hxx>
 #include <BRep_Tool.hxx>
 #include <Bnd_Box.hxx>
-#include <GeomAbs_SurfaceType.hxx>
 #include <TopExp.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
@@ -18,8 +16,6 @@
 #include <TopoDS_Edge.hxx>
 #include <TopoDS_Face.hxx>
 #include <TopoDS_Shape.hxx>
-#include <gp_Ax2.hxx>
-#include <gp_Pln.hxx>
 #include <gp_Pnt.hxx>
 
 namespace {
@@ -55,50 +51,46 @@ TopTools_MapOfShape InnerEdges(const TopoDS_Shape& shape)
     return inner;
 }
 
-TopoDS_Shape OnlyOneAt(const TopTools_IndexedMapOfShape& shapes, const TopTools_MapOfShape& ignored,
-                       const gp_Pnt& point, const QString& several, const QString& none)
+int OnlyOneAt(const TopTools_IndexedMapOfShape& shapes, const TopTools_MapOfShape& ignored,
+              const gp_Pnt& point, const QString& several, const QString& none)
 {
     const QString place =
         QStringLiteral("(%1, %2, %3)")
             .arg(ShortText(point.X()), ShortText(point.Y()), ShortText(point.Z()));
-    TopoDS_Shape found;
+    int found = 0;
     for (int index = 1; index <= shapes.Extent(); ++index) {
         const TopoDS_Shape& shape = shapes(index);
         if (ignored.Contains(shape) || !IsNear(shape, point))
             continue;
-        if (!found.IsNull())
+        if (found > 0)
             throw BuildError(several.arg(place));
-        found = shape;
+        found = index;
     }
-    if (found.IsNull())
+    if (found == 0)
         throw BuildError(none.arg(place));
     return found;
 }
 
 } // namespace
 
-TopoDS_Edge EdgeAt(const TopoDS_Shape& shape, const gp_Pnt& point)
+int EdgeAt(const TopoDS_Shape& shape, const gp_Pnt& point)
 {
     TopTools_IndexedMapOfShape edges;
     TopExp::MapShapes(shape, TopAbs_EDGE, edges);
-    return TopoDS::Edge(OnlyOneAt(
+    return OnlyOneAt(
         edges, InnerEdges(shape), point,
         BuildError::tr(
             "several edges meet at the point %1; choose a point that lies on one edge only."),
-        BuildError::tr("there is no edge at the point %1.")));
+        BuildError::tr("there is no edge at the point %1."));
 }
 
-gp_Ax2 PlaneAt(const TopoDS_Shape& shape, const gp_Pnt& point)
+int FaceAt(const TopoDS_Shape& shape, const gp_Pnt& point)
 {
     TopTools_IndexedMapOfShape faces;
     TopExp::MapShapes(shape, TopAbs_FACE, faces);
-    const TopoDS_Shape face = OnlyOneAt(
+    return OnlyOneAt(
         faces, {}, point,
         BuildError::tr(
             "several faces meet at the point %1; choose a point that lies on one face only."),
         BuildError::tr("there is no face at the point %1."));
-    const BRepAdaptor_Surface surface(TopoDS::Face(face));
-    if (surface.GetType() != GeomAbs_Plane)
-        throw BuildError(BuildError::tr("the face at the point is not flat."));
-    return surface.Plane().Position().Ax2();
 }

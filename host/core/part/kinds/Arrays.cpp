@@ -5,6 +5,7 @@
 #include "BuildError.h"
 #include "BuildInput.h"
 #include "CommonFields.h"
+#include "FaceTrace.h"
 #include "FeatureKinds.h"
 #include "NumberTexts.h"
 
@@ -38,7 +39,19 @@ void CheckCount(int instances, const TopoDS_Shape& shape)
                              .arg(MaximumInstances));
 }
 
-TopoDS_Shape PolarArrayBody(const BuildInput& input)
+TracedShape Copies(const TopoDS_Shape& shape, const std::vector<TopLoc_Location>& places)
+{
+    FaceTrace trace;
+    std::vector<TopoDS_Shape> instances;
+    instances.reserve(places.size());
+    for (const TopLoc_Location& place : places) {
+        trace.AddInput(0, shape, place);
+        instances.push_back(shape.Moved(place));
+    }
+    return trace.Of(Compound(instances));
+}
+
+TracedShape PolarArrayBody(const BuildInput& input)
 {
     const TopoDS_Shape& shape = input.FirstBody();
     const gp_Ax1 axis = input.Axis();
@@ -46,7 +59,7 @@ TopoDS_Shape PolarArrayBody(const BuildInput& input)
     const int number = input.Count("number");
     CheckCount(number, shape);
     if (number == 1)
-        return shape;
+        return input.Unchanged();
     // A full turn puts the last instance beside the first, not onto it.
     constexpr double Rounding = 1e-9;
     const bool isFullTurn = std::abs(std::abs(angle) - 360.0) < Rounding;
@@ -55,13 +68,13 @@ TopoDS_Shape PolarArrayBody(const BuildInput& input)
         throw BuildError(
             BuildError::tr("the instances would coincide: the angle between them is %1 degrees.")
                 .arg(ShortText(step)));
-    std::vector<TopoDS_Shape> instances = {shape};
+    std::vector<TopLoc_Location> places = {TopLoc_Location()};
     for (int instance = 1; instance < number; ++instance) {
         gp_Trsf rotation;
         rotation.SetRotation(axis, step * instance * tarn::RadiansPerDegree);
-        instances.push_back(shape.Moved(TopLoc_Location(rotation)));
+        places.emplace_back(rotation);
     }
-    return Compound(instances);
+    return Copies(shape, places);
 }
 
 FeatureKind PolarArray()
@@ -88,7 +101,7 @@ void CheckRow(const char* axis, int number, double distance)
                              .arg(QString::number(MaximumLength, 'f', 0), QLatin1String(axis)));
 }
 
-TopoDS_Shape RectangularArrayBody(const BuildInput& input)
+TracedShape RectangularArrayBody(const BuildInput& input)
 {
     const TopoDS_Shape& shape = input.FirstBody();
     const int columns = input.Count("xNumber");
@@ -99,16 +112,16 @@ TopoDS_Shape RectangularArrayBody(const BuildInput& input)
     CheckRow("x", columns, xDistance);
     CheckRow("y", rows, yDistance);
     if (columns * rows == 1)
-        return shape;
-    std::vector<TopoDS_Shape> instances;
+        return input.Unchanged();
+    std::vector<TopLoc_Location> places;
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column) {
             gp_Trsf translation;
             translation.SetTranslation(gp_Vec(xDistance * column, yDistance * row, 0.0));
-            instances.push_back(shape.Moved(TopLoc_Location(translation)));
+            places.emplace_back(translation);
         }
     }
-    return Compound(instances);
+    return Copies(shape, places);
 }
 
 FeatureKind RectangularArray()

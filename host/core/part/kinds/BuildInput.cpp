@@ -2,6 +2,7 @@
 
 #include "Angles.h"
 #include "BuildError.h"
+#include "FaceTrace.h"
 #include "FeatureKind.h"
 #include "JsonSection.h"
 #include "Limits.h"
@@ -48,6 +49,14 @@ const TopoDS_Shape& BuildInput::FirstBody() const
     if (first.shape.IsNull())
         throw BuildError(BuildError::tr("its input %1 is suppressed.").arg(Quoted(first.name)));
     return first.shape;
+}
+
+TracedShape BuildInput::Placed(const TopLoc_Location& place) const
+{
+    const TopoDS_Shape& shape = FirstBody();
+    FaceTrace trace;
+    trace.AddInput(0, shape, place);
+    return trace.Of(shape.Moved(place));
 }
 
 std::vector<TopoDS_Shape> BuildInput::OtherBodies() const

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "FaceOrigins.h"
+
 #include <QString>
 #include <TopoDS_Shape.hxx>
 #include <gp_Ax1.hxx>
 #include <gp_Dir.hxx>
 #include <gp_Pnt.hxx>
+
+#include <TopLoc_Location.hxx>
 
 #include <vector>
 
@@ -37,6 +41,8 @@ public:
     /// Through Point() along Direction().
     gp_Ax1 Axis() const { return gp_Ax1(Point(), Direction()); }
 
+    /// Of all inputs, in their order.
+    const std::vector<Body>& Inputs() const { return m_bodies; }
     /// The body of the first input. @throws BuildError if there is none
     const TopoDS_Shape& FirstBody() const;
     /// The bodies of the other inputs, without those that are null.
@@ -44,6 +50,11 @@ public:
 
     /// The bodies of all inputs, without those that are null.
     std::vector<TopoDS_Shape> Bodies() const;
+
+    /// The first input as the result.
+    TracedShape Unchanged() const { return Placed({}); }
+    /// The first input at @p place as the result.
+    TracedShape Placed(const TopLoc_Location& place) const;
 
     const QString& File() const { return m_file; }
 

@@ -5,6 +5,7 @@
 #include "BodyVolumes.h"
 #include "BuildError.h"
 #include "BuildInput.h"
+#include "FaceTrace.h"
 #include "FeatureKinds.h"
 
 #include <BRepAlgoAPI_Cut.hxx>
@@ -16,9 +17,19 @@ namespace {
 
 constexpr int MaximumBodies = 500; // That one feature combines.
 
+void AddInputs(FaceTrace& trace, const BuildInput& input)
+{
+    int place = 0;
+    for (const BuildInput::Body& body : input.Inputs()) {
+        if (!body.shape.IsNull())
+            trace.AddInput(place, body.shape);
+        ++place;
+    }
+}
+
 // Body by body: those of one compound may overlap, which the kernel allows only among arguments.
 template<class Operation>
-TopoDS_Shape Combined(const BuildInput& input)
+TracedShape Combined(const BuildInput& input)
 {
     const TopoDS_Shape& first = input.FirstBody();
     TopTools_ListOfShape tools;
@@ -27,7 +38,7 @@ TopoDS_Shape Combined(const BuildInput& input)
         tools.Append(bodies);
     }
     if (tools.IsEmpty())
-        return first;
+        return input.Unchanged();
     const TopTools_ListOfShape arguments = BodiesOf(first);
     // The kernel's time grows with the square of their number, and it cannot be interrupted.
     const int bodies = arguments.Size() + tools.Size();
@@ -41,7 +52,10 @@ TopoDS_Shape Combined(const BuildInput& input)
     operation.Build();
     if (!operation.IsDone() || operation.HasErrors())
         throw BuildError(BuildError::tr("the geometry kernel could not combine the bodies."));
-    return Unwrapped(operation.Shape());
+    FaceTrace trace;
+    AddInputs(trace, input);
+    trace.Follow(operation);
+    return trace.Of(Unwrapped(operation.Shape()));
 }
 
 // Of a single body: those of one compound may overlap, and fused they have less than together.

@@ -5,11 +5,15 @@
 #include "BuildError.h"
 #include "BuildInput.h"
 #include "CommonFields.h"
+#include "FaceTrace.h"
 #include "FeatureKinds.h"
 #include "NumberTexts.h"
 #include "ShapeAtPoint.h"
 
 #include <BRepFilletAPI_MakeFillet.hxx>
+#include <TopExp.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+#include <TopoDS.hxx>
 #include <TopoDS_Edge.hxx>
 
 using namespace FieldRules;
@@ -31,16 +35,21 @@ FeatureKind Fillet()
         const TopoDS_Shape& body = input.FirstBody();
         const double radius = input.Value("radius");
         if (radius == 0.0)
-            return body;
+            return input.Unchanged();
         // It continues along edges that are tangent to this one.
         BRepFilletAPI_MakeFillet fillet(body);
-        fillet.Add(radius, EdgeAt(body, input.Point()));
+        TopTools_IndexedMapOfShape edges;
+        TopExp::MapShapes(body, TopAbs_EDGE, edges);
+        fillet.Add(radius, TopoDS::Edge(edges(EdgeAt(body, input.Point()))));
         fillet.Build();
         if (!fillet.IsDone())
             throw BuildError(BuildError::tr("a fillet of %1 mm cannot be built there; it may be "
                                             "too large for the faces beside the edge.")
                                  .arg(ShortText(radius)));
-        return Unwrapped(fillet.Shape());
+        FaceTrace trace;
+        trace.AddInput(0, body);
+        trace.Follow(fillet);
+        return trace.Of(Unwrapped(fillet.Shape()), QStringLiteral("round"));
     };
     kind.check = [](const BuildInput& input, const TopoDS_Shape& result, BodyVolumes&) {
         CheckWithinBox(result, input.FirstBody());

@@ -16,12 +16,12 @@ QString FeatureKind::Title() const
     return FeatureKinds::tr(title);
 }
 
-TopoDS_Shape FeatureKind::Built(const BuildInput& input, BodyVolumes& volumes) const
+TracedShape FeatureKind::Built(const BuildInput& input, BodyVolumes& volumes) const
 {
-    TopoDS_Shape result = build(input);
-    CheckNewBodies(result, input.Bodies(), volumes);
+    TracedShape result = build(input);
+    CheckNewBodies(result.shape, input.Bodies(), volumes);
     if (check != nullptr)
-        check(input, result, volumes);
+        check(input, result.shape, volumes);
     return result;
 }
 

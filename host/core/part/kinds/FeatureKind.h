@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FaceOrigins.h"
 #include "FieldRule.h"
 
 #include <QLatin1String>
@@ -8,7 +9,6 @@
 
 class BodyVolumes;
 class BuildInput;
-class TopoDS_Shape;
 
 /// One numeric field of a kind.
 struct FieldDefinition
@@ -53,7 +53,7 @@ struct FeatureKind
     std::vector<FieldDefinition> fields;
     bool readsFile = false; ///< It has a file.
     bool isAtFace = false;  ///< The fields x, y, z are a point on a face of its input.
-    TopoDS_Shape (*build)(const BuildInput& input) = nullptr; ///< @throws BuildError
+    TracedShape (*build)(const BuildInput& input) = nullptr; ///< @throws BuildError
     /// Checks what is true of the results of this kind only; null if there is no such rule.
     /// @throws BuildError
     void (*check)(const BuildInput& input, const TopoDS_Shape& result,
@@ -69,7 +69,7 @@ struct FeatureKind
     QString Title() const;
     /// Builds the result and checks it. @p volumes may know the bodies of @p input already.
     /// @throws BuildError
-    TopoDS_Shape Built(const BuildInput& input, BodyVolumes& volumes) const;
+    TracedShape Built(const BuildInput& input, BodyVolumes& volumes) const;
     /// The place of the field called @p key in files, or the number of fields.
     std::size_t IndexOf(const char* key) const;
 };

@@ -4,18 +4,24 @@
 #include "BuildError.h"
 #include "BuildInput.h"
 #include "CommonFields.h"
+#include "FaceTrace.h"
+#include "FaceWords.h"
 #include "FeatureKinds.h"
 #include "NumberTexts.h"
+#include "Sweeps.h"
 
-#include <BRepBuilderAPI_MakeFace.hxx>
 #include <BRepBuilderAPI_MakePolygon.hxx>
 #include <BRepPrimAPI_MakeBox.hxx>
 #include <BRepPrimAPI_MakeCone.hxx>
 #include <BRepPrimAPI_MakeCylinder.hxx>
-#include <BRepPrimAPI_MakePrism.hxx>
 #include <BRepPrimAPI_MakeSphere.hxx>
 #include <BRepPrimAPI_MakeTorus.hxx>
 #include <BRepPrimAPI_MakeWedge.hxx>
+#include <BRepPrim_Cone.hxx>
+#include <BRepPrim_Cylinder.hxx>
+#include <BRepPrim_Sphere.hxx>
+#include <BRepPrim_Torus.hxx>
+#include <BRepPrim_Wedge.hxx>
 #include <TopoDS_Shape.hxx>
 #include <gp_Vec.hxx>
 
@@ -43,6 +49,36 @@ constexpr FieldRule AngleTo(double minimum, double maximum)
     return {minimum, maximum, FieldRule::Degrees, true};
 }
 
+// Of the kernel's bodies with six sides. A face without area does not exist.
+TracedShape WithSides(const TopoDS_Shape& shape, BRepPrim_Wedge& parts)
+{
+    FaceTrace trace;
+    for (const auto& [side, word] :
+         {std::pair(BRepPrim_XMin, "xmin"), std::pair(BRepPrim_XMax, "xmax"),
+          std::pair(BRepPrim_YMin, "ymin"), std::pair(BRepPrim_YMax, "ymax"),
+          std::pair(BRepPrim_ZMin, "zmin"), std::pair(BRepPrim_ZMax, "zmax")}) {
+        if (parts.HasFace(side))
+            trace.AddNew(parts.Face(side), QLatin1String(word));
+    }
+    return trace.Of(shape);
+}
+
+// Of the kernel's bodies that a curve sweeps about an axis.
+TracedShape WithSides(const TopoDS_Shape& shape, BRepPrim_OneAxis& parts)
+{
+    FaceTrace trace;
+    trace.AddNew(parts.LateralFace(), FaceWords::Side);
+    if (parts.HasBottom())
+        trace.AddNew(parts.BottomFace(), FaceWords::Bottom);
+    if (parts.HasTop())
+        trace.AddNew(parts.TopFace(), FaceWords::Top);
+    if (parts.HasSides()) {
+        trace.AddNew(parts.StartFace(), FaceWords::Start);
+        trace.AddNew(parts.EndFace(), FaceWords::End);
+    }
+    return trace.Of(shape);
+}
+
 FeatureKind Box()
 {
     FeatureKind kind("box", QT_TRANSLATE_NOOP("FeatureKinds", "Box"), FeatureGroup::Body);
@@ -50,14 +86,16 @@ FeatureKind Box()
                    {"y", QT_TRANSLATE_NOOP("FeatureKinds", "Size y"), "10", Length},
                    {"z", QT_TRANSLATE_NOOP("FeatureKinds", "Size z"), "10", Length}};
     kind.build = [](const BuildInput& input) {
-        return BRepPrimAPI_MakeBox(input.Value("x"), input.Value("y"), input.Value("z")).Shape();
+        BRepPrimAPI_MakeBox box(input.Value("x"), input.Value("y"), input.Value("z"));
+        return WithSides(box.Shape(), box.Wedge());
     };
     return kind;
 }
 
-TopoDS_Shape CylinderBody(double radius, const BuildInput& input)
+TracedShape CylinderBody(double radius, const BuildInput& input)
 {
-    return BRepPrimAPI_MakeCylinder(radius, input.Value("height"), input.Radians("angle")).Shape();
+    BRepPrimAPI_MakeCylinder cylinder(radius, input.Value("height"), input.Radians("angle"));
+    return WithSides(cylinder.Shape(), cylinder.Cylinder());
 }
 
 FeatureKind Cylinder()
@@ -85,9 +123,9 @@ FeatureKind Sphere()
         if (to - from < MinimumAngle)
             throw BuildError(BuildError::tr("angle 1 (%1) has to be below angle 2 (%2).")
                                  .arg(ShortText(from), ShortText(to)));
-        return BRepPrimAPI_MakeSphere(input.Value("radius"), input.Radians("angle1"),
-                                      input.Radians("angle2"), input.Radians("angle3"))
-            .Shape();
+        BRepPrimAPI_MakeSphere sphere(input.Value("radius"), input.Radians("angle1"),
+                                      input.Radians("angle2"), input.Radians("angle3"));
+        return WithSides(sphere.Shape(), sphere.Sphere());
     };
     return kind;
 }
@@ -107,9 +145,9 @@ FeatureKind Torus()
             throw BuildError(
                 BuildError::tr("the sweep radius (%1) has to be below the radius (%2).")
                     .arg(ShortText(sweepRadius), ShortText(radius)));
-        return BRepPrimAPI_MakeTorus(radius, sweepRadius, input.Radians("angle1"),
-                                     input.Radians("angle2"), input.Radians("angle3"))
-            .Shape();
+        BRepPrimAPI_MakeTorus torus(radius, sweepRadius, input.Radians("angle1"),
+                                    input.Radians("angle2"), input.Radians("angle3"));
+        return WithSides(torus.Shape(), torus.Torus());
     };
     return kind;
 }
@@ -129,8 +167,8 @@ FeatureKind Cone()
         // The kernel refuses a cone without slope.
         if (std::abs(base - top) < MinimumLength)
             return CylinderBody(base, input);
-        return BRepPrimAPI_MakeCone(base, top, input.Value("height"), input.Radians("angle"))
-            .Shape();
+        BRepPrimAPI_MakeCone cone(base, top, input.Value("height"), input.Radians("angle"));
+        return WithSides(cone.Shape(), cone.Cone());
     };
     return kind;
 }
@@ -155,15 +193,15 @@ FeatureKind Wedge()
     kind.build = [](const BuildInput& input) {
         CheckOrder("X", input.Value("xmin"), input.Value("xmax"));
         CheckOrder("Z", input.Value("zmin"), input.Value("zmax"));
-        return BRepPrimAPI_MakeWedge(input.Value("x"), input.Value("height"), input.Value("z"),
-                                     input.Value("xmin"), input.Value("zmin"), input.Value("xmax"),
-                                     input.Value("zmax"))
-            .Shape();
+        BRepPrimAPI_MakeWedge wedge(input.Value("x"), input.Value("height"), input.Value("z"),
+                                    input.Value("xmin"), input.Value("zmin"), input.Value("xmax"),
+                                    input.Value("zmax"));
+        return WithSides(wedge.Shape(), wedge.Wedge());
     };
     return kind;
 }
 
-TopoDS_Shape PolygonBody(const BuildInput& input)
+TracedShape PolygonBody(const BuildInput& input)
 {
     const int edges = input.Count("edges");
     const double radius = input.Value("radius");
@@ -176,13 +214,16 @@ TopoDS_Shape PolygonBody(const BuildInput& input)
                              .arg(edges)
                              .arg(ShortText(radius)));
     BRepBuilderAPI_MakePolygon outline;
+    std::vector<TopoDS_Edge> sides;
     for (int corner = 0; corner < edges; ++corner) {
         const double angle = 360.0 * corner / edges * tarn::RadiansPerDegree;
         outline.Add(gp_Pnt(radius * std::cos(angle), radius * std::sin(angle), 0.0));
+        if (corner > 0)
+            sides.push_back(outline.Edge());
     }
     outline.Close();
-    return BRepPrimAPI_MakePrism(BRepBuilderAPI_MakeFace(outline.Wire(), true).Face(), sweep)
-        .Shape();
+    sides.push_back(outline.Edge());
+    return Extruded(outline.Wire(), sides, sweep);
 }
 
 FeatureKind Polygon()

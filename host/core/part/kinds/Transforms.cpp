@@ -1,14 +1,23 @@
 // The kinds that move, rotate or mirror a body.
 
 #include "Angles.h"
+#include "BuildError.h"
 #include "BuildInput.h"
 #include "CommonFields.h"
+#include "FaceTrace.h"
 #include "FeatureKinds.h"
 #include "ShapeAtPoint.h"
 
+#include <BRepAdaptor_Surface.hxx>
 #include <BRepBuilderAPI_Transform.hxx>
+#include <GeomAbs_SurfaceType.hxx>
+#include <TopExp.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+#include <TopoDS.hxx>
+#include <TopoDS_Face.hxx>
 #include <TopoDS_Shape.hxx>
 #include <gp_Ax2.hxx>
+#include <gp_Pln.hxx>
 #include <gp_Trsf.hxx>
 #include <gp_Vec.hxx>
 
@@ -24,18 +33,22 @@ FeatureKind Transform(const char* word, const char* title)
     return kind;
 }
 
-TopoDS_Shape Rotated(const TopoDS_Shape& shape, const gp_Ax1& axis, double radians)
+TracedShape Rotated(const BuildInput& input, const gp_Ax1& axis, double radians)
 {
     gp_Trsf rotation;
     rotation.SetRotation(axis, radians);
-    return shape.Moved(TopLoc_Location(rotation));
+    return input.Placed(rotation);
 }
 
 // A location cannot turn a body inside out, so the body itself is copied.
-TopoDS_Shape Mirrored(const TopoDS_Shape& shape, const gp_Trsf& mirror)
+TracedShape Mirrored(const BuildInput& input, const gp_Trsf& mirror)
 {
     constexpr bool Copy = true;
-    return BRepBuilderAPI_Transform(shape, mirror, Copy).Shape();
+    BRepBuilderAPI_Transform transform(input.FirstBody(), mirror, Copy);
+    FaceTrace trace;
+    trace.AddInput(0, input.FirstBody());
+    trace.Follow(transform);
+    return trace.Of(transform.Shape());
 }
 
 FeatureKind Move()
@@ -47,7 +60,7 @@ FeatureKind Move()
     kind.build = [](const BuildInput& input) {
         gp_Trsf translation;
         translation.SetTranslation(gp_Vec(input.Value("dx"), input.Value("dy"), input.Value("dz")));
-        return input.FirstBody().Moved(TopLoc_Location(translation));
+        return input.Placed(translation);
     };
     return kind;
 }
@@ -58,7 +71,7 @@ FeatureKind Rotate()
     kind.fields =
         Joined(AxisFields(), {{"angle", QT_TRANSLATE_NOOP("FeatureKinds", "Angle"), "90", Turn}});
     kind.build = [](const BuildInput& input) {
-        return Rotated(input.FirstBody(), input.Axis(), input.Radians("angle"));
+        return Rotated(input, input.Axis(), input.Radians("angle"));
     };
     return kind;
 }
@@ -73,7 +86,7 @@ FeatureKind MirrorAtPoint()
     kind.build = [](const BuildInput& input) {
         gp_Trsf mirror;
         mirror.SetMirror(input.Point());
-        return Mirrored(input.FirstBody(), mirror);
+        return Mirrored(input, mirror);
     };
     return kind;
 }
@@ -84,9 +97,19 @@ FeatureKind MirrorAtAxis()
         Transform("mirrorAxis", QT_TRANSLATE_NOOP("FeatureKinds", "Mirror at an axis"));
     kind.fields = AxisFields();
     kind.build = [](const BuildInput& input) {
-        return Rotated(input.FirstBody(), input.Axis(), 180.0 * tarn::RadiansPerDegree);
+        return Rotated(input, input.Axis(), 180.0 * tarn::RadiansPerDegree);
     };
     return kind;
+}
+
+gp_Ax2 PlaneOf(const TopoDS_Shape& body, int face)
+{
+    TopTools_IndexedMapOfShape faces;
+    TopExp::MapShapes(body, TopAbs_FACE, faces);
+    const BRepAdaptor_Surface surface(TopoDS::Face(faces(face)));
+    if (surface.GetType() != GeomAbs_Plane)
+        throw BuildError(BuildError::tr("the face at the point is not flat."));
+    return surface.Plane().Position().Ax2();
 }
 
 FeatureKind MirrorAtFace()
@@ -99,8 +122,8 @@ FeatureKind MirrorAtFace()
                               QT_TRANSLATE_NOOP("FeatureKinds", "Point on face z"));
     kind.build = [](const BuildInput& input) {
         gp_Trsf mirror;
-        mirror.SetMirror(PlaneAt(input.FirstBody(), input.Point()));
-        return Mirrored(input.FirstBody(), mirror);
+        mirror.SetMirror(PlaneOf(input.FirstBody(), FaceAt(input.FirstBody(), input.Point())));
+        return Mirrored(input, mirror);
     };
     return kind;
 }

@@ -18,6 +18,9 @@ private Q_SLOTS:
     void TheDecimalSignIsTheFullStopUnderEveryLocale();
     void AMissingValueNamesTheField_data();
     void AMissingValueNamesTheField();
+    void ReferencesAreEvaluated();
+    void APointWithoutAValueIsReported_data();
+    void APointWithoutAValueIsReported();
 };
 
 static void Store(const char* name, int type, double value)
@@ -134,6 +137,47 @@ void tst_FieldValues::AMissingValueNamesTheField()
         reason = error.Reason();
         QCOMPARE(error.FeatureName(), QString("plate"));
         QCOMPARE("plate: " + error.Cause(), reason);
+    }
+    QTEST(reason, "reason");
+}
+
+void tst_FieldValues::ReferencesAreEvaluated()
+{
+    const EmptyDesignStores stores;
+    FillStore();
+    FieldValues values;
+    const FaceReference named = {"plate.zmax", {}};
+    const FaceReference point = {"", {"width / 2", "-1", "宽"}};
+    QCOMPARE(values.Of(named).name, named.name);
+    QVERIFY(values.Of(point) == (FaceTarget{"", {2.5, -1, 3}}));
+    const EdgeTarget between = values.Of(EdgeReference{{named, point}, {}});
+    QVERIFY(between == (EdgeTarget{{values.Of(named), values.Of(point)}, {}}));
+    QVERIFY(values.Of(EdgeReference{{}, {"1", "2", "width"}}) == (EdgeTarget{{}, {1, 2, 5}}));
+}
+
+void tst_FieldValues::APointWithoutAValueIsReported_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("unknown name")
+        << "depth"
+        << "the coordinate \"depth\" of a point has no value: Position 1: the name "
+           "'depth' is unknown.";
+    QTest::newRow("too large") << "1e7"
+                               << "the coordinate \"1e7\" of a point is 1e+07, but has to be "
+                                  "from -1000000 to 1000000 mm.";
+}
+
+void tst_FieldValues::APointWithoutAValueIsReported()
+{
+    const EmptyDesignStores stores;
+    FillStore();
+    QFETCH(QString, text);
+    QString reason;
+    try {
+        FieldValues().Of(FaceReference{"", {"1", text, "1"}});
+    } catch (const BuildError& error) {
+        reason = error.Reason();
     }
     QTEST(reason, "reason");
 }

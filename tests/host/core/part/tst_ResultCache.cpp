@@ -27,9 +27,9 @@ private Q_SLOTS:
 
 namespace {
 
-TopoDS_Shape Box(double size)
+TracedShape Box(double size)
 {
-    return BRepPrimAPI_MakeBox(size, size, size).Shape();
+    return {BRepPrimAPI_MakeBox(size, size, size).Shape(), {}};
 }
 
 /// Builds with one cache, and tells which steps were built.
@@ -61,11 +61,11 @@ QByteArray Plate(const QByteArray& thickness, const QByteArray& radius, const QB
 void tst_ResultCache::AResultIsFoundByItsKey()
 {
     ResultCache cache;
-    QVERIFY(cache.Find("a").IsNull());
-    const TopoDS_Shape box = Box(1.0);
+    QVERIFY(cache.Find("a").shape.IsNull());
+    const TracedShape box = Box(1.0);
     cache.Keep("a", box);
-    QVERIFY(cache.Find("a").IsSame(box));
-    QVERIFY(cache.Find("b").IsNull());
+    QVERIFY(cache.Find("a").shape.IsSame(box.shape));
+    QVERIFY(cache.Find("b").shape.IsNull());
 }
 
 void tst_ResultCache::TheOldestGoesFirst()
@@ -75,18 +75,18 @@ void tst_ResultCache::TheOldestGoesFirst()
     ResultCache cache(3 * BoxSize);
     for (const char* const key : {"a", "b", "c"})
         cache.Keep(key, Box(1.0));
-    QVERIFY(!cache.Find("a").IsNull());
+    QVERIFY(!cache.Find("a").shape.IsNull());
     cache.Keep("d", Box(1.0));
-    QVERIFY(!cache.Find("a").IsNull());
-    QVERIFY(cache.Find("b").IsNull());
-    QVERIFY(!cache.Find("d").IsNull());
+    QVERIFY(!cache.Find("a").shape.IsNull());
+    QVERIFY(cache.Find("b").shape.IsNull());
+    QVERIFY(!cache.Find("d").shape.IsNull());
 }
 
 void tst_ResultCache::AResultAboveTheWholeSizeIsNotKept()
 {
     ResultCache cache(1000);
     cache.Keep("a", Box(1.0));
-    QVERIFY(cache.Find("a").IsNull());
+    QVERIFY(cache.Find("a").shape.IsNull());
 }
 
 void tst_ResultCache::OnlyWhatChangedIsBuilt_data()
@@ -139,7 +139,7 @@ void tst_ResultCache::AnImportIsBuiltAgainAfterItsFileChanged()
     CachedBuilds builds;
     const QByteArray list = R"({"name": "a", "kind": "import", "file": "a.step"})";
     const auto write = [](double size, int age) {
-        WriteStepFile(Box(size), "a.step");
+        WriteStepFile(Box(size).shape, "a.step");
         QFile file("a.step");
         QVERIFY(file.open(QIODevice::ReadWrite));
         QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-age),

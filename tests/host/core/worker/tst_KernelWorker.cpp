@@ -3,6 +3,13 @@
 #include "TestFiles.h"
 #include "WatchedWorker.h"
 
+#include <BRepAdaptor_Curve.hxx>
+#include <BRepAdaptor_Surface.hxx>
+#include <BRep_Builder.hxx>
+#include <TopoDS.hxx>
+#include <TopoDS_Edge.hxx>
+#include <TopoDS_Face.hxx>
+
 #include <csignal>
 
 class tst_KernelWorker : public TestCase
@@ -17,6 +24,7 @@ private Q_SLOTS:
     void AnUnusedWorkerHasNoProcess();
     void AStepFileIsWritten_data();
     void AStepFileIsWritten();
+    void TargetsAreFoundInTheBrepFile();
     void AKilledBuildFailsByNameAndTheNextOneWorks();
     void AnIdleWorkerThatWasKilledIsReplaced();
     void ACrashEndsTheProcessAfterItsReply();
@@ -107,6 +115,51 @@ void tst_KernelWorker::AStepFileIsWritten()
     request.stepPath = directory + "/none/a.step";
     const QString reason = watched.worker.Run(request).Reason();
     QVERIFY2(reason.startsWith("a.step: "), qPrintable(reason));
+}
+
+void tst_KernelWorker::TargetsAreFoundInTheBrepFile()
+{
+    const QString directory = EnterTemporaryDirectory();
+    Watched watched;
+    PartRequest request =
+        Request(A10 + R"(, {"name": "pin", "kind": "cylinder", "fields": {"radius": 2}},
+                           {"name": "hole", "kind": "cut", "inputs": ["a", "pin"]},
+                           {"name": "b", "kind": "rectangularArray", "inputs": ["hole"]},
+                           {"name": "c", "kind": "box"})");
+    request.wantsShapes = false;
+    request.brepPath = directory + "/长.brep";
+    request.faces = {{"pin.side", {}}, {"pin.end", {}}, {"", {105, 5, 0}}};
+    request.edges = {{{{"pin.side", {}}, {"a.zmin", {}}}, {}}, {{}, {1, 2, 3}}};
+    const PartReply reply = watched.worker.Run(request);
+    QVERIFY2(reply.outcome == PartReply::Done, qPrintable(reply.Reason()));
+    QCOMPARE(reply.faces.size(), std::size_t(3));
+    QCOMPARE(reply.faces[1].error, QString("there is no face \"pin.end\"."));
+    QCOMPARE(reply.edges[1].error, QString("there is no edge at the point (1, 2, 3)."));
+
+    TopoDS_Shape read;
+    QVERIFY(BRepTools::Read(read, "长.brep", BRep_Builder()));
+    const auto surfaces = [&](const FoundTarget& found) {
+        TopTools_IndexedMapOfShape faces;
+        TopExp::MapShapes(read, TopAbs_FACE, faces);
+        QList<int> kinds;
+        for (const int number : found.numbers)
+            kinds << BRepAdaptor_Surface(TopoDS::Face(faces(number))).GetType();
+        return kinds;
+    };
+    QCOMPARE(surfaces(reply.faces[0]), QVector<int>(20, GeomAbs_Cylinder).toList());
+    QCOMPARE(surfaces(reply.faces[2]), QList<int>({GeomAbs_Plane}));
+    TopTools_IndexedMapOfShape edges;
+    TopExp::MapShapes(read, TopAbs_EDGE, edges);
+    QCOMPARE(reply.edges[0].numbers.size(), std::size_t(20));
+    for (const int number : reply.edges[0].numbers)
+        QCOMPARE(BRepAdaptor_Curve(TopoDS::Edge(edges(number))).GetType(), GeomAbs_Circle);
+    std::vector<int> solids(20, 3);
+    solids.push_back(4);
+    QCOMPARE(reply.solids, solids);
+    // Where it cannot be written, the reason is that of the file.
+    request.brepPath = directory + "/none/a.brep";
+    const QString reason = watched.worker.Run(request).Reason();
+    QVERIFY2(reason.startsWith("a.brep: "), qPrintable(reason));
 }
 
 void tst_KernelWorker::AKilledBuildFailsByNameAndTheNextOneWorks()

@@ -1,6 +1,7 @@
 #include "Bodies.h"
 #include "BodyFormulas.h"
 #include "EmptyDesignStores.h"
+#include "PartFaces.h"
 #include "TestCase.h"
 #include "WorkerMessages.h"
 
@@ -17,6 +18,7 @@ private Q_SLOTS:
     void ShapesAreReadAsTheyWereWritten();
     void KnownShapesAreNotSent();
     void SharedBodiesStayShared();
+    void NamesOfFacesAreReadAsTheyWereWritten();
     void AFrameIsTakenWhenItIsComplete();
 };
 
@@ -61,11 +63,17 @@ void tst_WorkerMessages::ARequestIsReadAsItWasWritten()
     request.wantsShapes = false;
     request.stepPath = "长/a.step";
     request.stepFeature = 3;
+    request.brepPath = "长/a.brep";
+    request.faces = {{"plate.zmin", {}}, {"", {1, 2, 3}}};
+    request.edges = {{request.faces, {}}, {{}, {4, 5, 6}}};
     const PartRequest read = RequestFromBytes(ToBytes(request));
     QCOMPARE(read.known, request.known);
     QCOMPARE(read.wantsShapes, false);
     QCOMPARE(read.stepPath, request.stepPath);
     QCOMPARE(read.stepFeature, 3);
+    QCOMPARE(read.brepPath, request.brepPath);
+    QVERIFY(read.faces == request.faces);
+    QVERIFY(read.edges == request.edges);
     QCOMPARE(read.plan.size(), request.plan.size());
     for (std::size_t place = 0; place < read.plan.size(); ++place) {
         const BuildStep& step = read.plan[place];
@@ -94,6 +102,9 @@ void tst_WorkerMessages::AReplyIsReadAsItWasWritten()
     exchange.reply.measures.volume = 1.5;
     exchange.reply.measures.area = 2.5;
     exchange.reply.measures.boundingBox = {1, 2, 3, 4, 5, 6};
+    exchange.reply.faces = {{{1, 7}, {}}};
+    exchange.reply.edges = {{{}, "there is none."}};
+    exchange.reply.solids = {2};
     exchange.reply.isLast = true;
     QVERIFY(IsReply(ToBytes(exchange.reply, exchange.request)));
     const PartReply reply = exchange.Received();
@@ -101,6 +112,9 @@ void tst_WorkerMessages::AReplyIsReadAsItWasWritten()
     QCOMPARE(reply.measures.volume, 1.5);
     QCOMPARE(reply.measures.area, 2.5);
     QVERIFY(reply.measures.boundingBox == exchange.reply.measures.boundingBox);
+    QCOMPARE(reply.faces.at(0).numbers, std::vector<int>({1, 7}));
+    QCOMPARE(reply.edges.at(0).error, QString("there is none."));
+    QCOMPARE(reply.solids, std::vector<int>({2}));
     QVERIFY(reply.isLast);
     QCOMPARE(reply.part.keys, exchange.reply.part.keys);
 }
@@ -170,6 +184,24 @@ void tst_WorkerMessages::SharedBodiesStayShared()
     const TopTools_ListOfShape bodies = BodiesOf(part.shape);
     for (const TopoDS_Shape& body : bodies)
         QVERIFY(body.IsPartner(part.shapes[0]));
+}
+
+void tst_WorkerMessages::NamesOfFacesAreReadAsTheyWereWritten()
+{
+    Exchange exchange(Holes);
+    const BuiltPart first = exchange.Received().part;
+    // The hole and the other box are sent, the rest is known.
+    BuiltPart known = first;
+    known.keys.resize(3);
+    known.shapes.resize(3);
+    known.faces.resize(3);
+    exchange.request.known = QSet<QByteArray>(known.keys.begin(), known.keys.end());
+    for (const BuiltPart& part : {first, exchange.Received(known).part}) {
+        for (const char* const name : {"pin.side", "hole/plate.zmax", "other.xmin", "plate.side"})
+            QCOMPARE(PartFaces(part).Named(PartFaces::WholePart, name),
+                     PartFaces(exchange.reply.part).Named(PartFaces::WholePart, name));
+        QCOMPARE(PartFaces(part).Named(PartFaces::WholePart, "pin.side").size(), std::size_t(1));
+    }
 }
 
 void tst_WorkerMessages::AFrameIsTakenWhenItIsComplete()

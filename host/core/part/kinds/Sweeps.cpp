@@ -1,0 +1,38 @@
+#include "Sweeps.h"
+
+#include "FaceTrace.h"
+#include "FaceWords.h"
+
+#include <BRepBuilderAPI_MakeFace.hxx>
+#include <BRepPrimAPI_MakePrism.hxx>
+#include <TopoDS_Face.hxx>
+#include <gp_Vec.hxx>
+
+namespace {
+
+void AddSides(FaceTrace& trace, const std::vector<TopoDS_Edge>& edges,
+              BRepBuilderAPI_MakeShape& sweep)
+{
+    int number = 0;
+    for (const TopoDS_Edge& edge : edges) {
+        ++number;
+        for (const TopoDS_Shape& side : sweep.Generated(edge)) {
+            trace.AddNew(side, FaceWords::Side);
+            trace.AddNew(side, FaceWords::SideNumber(number));
+        }
+    }
+}
+
+} // namespace
+
+TracedShape Extruded(const TopoDS_Wire& outline, const std::vector<TopoDS_Edge>& edges,
+                     const gp_Vec& sweep)
+{
+    constexpr bool OnlyPlane = true;
+    BRepPrimAPI_MakePrism prism(BRepBuilderAPI_MakeFace(outline, OnlyPlane).Face(), sweep);
+    FaceTrace trace;
+    trace.AddNew(prism.FirstShape(), FaceWords::Bottom);
+    trace.AddNew(prism.LastShape(), FaceWords::Top);
+    AddSides(trace, edges, prism);
+    return trace.Of(prism.Shape());
+}
