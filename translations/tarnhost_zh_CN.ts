@@ -20,10 +20,6 @@
         <translation>新建单元属性(&amp;N)</translation>
     </message>
     <message>
-        <source>Element &amp;properties</source>
-        <translation>单元属性(&amp;P)</translation>
-    </message>
-    <message>
         <source>&amp;Material library</source>
         <translation>材料库(&amp;M)</translation>
     </message>
@@ -48,12 +44,35 @@
         <translation>已选择材料：%1</translation>
     </message>
     <message>
-        <source>The sub-shape mesh was not applied: size and number must be numeric</source>
-        <translation>子形状网格未采用：其尺寸和数量必须是数字</translation>
+        <source>Element p&amp;roperties</source>
+        <translation>单元属性(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>AnalysisDialogs</name>
+    <message>
+        <source>The force F%1</source>
+        <translation>力 F%1</translation>
     </message>
     <message>
-        <source>The set-up is complete</source>
-        <translation>设置完整</translation>
+        <source>The thickness</source>
+        <translation>厚度</translation>
+    </message>
+    <message>
+        <source>The mesh size</source>
+        <translation>网格尺寸</translation>
+    </message>
+    <message>
+        <source>A local mesh has either a size in mm or a number of elements along each edge; leave the other field empty</source>
+        <translation>局部网格要么有以 mm 为单位的尺寸，要么有每条边的单元数；另一字段请留空</translation>
+    </message>
+    <message>
+        <source>The size</source>
+        <translation>尺寸</translation>
+    </message>
+    <message>
+        <source>The number</source>
+        <translation>数量</translation>
     </message>
 </context>
 <context>
@@ -64,18 +83,15 @@
     </message>
 </context>
 <context>
-    <name>AnalysisTool</name>
+    <name>AnalysisTexts</name>
     <message>
-        <source>%1 is not a program; choose the path of %2, or leave it empty to look in PATH.</source>
-        <translation>%1 不是程序；请选择 %2 的路径，或留空以在 PATH 中查找。</translation>
+        <source>; nothing is picked yet</source>
+        <translation>；尚未拾取</translation>
     </message>
     <message>
-        <source>The program %1 is missing: install the Debian package %2, or set the path of the program.</source>
-        <translation>缺少程序 %1：请安装 Debian 软件包 %2，或设置该程序的路径。</translation>
+        <source> on %1</source>
+        <translation>，位于 %1</translation>
     </message>
-</context>
-<context>
-    <name>AnalysisTree</name>
     <message>
         <source>Static</source>
         <translation>静力</translation>
@@ -106,47 +122,65 @@
     </message>
     <message>
         <source>%1 (family %2, kind %3)</source>
-        <translation>%1（族 %2，类 %3）</translation>
+        <translation>%1（类别 %2，类型 %3）</translation>
     </message>
     <message>
         <source>fixes nothing</source>
-        <translation>无约束</translation>
+        <translation>没有固定任何自由度</translation>
     </message>
     <message>
         <source>fixes %1</source>
-        <translation>约束 %1</translation>
+        <translation>固定 %1</translation>
     </message>
     <message>
-        <source>FX = %1, FY = %2, FZ = %3</source>
-        <translation>FX = %1，FY = %2，FZ = %3</translation>
-    </message>
-    <message>
-        <source>normal to surface, %1</source>
-        <translation>垂直于表面，%1</translation>
-    </message>
-    <message>
-        <source>no type</source>
-        <translation>无类型</translation>
+        <source>FX = %1 N, FY = %2 N, FZ = %3 N</source>
+        <translation>FX = %1 N，FY = %2 N，FZ = %3 N</translation>
     </message>
     <message>
         <source>no material</source>
-        <translation>无材料</translation>
+        <translation>没有材料</translation>
     </message>
     <message>
         <source>material %1</source>
         <translation>材料 %1</translation>
     </message>
     <message>
-        <source>%1, %2, thickness %3</source>
-        <translation>%1，%2，厚度 %3</translation>
+        <source>%1, solid elements in the whole part; nothing is picked for shells yet</source>
+        <translation>%1，整个零件使用实体单元；尚未为壳单元拾取面</translation>
     </message>
+    <message>
+        <source>%1, shells %2 mm thick</source>
+        <translation>%1，厚 %2 mm 的壳单元</translation>
+    </message>
+    <message>
+        <source>%1 elements along each</source>
+        <translation>每条边 %1 个单元</translation>
+    </message>
+    <message>
+        <source>size %1 mm</source>
+        <translation>尺寸 %1 mm</translation>
+    </message>
+    <message>
+        <source>%1 Hz to %2 Hz, %3 modes</source>
+        <translation>%1 Hz 至 %2 Hz，%3 阶模态</translation>
+    </message>
+</context>
+<context>
+    <name>AnalysisTool</name>
+    <message>
+        <source>%1 is not a program; choose the path of %2, or leave it empty to look in PATH.</source>
+        <translation>%1 不是程序；请选择 %2 的路径，或留空以在 PATH 中查找。</translation>
+    </message>
+    <message>
+        <source>The program %1 is missing: install the Debian package %2, or set the path of the program.</source>
+        <translation>缺少程序 %1：请安装 Debian 软件包 %2，或设置该程序的路径。</translation>
+    </message>
+</context>
+<context>
+    <name>AnalysisTree</name>
     <message>
         <source>Analysis model</source>
         <translation>分析模型</translation>
-    </message>
-    <message>
-        <source>&amp;Delete boundary condition or load</source>
-        <translation>删除边界条件或载荷(&amp;D)</translation>
     </message>
     <message>
         <source>Record</source>
@@ -177,24 +211,36 @@
         <translation>频率范围</translation>
     </message>
     <message>
-        <source>%1 to %2, %3 points</source>
-        <translation>%1 至 %2，%3 个点</translation>
-    </message>
-    <message>
         <source>Mesh size</source>
         <translation>网格尺寸</translation>
     </message>
     <message>
-        <source>not set</source>
-        <translation>未设置</translation>
+        <source>Local mesh %1</source>
+        <translation>局部网格 %1</translation>
     </message>
     <message>
-        <source>Sub-shape mesh</source>
-        <translation>子形状网格</translation>
+        <source>&amp;Edit entry</source>
+        <translation>编辑条目(&amp;E)</translation>
     </message>
     <message>
-        <source>size %1, number %2</source>
-        <translation>尺寸 %1，数量 %2</translation>
+        <source>&amp;Pick faces and edges</source>
+        <translation>拾取面和边(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete entry</source>
+        <translation>删除条目(&amp;D)</translation>
+    </message>
+    <message>
+        <source>not set: a tenth of the longest side</source>
+        <translation>未设置：最长边的十分之一</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Local meshes</source>
+        <translation>局部网格</translation>
     </message>
 </context>
 <context>
@@ -418,6 +464,22 @@
         <source>the geometry kernel crashed.</source>
         <translation>几何内核崩溃。</translation>
     </message>
+    <message>
+        <source>the coordinate %1 of a point has no value: %2.</source>
+        <translation>点的坐标 %1 没有值：%2。</translation>
+    </message>
+    <message>
+        <source>the coordinate %1 of a point is %2, but has to be %3.</source>
+        <translation>点的坐标 %1 为 %2，但必须为%3。</translation>
+    </message>
+    <message>
+        <source>there is no face %1.</source>
+        <translation>没有面 %1。</translation>
+    </message>
+    <message>
+        <source>the faces %1 and %2 have no edge in common.</source>
+        <translation>面 %1 和 %2 没有公共边。</translation>
+    </message>
 </context>
 <context>
     <name>BuildLimitsDialog</name>
@@ -471,6 +533,13 @@
     <message>
         <source>Removed parameters: %1</source>
         <translation>已删除参数：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DialogText</name>
+    <message>
+        <source>%1: %2 is neither a number nor an expression with a value: %3</source>
+        <translation>%1：%2 既不是数字，也不是有值的表达式：%3</translation>
     </message>
 </context>
 <context>
@@ -985,10 +1054,6 @@
         <translation>不是有效的 JSON：%1，位于第 %2 字节</translation>
     </message>
     <message>
-        <source>the project is of version %1; this program reads version %2</source>
-        <translation>项目版本为 %1；本程序读取版本 %2</translation>
-    </message>
-    <message>
         <source>the project</source>
         <translation>项目</translation>
     </message>
@@ -1011,6 +1076,118 @@
     <message>
         <source>the project cannot be saved: %1</source>
         <translation>无法保存项目：%1</translation>
+    </message>
+    <message>
+        <source>&quot;frequencies&quot; of the analysis</source>
+        <translation>分析的“frequencies”</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>property %1</source>
+        <translation>属性 %1</translation>
+    </message>
+    <message>
+        <source>has faces, but no &quot;thickness&quot;</source>
+        <translation>有面，但没有“thickness”</translation>
+    </message>
+    <message>
+        <source>constraint %1</source>
+        <translation>约束 %1</translation>
+    </message>
+    <message>
+        <source>holds the unknown degree of freedom %1</source>
+        <translation>固定了未知的自由度 %1</translation>
+    </message>
+    <message>
+        <source>load %1</source>
+        <translation>载荷 %1</translation>
+    </message>
+    <message>
+        <source>has both &quot;faces&quot; and &quot;edges&quot;; a load acts on either</source>
+        <translation>同时含有“faces”和“edges”；载荷只能作用于其中之一</translation>
+    </message>
+    <message>
+        <source>local mesh %1</source>
+        <translation>局部网格 %1</translation>
+    </message>
+    <message>
+        <source>needs either a &quot;size&quot; or a &quot;number&quot;</source>
+        <translation>需要“size”或“number”之一</translation>
+    </message>
+    <message>
+        <source>has a &quot;number&quot;, which is for edges only, and &quot;faces&quot;</source>
+        <translation>含有只适用于边的“number”，又含有“faces”</translation>
+    </message>
+    <message>
+        <source>has the name %1 twice in %2</source>
+        <translation>在 %2 中有两个名称 %1</translation>
+    </message>
+    <message>
+        <source>the analysis</source>
+        <translation>分析</translation>
+    </message>
+    <message>
+        <source>a list of three numbers or expressions</source>
+        <translation>由三个数字或表达式组成的列表</translation>
+    </message>
+    <message>
+        <source>%1 entry %2 of &quot;%3&quot;</source>
+        <translation>%1“%3”的第 %2 项</translation>
+    </message>
+    <message>
+        <source>%1 is an empty name of a face</source>
+        <translation>%1 的面名称为空</translation>
+    </message>
+    <message>
+        <source>needs either &quot;between&quot; or &quot;at&quot;</source>
+        <translation>需要“between”或“at”之一</translation>
+    </message>
+    <message>
+        <source>a list of two faces</source>
+        <translation>由两个面组成的列表</translation>
+    </message>
+    <message>
+        <source>the project is of version %1; this program reads versions up to %2</source>
+        <translation>项目的版本为 %1；本程序可读取的最高版本为 %2</translation>
+    </message>
+    <message>
+        <source>1 or %1</source>
+        <translation>1 或 %1</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>%1 至 %2 的整数</translation>
+    </message>
+    <message>
+        <source>has the unknown design %1</source>
+        <translation>含有未知的试验设计 %1</translation>
+    </message>
+    <message>
+        <source>needs &quot;runs&quot;, the number of runs of its design</source>
+        <translation>需要“runs”，即试验设计的运行数</translation>
+    </message>
+    <message>
+        <source>needs &quot;file&quot;, the CSV file with its list of runs</source>
+        <translation>需要“file”，即列出运行的 CSV 文件</translation>
+    </message>
+    <message>
+        <source>has the unknown analysis %1</source>
+        <translation>含有未知的分析 %1</translation>
+    </message>
+    <message>
+        <source>response %1</source>
+        <translation>响应 %1</translation>
+    </message>
+    <message>
+        <source>has two responses %1</source>
+        <translation>有两个响应 %1</translation>
+    </message>
+    <message>
+        <source>the study</source>
+        <translation>研究</translation>
     </message>
 </context>
 <context>
@@ -1088,6 +1265,37 @@
     <message>
         <source>View</source>
         <translation>视图</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialError</name>
+    <message>
+        <source>The material &quot;%1&quot; is neither in the system&apos;s library nor in UserMaterial.xml beside the project.</source>
+        <translation>系统材料库和项目旁的 UserMaterial.xml 中都没有材料“%1”。</translation>
+    </message>
+    <message>
+        <source>Material &quot;%1&quot;: the %2 &quot;%3&quot; is not a number.</source>
+        <translation>材料“%1”：%2“%3”不是数字。</translation>
+    </message>
+    <message>
+        <source>Material &quot;%1&quot;: the %2 %3 must be greater than 0.</source>
+        <translation>材料“%1”：%2 %3 必须大于 0。</translation>
+    </message>
+    <message>
+        <source>elastic modulus</source>
+        <translation>弹性模量</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio</source>
+        <translation>泊松比</translation>
+    </message>
+    <message>
+        <source>Material &quot;%1&quot;: Poisson&apos;s ratio %2 is not between -1 and 0.5.</source>
+        <translation>材料“%1”：泊松比 %2 不在 -1 与 0.5 之间。</translation>
+    </message>
+    <message>
+        <source>density</source>
+        <translation>密度</translation>
     </message>
 </context>
 <context>
@@ -1563,68 +1771,147 @@
 <context>
     <name>SetupCheck</name>
     <message>
-        <source>Material &quot;%1&quot;: the %2 &quot;%3&quot; is not a number</source>
-        <translation>材料“%1”：%2“%3”不是数字</translation>
-    </message>
-    <message>
-        <source>Material &quot;%1&quot;: the %2 %3 must be greater than 0</source>
-        <translation>材料“%1”：%2 %3 必须大于 0</translation>
-    </message>
-    <message>
-        <source>elastic modulus</source>
-        <translation>弹性模量</translation>
-    </message>
-    <message>
-        <source>Material &quot;%1&quot;: Poisson&apos;s ratio &quot;%2&quot; is not a number</source>
-        <translation>材料“%1”：泊松比“%2”不是数字</translation>
-    </message>
-    <message>
-        <source>Material &quot;%1&quot;: Poisson&apos;s ratio %2 is outside -1 to 0.5</source>
-        <translation>材料“%1”：泊松比 %2 不在 -1 至 0.5 之间</translation>
-    </message>
-    <message>
-        <source>density</source>
-        <translation>密度</translation>
-    </message>
-    <message>
-        <source>No element property is defined</source>
-        <translation>没有单元属性</translation>
-    </message>
-    <message>
-        <source>Element property &quot;%1&quot; has no material</source>
-        <translation>单元属性“%1”没有材料</translation>
-    </message>
-    <message>
-        <source>Element property &quot;%1&quot;: the library has no material &quot;%2&quot;</source>
-        <translation>单元属性“%1”：材料库中没有材料“%2”</translation>
-    </message>
-    <message>
-        <source>Element property &quot;%1&quot;: the thickness %2 must be greater than 0</source>
-        <translation>单元属性“%1”：厚度 %2 必须大于 0</translation>
-    </message>
-    <message>
         <source>Boundary condition &quot;%1&quot; fixes no degree of freedom</source>
         <translation>边界条件“%1”没有任何约束</translation>
-    </message>
-    <message>
-        <source>Load &quot;%1&quot;: a component is not a number</source>
-        <translation>载荷“%1”：有分量不是数字</translation>
-    </message>
-    <message>
-        <source>Load &quot;%1&quot; is zero</source>
-        <translation>载荷“%1”为零</translation>
     </message>
     <message>
         <source>Frequency range: %1 to %2 are not numbers</source>
         <translation>频率范围：%1 至 %2 不是数字</translation>
     </message>
     <message>
-        <source>Frequency range: the minimum %1 is above the maximum %2</source>
-        <translation>频率范围：最小值 %1 大于最大值 %2</translation>
+        <source>%1 (&quot;%2&quot;) has no value: %3</source>
+        <translation>%1（“%2”）没有值：%3</translation>
     </message>
     <message>
-        <source>The mesh size %1 must be greater than 0</source>
-        <translation>网格尺寸 %1 必须大于 0</translation>
+        <source>%1 is %2 %3, but has to be greater than 0</source>
+        <translation>%1 为 %2 %3，但必须大于 0</translation>
+    </message>
+    <message>
+        <source>There is no part: add a body to analyse</source>
+        <translation>没有零件：请添加要分析的实体</translation>
+    </message>
+    <message>
+        <source>This kind of analysis cannot be solved here: choose vibration or static</source>
+        <translation>此处无法求解该类分析：请选择振动或静力</translation>
+    </message>
+    <message>
+        <source>The part has no material: choose one, or define an element property</source>
+        <translation>零件没有材料：请选择材料，或定义单元属性</translation>
+    </message>
+    <message>
+        <source>Element property &quot;%1&quot;</source>
+        <translation>单元属性“%1”</translation>
+    </message>
+    <message>
+        <source>%1 has no material</source>
+        <translation>%1 没有材料</translation>
+    </message>
+    <message>
+        <source>%1: the thickness</source>
+        <translation>%1：厚度</translation>
+    </message>
+    <message>
+        <source>%1 is not used: it has no faces, but other properties do</source>
+        <translation>%1 未被使用：它没有面，而其他属性有</translation>
+    </message>
+    <message>
+        <source>%1 is not used: another property already applies to the whole part</source>
+        <translation>%1 未被使用：另一属性已应用于整个零件</translation>
+    </message>
+    <message>
+        <source>A static analysis needs a boundary condition</source>
+        <translation>静力分析需要边界条件</translation>
+    </message>
+    <message>
+        <source>Boundary condition &quot;%1&quot; acts nowhere: pick its faces or edges</source>
+        <translation>边界条件“%1”没有作用位置：请拾取面或边</translation>
+    </message>
+    <message>
+        <source>A static analysis needs a load</source>
+        <translation>静力分析需要载荷</translation>
+    </message>
+    <message>
+        <source>Load &quot;%1&quot;</source>
+        <translation>载荷“%1”</translation>
+    </message>
+    <message>
+        <source>%1: the force F%2</source>
+        <translation>%1：力 F%2</translation>
+    </message>
+    <message>
+        <source>%1 is zero</source>
+        <translation>%1 为零</translation>
+    </message>
+    <message>
+        <source>%1 acts nowhere: pick its faces or edges</source>
+        <translation>%1 没有作用位置：请拾取面或边</translation>
+    </message>
+    <message>
+        <source>%1 has no effect on natural frequencies</source>
+        <translation>%1 对固有频率没有影响</translation>
+    </message>
+    <message>
+        <source>Frequency range: the minimum %1 Hz is below 0</source>
+        <translation>频率范围：最小值 %1 Hz 小于 0</translation>
+    </message>
+    <message>
+        <source>Frequency range: the minimum %1 Hz is not below the maximum %2 Hz</source>
+        <translation>频率范围：最小值 %1 Hz 不小于最大值 %2 Hz</translation>
+    </message>
+    <message>
+        <source>Frequency range: the number of modes is %1, but has to be 1 to %2</source>
+        <translation>频率范围：模态数为 %1，但必须为 1 至 %2</translation>
+    </message>
+    <message>
+        <source>No mesh size is set: a tenth of the part&apos;s longest side is used</source>
+        <translation>未设置网格尺寸：使用零件最长边的十分之一</translation>
+    </message>
+    <message>
+        <source>The mesh size</source>
+        <translation>网格尺寸</translation>
+    </message>
+    <message>
+        <source>The mesh size %1 mm is larger than the part, %2 mm</source>
+        <translation>网格尺寸 %1 mm 大于零件的 %2 mm</translation>
+    </message>
+    <message>
+        <source>Local mesh %1</source>
+        <translation>局部网格 %1</translation>
+    </message>
+    <message>
+        <source>%1: the size</source>
+        <translation>%1：尺寸</translation>
+    </message>
+    <message>
+        <source>%1: the number</source>
+        <translation>%1：数量</translation>
+    </message>
+    <message>
+        <source>%1 applies nowhere: pick its faces or edges</source>
+        <translation>%1 没有应用位置：请拾取面或边</translation>
+    </message>
+</context>
+<context>
+    <name>SetupCheckDock</name>
+    <message>
+        <source>Set-up check</source>
+        <translation>设置检查</translation>
+    </message>
+    <message>
+        <source>The set-up was not checked yet.</source>
+        <translation>尚未检查设置。</translation>
+    </message>
+    <message>
+        <source>The set-up is complete</source>
+        <translation>设置完整</translation>
+    </message>
+    <message>
+        <source>Set-up check: problems: %1, warnings: %2</source>
+        <translation>设置检查：问题 %1 个，警告 %2 个</translation>
+    </message>
+    <message>
+        <source>The set-up has changed since it was checked: check it again.</source>
+        <translation>检查之后设置已更改：请重新检查。</translation>
     </message>
 </context>
 <context>

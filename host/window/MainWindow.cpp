@@ -16,6 +16,7 @@
 #include "PositionDock.h"
 #include "Project.h"
 #include "ProjectActions.h"
+#include "SetupCheckDock.h"
 #include "SolverActions.h"
 #include "ViewActions.h"
 
@@ -47,6 +48,7 @@ void MainWindow::CreateDocks()
     m_position = new PositionDock(m_summary->View(), this);
     m_messages = new MessageDock(this);
     m_tree = new AnalysisTree(*m_analysis, this);
+    m_check = new SetupCheckDock(this);
     m_overview = new ParameterOverview(this);
     addDockWidget(Qt::LeftDockWidgetArea, m_features);
     addDockWidget(Qt::LeftDockWidgetArea, m_fields);
@@ -55,6 +57,8 @@ void MainWindow::CreateDocks()
     m_features->raise();
     addDockWidget(Qt::BottomDockWidgetArea, m_overview);
     addDockWidget(Qt::BottomDockWidgetArea, m_messages);
+    tabifyDockWidget(m_messages, m_check);
+    m_check->hide();
     resizeDocks({m_features}, {470}, Qt::Horizontal);
     resizeDocks({m_features, m_fields, m_position}, {265, 275, 50}, Qt::Vertical);
     resizeDocks({m_overview, m_messages}, {820, 620}, Qt::Horizontal);
@@ -70,7 +74,7 @@ void MainWindow::CreateMenus()
     m_designActions->FillMenu(*menuBar()->addMenu(tr("&Design")));
     m_partActions = new PartActions(*m_part, *m_features, *m_fields, m_summary->View(), this);
     m_partActions->FillMenu(*menuBar()->addMenu(tr("&Model")));
-    auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, *m_part, this);
+    auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, *m_check, *m_part, this);
     analysis->FillMenu(*menuBar()->addMenu(tr("&Analysis")));
     auto* const solver = new SolverActions(this);
     solver->FillMenu(*menuBar()->addMenu(tr("&Solver")));
@@ -79,8 +83,8 @@ void MainWindow::CreateMenus()
     const ViewActions* const viewActions = new ViewActions(m_summary->View(), this);
     viewActions->FillMenu(view);
     view.addSeparator();
-    const QList<QDockWidget*> docks = {m_features, m_fields,   m_position,
-                                       m_tree,     m_overview, m_messages};
+    const QList<QDockWidget*> docks = {m_features, m_fields,   m_position, m_tree,
+                                       m_overview, m_messages, m_check};
     for (const QDockWidget* const dock : docks)
         view.addAction(dock->toggleViewAction());
     QToolBar* const toolBar = addToolBar(tr("View"));

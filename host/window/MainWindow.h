@@ -15,6 +15,7 @@ class PositionDock;
 class Project;
 class ProjectActions;
 class PartPanel;
+class SetupCheckDock;
 
 /// The host's window: menus that run the dialogs, and views of the messages, the stored parameters,
 /// the features and the part that they build.
@@ -57,6 +58,7 @@ private:
     MessageDock* m_messages = nullptr;
     ParameterOverview* m_overview = nullptr;
     AnalysisTree* m_tree = nullptr;
+    SetupCheckDock* m_check = nullptr;
     FeatureTree* m_features = nullptr;
     FeatureFields* m_fields = nullptr;
     PositionDock* m_position = nullptr;

@@ -135,6 +135,15 @@ void KVPropertyData::AddPropInfo(CQLTElemPropDef* property)
         m_d->Add(property);
 }
 
+void KVPropertyData::RemovePropInfo(const QString& name)
+{
+    const auto found = m_d->records.find(name);
+    if (found == m_d->records.end())
+        return;
+    m_d->owned[found->second].reset();
+    m_d->records.erase(found);
+}
+
 std::map<QString, CQLTElemPropDef*> KVPropertyData::GetProptyDataMap() const
 {
     return m_d->records;

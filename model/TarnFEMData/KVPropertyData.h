@@ -52,6 +52,10 @@ public:
     /// The property of that name, or null. The store keeps its ownership.
     CQLTElemPropDef* GetPropertyInfo(QString name) const;
 
+    /// Removes the property of that name; an unknown name is ignored. The store still owns the
+    /// record, and a file that is read again may bring the property back.
+    void RemovePropInfo(const QString& name);
+
     /// Removes all properties and frees their records, including those replaced before.
     void Clear();
 

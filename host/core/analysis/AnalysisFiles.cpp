@@ -48,3 +48,9 @@ QString ReadAnalysisFiles()
     materials.ReadXML(SystemFile, MATERIAL_SYSTEM);
     return warning;
 }
+
+void UpdatePropertyFile()
+{
+    if (QFileInfo(QString::fromLatin1(PropertyFile)).isFile())
+        KVPropertyData::GetInstance()->WriteXML(PropertyFile);
+}

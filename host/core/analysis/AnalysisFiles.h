@@ -15,3 +15,7 @@ bool ProvideSystemMaterials(const QString& library = InstalledSystemMaterials())
 /// the store yet, and the materials if the store is empty. Provides the system library first.
 /// Returns a warning for the user, or an empty text.
 QString ReadAnalysisFiles();
+
+/// Writes the store of element properties to the file of the working directory if there is one, so
+/// that reading the file does not bring back what the store has lost.
+void UpdatePropertyFile();

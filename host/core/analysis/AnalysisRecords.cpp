@@ -2,18 +2,25 @@
 
 #include "AnalysisType.h"
 #include "AttributeCommonMgr.h"
-
-#include <algorithm>
+#include "AttributeRecords.h"
+#include "FrequencyPref.h"
 
 namespace {
 
-template<class Record>
-void RemoveByName(std::vector<Record>& records, const std::string& name)
+template<class Visit>
+void VisitNames(const AnalysisDefinition& definition, const Visit& visit)
 {
-    const auto isNamed = [&name](const Record& record) {
-        return record.m_strName == name;
-    };
-    records.erase(std::remove_if(records.begin(), records.end(), isNamed), records.end());
+    for (const ConstraintDefinition& constraint : definition.constraints)
+        visit(constraint.name.toLocal8Bit().toStdString());
+    for (const LoadDefinition& load : definition.loads)
+        visit(load.name.toLocal8Bit().toStdString());
+}
+
+void StoreFrequencies(const FrequencyRange& range)
+{
+    FrequencyPref::m_MinFreq = range.min;
+    FrequencyPref::m_MaxFreq = range.max;
+    FrequencyPref::m_NumFreq = range.number;
 }
 
 } // namespace
@@ -37,59 +44,46 @@ void AnalysisRecords::SetSolverType(int family, int kind)
     Q_EMIT Changed();
 }
 
-void AnalysisRecords::AddConstraint(const sConstrainData& constraint)
-{
-    AttributeCommonMgr::GetInstance()->AddName(constraint.m_strName);
-    m_constraints.push_back(constraint);
-    Q_EMIT Changed();
-}
-
-void AnalysisRecords::AddLoad(const sLoadForceData& load)
-{
-    AttributeCommonMgr::GetInstance()->AddName(load.m_strName);
-    m_loads.push_back(load);
-    Q_EMIT Changed();
-}
-
-void AnalysisRecords::Remove(const std::string& name)
-{
-    // A copy: the caller may pass the name of the record that is deleted.
-    const std::string removed(name.data(), name.size());
-    RemoveByName(m_constraints, removed);
-    RemoveByName(m_loads, removed);
-    AttributeCommonMgr::GetInstance()->RemoveName(removed);
-    Q_EMIT Changed();
-}
-
-void AnalysisRecords::SetMeshSize(double size)
-{
-    m_meshSize = size;
-    Q_EMIT Changed();
-}
-
-void AnalysisRecords::SetSubShape(const SubShapeMesh& mesh)
-{
-    m_subShape = mesh;
-    Q_EMIT Changed();
-}
-
-void AnalysisRecords::Clear()
+void AnalysisRecords::SetDefinition(const AnalysisDefinition& definition)
 {
     FreeNames();
+    m_definition = definition;
+    RegisterNames();
+    StoreFrequencies(definition.frequencies);
+    StoreProperties(definition.properties);
+    RemoveOtherProperties(definition.properties);
+    Q_EMIT Changed();
+}
+
+void AnalysisRecords::TakeStores()
+{
+    m_definition.frequencies = {FrequencyPref::m_MinFreq, FrequencyPref::m_MaxFreq,
+                                FrequencyPref::m_NumFreq};
+    m_definition.properties = StoredProperties(m_definition.properties);
+    Q_EMIT Changed();
+}
+
+void AnalysisRecords::Start(const AnalysisDefinition& definition)
+{
     m_family = AnalysisType::MechanicsFamily;
     m_kind = AnalysisType::VibrationKind;
-    m_constraints.clear();
-    m_loads.clear();
-    m_meshSize.reset();
-    m_subShape.reset();
-    Q_EMIT Changed();
+    FreeNames();
+    m_definition = definition;
+    RegisterNames();
+    StoreFrequencies(definition.frequencies);
+    StoreProperties(definition.properties);
+    TakeStores();
 }
 
 void AnalysisRecords::FreeNames()
 {
-    AttributeCommonMgr& registry = *AttributeCommonMgr::GetInstance();
-    for (const sConstrainData& constraint : m_constraints)
-        registry.RemoveName(constraint.m_strName);
-    for (const sLoadForceData& load : m_loads)
-        registry.RemoveName(load.m_strName);
+    VisitNames(m_definition, [](const std::string& name) {
+        AttributeCommonMgr::GetInstance()->RemoveName(name);
+    });
+}
+
+void AnalysisRecords::RegisterNames()
+{
+    VisitNames(m_definition,
+               [](const std::string& name) { AttributeCommonMgr::GetInstance()->AddName(name); });
 }

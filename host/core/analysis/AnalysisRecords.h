@@ -1,32 +1,20 @@
 #pragma once
 
-#include "sConstrainData.h"
-#include "sLoadForceData.h"
+#include "AnalysisDefinition.h"
 
 #include <QObject>
 #include <QString>
 
-#include <optional>
-#include <string>
-#include <vector>
-
-/// The host's own records of the analysis set-up. Element properties, materials and the frequency
-/// range are in stores that the dialogs share.
+/// The analysis set-up of the open project, and the stores that the dialogs share with it.
 ///
-/// AttributeCommonMgr holds the name of each boundary condition and load in these records, so that
-/// the dialogs refuse a second one of that name.
+/// KVPropertyData holds the element properties, FrequencyPref the frequency range, and
+/// AttributeCommonMgr the names of boundary conditions and loads, so that the dialogs refuse a
+/// second one of a name.
 class AnalysisRecords : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The mesh of a part of a shape.
-    struct SubShapeMesh
-    {
-        double size = 0.0;
-        int number = 0;
-    };
-
     explicit AnalysisRecords(QObject* parent = nullptr);
     ~AnalysisRecords() override;
 
@@ -34,44 +22,28 @@ public:
     int Kind() const { return m_kind; }     ///< As CAnalysisTypeGUI; Vibration initially.
     void SetSolverType(int family, int kind);
 
-    /// In the order of insertion.
-    const std::vector<sConstrainData>& Constraints() const { return m_constraints; }
-    /// In the order of insertion.
-    const std::vector<sLoadForceData>& Loads() const { return m_loads; }
+    const AnalysisDefinition& Definition() const { return m_definition; }
+    /// Replaces the set-up; the stores follow.
+    void SetDefinition(const AnalysisDefinition& definition);
 
-    void AddConstraint(const sConstrainData& constraint);
-    void AddLoad(const sLoadForceData& load);
+    /// Takes over what a dialog has changed in the stores.
+    void TakeStores();
 
-    /// Deletes the boundary condition or load named @p name and releases the name.
-    void Remove(const std::string& name);
+    /// Begins with the set-up of a project, whose materials and properties the stores hold already.
+    /// Properties that only the store has join the set-up.
+    void Start(const AnalysisDefinition& definition);
 
-    /// Empty until it is set.
-    const std::optional<double>& MeshSize() const { return m_meshSize; }
-    void SetMeshSize(double size);
-
-    /// Empty until it is set.
-    const std::optional<SubShapeMesh>& SubShape() const { return m_subShape; }
-    void SetSubShape(const SubShapeMesh& mesh);
-
-    /// Resets everything to its initial state.
-    void Clear();
+    /// Begins without a set-up.
+    void Clear() { Start({}); }
 
 Q_SIGNALS:
     void Changed();
 
 private:
     void FreeNames();
+    void RegisterNames();
 
-    int m_family = 0;
-    int m_kind = 0;
-    std::vector<sConstrainData> m_constraints;
-    std::vector<sLoadForceData> m_loads;
-    std::optional<double> m_meshSize;
-    std::optional<SubShapeMesh> m_subShape;
+    int m_family;
+    int m_kind;
+    AnalysisDefinition m_definition;
 };
-
-/// The name of a boundary condition or load, decoded from the local 8-bit code page.
-inline QString AttributeText(const std::string& name)
-{
-    return QString::fromLocal8Bit(name.c_str());
-}

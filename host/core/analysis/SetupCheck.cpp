@@ -1,150 +1,244 @@
 #include "SetupCheck.h"
 
-#include "AnalysisRecords.h"
-#include "FrequencyPref.h"
-#include "KVMaterialData.h"
-#include "KVPropertyData.h"
+#include "AnalysisType.h"
+#include "ExpressionEngine.h"
+#include "FieldValues.h"
 #include "MaterialLibrary.h"
 #include "NumberTexts.h"
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 
 namespace {
 
-constexpr double LeastPoisson = -1.0;
-constexpr double GreatestPoisson = 0.5;
-
-class Text
+/// Collects the problems of one set-up.
+class Check
 {
     Q_DECLARE_TR_FUNCTIONS(SetupCheck)
+
+public:
+    Check(const AnalysisDefinition& analysis, const SetupContext& context)
+        : m_analysis(analysis)
+        , m_context(context)
+    {
+    }
+
+    std::vector<SetupProblem> Run()
+    {
+        CheckPart();
+        CheckType();
+        CheckProperties();
+        CheckConstraints();
+        CheckLoads();
+        CheckFrequencies();
+        CheckMeshes();
+        return m_problems;
+    }
+
+private:
+    void CheckPart();
+    void CheckType();
+    void CheckProperties();
+    void CheckMaterial(const QString& name, const AnalysisEntry& entry);
+    void CheckConstraints();
+    void CheckLoads();
+    void CheckFrequencies();
+    void CheckMeshes();
+
+    bool IsStatic() const { return m_context.kind == AnalysisType::StaticKind; }
+    void Fail(const AnalysisEntry& entry, const QString& text)
+    {
+        m_problems.push_back({text, entry});
+    }
+    void Warn(const AnalysisEntry& entry, const QString& text)
+    {
+        m_problems.push_back({text, entry, true});
+    }
+    // NaN if the text has no value, which is then a problem. @p what begins the message.
+    double Value(const AnalysisEntry& entry, const QString& what, const QString& text);
+    // Of a number that has to be above 0.
+    void CheckPositive(const AnalysisEntry& entry, const QString& what, const QString& text,
+                       const QString& unit);
+
+    const AnalysisDefinition& m_analysis;
+    const SetupContext& m_context;
+    FieldValues m_values;
+    std::set<QString> m_materials; // That were checked.
+    std::vector<SetupProblem> m_problems;
 };
 
-// Empty if the text is not a finite number.
-std::optional<double> Number(const QString& text)
+double Check::Value(const AnalysisEntry& entry, const QString& what, const QString& text)
 {
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    if (!isNumber || !std::isfinite(number))
-        return std::nullopt;
-    return number;
+    const double value = m_values.Evaluate(text);
+    if (!std::isnan(value))
+        return value;
+    Fail(entry, tr("%1 (\"%2\") has no value: %3").arg(what, text, ExpressionEngine::LastError()));
+    return value;
 }
 
-void CheckPositive(const QString& material, const QString& what, const QString& text,
-                   QStringList& problems)
+void Check::CheckPositive(const AnalysisEntry& entry, const QString& what, const QString& text,
+                          const QString& unit)
 {
-    const std::optional<double> number = Number(text);
-    if (!number.has_value())
-        problems
-            << Text::tr("Material \"%1\": the %2 \"%3\" is not a number").arg(material, what, text);
-    else if (*number <= 0.0)
-        problems << Text::tr("Material \"%1\": the %2 %3 must be greater than 0")
-                        .arg(material, what, text);
+    const double value = Value(entry, what, text);
+    if (!std::isnan(value) && !(value > 0.0 && std::isfinite(value)))
+        Fail(entry,
+             tr("%1 is %2 %3, but has to be greater than 0").arg(what, ExactText(value), unit));
 }
 
-void CheckMaterial(const QString& name, const KVMaterialInfo& material, QStringList& problems)
+void Check::CheckPart()
 {
-    const MaterialTexts values = TextsOf(material);
-    CheckPositive(name, Text::tr("elastic modulus"), values.elasticModulus, problems);
-    const std::optional<double> poisson = Number(values.poisson);
-    if (!poisson.has_value())
-        problems << Text::tr("Material \"%1\": Poisson's ratio \"%2\" is not a number")
-                        .arg(name, values.poisson);
-    else if (*poisson < LeastPoisson || *poisson > GreatestPoisson)
-        problems << Text::tr("Material \"%1\": Poisson's ratio %2 is outside -1 to 0.5")
-                        .arg(name, values.poisson);
-    CheckPositive(name, Text::tr("density"), values.density, problems);
+    const AnalysisEntry entry{AnalysisEntry::Part};
+    if (m_context.longestSide <= 0.0)
+        Fail(entry, tr("There is no part: add a body to analyse"));
+    const QString overlaps = m_context.overlaps.AnalysisProblem();
+    if (!overlaps.isEmpty())
+        Fail(entry, overlaps);
 }
 
-void CheckProperties(const AnalysisSetup& setup, QStringList& problems)
+void Check::CheckType()
 {
-    if (setup.properties.empty())
-        problems << Text::tr("No element property is defined");
+    const bool isSolvable = m_context.family == AnalysisType::MechanicsFamily &&
+                            (m_context.kind == AnalysisType::VibrationKind || IsStatic());
+    if (!isSolvable)
+        Fail({AnalysisEntry::SolverType},
+             tr("This kind of analysis cannot be solved here: choose vibration or static"));
+}
 
-    std::set<QString> used;
-    for (const auto& [name, property] : setup.properties) {
-        const QString& material = property.m_strMaterialName;
-        if (material.isEmpty())
-            problems << Text::tr("Element property \"%1\" has no material").arg(name);
-        else if (setup.materials.count(material) == 0)
-            problems << Text::tr("Element property \"%1\": the library has no material \"%2\"")
-                            .arg(name, material);
+void Check::CheckProperties()
+{
+    if (m_analysis.properties.empty()) {
+        if (m_context.partMaterial.isEmpty())
+            Fail({AnalysisEntry::Part},
+                 tr("The part has no material: choose one, or define an element property"));
         else
-            used.insert(material);
-
-        const double thickness = property.m_dThickness;
-        if (property.m_nTypeCode != CQLTElemPropDef::SolidType &&
-            !(thickness > 0.0 && std::isfinite(thickness)))
-            problems << Text::tr("Element property \"%1\": the thickness %2 must be greater than 0")
-                            .arg(name, ExactText(thickness));
+            CheckMaterial(m_context.partMaterial, {AnalysisEntry::Part});
     }
-    for (const QString& name : used)
-        CheckMaterial(name, setup.materials.at(name), problems);
-}
-
-void CheckConstraints(const AnalysisSetup& setup, QStringList& problems)
-{
-    for (const sConstrainData& held : setup.constraints) {
-        if (!held.m_bXD && !held.m_bYD && !held.m_bZD && !held.m_bXR && !held.m_bYR && !held.m_bZR)
-            problems << Text::tr("Boundary condition \"%1\" fixes no degree of freedom")
-                            .arg(AttributeText(held.m_strName));
-    }
-}
-
-void CheckLoads(const AnalysisSetup& setup, QStringList& problems)
-{
-    for (const sLoadForceData& load : setup.loads) {
-        const QString name = AttributeText(load.m_strName);
-        if (!std::isfinite(load.m_dFX) || !std::isfinite(load.m_dFY) || !std::isfinite(load.m_dFZ))
-            problems << Text::tr("Load \"%1\": a component is not a number").arg(name);
-        else if (load.m_dFX == 0.0 && load.m_dFY == 0.0 && load.m_dFZ == 0.0)
-            problems << Text::tr("Load \"%1\" is zero").arg(name);
+    const bool hasShells =
+        std::any_of(m_analysis.properties.begin(), m_analysis.properties.end(),
+                    [](const PropertyDefinition& property) { return !property.faces.empty(); });
+    bool hasSolid = false;
+    for (std::size_t index = 0; index < m_analysis.properties.size(); ++index) {
+        const PropertyDefinition& property = m_analysis.properties[index];
+        const AnalysisEntry entry{AnalysisEntry::Property, int(index)};
+        const QString what = tr("Element property \"%1\"").arg(property.name);
+        if (property.material.isEmpty())
+            Fail(entry, tr("%1 has no material").arg(what));
+        else
+            CheckMaterial(property.material, entry);
+        if (!property.faces.empty())
+            CheckPositive(entry, tr("%1: the thickness").arg(what), property.thickness,
+                          QStringLiteral("mm"));
+        else if (hasShells)
+            Fail(entry, tr("%1 is not used: it has no faces, but other properties do").arg(what));
+        else if (hasSolid)
+            Fail(
+                entry,
+                tr("%1 is not used: another property already applies to the whole part").arg(what));
+        hasSolid = hasSolid || property.faces.empty();
     }
 }
 
-void CheckNumbers(const AnalysisSetup& setup, QStringList& problems)
+void Check::CheckMaterial(const QString& name, const AnalysisEntry& entry)
 {
-    if (!std::isfinite(setup.minFrequency) || !std::isfinite(setup.maxFrequency))
-        problems << Text::tr("Frequency range: %1 to %2 are not numbers")
-                        .arg(ExactText(setup.minFrequency), ExactText(setup.maxFrequency));
-    else if (setup.minFrequency > setup.maxFrequency)
-        problems << Text::tr("Frequency range: the minimum %1 is above the maximum %2")
-                        .arg(ExactText(setup.minFrequency), ExactText(setup.maxFrequency));
-    if (setup.meshSize.has_value() && !(*setup.meshSize > 0.0 && std::isfinite(*setup.meshSize)))
-        problems
-            << Text::tr("The mesh size %1 must be greater than 0").arg(ExactText(*setup.meshSize));
+    if (!m_materials.insert(name).second)
+        return;
+    try {
+        MaterialOf(name);
+    } catch (const MaterialError& error) {
+        Fail(entry, error.Reason());
+    }
+}
+
+void Check::CheckConstraints()
+{
+    if (IsStatic() && m_analysis.constraints.empty())
+        Fail({AnalysisEntry::Constraint, -1}, tr("A static analysis needs a boundary condition"));
+    for (std::size_t index = 0; index < m_analysis.constraints.size(); ++index) {
+        const ConstraintDefinition& constraint = m_analysis.constraints[index];
+        const AnalysisEntry entry{AnalysisEntry::Constraint, int(index)};
+        const auto& held = constraint.held;
+        if (std::find(held.begin(), held.end(), true) == held.end())
+            Fail(entry,
+                 tr("Boundary condition \"%1\" fixes no degree of freedom").arg(constraint.name));
+        if (constraint.faces.empty() && constraint.edges.empty())
+            Fail(entry, tr("Boundary condition \"%1\" acts nowhere: pick its faces or edges")
+                            .arg(constraint.name));
+    }
+}
+
+void Check::CheckLoads()
+{
+    if (IsStatic() && m_analysis.loads.empty())
+        Fail({AnalysisEntry::Load, -1}, tr("A static analysis needs a load"));
+    for (std::size_t index = 0; index < m_analysis.loads.size(); ++index) {
+        const LoadDefinition& load = m_analysis.loads[index];
+        const AnalysisEntry entry{AnalysisEntry::Load, int(index)};
+        const QString what = tr("Load \"%1\"").arg(load.name);
+        bool isZero = true;
+        for (std::size_t axis = 0; axis < load.force.size(); ++axis) {
+            const QString name = tr("%1: the force F%2").arg(what).arg("XYZ"[axis]);
+            const double value = Value(entry, name, load.force[axis]);
+            isZero = isZero && value == 0.0;
+        }
+        if (isZero)
+            Fail(entry, tr("%1 is zero").arg(what));
+        if (load.faces.empty() && load.edges.empty())
+            Fail(entry, tr("%1 acts nowhere: pick its faces or edges").arg(what));
+        if (!IsStatic())
+            Warn(entry, tr("%1 has no effect on natural frequencies").arg(what));
+    }
+}
+
+void Check::CheckFrequencies()
+{
+    const FrequencyRange& range = m_analysis.frequencies;
+    const AnalysisEntry entry{AnalysisEntry::Frequencies};
+    if (!std::isfinite(range.min) || !std::isfinite(range.max))
+        Fail(entry, tr("Frequency range: %1 to %2 are not numbers")
+                        .arg(ExactText(range.min), ExactText(range.max)));
+    else if (range.min < 0.0)
+        Fail(entry, tr("Frequency range: the minimum %1 Hz is below 0").arg(ExactText(range.min)));
+    else if (range.min >= range.max)
+        Fail(entry, tr("Frequency range: the minimum %1 Hz is not below the maximum %2 Hz")
+                        .arg(ExactText(range.min), ExactText(range.max)));
+    if (range.number < 1 || range.number > FrequencyRange::MaximumNumber)
+        Fail(entry, tr("Frequency range: the number of modes is %1, but has to be 1 to %2")
+                        .arg(range.number)
+                        .arg(FrequencyRange::MaximumNumber));
+}
+
+void Check::CheckMeshes()
+{
+    const AnalysisEntry entry{AnalysisEntry::MeshSize};
+    if (m_analysis.meshSize.isEmpty()) {
+        Warn(entry, tr("No mesh size is set: a tenth of the part's longest side is used"));
+    } else {
+        CheckPositive(entry, tr("The mesh size"), m_analysis.meshSize, QStringLiteral("mm"));
+        const double size = m_values.Evaluate(m_analysis.meshSize);
+        if (m_context.longestSide > 0.0 && size > m_context.longestSide)
+            Warn(entry, tr("The mesh size %1 mm is larger than the part, %2 mm")
+                            .arg(ExactText(size), ShortText(m_context.longestSide)));
+    }
+    for (std::size_t index = 0; index < m_analysis.localMeshes.size(); ++index) {
+        const LocalMeshDefinition& mesh = m_analysis.localMeshes[index];
+        const AnalysisEntry local{AnalysisEntry::LocalMesh, int(index)};
+        const QString what = tr("Local mesh %1").arg(index + 1);
+        if (!mesh.size.isEmpty())
+            CheckPositive(local, tr("%1: the size").arg(what), mesh.size, QStringLiteral("mm"));
+        else
+            CheckPositive(local, tr("%1: the number").arg(what), mesh.number, QString());
+        if (mesh.faces.empty() && mesh.edges.empty())
+            Fail(local, tr("%1 applies nowhere: pick its faces or edges").arg(what));
+    }
 }
 
 } // namespace
 
-AnalysisSetup CurrentSetup(const AnalysisRecords& model)
+std::vector<SetupProblem> CheckSetup(const AnalysisDefinition& analysis,
+                                     const SetupContext& context)
 {
-    AnalysisSetup setup;
-    setup.constraints = model.Constraints();
-    setup.loads = model.Loads();
-    setup.meshSize = model.MeshSize();
-    setup.minFrequency = FrequencyPref::m_MinFreq;
-    setup.maxFrequency = FrequencyPref::m_MaxFreq;
-    for (const auto& [name, property] : KVPropertyData::GetInstance()->GetProptyDataMap())
-        setup.properties[name] = *property;
-    const KVMaterialData& store = *KVMaterialData::GetInstance();
-    const QStringList names = store.GetMaterialNameList();
-    for (const QString& name : names)
-        setup.materials[name] = *store.GetMaterialInfo(name);
-    return setup;
-}
-
-QStringList CheckSetup(const AnalysisSetup& setup)
-{
-    QStringList problems;
-    CheckProperties(setup, problems);
-    CheckConstraints(setup, problems);
-    CheckLoads(setup, problems);
-    CheckNumbers(setup, problems);
-    const QString overlaps = setup.overlaps.AnalysisProblem();
-    if (!overlaps.isEmpty())
-        problems << overlaps;
-    return problems;
+    return Check(analysis, context).Run();
 }

@@ -1,35 +1,55 @@
 #pragma once
 
+#include "AnalysisDefinition.h"
 #include "BodyOverlaps.h"
-#include "CQLTElemPropDef.h"
-#include "KVMaterialInfo.h"
-#include "sConstrainData.h"
-#include "sLoadForceData.h"
 
-#include <QStringList>
+#include <QString>
 
-#include <map>
-#include <optional>
 #include <vector>
 
-class AnalysisRecords;
-
-/// The complete input of a solver.
-struct AnalysisSetup
+/// A place in the set-up of an analysis.
+struct AnalysisEntry
 {
-    std::vector<sConstrainData> constraints;
-    std::vector<sLoadForceData> loads;
-    std::map<QString, CQLTElemPropDef> properties; ///< By the name in the store.
-    std::map<QString, KVMaterialInfo> materials;   ///< By the name in the store.
-    double minFrequency = 0.0;
-    double maxFrequency = 0.0;
-    std::optional<double> meshSize;
-    BodyOverlaps overlaps; ///< Of the part.
+    enum Kind
+    {
+        Part, ///< The part itself.
+        SolverType,
+        Property,
+        Constraint,
+        Load,
+        Frequencies,
+        MeshSize,
+        LocalMesh
+    };
+
+    Kind kind = Part;
+    int index = 0; ///< In the list of its kind, where there is a list.
+
+    bool operator==(const AnalysisEntry& other) const
+    {
+        return kind == other.kind && index == other.index;
+    }
 };
 
-/// The current content of @p model and of the stores. Leaves out the part.
-AnalysisSetup CurrentSetup(const AnalysisRecords& model);
+/// Something about a set-up that the user should see.
+struct SetupProblem
+{
+    QString text; ///< One line.
+    AnalysisEntry entry;
+    bool isWarning = false; ///< Solving is possible nevertheless.
+};
 
-/// The problems that would prevent a solver from running, one text each. Ignores materials that no
-/// property uses.
-QStringList CheckSetup(const AnalysisSetup& setup);
+/// What the check knows beside the set-up itself.
+struct SetupContext
+{
+    int family = 0; ///< Of AnalysisType.
+    int kind = 0;   ///< Of AnalysisType.
+    QString partMaterial;
+    BodyOverlaps overlaps;
+    double longestSide = 0.0; ///< Of the part's box, in mm; 0 without a part.
+};
+
+/// What would keep a solver from running, or from computing what the user means. Numbers have the
+/// values of the parameter store, materials those of the material store.
+std::vector<SetupProblem> CheckSetup(const AnalysisDefinition& analysis,
+                                     const SetupContext& context);

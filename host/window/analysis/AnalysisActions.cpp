@@ -1,50 +1,60 @@
 #include "AnalysisActions.h"
 
+#include "AnalysisDialogs.h"
 #include "AnalysisFiles.h"
 #include "AnalysisRecords.h"
 #include "AnalysisTree.h"
 #include "CAnalysisTypeGUI.h"
-#include "CQLTConstrainEditor.h"
-#include "CQLTElePropertyEditor.h"
-#include "CQLTElemPropDef.h"
-#include "CQLTLoadForceEditor.h"
 #include "ELementPropGUI.h"
+#include "HostError.h"
 #include "KVMaterialData.h"
 #include "KVMaterialLibrary.h"
-#include "KVPropertyData.h"
 #include "MenuActions.h"
-#include "MeshSizeInput.h"
 #include "MessageLevel.h"
-#include "NumberTexts.h"
 #include "PartModel.h"
-#include "SetupCheck.h"
-#include "SubShapeMeshParameterDlg.h"
+#include "SetupCheckDock.h"
 #include "frequencySetting.h"
 
 #include <QMenu>
 
-#include <memory>
-#include <optional>
+#include <algorithm>
 
 namespace {
 
-std::unique_ptr<MeshSizeInput> NewMeshSizeInput(const std::optional<double>& size, QWidget* parent)
+// Replaces the entry at @p index by the edited one, if there is one.
+template<class Entry>
+bool Replace(std::vector<Entry>& entries, int index, const std::optional<Entry>& edited)
 {
-    if (size.has_value())
-        return std::make_unique<MeshSizeInput>(*size, parent);
-    return std::make_unique<MeshSizeInput>(parent);
+    if (edited)
+        entries.at(std::size_t(index)) = *edited;
+    return edited.has_value();
+}
+
+double LongestSide(const ShapeMeasures& measures)
+{
+    const std::array<double, 6>& box = measures.boundingBox;
+    return std::max({box[3] - box[0], box[4] - box[1], box[5] - box[2]});
 }
 
 } // namespace
 
-AnalysisActions::AnalysisActions(AnalysisRecords& model, AnalysisTree& tree, const PartModel& part,
-                                 QWidget* window)
+AnalysisActions::AnalysisActions(AnalysisRecords& model, AnalysisTree& tree, SetupCheckDock& check,
+                                 const PartModel& part, QWidget* window)
     : QObject(window)
     , m_model(model)
     , m_tree(tree)
+    , m_check(check)
     , m_part(part)
     , m_window(window)
 {
+    connect(&tree, &AnalysisTree::EditWanted, this, &AnalysisActions::Edit);
+    connect(&check, &SetupCheckDock::EntryChosen, &tree, [&tree](const AnalysisEntry& entry) {
+        tree.Select(entry);
+        tree.show();
+        tree.raise();
+    });
+    connect(&model, &AnalysisRecords::Changed, &check, &SetupCheckDock::MarkAsOld);
+    connect(&part, &PartModel::Changed, &check, &SetupCheckDock::MarkAsOld);
 }
 
 AnalysisActions::~AnalysisActions() = default;
@@ -59,17 +69,29 @@ void AnalysisActions::FillMenu(QMenu& menu)
     add(tr("&Boundary condition"), "action_BoundaryCondition",
         &AnalysisActions::AddBoundaryCondition);
     add(tr("&Load force"), "action_LoadForce", &AnalysisActions::AddLoad);
-    menu.addAction(m_tree.DeleteAction());
+    menu.addSeparator();
+    menu.addActions({m_tree.EditAction(), m_tree.PickAction(), m_tree.DeleteAction()});
     menu.addSeparator();
     add(tr("&New element property"), "action_NewElementProperty", &AnalysisActions::AddProperty);
-    add(tr("Element &properties"), "action_ElementProperties", &AnalysisActions::ManageProperties);
+    add(tr("Element p&roperties"), "action_ElementProperties", &AnalysisActions::ManageProperties);
     add(tr("&Material library"), "action_MaterialLibrary", &AnalysisActions::BrowseMaterials);
     menu.addSeparator();
     add(tr("&Frequency range"), "action_FrequencyRange", &AnalysisActions::SetFrequencies);
     add(tr("Mesh &size"), "action_MeshSize", &AnalysisActions::SetMeshSize);
-    add(tr("S&ub-shape mesh"), "action_SubShapeMesh", &AnalysisActions::SetSubShapeMesh);
+    add(tr("S&ub-shape mesh"), "action_SubShapeMesh", &AnalysisActions::AddLocalMesh);
     menu.addSeparator();
     add(tr("&Check Set-up"), "action_CheckSetup", &AnalysisActions::CheckSetupNow);
+}
+
+void AnalysisActions::Change(const std::function<bool(AnalysisDefinition&)>& edit)
+{
+    try {
+        AnalysisDefinition analysis = m_model.Definition();
+        if (edit(analysis) && analysis != m_model.Definition())
+            m_model.SetDefinition(analysis);
+    } catch (const HostError& error) {
+        PostMessageToChannel(ErrorLevel, error.Reason());
+    }
 }
 
 void AnalysisActions::ChooseType()
@@ -86,16 +108,22 @@ void AnalysisActions::ChooseType()
 
 void AnalysisActions::AddBoundaryCondition()
 {
-    CQLTConstrainEditor editor(m_window);
-    if (editor.exec() == QDialog::Accepted)
-        m_model.AddConstraint(editor.GetConstrainData());
+    Change([this](AnalysisDefinition& analysis) {
+        const std::optional<ConstraintDefinition> constraint = AskConstraint(m_window, {});
+        if (constraint)
+            analysis.constraints.push_back(*constraint);
+        return constraint.has_value();
+    });
 }
 
 void AnalysisActions::AddLoad()
 {
-    CQLTLoadForceEditor editor(m_window);
-    if (editor.exec() == QDialog::Accepted)
-        m_model.AddLoad(editor.GetLoadForceData());
+    Change([this](AnalysisDefinition& analysis) {
+        const std::optional<LoadDefinition> load = AskLoad(m_window, {});
+        if (load)
+            analysis.loads.push_back(*load);
+        return load.has_value();
+    });
 }
 
 void AnalysisActions::ReadFiles()
@@ -103,18 +131,26 @@ void AnalysisActions::ReadFiles()
     const QString warning = ReadAnalysisFiles();
     if (!warning.isEmpty())
         PostMessageToChannel(WarningLevel, warning);
+    m_model.TakeStores();
 }
 
 void AnalysisActions::AddProperty()
 {
     ReadFiles();
-    CQLTElePropertyEditor editor(m_window);
-    const bool isAccepted = editor.exec() == QDialog::Accepted;
-    // OK allocates the record even if it refuses it, and Cancel may follow.
-    std::unique_ptr<CQLTElemPropDef> property(editor.GetPropData());
-    if (isAccepted)
-        KVPropertyData::GetInstance()->AddPropInfo(property.release());
-    m_tree.Refresh();
+    Change([this](AnalysisDefinition& analysis) {
+        const std::optional<PropertyDefinition> property = AskProperty(m_window, {});
+        if (!property)
+            return false;
+        // A property of the same name is replaced, as in the dialogs.
+        const auto same = std::find_if(
+            analysis.properties.begin(), analysis.properties.end(),
+            [&](const PropertyDefinition& other) { return other.name == property->name; });
+        if (same == analysis.properties.end())
+            analysis.properties.push_back(*property);
+        else
+            *same = *property;
+        return true;
+    });
 }
 
 void AnalysisActions::ManageProperties()
@@ -123,7 +159,7 @@ void AnalysisActions::ManageProperties()
     ELementPropGUI manager(m_window);
     // OK and Cancel both keep added and edited records in the store.
     manager.exec();
-    m_tree.Refresh();
+    m_model.TakeStores();
 }
 
 void AnalysisActions::BrowseMaterials()
@@ -141,51 +177,78 @@ void AnalysisActions::SetFrequencies()
 {
     frequencySetting dialog(m_window);
     if (dialog.exec() == QDialog::Accepted)
-        m_tree.Refresh();
+        m_model.TakeStores();
 }
 
 void AnalysisActions::SetMeshSize()
 {
-    const std::unique_ptr<MeshSizeInput> dialog = NewMeshSizeInput(m_model.MeshSize(), m_window);
-    if (dialog->exec() == QDialog::Accepted)
-        m_model.SetMeshSize(dialog->GetMeshSize());
+    Change([this](AnalysisDefinition& analysis) {
+        const std::optional<QString> size = AskMeshSize(m_window, analysis.meshSize);
+        analysis.meshSize = size.value_or(analysis.meshSize);
+        return size.has_value();
+    });
 }
 
-void AnalysisActions::SetSubShapeMesh()
+void AnalysisActions::AddLocalMesh()
 {
-    SubShapeMeshParameterDlg dialog(m_window);
-    if (m_model.SubShape().has_value()) {
-        dialog.ui.lineEdit_MeshSize->setText(ExactText(m_model.SubShape()->size));
-        dialog.ui.lineEdit_MeshNumber->setText(QString::number(m_model.SubShape()->number));
-    }
-    // The dialog leaves its buttons to the host.
-    connect(dialog.ui.pushButton_OK, &QPushButton::clicked, &dialog, &QDialog::accept);
-    connect(dialog.ui.pushButton_Cancel, &QPushButton::clicked, &dialog, &QDialog::reject);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
+    Change([this](AnalysisDefinition& analysis) {
+        const std::optional<LocalMeshDefinition> mesh = AskLocalMesh(m_window, {});
+        if (mesh)
+            analysis.localMeshes.push_back(*mesh);
+        return mesh.has_value();
+    });
+}
 
-    bool hasSize = false;
-    bool hasNumber = false;
-    AnalysisRecords::SubShapeMesh mesh;
-    mesh.size = dialog.ui.lineEdit_MeshSize->text().toDouble(&hasSize);
-    mesh.number = dialog.ui.lineEdit_MeshNumber->text().toInt(&hasNumber);
-    if (hasSize && hasNumber)
-        m_model.SetSubShape(mesh);
-    else
-        PostMessageToChannel(WarningLevel,
-                             tr("The sub-shape mesh was not applied: size and number must be "
-                                "numeric"));
+void AnalysisActions::Edit(const AnalysisEntry& entry)
+{
+    const auto index = std::size_t(entry.index);
+    switch (entry.kind) {
+    case AnalysisEntry::SolverType:
+        ChooseType();
+        break;
+    case AnalysisEntry::Frequencies:
+        SetFrequencies();
+        break;
+    case AnalysisEntry::MeshSize:
+        SetMeshSize();
+        break;
+    case AnalysisEntry::Constraint:
+        Change([&](AnalysisDefinition& analysis) {
+            return Replace(analysis.constraints, entry.index,
+                           AskConstraint(m_window, analysis.constraints.at(index)));
+        });
+        break;
+    case AnalysisEntry::Load:
+        Change([&](AnalysisDefinition& analysis) {
+            return Replace(analysis.loads, entry.index,
+                           AskLoad(m_window, analysis.loads.at(index)));
+        });
+        break;
+    case AnalysisEntry::Property:
+        Change([&](AnalysisDefinition& analysis) {
+            return Replace(analysis.properties, entry.index,
+                           AskProperty(m_window, analysis.properties.at(index)));
+        });
+        break;
+    case AnalysisEntry::LocalMesh:
+        Change([&](AnalysisDefinition& analysis) {
+            return Replace(analysis.localMeshes, entry.index,
+                           AskLocalMesh(m_window, analysis.localMeshes.at(index)));
+        });
+        break;
+    default:
+        break;
+    }
 }
 
 void AnalysisActions::CheckSetupNow()
 {
     ReadFiles();
-    m_tree.Refresh();
-    AnalysisSetup setup = CurrentSetup(m_model);
-    setup.overlaps = m_part.Measures().overlaps;
-    const QStringList problems = CheckSetup(setup);
-    for (const QString& problem : problems)
-        PostMessageToChannel(WarningLevel, problem);
-    if (problems.isEmpty())
-        PostMessageToChannel(InfoLevel, tr("The set-up is complete"));
+    SetupContext context;
+    context.family = m_model.Family();
+    context.kind = m_model.Kind();
+    context.partMaterial = m_material();
+    context.overlaps = m_part.Measures().overlaps;
+    context.longestSide = LongestSide(m_part.Measures());
+    m_check.ShowProblems(CheckSetup(m_model.Definition(), context));
 }

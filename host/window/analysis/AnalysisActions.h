@@ -2,11 +2,16 @@
 
 #include <QObject>
 
+#include <functional>
+
 class AnalysisRecords;
 class AnalysisTree;
 class PartModel;
 class QMenu;
 class QWidget;
+class SetupCheckDock;
+struct AnalysisDefinition;
+struct AnalysisEntry;
 
 /// Runs the dialogs of the analysis set-up and stores their results.
 class AnalysisActions : public QObject
@@ -14,14 +19,16 @@ class AnalysisActions : public QObject
     Q_OBJECT
 
 public:
-    /// @p window is the parent of the dialogs and owns this object; model, tree and part must
-    /// outlive it.
-    AnalysisActions(AnalysisRecords& model, AnalysisTree& tree, const PartModel& part,
-                    QWidget* window);
+    /// @p window is the parent of the dialogs and owns this object; the others must outlive it.
+    AnalysisActions(AnalysisRecords& model, AnalysisTree& tree, SetupCheckDock& check,
+                    const PartModel& part, QWidget* window);
     ~AnalysisActions() override;
 
-    /// Adds an action for each dialog, for deleting in the tree, and for the check.
+    /// Adds an action for each dialog, for editing in the tree, and for the check.
     void FillMenu(QMenu& menu);
+
+    /// The material of the part; the check needs it.
+    void SetPartMaterial(const std::function<QString()>& material) { m_material = material; }
 
 private:
     void ChooseType();
@@ -33,11 +40,19 @@ private:
     void BrowseMaterials();
     void SetFrequencies();
     void SetMeshSize();
-    void SetSubShapeMesh();
+    void AddLocalMesh();
+    void Edit(const AnalysisEntry& entry);
     void CheckSetupNow();
+
+    /// Lets @p edit change a copy of the set-up, and stores it if that returns true.
+    void Change(const std::function<bool(AnalysisDefinition&)>& edit);
 
     AnalysisRecords& m_model;
     AnalysisTree& m_tree;
+    SetupCheckDock& m_check;
     const PartModel& m_part;
     QWidget* m_window;
+    std::function<QString()> m_material = [] {
+        return QString();
+    };
 };

@@ -1,99 +1,54 @@
 #include "AnalysisTree.h"
 
 #include "AnalysisRecords.h"
-#include "AnalysisType.h"
-#include "CQLTElemPropDef.h"
-#include "FrequencyPref.h"
-#include "KVPropertyData.h"
+#include "AnalysisTexts.h"
 #include "MenuActions.h"
-#include "NumberTexts.h"
 
 #include <QHeaderView>
+#include <QSignalBlocker>
 #include <QTreeWidget>
 
 namespace {
 
-// On the items of boundary conditions and loads: the bytes of the name.
-constexpr int AttributeRole = Qt::UserRole;
+// On all items: the kind of the entry, and its index, or -1 on a list.
+constexpr int KindRole = Qt::UserRole;
+constexpr int IndexRole = Qt::UserRole + 1;
 
-QString SolverTypeText(int family, int kind)
+void SetEntry(QTreeWidgetItem& item, AnalysisEntry::Kind kind, int index)
 {
-    using namespace AnalysisType;
-    const struct
-    {
-        int family;
-        int kind;
-        QString text;
-    } types[] = {
-        {MechanicsFamily, StaticKind, AnalysisTree::tr("Static")},
-        {MechanicsFamily, VibrationKind, AnalysisTree::tr("Vibration")},
-        {MechanicsFamily, BucklingKind, AnalysisTree::tr("Buckling")},
-        {MechanicsFamily, TransientKind, AnalysisTree::tr("Transient")},
-        {MechanicsFamily, FrequencyResponseKind, AnalysisTree::tr("Frequency response")},
-        {ComplexEigenvalueFamily, ComplexEigenvalueKind, AnalysisTree::tr("Complex eigenvalue")},
-    };
-    QString text = AnalysisTree::tr("unknown");
-    for (const auto& type : types) {
-        if (type.family == family && type.kind == kind)
-            text = type.text;
-    }
-    return AnalysisTree::tr("%1 (family %2, kind %3)").arg(text).arg(family).arg(kind);
+    item.setData(AnalysisTree::NameColumn, KindRole, int(kind));
+    item.setData(AnalysisTree::NameColumn, IndexRole, index);
 }
 
-QString HeldText(const sConstrainData& constraint)
+AnalysisEntry EntryOf(const QTreeWidgetItem& item)
 {
-    const struct
-    {
-        bool isHeld;
-        QString text;
-    } freedoms[] = {
-        {constraint.m_bXD, QStringLiteral("X_D")}, {constraint.m_bYD, QStringLiteral("Y_D")},
-        {constraint.m_bZD, QStringLiteral("Z_D")}, {constraint.m_bXR, QStringLiteral("X_R")},
-        {constraint.m_bYR, QStringLiteral("Y_R")}, {constraint.m_bZR, QStringLiteral("Z_R")},
-    };
-    QStringList held;
-    for (const auto& freedom : freedoms) {
-        if (freedom.isHeld)
-            held << freedom.text;
-    }
-    if (held.isEmpty())
-        return AnalysisTree::tr("fixes nothing");
-    return AnalysisTree::tr("fixes %1").arg(held.join(QStringLiteral(", ")));
+    return {AnalysisEntry::Kind(item.data(AnalysisTree::NameColumn, KindRole).toInt()),
+            item.data(AnalysisTree::NameColumn, IndexRole).toInt()};
 }
 
-QString ForceText(const sLoadForceData& load)
+bool IsList(AnalysisEntry::Kind kind)
 {
-    const QString force =
-        AnalysisTree::tr("FX = %1, FY = %2, FZ = %3")
-            .arg(ExactText(load.m_dFX), ExactText(load.m_dFY), ExactText(load.m_dFZ));
-    return load.m_nKind == sLoadForceData::NormalToFaceKind
-               ? AnalysisTree::tr("normal to surface, %1").arg(force)
-               : force;
+    return kind == AnalysisEntry::Property || kind == AnalysisEntry::Constraint ||
+           kind == AnalysisEntry::Load || kind == AnalysisEntry::LocalMesh;
 }
 
-QString PropertyText(const CQLTElemPropDef& property)
+template<class Entry>
+QString NameOf(const Entry& entry, int index)
 {
-    const QString type =
-        property.m_strTypeName.isEmpty() ? AnalysisTree::tr("no type") : property.m_strTypeName;
-    const QString material = property.m_strMaterialName.isEmpty()
-                                 ? AnalysisTree::tr("no material")
-                                 : AnalysisTree::tr("material %1").arg(property.m_strMaterialName);
-    return AnalysisTree::tr("%1, %2, thickness %3")
-        .arg(type, material, ExactText(property.m_dThickness));
+    Q_UNUSED(index)
+    return entry.name;
 }
 
-QTreeWidgetItem* AddRecord(QTreeWidgetItem& group, const QString& name, const QString& value)
+QString NameOf(const LocalMeshDefinition& mesh, int index)
 {
-    auto* const item = new QTreeWidgetItem(&group, {name, value});
-    item->setToolTip(AnalysisTree::NameColumn, name);
-    item->setToolTip(AnalysisTree::ValueColumn, value);
-    return item;
+    Q_UNUSED(mesh)
+    return AnalysisTree::tr("Local mesh %1").arg(index + 1);
 }
 
-void AddAttribute(QTreeWidgetItem& group, const std::string& name, const QString& value)
+template<class Entry>
+void Erase(std::vector<Entry>& entries, int index)
 {
-    QTreeWidgetItem* const item = AddRecord(group, AttributeText(name), value);
-    item->setData(AnalysisTree::NameColumn, AttributeRole, QByteArray::fromStdString(name));
+    entries.erase(entries.begin() + index);
 }
 
 } // namespace
@@ -102,7 +57,10 @@ AnalysisTree::AnalysisTree(AnalysisRecords& model, QWidget* parent)
     : QDockWidget(tr("Analysis model"), parent)
     , m_model(model)
     , m_tree(new QTreeWidget(this))
-    , m_delete(NewAction(tr("&Delete boundary condition or load"), "action_DeleteAttribute", this,
+    , m_edit(NewAction(tr("&Edit entry"), "action_EditAnalysis", this, &AnalysisTree::EditSelected))
+    , m_pick(NewAction(tr("&Pick faces and edges"), "action_PickTargets", this,
+                       &AnalysisTree::PickSelected))
+    , m_delete(NewAction(tr("&Delete entry"), "action_DeleteAttribute", this,
                          &AnalysisTree::DeleteSelected, QKeySequence::Delete))
 {
     setObjectName(QStringLiteral("modelTreeDock"));
@@ -113,13 +71,14 @@ AnalysisTree::AnalysisTree(AnalysisRecords& model, QWidget* parent)
     m_tree->setHeaderLabels({tr("Record"), tr("Stored")});
     m_tree->header()->setStretchLastSection(true);
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_tree->setExpandsOnDoubleClick(false);
 
     m_delete->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    m_tree->addAction(m_delete);
+    m_tree->addActions({m_edit, m_pick, m_delete});
     m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
 
-    connect(m_tree, &QTreeWidget::itemSelectionChanged, this,
-            [this] { m_delete->setEnabled(SelectedAttribute() != nullptr); });
+    connect(m_tree, &QTreeWidget::itemSelectionChanged, this, &AnalysisTree::Announce);
+    connect(m_tree, &QTreeWidget::itemActivated, this, &AnalysisTree::EditSelected);
     connect(&m_model, &AnalysisRecords::Changed, this, &AnalysisTree::Refresh);
 
     Refresh();
@@ -129,82 +88,115 @@ AnalysisTree::~AnalysisTree() = default;
 
 void AnalysisTree::Refresh()
 {
-    m_tree->clear();
-    ShowSolverType();
-    ShowConstraints();
-    ShowLoads();
-    ShowProperties();
-    ShowFrequencies();
-    ShowMeshSizes();
-    m_tree->expandAll();
-    m_tree->resizeColumnToContents(NameColumn);
-    m_delete->setEnabled(false);
+    const std::optional<AnalysisEntry> selected = Selected();
+    const AnalysisDefinition& analysis = m_model.Definition();
+    {
+        const QSignalBlocker blocker(m_tree);
+        m_tree->clear();
+        AddGroup(tr("Analysis type"), AnalysisEntry::SolverType)
+            ->setText(ValueColumn, SolverTypeText(m_model.Family(), m_model.Kind()));
+        ShowEntries(tr("Boundary conditions"), AnalysisEntry::Constraint, analysis.constraints);
+        ShowEntries(tr("Loads"), AnalysisEntry::Load, analysis.loads);
+        ShowEntries(tr("Element properties"), AnalysisEntry::Property, analysis.properties);
+        AddGroup(tr("Frequency range"), AnalysisEntry::Frequencies)
+            ->setText(ValueColumn, EntryText(analysis.frequencies));
+        AddGroup(tr("Mesh size"), AnalysisEntry::MeshSize)
+            ->setText(ValueColumn, analysis.meshSize.isEmpty()
+                                       ? tr("not set: a tenth of the longest side")
+                                       : tr("%1 mm").arg(analysis.meshSize));
+        ShowEntries(tr("Local meshes"), AnalysisEntry::LocalMesh, analysis.localMeshes);
+        m_tree->expandAll();
+        m_tree->resizeColumnToContents(NameColumn);
+        if (selected)
+            Select(*selected);
+    }
+    Announce();
 }
 
-QTreeWidgetItem* AnalysisTree::AddGroup(const QString& title)
+QTreeWidgetItem* AnalysisTree::AddGroup(const QString& title, AnalysisEntry::Kind kind)
 {
-    return new QTreeWidgetItem(m_tree, {title});
+    auto* const group = new QTreeWidgetItem(m_tree, {title});
+    SetEntry(*group, kind, IsList(kind) ? -1 : 0);
+    return group;
 }
 
-void AnalysisTree::ShowSolverType()
+template<class Entry>
+void AnalysisTree::ShowEntries(const QString& title, AnalysisEntry::Kind kind,
+                               const std::vector<Entry>& entries)
 {
-    QTreeWidgetItem* const group = AddGroup(tr("Analysis type"));
-    group->setText(ValueColumn, SolverTypeText(m_model.Family(), m_model.Kind()));
+    QTreeWidgetItem* const group = AddGroup(title, kind);
+    for (std::size_t index = 0; index < entries.size(); ++index) {
+        const QString name = NameOf(entries[index], int(index));
+        const QString value = EntryText(entries[index]);
+        auto* const item = new QTreeWidgetItem(group, {name, value});
+        item->setToolTip(NameColumn, name);
+        item->setToolTip(ValueColumn, value);
+        SetEntry(*item, kind, int(index));
+    }
 }
 
-void AnalysisTree::ShowConstraints()
+QTreeWidgetItem* AnalysisTree::Item(const AnalysisEntry& entry) const
 {
-    QTreeWidgetItem* const group = AddGroup(tr("Boundary conditions"));
-    for (const sConstrainData& constraint : m_model.Constraints())
-        AddAttribute(*group, constraint.m_strName, HeldText(constraint));
+    for (int place = 0; place < m_tree->topLevelItemCount(); ++place) {
+        QTreeWidgetItem* const group = m_tree->topLevelItem(place);
+        if (EntryOf(*group).kind != entry.kind)
+            continue;
+        const bool isEntryOfList = IsList(entry.kind) && entry.index >= 0;
+        return isEntryOfList ? group->child(entry.index) : group;
+    }
+    return nullptr;
 }
 
-void AnalysisTree::ShowLoads()
-{
-    QTreeWidgetItem* const group = AddGroup(tr("Loads"));
-    for (const sLoadForceData& load : m_model.Loads())
-        AddAttribute(*group, load.m_strName, ForceText(load));
-}
-
-void AnalysisTree::ShowProperties()
-{
-    QTreeWidgetItem* const group = AddGroup(tr("Element properties"));
-    for (const auto& [name, property] : KVPropertyData::GetInstance()->GetProptyDataMap())
-        AddRecord(*group, name, PropertyText(*property));
-}
-
-void AnalysisTree::ShowFrequencies()
-{
-    QTreeWidgetItem* const group = AddGroup(tr("Frequency range"));
-    group->setText(ValueColumn, tr("%1 to %2, %3 points")
-                                    .arg(ExactText(FrequencyPref::m_MinFreq),
-                                         ExactText(FrequencyPref::m_MaxFreq))
-                                    .arg(FrequencyPref::m_NumFreq));
-}
-
-void AnalysisTree::ShowMeshSizes()
-{
-    QTreeWidgetItem* const size = AddGroup(tr("Mesh size"));
-    size->setText(ValueColumn,
-                  m_model.MeshSize().has_value() ? ExactText(*m_model.MeshSize()) : tr("not set"));
-    QTreeWidgetItem* const part = AddGroup(tr("Sub-shape mesh"));
-    part->setText(ValueColumn, m_model.SubShape().has_value()
-                                   ? tr("size %1, number %2")
-                                         .arg(ExactText(m_model.SubShape()->size))
-                                         .arg(m_model.SubShape()->number)
-                                   : tr("not set"));
-}
-
-QTreeWidgetItem* AnalysisTree::SelectedAttribute() const
+std::optional<AnalysisEntry> AnalysisTree::Selected() const
 {
     const QList<QTreeWidgetItem*> selected = m_tree->selectedItems();
-    if (selected.isEmpty() || !selected.first()->data(NameColumn, AttributeRole).isValid())
-        return nullptr;
-    return selected.first();
+    if (selected.isEmpty())
+        return std::nullopt;
+    const AnalysisEntry entry = EntryOf(*selected.first());
+    return entry.index < 0 ? std::nullopt : std::make_optional(entry);
+}
+
+void AnalysisTree::Select(const AnalysisEntry& entry)
+{
+    if (QTreeWidgetItem* const item = Item(entry))
+        m_tree->setCurrentItem(item);
+}
+
+void AnalysisTree::Announce()
+{
+    const std::optional<AnalysisEntry> selected = Selected();
+    const bool isOfList = selected && IsList(selected->kind);
+    m_edit->setEnabled(selected.has_value());
+    m_pick->setEnabled(isOfList);
+    m_delete->setEnabled(isOfList);
+    Q_EMIT SelectionChanged();
+}
+
+void AnalysisTree::EditSelected()
+{
+    if (const std::optional<AnalysisEntry> selected = Selected())
+        Q_EMIT EditWanted(*selected);
+}
+
+void AnalysisTree::PickSelected()
+{
+    if (const std::optional<AnalysisEntry> selected = Selected())
+        Q_EMIT PickWanted(*selected);
 }
 
 void AnalysisTree::DeleteSelected()
 {
-    if (const QTreeWidgetItem* const item = SelectedAttribute())
-        m_model.Remove(item->data(NameColumn, AttributeRole).toByteArray().toStdString());
+    const std::optional<AnalysisEntry> selected = Selected();
+    if (!selected)
+        return;
+    AnalysisDefinition analysis = m_model.Definition();
+    if (selected->kind == AnalysisEntry::Constraint)
+        Erase(analysis.constraints, selected->index);
+    else if (selected->kind == AnalysisEntry::Load)
+        Erase(analysis.loads, selected->index);
+    else if (selected->kind == AnalysisEntry::Property)
+        Erase(analysis.properties, selected->index);
+    else if (selected->kind == AnalysisEntry::LocalMesh)
+        Erase(analysis.localMeshes, selected->index);
+    m_model.SetDefinition(analysis);
 }

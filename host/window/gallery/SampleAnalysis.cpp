@@ -2,6 +2,7 @@
 
 #include "AnalysisFiles.h"
 #include "AnalysisRecords.h"
+#include "AttributeRecords.h"
 #include "KVMaterialData.h"
 #include "KVPropertyData.h"
 #include "SampleRecords.h"
@@ -10,13 +11,22 @@
 
 void FillSampleAnalysis(AnalysisRecords& records)
 {
-    sConstrainData bolts;
-    bolts.m_strName = "boltCircle";
-    bolts.m_bXD = bolts.m_bYD = bolts.m_bZD = true;
-    records.AddConstraint(bolts);
-    records.AddLoad(SampleLoad());
-    records.SetMeshSize(8.0);
-    records.SetSubShape({2.0, 12});
+    records.TakeStores();
+    AnalysisDefinition analysis = records.Definition();
+    ConstraintDefinition bore;
+    bore.name = QStringLiteral("bore");
+    bore.held = {true, true, true, false, false, false};
+    bore.faces = {{QStringLiteral("bore.side"), {}}};
+    analysis.constraints = {bore};
+    LoadDefinition load = FromRecord(SampleLoad());
+    load.faces = {{QStringLiteral("hub.top"), {}}};
+    analysis.loads = {load};
+    analysis.meshSize = QStringLiteral("8");
+    LocalMeshDefinition local;
+    local.size = QStringLiteral("2");
+    local.faces = {{QStringLiteral("hole.side"), {}}};
+    analysis.localMeshes = {local};
+    records.SetDefinition(analysis);
 }
 
 SampleAnalysisFiles::SampleAnalysisFiles()

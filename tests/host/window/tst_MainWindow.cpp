@@ -64,7 +64,9 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                                  "Analysis/Analysis type",
                                  "Analysis/Boundary condition",
                                  "Analysis/Load force",
-                                 "Analysis/Delete boundary condition or load",
+                                 "Analysis/Edit entry",
+                                 "Analysis/Pick faces and edges",
+                                 "Analysis/Delete entry",
                                  "Analysis/New element property",
                                  "Analysis/Element properties",
                                  "Analysis/Material library",
@@ -90,7 +92,8 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                                  "View/Position",
                                  "View/Analysis model",
                                  "View/Stored parameters",
-                                 "View/Messages"}));
+                                 "View/Messages",
+                                 "View/Set-up check"}));
 }
 
 void tst_MainWindow::TheDocksSurroundTheShape()

@@ -53,12 +53,12 @@ void tst_MainWindowProjects::AnotherProjectHasAnAnalysisOfItsOwn()
     };
     open.user.Then(accept);
     open.Trigger("action_LoadForce");
-    QCOMPARE(open.window.Analysis().Loads().size(), std::size_t(1));
+    QCOMPARE(open.window.Analysis().Definition().loads.size(), std::size_t(1));
     open.OpenProject(Project::SamplePath());
-    QVERIFY(open.window.Analysis().Loads().empty());
+    QVERIFY(open.window.Analysis().Definition().loads.empty());
     open.user.Then(accept);
     open.Trigger("action_LoadForce");
-    QCOMPARE(open.window.Analysis().Loads().size(), std::size_t(1));
+    QCOMPARE(open.window.Analysis().Definition().loads.size(), std::size_t(1));
     QVERIFY(open.user.IsDone());
     QCOMPARE(open.user.Boxes(), QVector<ShownBox>());
 }

@@ -94,14 +94,10 @@ void tst_AnalysisJson::BadEntriesAreReported_data()
         R"(the analysis has a "meshSize" that is not a number or an expression)");
     row("unknown frequency entry", R"({"frequencies": {"least": 1}})",
         R"("frequencies" of the analysis has the unknown entry "least")");
-    row("frequencies in the wrong order", R"({"frequencies": {"min": 5, "max": 5}})",
-        R"("frequencies" of the analysis has a "max" that is not above the minimum)");
-    row("negative frequency", R"({"frequencies": {"min": -1}})",
-        R"("frequencies" of the analysis has a "min" that is not 0 or above)");
-    for (const char* number : {"0", "2.5", "10001", "1e300"})
+    for (const char* number : {"0.5", "2.5", "1e300"})
         row(qPrintable(QString("%1 modes").arg(number)),
             qPrintable(QString(R"({"frequencies": {"number": %1}})").arg(number)),
-            R"("frequencies" of the analysis has a "number" that is not a whole number from 1 to 10000)");
+            R"("frequencies" of the analysis has a "number" that is not a whole number)");
     row("nameless property", R"({"properties": [{"material": "a"}]})",
         R"(property 1, "", has no "name")");
     row("shell without thickness", R"({"properties": [{"name": "p", "faces": ["a.b"]}]})",

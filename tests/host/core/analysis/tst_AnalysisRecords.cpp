@@ -1,7 +1,9 @@
+#include "AnalysisEntries.h"
 #include "AnalysisRecords.h"
-#include "AnalysisType.h"
 #include "AttributeCommonMgr.h"
+#include "EmptyAnalysisStores.h"
 #include "EmptyAttributeNames.h"
+#include "FrequencyPref.h"
 #include "TestCase.h"
 
 #include <QSignalSpy>
@@ -11,17 +13,20 @@ class tst_AnalysisRecords : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void ANewModelIsAVibrationWithoutRecords();
-    void RecordsKeepTheirOrder();
-    void NamesOfRecordsAreTaken();
-    void RemovingARecordFreesItsName();
-    void TheNameOfTheRecordItselfCanBeGiven();
-    void AnEmptyNameIsANameToo();
-    void AnUnknownNameRemovesNoRecord();
-    void ClearMakesAModelNewAndFreesItsNames();
+    void cleanup() override;
+    void ANewModelIsAVibrationWithoutEntries();
+    void TheStoresFollowTheSetUp();
+    void NamesOfEntriesAreTakenAndFreed();
     void NamesAreFreeAfterTheModelIsDestroyed();
     void NamesOfOthersStayTaken();
+    void WhatDialogsChangeInTheStoresIsTaken();
+    void PropertiesOfTheFileJoinTheProject();
+    void StartingForgetsTheFormerSetUp();
     void EveryChangeIsReported();
+
+private:
+    const EmptyAnalysisStores m_stores;
+    const EmptyAttributeNames m_names;
 };
 
 namespace {
@@ -31,162 +36,149 @@ bool IsTaken(std::string name)
     return AttributeCommonMgr::GetInstance()->FindName(name);
 }
 
-sConstrainData Constraint(const char* name)
+AnalysisDefinition Everything()
 {
-    sConstrainData constraint;
-    constraint.m_strName = name;
-    constraint.m_bXD = true;
-    return constraint;
-}
-
-sLoadForceData Load(const char* name)
-{
-    sLoadForceData load;
-    load.m_strName = name;
-    load.m_dFX = 1.0;
-    return load;
+    AnalysisDefinition analysis;
+    analysis.constraints = {Constraint("foot")};
+    analysis.loads = {Load("pull")};
+    analysis.properties = {Property("web", "steel", "2.5")};
+    analysis.frequencies = {0.5, 2000.0, 3};
+    return analysis;
 }
 
 } // namespace
 
-void tst_AnalysisRecords::ANewModelIsAVibrationWithoutRecords()
+void tst_AnalysisRecords::cleanup()
+{
+    KVPropertyData::GetInstance()->Clear();
+    FrequencyPref::m_MinFreq = 1.0;
+    FrequencyPref::m_MaxFreq = 1000000.0;
+    FrequencyPref::m_NumFreq = 10;
+    TestCase::cleanup();
+}
+
+void tst_AnalysisRecords::ANewModelIsAVibrationWithoutEntries()
 {
     const AnalysisRecords model;
     QCOMPARE(model.Family(), 1);
     QCOMPARE(model.Kind(), 2);
-    QVERIFY(model.Constraints().empty());
-    QVERIFY(model.Loads().empty());
-    QVERIFY(!model.MeshSize().has_value());
-    QVERIFY(!model.SubShape().has_value());
+    QVERIFY(model.Definition() == AnalysisDefinition());
 }
 
-void tst_AnalysisRecords::RecordsKeepTheirOrder()
+void tst_AnalysisRecords::TheStoresFollowTheSetUp()
 {
-    const EmptyAttributeNames names;
+    EnterTemporaryDirectory();
     AnalysisRecords model;
-    model.AddConstraint(Constraint("b"));
-    model.AddConstraint(Constraint("a"));
-    QCOMPARE(model.Constraints().size(), std::size_t(2));
-    QCOMPARE(model.Constraints()[0].m_strName, std::string("b"));
-    QCOMPARE(model.Constraints()[1].m_strName, std::string("a"));
+    model.SetDefinition(Everything());
+    QCOMPARE(FrequencyPref::m_MinFreq, 0.5);
+    QCOMPARE(FrequencyPref::m_MaxFreq, 2000.0);
+    QCOMPARE(FrequencyPref::m_NumFreq, 3);
+    const CQLTElemPropDef* const web = KVPropertyData::GetInstance()->GetPropertyInfo("web");
+    QVERIFY(web != nullptr);
+    QCOMPARE(web->m_strMaterialName, QString("steel"));
+    QCOMPARE(web->m_dThickness, 2.5);
+
+    model.SetDefinition({});
+    QCOMPARE(KVPropertyData::GetInstance()->GetPropertyInfo("web"), nullptr);
+    QCOMPARE(FrequencyPref::m_NumFreq, 10);
 }
 
-void tst_AnalysisRecords::NamesOfRecordsAreTaken()
+void tst_AnalysisRecords::NamesOfEntriesAreTakenAndFreed()
 {
-    const EmptyAttributeNames names;
     AnalysisRecords model;
-    model.AddConstraint(Constraint("held"));
-    model.AddLoad(Load("pulled"));
-    QVERIFY(IsTaken("held"));
-    QVERIFY(IsTaken("pulled"));
-}
-
-void tst_AnalysisRecords::RemovingARecordFreesItsName()
-{
-    const EmptyAttributeNames names;
-    AnalysisRecords model;
-    model.AddConstraint(Constraint("held"));
-    model.AddLoad(Load("pulled"));
-    model.Remove("held");
-    QVERIFY(model.Constraints().empty());
-    QCOMPARE(model.Loads().size(), std::size_t(1));
-    QVERIFY(!IsTaken("held"));
-    QVERIFY(IsTaken("pulled"));
-    model.Remove("pulled");
-    QVERIFY(model.Loads().empty());
-    QVERIFY(!IsTaken("pulled"));
-}
-
-void tst_AnalysisRecords::TheNameOfTheRecordItselfCanBeGiven()
-{
-    const EmptyAttributeNames names;
-    AnalysisRecords model;
-    model.AddLoad(Load("a name that is too long to be stored within the string"));
-    model.AddLoad(Load("another name that is too long to be stored within it"));
-    model.Remove(model.Loads().front().m_strName);
-    QCOMPARE(model.Loads().size(), std::size_t(1));
-    QVERIFY(!IsTaken("a name that is too long to be stored within the string"));
-    QVERIFY(IsTaken("another name that is too long to be stored within it"));
-}
-
-void tst_AnalysisRecords::AnEmptyNameIsANameToo()
-{
-    const EmptyAttributeNames names;
-    AnalysisRecords model;
-    model.AddLoad(Load(""));
-    QVERIFY(IsTaken(""));
-    model.Remove("");
-    QVERIFY(model.Loads().empty());
-    QVERIFY(!IsTaken(""));
-}
-
-void tst_AnalysisRecords::AnUnknownNameRemovesNoRecord()
-{
-    const EmptyAttributeNames names;
-    AnalysisRecords model;
-    model.AddLoad(Load("pulled"));
-    model.Remove("Pulled");
-    QCOMPARE(model.Loads().size(), std::size_t(1));
-    QVERIFY(IsTaken("pulled"));
-}
-
-void tst_AnalysisRecords::ClearMakesAModelNewAndFreesItsNames()
-{
-    const EmptyAttributeNames names;
-    AnalysisRecords model;
-    model.SetSolverType(AnalysisType::ComplexEigenvalueFamily, AnalysisType::ComplexEigenvalueKind);
-    model.AddConstraint(Constraint("held"));
-    model.AddLoad(Load("pulled"));
-    model.SetMeshSize(0.5);
-    model.SetSubShape({0.1, 3});
-    model.Clear();
-    QCOMPARE(model.Family(), 1);
-    QCOMPARE(model.Kind(), 2);
-    QVERIFY(model.Constraints().empty());
-    QVERIFY(model.Loads().empty());
-    QVERIFY(!model.MeshSize().has_value());
-    QVERIFY(!model.SubShape().has_value());
-    QVERIFY(!IsTaken("held"));
-    QVERIFY(!IsTaken("pulled"));
+    model.SetDefinition(Everything());
+    QVERIFY(IsTaken("foot"));
+    QVERIFY(IsTaken("pull"));
+    AnalysisDefinition analysis = model.Definition();
+    analysis.constraints.front().name = "base";
+    analysis.loads.clear();
+    model.SetDefinition(analysis);
+    QVERIFY(IsTaken("base"));
+    QVERIFY(!IsTaken("foot"));
+    QVERIFY(!IsTaken("pull"));
 }
 
 void tst_AnalysisRecords::NamesAreFreeAfterTheModelIsDestroyed()
 {
-    const EmptyAttributeNames names;
     {
         AnalysisRecords model;
-        model.AddConstraint(Constraint("held"));
-        model.AddLoad(Load("pulled"));
+        model.SetDefinition(Everything());
     }
-    QVERIFY(!IsTaken("held"));
-    QVERIFY(!IsTaken("pulled"));
+    QVERIFY(!IsTaken("foot"));
+    QVERIFY(!IsTaken("pull"));
 }
 
 void tst_AnalysisRecords::NamesOfOthersStayTaken()
 {
-    const EmptyAttributeNames names;
-    AttributeCommonMgr::GetInstance()->AddName("somebody's");
+    AttributeCommonMgr::GetInstance()->AddName("other");
     {
         AnalysisRecords model;
-        model.AddLoad(Load("pulled"));
+        model.SetDefinition(Everything());
         model.Clear();
     }
-    QVERIFY(IsTaken("somebody's"));
+    QVERIFY(IsTaken("other"));
+    AttributeCommonMgr::GetInstance()->RemoveName("other");
+}
+
+void tst_AnalysisRecords::WhatDialogsChangeInTheStoresIsTaken()
+{
+    AnalysisRecords model;
+    model.SetDefinition(Everything());
+    KVPropertyData& store = *KVPropertyData::GetInstance();
+    store.GetPropertyInfo("web")->m_dThickness = 4.0;
+    auto* const added = new CQLTElemPropDef;
+    added->m_strName = "added";
+    added->m_strMaterialName = "wood";
+    store.AddPropInfo(added);
+    FrequencyPref::m_MaxFreq = 99.0;
+    model.TakeStores();
+
+    const AnalysisDefinition& analysis = model.Definition();
+    QCOMPARE(analysis.frequencies.max, 99.0);
+    QCOMPARE(analysis.properties.size(), std::size_t(2));
+    QCOMPARE(analysis.properties[0].thickness, QString("4"));
+    QCOMPARE(analysis.properties[1].name, QString("added"));
+    QCOMPARE(analysis.properties[1].material, QString("wood"));
+}
+
+void tst_AnalysisRecords::PropertiesOfTheFileJoinTheProject()
+{
+    KVPropertyData& store = *KVPropertyData::GetInstance();
+    for (const char* const name : {"of the file", "web"}) {
+        auto* const record = new CQLTElemPropDef;
+        record->m_strName = name;
+        record->m_strMaterialName = "iron";
+        store.AddPropInfo(record);
+    }
+    AnalysisRecords model;
+    model.Start(Everything());
+    QCOMPARE(model.Definition().properties.size(), std::size_t(2));
+    QCOMPARE(model.Definition().properties[0].material, QString("steel"));
+    QCOMPARE(store.GetPropertyInfo("web")->m_strMaterialName, QString("steel"));
+    QCOMPARE(model.Definition().properties[1].name, QString("of the file"));
+}
+
+void tst_AnalysisRecords::StartingForgetsTheFormerSetUp()
+{
+    AnalysisRecords model;
+    model.SetDefinition(Everything());
+    model.SetSolverType(1, 1);
+    KVPropertyData::GetInstance()->Clear();
+    model.Clear();
+    QVERIFY(model.Definition() == AnalysisDefinition());
+    QCOMPARE(model.Kind(), 2);
+    QVERIFY(!IsTaken("foot"));
 }
 
 void tst_AnalysisRecords::EveryChangeIsReported()
 {
-    const EmptyAttributeNames names;
     AnalysisRecords model;
-    const QSignalSpy changed(&model, &AnalysisRecords::Changed);
-    model.SetSolverType(AnalysisType::MechanicsFamily, AnalysisType::StaticKind);
-    model.AddConstraint(Constraint("held"));
-    model.AddLoad(Load("pulled"));
-    model.Remove("held");
-    model.SetMeshSize(0.5);
-    model.SetSubShape({0.1, 3});
+    const QSignalSpy changes(&model, &AnalysisRecords::Changed);
+    model.SetSolverType(1, 1);
+    model.SetDefinition(Everything());
+    model.TakeStores();
     model.Clear();
-    QCOMPARE(changed.size(), 7);
+    QCOMPARE(changes.size(), 4);
 }
 
 TARN_TEST_MAIN(tst_AnalysisRecords)

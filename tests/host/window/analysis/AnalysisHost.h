@@ -11,6 +11,7 @@
 #include "MessageLevel.h"
 #include "ModalDriver.h"
 #include "PartModel.h"
+#include "SetupCheckDock.h"
 
 #include <QMenu>
 #include <QSignalSpy>
@@ -24,9 +25,10 @@ public:
     explicit AnalysisHost(TestCase& test)
         : model(&window)
         , tree(model, &window)
+        , check(&window)
     {
         test.EnterTemporaryDirectory();
-        (new AnalysisActions(model, tree, part, &window))->FillMenu(menu);
+        (new AnalysisActions(model, tree, check, part, &window))->FillMenu(menu);
     }
     ~AnalysisHost()
     {
@@ -70,6 +72,7 @@ public:
     QWidget window;
     AnalysisRecords model;
     AnalysisTree tree;
+    SetupCheckDock check;
     PartModel part;
     QMenu menu;
     ModalDriver user;

@@ -1,7 +1,9 @@
+#include "AnalysisEntries.h"
 #include "AnalysisHost.h"
 #include "AnalysisType.h"
 #include "AttributeCommonMgr.h"
 
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -26,10 +28,12 @@ private Q_SLOTS:
     void TheFrequencyRangeIsShownAfterOk();
     void TheMeshSizeIsStoredAndShownAgain();
     void ACancelledMeshSizeIsNotStored();
-    void TheSubShapeMeshIsStoredAndShownAgain();
-    void ACancelledSubShapeMeshIsNotStored();
-    void ANonNumericSubShapeMeshIsReportedAndNotStored_data();
-    void ANonNumericSubShapeMeshIsReportedAndNotStored();
+    void AMeshSizeMayBeAnExpression();
+    void ATextWithoutValueIsReportedAndNotStored_data();
+    void ATextWithoutValueIsReportedAndNotStored();
+    void SeveralLocalMeshesAreStored();
+    void AnEntryIsEditedInItsDialog();
+    void ACancelledEditKeepsTheEntry();
 };
 
 namespace {
@@ -37,6 +41,12 @@ namespace {
 bool IsTaken(std::string name)
 {
     return AttributeCommonMgr::GetInstance()->FindName(name);
+}
+
+void Choose(AnalysisHost& host, const AnalysisEntry& entry)
+{
+    host.tree.Select(entry);
+    QVERIFY(host.tree.Selected() == entry);
 }
 
 } // namespace
@@ -48,10 +58,11 @@ void tst_AnalysisActions::TheMenuOffersEveryDialog()
     const QList<QAction*> actions = host.menu.actions();
     for (const QAction* const action : actions)
         texts << action->text().remove('&');
-    QCOMPARE(texts, QStringList({"Analysis type", "Boundary condition", "Load force",
-                                 "Delete boundary condition or load", "", "New element property",
-                                 "Element properties", "Material library", "", "Frequency range",
-                                 "Mesh size", "Sub-shape mesh", "", "Check Set-up"}));
+    QCOMPARE(texts,
+             QStringList({"Analysis type", "Boundary condition", "Load force", "", "Edit entry",
+                          "Pick faces and edges", "Delete entry", "", "New element property",
+                          "Element properties", "Material library", "", "Frequency range",
+                          "Mesh size", "Sub-shape mesh", "", "Check Set-up"}));
 }
 
 void tst_AnalysisActions::TheDialogsBelongToTheWindow_data()
@@ -124,7 +135,8 @@ void tst_AnalysisActions::AnAcceptedBoundaryConditionIsStoredAndItsNameRegistere
         QTest::keyClick(&Find<QWidget>(dialog, "chb_YD"), Qt::Key_Space);
         Click(dialog, "okButton");
     });
-    QCOMPARE(host.Shown("Boundary conditions"), QStringList("foot: fixes X_D, Z_D, X_R, Y_R, Z_R"));
+    QCOMPARE(host.Shown("Boundary conditions"),
+             QStringList("foot: fixes X_D, Z_D, X_R, Y_R, Z_R; nothing is picked yet"));
     QVERIFY(IsTaken("foot"));
 }
 
@@ -132,7 +144,7 @@ void tst_AnalysisActions::ACancelledBoundaryConditionIsNotStored()
 {
     AnalysisHost host(*this);
     host.Run("action_BoundaryCondition", [](QDialog& dialog) { Click(dialog, "cancelButton"); });
-    QVERIFY(host.model.Constraints().empty());
+    QVERIFY(host.model.Definition().constraints.empty());
     QVERIFY(!IsTaken("defaultBC"));
 }
 
@@ -147,7 +159,7 @@ void tst_AnalysisActions::ASecondBoundaryConditionOfTheSameNameIsRefused()
     });
     QCOMPARE(host.user.Boxes(), QVector<ShownBox>({ShownBox::Notice(
                                     "Warning", "CQLTConstrainEditor: Duplicated Attribute Name")}));
-    QCOMPARE(host.model.Constraints().size(), std::size_t(1));
+    QCOMPARE(host.model.Definition().constraints.size(), std::size_t(1));
 }
 
 void tst_AnalysisActions::ALoadWithTheNameOfABoundaryConditionIsRefused()
@@ -163,7 +175,7 @@ void tst_AnalysisActions::ALoadWithTheNameOfABoundaryConditionIsRefused()
     });
     QCOMPARE(host.user.Boxes(),
              QVector<ShownBox>({ShownBox::Notice("Warning", "Duplicated Attribute Name")}));
-    QVERIFY(host.model.Loads().empty());
+    QVERIFY(host.model.Definition().loads.empty());
 }
 
 void tst_AnalysisActions::AForceIsStoredByTheLabelOfItsField()
@@ -175,7 +187,8 @@ void tst_AnalysisActions::AForceIsStoredByTheLabelOfItsField()
         Type(dialog, "lied_FY", "7");
         Click(dialog, "okButton");
     });
-    QCOMPARE(host.Shown("Loads"), QStringList("Default: FX = 1000, FY = 7, FZ = 5"));
+    QCOMPARE(host.Shown("Loads"),
+             QStringList("Default: FX = 1000 N, FY = 7 N, FZ = 5 N; nothing is picked yet"));
     QVERIFY(IsTaken("Default"));
 }
 
@@ -183,7 +196,7 @@ void tst_AnalysisActions::ACancelledLoadIsNotStored()
 {
     AnalysisHost host(*this);
     host.Run("action_LoadForce", [](QDialog& dialog) { Click(dialog, "cancelButton"); });
-    QVERIFY(host.model.Loads().empty());
+    QVERIFY(host.model.Definition().loads.empty());
     QVERIFY(!IsTaken("Default"));
 }
 
@@ -197,11 +210,11 @@ void tst_AnalysisActions::TheNameOfADeletedLoadCanBeUsedAgain()
     auto& tree = Find<QTreeWidget>(host.tree, "modelTree");
     tree.setCurrentItem(tree.findItems("Loads", Qt::MatchExactly).constFirst()->child(0));
     host.Trigger("action_DeleteAttribute");
-    QVERIFY(host.model.Loads().empty());
+    QVERIFY(host.model.Definition().loads.empty());
     QVERIFY(!IsTaken("Default"));
     host.Run("action_LoadForce", accept);
     QCOMPARE(host.user.Boxes(), QVector<ShownBox>());
-    QCOMPARE(host.model.Loads().size(), std::size_t(1));
+    QCOMPARE(host.model.Definition().loads.size(), std::size_t(1));
 }
 
 void tst_AnalysisActions::TheFrequencyRangeIsShownAfterOk()
@@ -213,7 +226,7 @@ void tst_AnalysisActions::TheFrequencyRangeIsShownAfterOk()
         Type(dialog, "lineEdit_NumFreq", "3");
         Click(dialog, "pushButton_OK");
     });
-    QCOMPARE(host.Shown("Frequency range"), QStringList("5e+06 to 250.5, 3 points"));
+    QCOMPARE(host.Shown("Frequency range"), QStringList("5e+06 Hz to 250.5 Hz, 3 modes"));
 }
 
 void tst_AnalysisActions::TheMeshSizeIsStoredAndShownAgain()
@@ -224,7 +237,7 @@ void tst_AnalysisActions::TheMeshSizeIsStoredAndShownAgain()
         Type(dialog, "lineEdit_MeshSize", "0.125");
         Click(dialog, "pushButton");
     });
-    QCOMPARE(host.Shown("Mesh size"), QStringList("0.125"));
+    QCOMPARE(host.Shown("Mesh size"), QStringList("0.125 mm"));
     host.Run("action_MeshSize", [](QDialog& dialog) {
         QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_MeshSize").text(), QString("0.125"));
         dialog.reject();
@@ -238,66 +251,131 @@ void tst_AnalysisActions::ACancelledMeshSizeIsNotStored()
         Type(dialog, "lineEdit_MeshSize", "0.125");
         Click(dialog, "pushButton_2");
     });
-    QCOMPARE(host.Shown("Mesh size"), QStringList("not set"));
+    QCOMPARE(host.Shown("Mesh size"), QStringList("not set: a tenth of the longest side"));
 }
 
-void tst_AnalysisActions::TheSubShapeMeshIsStoredAndShownAgain()
+void tst_AnalysisActions::AMeshSizeMayBeAnExpression()
 {
     AnalysisHost host(*this);
+    host.Run("action_MeshSize", [](QDialog& dialog) {
+        Type(dialog, "lineEdit_MeshSize", "2 * 4");
+        Click(dialog, "pushButton");
+    });
+    QCOMPARE(host.Shown("Mesh size"), QStringList("2 * 4 mm"));
+    host.Run("action_MeshSize", [](QDialog& dialog) { Click(dialog, "pushButton"); });
+    QCOMPARE(host.model.Definition().meshSize, QString("2 * 4"));
+}
+
+void tst_AnalysisActions::ATextWithoutValueIsReportedAndNotStored_data()
+{
+    QTest::addColumn<QByteArray>("action");
+    QTest::addColumn<QByteArray>("field");
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char* name, const char* action, const char* field, const char* button,
+                        const char* text, const char* message) {
+        QTest::newRow(name) << QByteArray(action) << QByteArray(field) << QByteArray(button)
+                            << QString(text) << QString(message);
+    };
+    row("mesh size, comma", "action_MeshSize", "lineEdit_MeshSize", "pushButton", "12,5",
+        "The mesh size: \"12,5\" is neither a number nor an expression with a value: ");
+    row("mesh size, infinite", "action_MeshSize", "lineEdit_MeshSize", "pushButton", "1e999",
+        "The mesh size: \"1e999\" is neither a number nor an expression with a value: ");
+    row("force, word", "action_LoadForce", "lied_FX", "okButton", "none",
+        "The force FX: \"none\" is neither a number nor an expression with a value: ");
+    row("force, nothing", "action_LoadForce", "lied_FZ", "okButton", "",
+        "The force FZ: \"\" is neither a number nor an expression with a value: ");
+    row("local mesh, word", "action_SubShapeMesh", "lineEdit_MeshSize", "pushButton_OK", "small",
+        "The size: \"small\" is neither a number nor an expression with a value: ");
+    row("local mesh, nothing", "action_SubShapeMesh", "lineEdit_MeshSize", "pushButton_OK", "",
+        "A local mesh has either a size in mm or a number of elements along each edge");
+}
+
+void tst_AnalysisActions::ATextWithoutValueIsReportedAndNotStored()
+{
+    QFETCH(QByteArray, action);
+    QFETCH(QByteArray, field);
+    QFETCH(QByteArray, button);
+    QFETCH(QString, text);
+    QFETCH(QString, message);
+    AnalysisHost host(*this);
+    host.Run(action, [&](QDialog& dialog) {
+        Type(dialog, field, text);
+        Click(dialog, button);
+    });
+    QVERIFY(host.model.Definition() == AnalysisDefinition());
+    QCOMPARE(host.posted.size(), 1);
+    QCOMPARE(host.posted[0][0].toInt(), int(ErrorLevel));
+    QVERIFY2(host.posted[0][1].toString().startsWith(message),
+             qPrintable(host.posted[0][1].toString()));
+}
+
+void tst_AnalysisActions::SeveralLocalMeshesAreStored()
+{
+    AnalysisHost host(*this);
+    host.Run("action_SubShapeMesh", [](QDialog& dialog) {
+        Type(dialog, "lineEdit_MeshSize", "0.05123456789");
+        Click(dialog, "pushButton_OK");
+    });
     host.Run("action_SubShapeMesh", [](QDialog& dialog) {
         QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_MeshSize").text(), QString());
-        Type(dialog, "lineEdit_MeshSize", "0.05123456789");
         Type(dialog, "lineEdit_MeshNumber", "12");
         Click(dialog, "pushButton_OK");
     });
-    QCOMPARE(host.Shown("Sub-shape mesh"), QStringList("size 0.05123456789, number 12"));
-    QCOMPARE(host.posted.size(), 0);
     host.Run("action_SubShapeMesh", [](QDialog& dialog) {
-        QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_MeshSize").text(), QString("0.05123456789"));
-        QCOMPARE(Find<QLineEdit>(dialog, "lineEdit_MeshNumber").text(), QString("12"));
-        dialog.reject();
-    });
-}
-
-void tst_AnalysisActions::ACancelledSubShapeMeshIsNotStored()
-{
-    AnalysisHost host(*this);
-    host.Run("action_SubShapeMesh", [](QDialog& dialog) {
-        Type(dialog, "lineEdit_MeshSize", "0.05");
-        Type(dialog, "lineEdit_MeshNumber", "12");
+        Type(dialog, "lineEdit_MeshSize", "3");
         Click(dialog, "pushButton_Cancel");
     });
-    QCOMPARE(host.Shown("Sub-shape mesh"), QStringList("not set"));
+    QCOMPARE(host.Shown("Local meshes"),
+             QStringList({"Local mesh 1: size 0.05123456789 mm; nothing is picked yet",
+                          "Local mesh 2: 12 elements along each; nothing is picked yet"}));
     QCOMPARE(host.posted.size(), 0);
 }
 
-void tst_AnalysisActions::ANonNumericSubShapeMeshIsReportedAndNotStored_data()
+void tst_AnalysisActions::AnEntryIsEditedInItsDialog()
 {
-    QTest::addColumn<QString>("size");
-    QTest::addColumn<QString>("number");
-    QTest::newRow("both empty") << ""
-                                << "";
-    QTest::newRow("size a word") << "small"
-                                 << "12";
-    QTest::newRow("number a fraction") << "0.05"
-                                       << "1.5";
+    AnalysisHost host(*this);
+    AnalysisDefinition analysis;
+    analysis.constraints = {Constraint("foot", "plate.zmin")};
+    analysis.loads = {Load("pull", "2 * 50", "3", "4")};
+    host.model.SetDefinition(analysis);
+    Choose(host, {AnalysisEntry::Constraint, 0});
+    host.Run("action_EditAnalysis", [](QDialog& dialog) {
+        QCOMPARE(Find<QLineEdit>(dialog, "lied_Name").text(), QString("foot"));
+        QVERIFY(Find<QCheckBox>(dialog, "chb_ZD").isChecked());
+        QVERIFY(!Find<QCheckBox>(dialog, "chb_XR").isChecked());
+        Type(dialog, "lied_Name", "base");
+        Click(dialog, "okButton");
+    });
+    Choose(host, {AnalysisEntry::Load, 0});
+    host.Run("action_EditAnalysis", [](QDialog& dialog) {
+        QCOMPARE(Find<QLineEdit>(dialog, "lied_FX").text(), QString("100"));
+        Type(dialog, "lied_FY", "7.5");
+        // The name of the entry itself is not a second one.
+        Click(dialog, "okButton");
+    });
+    QCOMPARE(host.user.Boxes(), QVector<ShownBox>());
+    QCOMPARE(host.Shown("Boundary conditions"),
+             QStringList("base: fixes X_D, Y_D, Z_D on plate.zmin"));
+    QCOMPARE(host.Shown("Loads"),
+             QStringList("pull: FX = 2 * 50 N, FY = 7.5 N, FZ = 4 N on box.zmax"));
+    QVERIFY(IsTaken("base") && IsTaken("pull") && !IsTaken("foot"));
 }
 
-void tst_AnalysisActions::ANonNumericSubShapeMeshIsReportedAndNotStored()
+void tst_AnalysisActions::ACancelledEditKeepsTheEntry()
 {
-    QFETCH(QString, size);
-    QFETCH(QString, number);
     AnalysisHost host(*this);
-    host.Run("action_SubShapeMesh", [&](QDialog& dialog) {
-        Type(dialog, "lineEdit_MeshSize", size);
-        Type(dialog, "lineEdit_MeshNumber", number);
-        Click(dialog, "pushButton_OK");
+    AnalysisDefinition analysis;
+    analysis.constraints = {Constraint("foot")};
+    host.model.SetDefinition(analysis);
+    Choose(host, {AnalysisEntry::Constraint, 0});
+    host.Run("action_EditAnalysis", [](QDialog& dialog) {
+        Type(dialog, "lied_Name", "base");
+        Click(dialog, "cancelButton");
     });
-    QCOMPARE(host.Shown("Sub-shape mesh"), QStringList("not set"));
-    QCOMPARE(host.posted.size(), 1);
-    QCOMPARE(host.posted[0][0].toInt(), int(WarningLevel));
-    QCOMPARE(host.posted[0][1].toString(),
-             QString("The sub-shape mesh was not applied: size and number must be numeric"));
+    QVERIFY(host.model.Definition() == analysis);
+    QVERIFY(IsTaken("foot"));
 }
 
 TARN_TEST_MAIN(tst_AnalysisActions)

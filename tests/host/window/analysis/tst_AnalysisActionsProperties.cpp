@@ -1,6 +1,8 @@
+#include "AnalysisEntries.h"
 #include "AnalysisHost.h"
 
 #include <QFile>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTableWidget>
 
@@ -20,7 +22,6 @@ private Q_SLOTS:
     void TheLibraryOpensAtTheMaterialChosenBefore();
     void TheCheckListsEveryProblem();
     void TheCheckReadsTheFilesFirst();
-    void ACompleteSetUpIsReported();
 };
 
 namespace {
@@ -47,7 +48,8 @@ void tst_AnalysisActionsProperties::ANewPropertyIsStored()
         Click(dialog, "pushbu_OK");
     });
     QCOMPARE(host.Shown("Element properties"),
-             QStringList("plate: Shell, material steel, thickness 2.5"));
+             QStringList("plate: material steel, solid elements in the whole part; nothing is "
+                         "picked for shells yet"));
 }
 
 void tst_AnalysisActionsProperties::ACancelledPropertyIsNotStored()
@@ -86,7 +88,8 @@ void tst_AnalysisActionsProperties::ThePropertiesOfTheFileAreShown()
         Click(dialog, "pushButton_OK");
     });
     QCOMPARE(host.Shown("Element properties"),
-             QStringList("of the file: no type, no material, thickness 0"));
+             QStringList("of the file: no material, solid elements in the whole part; nothing is "
+                         "picked for shells yet"));
 }
 
 void tst_AnalysisActionsProperties::APropertyAddedInTheManagerIsShownEvenAfterCancel()
@@ -103,7 +106,8 @@ void tst_AnalysisActionsProperties::APropertyAddedInTheManagerIsShownEvenAfterCa
     host.Trigger("action_ElementProperties");
     QVERIFY(host.user.IsDone());
     QCOMPARE(host.Shown("Element properties"),
-             QStringList("plate: Shell, no material, thickness 1"));
+             QStringList("plate: no material, solid elements in the whole part; nothing is picked "
+                         "for shells yet"));
     QVERIFY(!QFile::exists("ElementProperty.xml"));
 }
 
@@ -126,10 +130,9 @@ void tst_AnalysisActionsProperties::APropertyCanUseAMaterialOfTheSystemLibrary()
     host.Trigger("action_ElementProperties");
     QVERIFY(host.user.IsDone());
     QCOMPARE(host.Shown("Element properties"),
-             QStringList("plate: Shell, material Titanium grade 2, thickness 1"));
+             QStringList("plate: material Titanium grade 2, solid elements in the whole part; "
+                         "nothing is picked for shells yet"));
     QVERIFY(QFile::exists("ElementProperty.xml"));
-    host.Trigger("action_CheckSetup");
-    QCOMPARE(host.posted.last()[1].toString(), QString("The set-up is complete"));
 }
 
 void tst_AnalysisActionsProperties::TheChosenMaterialIsReported()
@@ -174,24 +177,28 @@ void tst_AnalysisActionsProperties::TheLibraryOpensAtTheMaterialChosenBefore()
 void tst_AnalysisActionsProperties::TheCheckListsEveryProblem()
 {
     AnalysisHost host(*this);
-    host.Run("action_BoundaryCondition", [](QDialog& dialog) {
-        for (const char* const box : {"chb_XD", "chb_YD", "chb_ZD", "chb_XR", "chb_YR", "chb_ZR"})
-            QTest::keyClick(&Find<QWidget>(dialog, box), Qt::Key_Space);
-        Click(dialog, "okButton");
-    });
-    host.Run("action_LoadForce", [](QDialog& dialog) {
-        Type(dialog, "lied_FX", "none");
-        Click(dialog, "okButton");
-    });
+    AnalysisDefinition analysis;
+    analysis.constraints = {Constraint("foot")};
+    analysis.constraints[0].faces.clear();
+    analysis.properties = {Property("plate", "Steel S355")};
+    analysis.meshSize = "0";
+    host.model.SetDefinition(analysis);
     host.Trigger("action_CheckSetup");
+    const auto& list = Find<QListWidget>(host.check, "setupCheckList");
     QStringList texts;
-    for (const QList<QVariant>& message : host.posted) {
-        QCOMPARE(message[0].toInt(), int(WarningLevel));
-        texts << message[1].toString();
-    }
-    QCOMPARE(texts, QStringList({"No element property is defined",
-                                 "Boundary condition \"defaultBC\" fixes no degree of freedom",
-                                 "Load \"Default\" is zero"}));
+    for (int row = 0; row < list.count(); ++row)
+        texts << list.item(row)->text();
+    QCOMPARE(texts,
+             QStringList({"There is no part: add a body to analyse",
+                          "Boundary condition \"foot\" acts nowhere: pick its faces or edges",
+                          "The mesh size is 0 mm, but has to be greater than 0"}));
+    QCOMPARE(host.posted.size(), 1);
+    QCOMPARE(host.posted[0][0].toInt(), int(WarningLevel));
+    QCOMPARE(host.posted[0][1].toString(), QString("Set-up check: problems: 3, warnings: 0"));
+
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                      list.visualItemRect(list.item(1)).center());
+    QVERIFY(host.tree.Selected() == (AnalysisEntry{AnalysisEntry::Constraint, 0}));
 }
 
 void tst_AnalysisActionsProperties::TheCheckReadsTheFilesFirst()
@@ -200,30 +207,14 @@ void tst_AnalysisActionsProperties::TheCheckReadsTheFilesFirst()
     KVPropertyData& store = *KVPropertyData::GetInstance();
     auto* const property = new CQLTElemPropDef;
     property->m_strName = "plate";
-    property->m_strMaterialName = "Steel S355";
-    property->m_nTypeCode = CQLTElemPropDef::ShellType;
     store.AddPropInfo(property);
     QCOMPARE(store.WriteXML("./ElementProperty.xml"), 0);
     store.Clear();
     host.Trigger("action_CheckSetup");
-    QCOMPARE(host.posted.size(), 1);
-    QCOMPARE(host.posted[0][1].toString(),
-             QString("Element property \"plate\": the thickness 0 must be greater than 0"));
+    const auto& list = Find<QListWidget>(host.check, "setupCheckList");
+    QVERIFY(
+        !list.findItems("Element property \"plate\" has no material", Qt::MatchExactly).isEmpty());
     QCOMPARE(host.Shown("Element properties").size(), 1);
-}
-
-void tst_AnalysisActionsProperties::ACompleteSetUpIsReported()
-{
-    AnalysisHost host(*this);
-    host.Run("action_NewElementProperty", [](QDialog& dialog) {
-        Type(dialog, "lineEdit_PropName", "plate");
-        Type(dialog, "lineEdit_mat", "Steel S355");
-        Click(dialog, "pushbu_OK");
-    });
-    host.Trigger("action_CheckSetup");
-    QCOMPARE(host.posted.size(), 1);
-    QCOMPARE(host.posted[0][0].toInt(), int(InfoLevel));
-    QCOMPARE(host.posted[0][1].toString(), QString("The set-up is complete"));
 }
 
 TARN_TEST_MAIN(tst_AnalysisActionsProperties)

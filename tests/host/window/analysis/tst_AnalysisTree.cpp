@@ -1,3 +1,4 @@
+#include "AnalysisEntries.h"
 #include "AnalysisRecords.h"
 #include "AnalysisTree.h"
 #include "AttributeCommonMgr.h"
@@ -9,6 +10,8 @@
 #include <QAction>
 #include <QTreeWidget>
 
+#include <functional>
+
 class tst_AnalysisTree : public TestCase
 {
     Q_OBJECT
@@ -19,19 +22,14 @@ private Q_SLOTS:
     void TheAnalysisTypeIsReported();
     void TheFixedDegreesOfFreedomAreShown_data();
     void TheFixedDegreesOfFreedomAreShown();
-    void AForceIsShownAsStored_data();
-    void AForceIsShownAsStored();
-    void APropertyIsShownWithMaterialAndThickness_data();
-    void APropertyIsShownWithMaterialAndThickness();
-    void TheFrequencyRangeIsShown();
-    void TheMeshSizesAreShown();
-    void NamesAreShownInTheLocalCodePage();
+    void TargetsAreShownByName();
+    void NumbersBearTheirUnits();
     void TheTreeFollowsTheModel();
-    void TheTreeFollowsTheStoresOnRefresh();
-    void OnlyBoundaryConditionsAndLoadsCanBeDeleted();
+    void OnlyEntriesOfListsCanBeDeleted();
     void DeletingWithTheKeyFreesTheName();
-    void DeletingTakesTheSelectedRecordOnly();
-    void NothingCanBeEdited();
+    void DeletingTakesTheSelectedEntryOnly_data();
+    void DeletingTakesTheSelectedEntryOnly();
+    void ADoubleClickAsksToEdit();
 };
 
 namespace {
@@ -57,6 +55,13 @@ public:
     }
 
     AnalysisTree& Dock() { return m_dock; }
+
+    void Edit(const std::function<void(AnalysisDefinition&)>& edit)
+    {
+        AnalysisDefinition analysis = model.Definition();
+        edit(analysis);
+        model.SetDefinition(analysis);
+    }
     QTreeWidget& Tree() const { return Find<QTreeWidget>(m_dock, "modelTree"); }
 
     QTreeWidgetItem& Group(const QString& title) const
@@ -98,24 +103,6 @@ public:
     }
 };
 
-sLoadForceData Load(const char* name, double fx, double fy, double fz, int kind = 1)
-{
-    sLoadForceData load;
-    load.m_strName = name;
-    load.m_nKind = kind;
-    load.m_dFX = fx;
-    load.m_dFY = fy;
-    load.m_dFZ = fz;
-    return load;
-}
-
-sConstrainData Constraint(const char* name)
-{
-    sConstrainData constraint;
-    constraint.m_strName = name;
-    return constraint;
-}
-
 bool IsTaken(std::string name)
 {
     return AttributeCommonMgr::GetInstance()->FindName(name);
@@ -133,10 +120,11 @@ void tst_AnalysisTree::AnEmptyModelHasItsGroups()
         groups << group.text(AnalysisTree::NameColumn) + ": " +
                       group.text(AnalysisTree::ValueColumn);
     }
-    QCOMPARE(groups, QStringList({"Analysis type: Vibration (family 1, kind 2)",
-                                  "Boundary conditions: ", "Loads: ", "Element properties: ",
-                                  "Frequency range: 1 to 1e+06, 10 points", "Mesh size: not set",
-                                  "Sub-shape mesh: not set"}));
+    QCOMPARE(groups,
+             QStringList({"Analysis type: Vibration (family 1, kind 2)",
+                          "Boundary conditions: ", "Loads: ", "Element properties: ",
+                          "Frequency range: 1 Hz to 1e+06 Hz, 10 modes",
+                          "Mesh size: not set: a tenth of the longest side", "Local meshes: "}));
 }
 
 void tst_AnalysisTree::TheAnalysisTypeIsReported_data()
@@ -182,168 +170,138 @@ void tst_AnalysisTree::TheFixedDegreesOfFreedomAreShown()
     QFETCH(QVector<bool>, held);
     QFETCH(QString, text);
     Shown shown;
-    shown.model.AddConstraint({"foot", held[0], held[1], held[2], held[3], held[4], held[5]});
-    QCOMPARE(shown.Records("Boundary conditions"), QStringList("foot: " + text));
+    ConstraintDefinition foot = Constraint("foot");
+    std::copy(held.begin(), held.end(), foot.held.begin());
+    shown.Edit([&](AnalysisDefinition& analysis) { analysis.constraints = {foot}; });
+    QCOMPARE(shown.Records("Boundary conditions"), QStringList("foot: " + text + " on box.zmin"));
 }
 
-void tst_AnalysisTree::AForceIsShownAsStored_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<double>("fx");
-    QTest::addColumn<double>("fy");
-    QTest::addColumn<double>("fz");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("components") << 1 << 1000.0 << 7.0 << 5.0 << "FX = 1000, FY = 7, FZ = 5";
-    QTest::newRow("every digit") << 1 << 0.1 << -1.0 / 3.0 << 0.0
-                                 << "FX = 0.1, FY = -0.3333333333333333, FZ = 0";
-    QTest::newRow("normal") << 2 << 1.0 << 2.0 << 3.0
-                            << "normal to surface, FX = 1, FY = 2, FZ = 3";
-}
-
-void tst_AnalysisTree::AForceIsShownAsStored()
-{
-    QFETCH(int, kind);
-    QFETCH(double, fx);
-    QFETCH(double, fy);
-    QFETCH(double, fz);
-    QFETCH(QString, text);
-    Shown shown;
-    shown.model.AddLoad(Load("pull", fx, fy, fz, kind));
-    QCOMPARE(shown.Records("Loads"), QStringList("pull: " + text));
-}
-
-void tst_AnalysisTree::APropertyIsShownWithMaterialAndThickness_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("material");
-    QTest::addColumn<double>("thickness");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("full") << "Shell"
-                          << "steel" << 0.0025 << "Shell, material steel, thickness 0.0025";
-    QTest::newRow("no material") << "Shell"
-                                 << "" << 2.5 << "Shell, no material, thickness 2.5";
-    QTest::newRow("no type") << ""
-                             << "steel" << 0.0 << "no type, material steel, thickness 0";
-    QTest::newRow("per cent sign") << "Shell"
-                                   << "%3" << 1.0 << "Shell, material %3, thickness 1";
-}
-
-void tst_AnalysisTree::APropertyIsShownWithMaterialAndThickness()
-{
-    QFETCH(QString, type);
-    QFETCH(QString, material);
-    QFETCH(double, thickness);
-    QFETCH(QString, text);
-    Shown shown;
-    auto* const property = new CQLTElemPropDef;
-    property->m_strName = "plate";
-    property->m_strTypeName = type;
-    property->m_strMaterialName = material;
-    property->m_dThickness = thickness;
-    KVPropertyData::GetInstance()->AddPropInfo(property);
-    shown.Dock().Refresh();
-    QCOMPARE(shown.Records("Element properties"), QStringList("plate: " + text));
-}
-
-void tst_AnalysisTree::TheFrequencyRangeIsShown()
+void tst_AnalysisTree::TargetsAreShownByName()
 {
     Shown shown;
-    FrequencyPref::m_MinFreq = 0.5;
-    FrequencyPref::m_MaxFreq = 123456.75;
-    FrequencyPref::m_NumFreq = 7;
-    shown.Dock().Refresh();
-    QCOMPARE(shown.Value("Frequency range"), QString("0.5 to 123456.75, 7 points"));
+    LoadDefinition load = Load("pull", "-f", "0", "2.5");
+    load.faces.clear();
+    load.edges = {{{{"a.xmin", {}}, {"a.ymin", {}}}, {}}, {{}, {"1", "2", "t"}}};
+    PropertyDefinition web = Property("web", "%3", "t / 2");
+    web.faces = {{"plate.zmax", {}}, {"", {"0", "0", "1"}}};
+    shown.Edit([&](AnalysisDefinition& analysis) {
+        analysis.loads = {load};
+        analysis.properties = {web, Property("rest", "")};
+        analysis.localMeshes = {{"2", "", {{"bore.side", {}}}, {}}, {"", "12", {}, {}}};
+    });
+    QCOMPARE(shown.Records("Loads"),
+             QStringList("pull: FX = -f N, FY = 0 N, FZ = 2.5 N on a.xmin | a.ymin, (1, 2, t)"));
+    QCOMPARE(shown.Records("Element properties"),
+             QStringList({"web: material %3, shells t / 2 mm thick on plate.zmax, (0, 0, 1)",
+                          "rest: no material, solid elements in the whole part; nothing is picked "
+                          "for shells yet"}));
+    QCOMPARE(shown.Records("Local meshes"),
+             QStringList({"Local mesh 1: size 2 mm on bore.side",
+                          "Local mesh 2: 12 elements along each; nothing is picked yet"}));
 }
 
-void tst_AnalysisTree::TheMeshSizesAreShown()
+void tst_AnalysisTree::NumbersBearTheirUnits()
 {
     Shown shown;
-    shown.model.SetMeshSize(0.25);
-    shown.model.SetSubShape({0.05, 12});
-    QCOMPARE(shown.Value("Mesh size"), QString("0.25"));
-    QCOMPARE(shown.Value("Sub-shape mesh"), QString("size 0.05, number 12"));
-}
-
-void tst_AnalysisTree::NamesAreShownInTheLocalCodePage()
-{
-    UseCodePage("ISO-8859-1");
-    Shown shown;
-    shown.model.AddLoad(Load("\xe4", 1.0, 0.0, 0.0));
-    QCOMPARE(shown.Records("Loads"), QStringList(QString::fromUtf8("ä: FX = 1, FY = 0, FZ = 0")));
+    shown.Edit([](AnalysisDefinition& analysis) {
+        analysis.frequencies = {0.5, 123456.75, 7};
+        analysis.meshSize = "t / 4";
+    });
+    QCOMPARE(shown.Value("Frequency range"), QString("0.5 Hz to 123456.75 Hz, 7 modes"));
+    QCOMPARE(shown.Value("Mesh size"), QString("t / 4 mm"));
 }
 
 void tst_AnalysisTree::TheTreeFollowsTheModel()
 {
     Shown shown;
-    shown.model.AddConstraint(Constraint("foot"));
-    shown.model.AddLoad(Load("pull", 1.0, 0.0, 0.0));
-    shown.model.AddLoad(Load("push", 0.0, 1.0, 0.0));
+    shown.Edit([](AnalysisDefinition& analysis) { analysis.loads = {Load("a"), Load("b")}; });
     QCOMPARE(shown.Records("Loads").size(), 2);
-    shown.model.Remove("pull");
-    QCOMPARE(shown.Records("Loads"), QStringList("push: FX = 0, FY = 1, FZ = 0"));
+    shown.ClickOn(shown.Group("Loads").child(1));
+    shown.Edit([](AnalysisDefinition& analysis) { analysis.loads[1].name = "c"; });
+    QCOMPARE(shown.Group("Loads").child(1)->text(AnalysisTree::NameColumn), QString("c"));
+    // The selection stays where it was.
+    QVERIFY(shown.Dock().Selected() == (AnalysisEntry{AnalysisEntry::Load, 1}));
     shown.model.Clear();
-    QCOMPARE(shown.Records("Boundary conditions"), QStringList());
     QCOMPARE(shown.Records("Loads"), QStringList());
 }
 
-void tst_AnalysisTree::TheTreeFollowsTheStoresOnRefresh()
+void tst_AnalysisTree::OnlyEntriesOfListsCanBeDeleted()
 {
     Shown shown;
-    KVPropertyData::GetInstance()->AddPropInfo(new CQLTElemPropDef);
-    QCOMPARE(shown.Records("Element properties").size(), 0);
-    shown.Dock().Refresh();
-    QCOMPARE(shown.Records("Element properties").size(), 1);
-}
-
-void tst_AnalysisTree::OnlyBoundaryConditionsAndLoadsCanBeDeleted()
-{
-    Shown shown;
-    KVPropertyData::GetInstance()->AddPropInfo(new CQLTElemPropDef);
-    shown.model.AddConstraint(Constraint("foot"));
-    shown.model.AddLoad(Load("", 1.0, 0.0, 0.0));
+    shown.Edit([](AnalysisDefinition& analysis) {
+        analysis.constraints = {Constraint("foot")};
+        analysis.loads = {Load("")};
+        analysis.properties = {Property("web")};
+    });
     const QAction& action = *shown.Dock().DeleteAction();
     QVERIFY(!action.isEnabled());
-    shown.ClickOn(shown.Group("Loads").child(0));
-    QVERIFY(action.isEnabled());
-    shown.ClickOn(&shown.Group("Loads"));
+    for (const char* const group : {"Loads", "Boundary conditions", "Element properties"}) {
+        shown.ClickOn(shown.Group(group).child(0));
+        QVERIFY2(action.isEnabled(), group);
+        shown.ClickOn(&shown.Group(group));
+        QVERIFY2(!action.isEnabled(), group);
+    }
+    shown.ClickOn(&shown.Group("Mesh size"));
     QVERIFY(!action.isEnabled());
-    shown.ClickOn(shown.Group("Boundary conditions").child(0));
-    QVERIFY(action.isEnabled());
-    shown.ClickOn(shown.Group("Element properties").child(0));
-    QVERIFY(!action.isEnabled());
+    QVERIFY(shown.Dock().EditAction()->isEnabled());
 }
 
 void tst_AnalysisTree::DeletingWithTheKeyFreesTheName()
 {
     Shown shown;
-    shown.model.AddConstraint(Constraint("foot"));
+    shown.Edit([](AnalysisDefinition& analysis) { analysis.constraints = {Constraint("foot")}; });
     QVERIFY(IsTaken("foot"));
     shown.ClickOn(shown.Group("Boundary conditions").child(0));
     QTest::keyClick(&shown.Tree(), Qt::Key_Delete);
     QCOMPARE(shown.Records("Boundary conditions"), QStringList());
-    QVERIFY(shown.model.Constraints().empty());
     QVERIFY(!IsTaken("foot"));
     QVERIFY(!shown.Dock().DeleteAction()->isEnabled());
 }
 
-void tst_AnalysisTree::DeletingTakesTheSelectedRecordOnly()
+void tst_AnalysisTree::DeletingTakesTheSelectedEntryOnly_data()
 {
-    Shown shown;
-    shown.model.AddLoad(Load("a", 1.0, 0.0, 0.0));
-    shown.model.AddLoad(Load("b", 2.0, 0.0, 0.0));
-    shown.model.AddLoad(Load("c", 3.0, 0.0, 0.0));
-    shown.ClickOn(shown.Group("Loads").child(1));
-    shown.Dock().DeleteAction()->trigger();
-    QCOMPARE(shown.Records("Loads"),
-             QStringList({"a: FX = 1, FY = 0, FZ = 0", "c: FX = 3, FY = 0, FZ = 0"}));
-    QVERIFY(IsTaken("a"));
-    QVERIFY(!IsTaken("b"));
-    QVERIFY(IsTaken("c"));
+    QTest::addColumn<QString>("group");
+    for (const char* const group :
+         {"Boundary conditions", "Loads", "Element properties", "Local meshes"})
+        QTest::newRow(group) << QString(group);
 }
 
-void tst_AnalysisTree::NothingCanBeEdited()
+void tst_AnalysisTree::DeletingTakesTheSelectedEntryOnly()
 {
-    const Shown shown;
+    QFETCH(QString, group);
+    EnterTemporaryDirectory();
+    Shown shown;
+    shown.Edit([](AnalysisDefinition& analysis) {
+        for (const char* const name : {"a", "b", "c"}) {
+            analysis.constraints.push_back(Constraint(name));
+            analysis.loads.push_back(Load(QString("load ") + name));
+            analysis.properties.push_back(Property(name));
+            analysis.localMeshes.push_back({name, "", {}, {}});
+        }
+    });
+    QStringList expected = shown.Records(group);
+    const int entries = shown.Tree().topLevelItemCount();
+    shown.ClickOn(shown.Group(group).child(1));
+    shown.Dock().DeleteAction()->trigger();
+    expected.removeAt(1);
+    if (group == "Local meshes")
+        expected.last().replace("3:", "2:");
+    QCOMPARE(shown.Records(group), expected);
+    QCOMPARE(shown.Tree().topLevelItemCount(), entries);
+}
+
+void tst_AnalysisTree::ADoubleClickAsksToEdit()
+{
+    Shown shown;
+    shown.Edit([](AnalysisDefinition& analysis) { analysis.loads = {Load("a"), Load("b")}; });
+    std::optional<AnalysisEntry> wanted;
+    connect(&shown.Dock(), &AnalysisTree::EditWanted, this,
+            [&](const AnalysisEntry& entry) { wanted = entry; });
+    QTreeWidgetItem* const item = shown.Group("Loads").child(1);
+    shown.ClickOn(item);
+    QTest::mouseDClick(shown.Tree().viewport(), Qt::LeftButton, {},
+                       shown.Tree().visualItemRect(item).center());
+    QVERIFY(wanted == (AnalysisEntry{AnalysisEntry::Load, 1}));
     QCOMPARE(shown.Tree().editTriggers(), QAbstractItemView::NoEditTriggers);
 }
 
