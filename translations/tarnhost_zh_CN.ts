@@ -1368,6 +1368,125 @@
     </message>
 </context>
 <context>
+    <name>ModelError</name>
+    <message>
+        <source>%1: the %2 (%3) has no value: %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the %2 is %3, but has to be greater than 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the %2 is %3, but has to be a whole number from 1 to %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mesh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The element property &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>thickness</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The boundary condition &quot;%1&quot;</source>
+        <translation>边界条件“%1”</translation>
+    </message>
+    <message>
+        <source>The load &quot;%1&quot;</source>
+        <translation>载荷“%1”</translation>
+    </message>
+    <message>
+        <source>force</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A local mesh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number of elements</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The part has no material.</source>
+        <translation>零件没有材料。</translation>
+    </message>
+    <message>
+        <source>The element properties %1 and %2 both hold for the whole part: delete one of them, or give it faces.</source>
+        <translation>单元属性 %1 与 %2 都作用于整个零件：请删除其中一个，或为其指定面。</translation>
+    </message>
+    <message>
+        <source>The element property %1 has no faces, but others have: one model has either shells or solids.</source>
+        <translation>单元属性 %1 没有面，而其他属性有面：一个模型只能全为壳或全为实体。</translation>
+    </message>
+    <message>
+        <source>The element properties %1 and %2 have a face in common.</source>
+        <translation>单元属性 %1 与 %2 有公共的面。</translation>
+    </message>
+    <message>
+        <source>The mesh has shells on a face without a property.</source>
+        <translation>网格在没有属性的面上有壳单元。</translation>
+    </message>
+    <message>
+        <source>The element property %1 has no elements.</source>
+        <translation>单元属性 %1 没有单元。</translation>
+    </message>
+    <message>
+        <source>%1 is on a face or an edge without elements: give the face an element property, or choose another one.</source>
+        <translation>%1 位于没有单元的面或边上：请为该面指定单元属性，或另选面或边。</translation>
+    </message>
+    <message>
+        <source>%1 has no faces and no edges.</source>
+        <translation>%1 没有面也没有边。</translation>
+    </message>
+    <message>
+        <source>%1 fixes no degree of freedom.</source>
+        <translation>%1 未约束任何自由度。</translation>
+    </message>
+    <message>
+        <source>%1 has no effect: solids have no rotations to hold.</source>
+        <translation>%1 不起作用：实体没有可约束的转动自由度。</translation>
+    </message>
+    <message>
+        <source>%1: holding rotations has no effect on solids.</source>
+        <translation>%1：约束转动对实体不起作用。</translation>
+    </message>
+    <message>
+        <source>%1 needs either faces or edges.</source>
+        <translation>%1 需要面或边，且只能是其中一种。</translation>
+    </message>
+    <message>
+        <source>The part</source>
+        <translation>零件</translation>
+    </message>
+    <message>
+        <source>Body %1</source>
+        <translation>实体 %1</translation>
+    </message>
+    <message>
+        <source>%1 is %2: add supports.</source>
+        <translation>%1 %2：请添加支撑。</translation>
+    </message>
+    <message>
+        <source>There is no load, so nothing moves: add a load.</source>
+        <translation>没有载荷，因此不会产生位移：请添加载荷。</translation>
+    </message>
+    <message>
+        <source>All nodes are held, so nothing can move: hold fewer faces, or make the mesh finer.</source>
+        <translation>所有节点都已被约束，无法运动：请减少约束的面，或加密网格。</translation>
+    </message>
+</context>
+<context>
     <name>OpenGlSupport</name>
     <message>
         <source>the system does not provide OpenGL</source>
@@ -1766,6 +1885,56 @@
     <message>
         <source>&quot;%1&quot; has changes that are not saved.</source>
         <translation>“%1”有未保存的更改。</translation>
+    </message>
+</context>
+<context>
+    <name>ResultError</name>
+    <message>
+        <source>The solver&apos;s table of modes is damaged.</source>
+        <translation>求解器的模态表已损坏。</translation>
+    </message>
+    <message>
+        <source>The solver&apos;s results do not belong to this mesh.</source>
+        <translation>求解器的结果不属于此网格。</translation>
+    </message>
+    <message>
+        <source>The solver&apos;s file has no results.</source>
+        <translation>求解器的文件没有结果。</translation>
+    </message>
+    <message>
+        <source>The solver&apos;s file of results is damaged or not complete.</source>
+        <translation>求解器的结果文件已损坏或不完整。</translation>
+    </message>
+    <message>
+        <source>The solver reports an error: %1</source>
+        <translation>求解器报告错误：%1</translation>
+    </message>
+    <message>
+        <source>The solver ended before its job was finished.</source>
+        <translation>求解器在作业完成前已结束。</translation>
+    </message>
+    <message>
+        <source>The part cannot be meshed: %1</source>
+        <translation>零件无法划分网格：%1</translation>
+    </message>
+</context>
+<context>
+    <name>RigidMotions</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation type="unfinished">%1 和 %2</translation>
+    </message>
+    <message>
+        <source>free to move along %1</source>
+        <translation>可沿 %1 移动</translation>
+    </message>
+    <message>
+        <source>free to turn about %1</source>
+        <translation>可绕 %1 转动</translation>
+    </message>
+    <message>
+        <source>free to move along %1 and to turn about %2</source>
+        <translation>可沿 %1 移动并可绕 %2 转动</translation>
     </message>
 </context>
 <context>
