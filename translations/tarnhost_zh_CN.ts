@@ -83,6 +83,29 @@
     </message>
 </context>
 <context>
+    <name>AnalysisTargets</name>
+    <message>
+        <source>Pick faces or edges for %1:</source>
+        <translation>为 %1 拾取面或边：</translation>
+    </message>
+    <message>
+        <source>Pick faces, or edges, for %1:</source>
+        <translation>为 %1 拾取面，或拾取边：</translation>
+    </message>
+    <message>
+        <source>Pick faces for the shells of %1:</source>
+        <translation>为 %1 的壳单元拾取面：</translation>
+    </message>
+    <message>
+        <source>Pick faces or edges for local mesh %1:</source>
+        <translation>为局部网格 %1 拾取面或边：</translation>
+    </message>
+    <message>
+        <source>A load acts either on faces or on edges: pick one kind only</source>
+        <translation>载荷只能作用于面或边之一：请只拾取一种</translation>
+    </message>
+</context>
+<context>
     <name>AnalysisTexts</name>
     <message>
         <source>; nothing is picked yet</source>
@@ -2081,6 +2104,33 @@
     <message>
         <source>The set-up has changed since it was checked: check it again.</source>
         <translation>检查之后设置已更改：请重新检查。</translation>
+    </message>
+</context>
+<context>
+    <name>ShapePicker</name>
+    <message>
+        <source>&amp;Done</source>
+        <translation>完成(&amp;D)</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>清除(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>There is no 3D view to pick in</source>
+        <translation>没有可供拾取的三维视图</translation>
+    </message>
+    <message>
+        <source>There is no shape to pick from</source>
+        <translation>没有可供拾取的形状</translation>
+    </message>
+    <message>
+        <source>Click in the view; click again to take back.</source>
+        <translation>请在视图中单击；再次单击可取消。</translation>
     </message>
 </context>
 <context>

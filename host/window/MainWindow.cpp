@@ -1,7 +1,9 @@
 #include "MainWindow.h"
 
 #include "AnalysisActions.h"
+#include "AnalysisMarks.h"
 #include "AnalysisRecords.h"
+#include "AnalysisTargets.h"
 #include "AnalysisTree.h"
 #include "DesignActions.h"
 #include "FeatureFields.h"
@@ -17,6 +19,7 @@
 #include "Project.h"
 #include "ProjectActions.h"
 #include "SetupCheckDock.h"
+#include "ShapePicker.h"
 #include "SolverActions.h"
 #include "ViewActions.h"
 
@@ -75,6 +78,11 @@ void MainWindow::CreateMenus()
     m_partActions = new PartActions(*m_part, *m_features, *m_fields, m_summary->View(), this);
     m_partActions->FillMenu(*menuBar()->addMenu(tr("&Model")));
     auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, *m_check, *m_part, this);
+    m_picker = new ShapePicker(*m_part, m_summary->View(), m_summary);
+    m_summary->AddBar(m_picker);
+    auto* const targets = new AnalysisTargets(*m_analysis, *m_tree, *m_picker, this);
+    connect(analysis, &AnalysisActions::EntryAdded, targets, &AnalysisTargets::Pick);
+    m_marks = new AnalysisMarks(*m_analysis, *m_tree, *m_part, m_summary->View(), this);
     analysis->FillMenu(*menuBar()->addMenu(tr("&Analysis")));
     auto* const solver = new SolverActions(this);
     solver->FillMenu(*menuBar()->addMenu(tr("&Solver")));
@@ -112,6 +120,7 @@ void MainWindow::ConnectPart()
     connect(m_part, &PartModel::Exported, m_summary, &PartPanel::EndProgress);
     connect(m_part, &PartModel::ExportFailed, m_summary, &PartPanel::EndProgress);
     connect(m_summary, &PartPanel::CancelWanted, m_part, &PartModel::Cancel);
+    connect(m_picker, &ShapePicker::Ended, this, &MainWindow::ShowSelectedFeature);
     connect(m_features, &FeatureTree::SelectionChanged, this, &MainWindow::ShowSelectedFeature);
     connect(m_position, &PositionDock::PointEntered, m_partActions, &PartActions::TakePoint);
 }
@@ -158,6 +167,7 @@ void MainWindow::ShowSelectedFeature()
     if (PartView* const view = m_summary->View())
         view->HighlightShape(selected.isEmpty() ? TopoDS_Shape()
                                                 : m_part->ShapeOf(selected.last()));
+    m_marks->Refresh();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

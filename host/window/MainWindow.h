@@ -12,6 +12,8 @@ class PartActions;
 class ParameterOverview;
 class PartModel;
 class PositionDock;
+class ShapePicker;
+class AnalysisMarks;
 class Project;
 class ProjectActions;
 class PartPanel;
@@ -62,6 +64,8 @@ private:
     FeatureTree* m_features = nullptr;
     FeatureFields* m_fields = nullptr;
     PositionDock* m_position = nullptr;
+    ShapePicker* m_picker = nullptr;
+    AnalysisMarks* m_marks = nullptr;
 
     ProjectActions* m_projectActions = nullptr;
     DesignActions* m_designActions = nullptr;

@@ -30,6 +30,21 @@ bool Replace(std::vector<Entry>& entries, int index, const std::optional<Entry>&
     return edited.has_value();
 }
 
+// Adds the entry, if there is one.
+template<class Entry>
+bool Append(std::vector<Entry>& entries, const std::optional<Entry>& entry)
+{
+    if (entry)
+        entries.push_back(*entry);
+    return entry.has_value();
+}
+
+template<class Entry>
+AnalysisEntry LastOf(AnalysisEntry::Kind kind, const std::vector<Entry>& entries)
+{
+    return {kind, int(entries.size()) - 1};
+}
+
 double LongestSide(const ShapeMeasures& measures)
 {
     const std::array<double, 6>& box = measures.boundingBox;
@@ -83,15 +98,18 @@ void AnalysisActions::FillMenu(QMenu& menu)
     add(tr("&Check Set-up"), "action_CheckSetup", &AnalysisActions::CheckSetupNow);
 }
 
-void AnalysisActions::Change(const std::function<bool(AnalysisDefinition&)>& edit)
+bool AnalysisActions::Change(const std::function<bool(AnalysisDefinition&)>& edit)
 {
     try {
         AnalysisDefinition analysis = m_model.Definition();
-        if (edit(analysis) && analysis != m_model.Definition())
+        if (edit(analysis) && analysis != m_model.Definition()) {
             m_model.SetDefinition(analysis);
+            return true;
+        }
     } catch (const HostError& error) {
         PostMessageToChannel(ErrorLevel, error.Reason());
     }
+    return false;
 }
 
 void AnalysisActions::ChooseType()
@@ -108,22 +126,20 @@ void AnalysisActions::ChooseType()
 
 void AnalysisActions::AddBoundaryCondition()
 {
-    Change([this](AnalysisDefinition& analysis) {
-        const std::optional<ConstraintDefinition> constraint = AskConstraint(m_window, {});
-        if (constraint)
-            analysis.constraints.push_back(*constraint);
-        return constraint.has_value();
-    });
+    const auto add = [this](AnalysisDefinition& analysis) {
+        return Append(analysis.constraints, AskConstraint(m_window, {}));
+    };
+    if (Change(add))
+        Q_EMIT EntryAdded(LastOf(AnalysisEntry::Constraint, m_model.Definition().constraints));
 }
 
 void AnalysisActions::AddLoad()
 {
-    Change([this](AnalysisDefinition& analysis) {
-        const std::optional<LoadDefinition> load = AskLoad(m_window, {});
-        if (load)
-            analysis.loads.push_back(*load);
-        return load.has_value();
-    });
+    const auto add = [this](AnalysisDefinition& analysis) {
+        return Append(analysis.loads, AskLoad(m_window, {}));
+    };
+    if (Change(add))
+        Q_EMIT EntryAdded(LastOf(AnalysisEntry::Load, m_model.Definition().loads));
 }
 
 void AnalysisActions::ReadFiles()
@@ -191,12 +207,11 @@ void AnalysisActions::SetMeshSize()
 
 void AnalysisActions::AddLocalMesh()
 {
-    Change([this](AnalysisDefinition& analysis) {
-        const std::optional<LocalMeshDefinition> mesh = AskLocalMesh(m_window, {});
-        if (mesh)
-            analysis.localMeshes.push_back(*mesh);
-        return mesh.has_value();
-    });
+    const auto add = [this](AnalysisDefinition& analysis) {
+        return Append(analysis.localMeshes, AskLocalMesh(m_window, {}));
+    };
+    if (Change(add))
+        Q_EMIT EntryAdded(LastOf(AnalysisEntry::LocalMesh, m_model.Definition().localMeshes));
 }
 
 void AnalysisActions::Edit(const AnalysisEntry& entry)

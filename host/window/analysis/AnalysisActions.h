@@ -30,6 +30,10 @@ public:
     /// The material of the part; the check needs it.
     void SetPartMaterial(const std::function<QString()>& material) { m_material = material; }
 
+Q_SIGNALS:
+    /// The user has made @p entry, which applies nowhere yet.
+    void EntryAdded(const AnalysisEntry& entry);
+
 private:
     void ChooseType();
     void AddBoundaryCondition();
@@ -44,8 +48,9 @@ private:
     void Edit(const AnalysisEntry& entry);
     void CheckSetupNow();
 
-    /// Lets @p edit change a copy of the set-up, and stores it if that returns true.
-    void Change(const std::function<bool(AnalysisDefinition&)>& edit);
+    /// Lets @p edit change a copy of the set-up, and stores it if that returns true. Returns
+    /// whether the set-up has changed.
+    bool Change(const std::function<bool(AnalysisDefinition&)>& edit);
 
     AnalysisRecords& m_model;
     AnalysisTree& m_tree;

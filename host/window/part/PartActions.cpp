@@ -10,6 +10,7 @@
 #include "MessageLevel.h"
 #include "PartModel.h"
 #include "PartView.h"
+#include "PickedReference.h"
 
 #include <QAction>
 #include <QDir>
@@ -18,17 +19,8 @@
 #include <QMenu>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
-
-// Far below the tolerance of finding a face, and above the rounding errors of picking.
-QString CoordinateText(double coordinate)
-{
-    constexpr double Step = 1e-6;
-    const double rounded = std::round(coordinate / Step) * Step;
-    return QString::number(rounded, 'g', 12);
-}
 
 QString StepFilter()
 {

@@ -36,6 +36,8 @@ public:
 
     /// The last valid part; null before the first one.
     const TopoDS_Shape& Shape() const { return m_part.shape; }
+    /// What was built last, with the names of its faces.
+    const BuiltPart& Built() const { return m_part; }
     const ShapeMeasures& Measures() const { return m_measures; } ///< Of Shape().
     /// The body of @p feature in the last valid part; null if it has none.
     TopoDS_Shape ShapeOf(const QString& feature) const;

@@ -124,7 +124,8 @@ void PartPanel::UsePicture(const QString& reason)
     if (m_view != nullptr)
         m_view->hide();
     m_picture = new ShapePicture(this);
-    m_layout->insertWidget(0, m_picture, 1);
+    const int place = m_view != nullptr ? m_layout->indexOf(m_view) : 0;
+    m_layout->insertWidget(place, m_picture, 1);
     m_warning = tr("The part is shown as a line drawing: %1").arg(reason);
     if (!m_shape.IsNull())
         Show(m_shape);
@@ -141,6 +142,11 @@ void PartPanel::Show(const TopoDS_Shape& shape)
         return;
     PostMessageToChannel(WarningLevel, m_warning);
     m_warning.clear();
+}
+
+void PartPanel::AddBar(QWidget* bar)
+{
+    m_layout->insertWidget(0, bar);
 }
 
 void PartPanel::ShowShape(const TopoDS_Shape& shape, const ShapeMeasures& measures, double density)

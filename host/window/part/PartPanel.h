@@ -36,6 +36,9 @@ public:
     /// Shows that there is no shape.
     void Clear();
 
+    /// Puts @p bar above the view, and becomes its parent.
+    void AddBar(QWidget* bar);
+
     /// The view, which belongs to this; null where there is no OpenGL.
     PartView* View() const { return m_view; }
 

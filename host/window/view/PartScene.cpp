@@ -8,6 +8,8 @@
 #include <AIS_ViewCube.hxx>
 #include <Aspect_DisplayConnection.hxx>
 #include <Aspect_NeutralWindow.hxx>
+#include <BRep_Tool.hxx>
+#include <GeomAPI_ProjectPointOnCurve.hxx>
 #include <OpenGl_FrameBuffer.hxx>
 #include <QOpenGLContext>
 #include <Standard_ProgramError.hxx>
@@ -21,6 +23,7 @@
 
 namespace {
 
+constexpr int EdgeSelection = 2; // As AIS_Shape::SelectionMode() has it.
 constexpr int FaceSelection = 4;
 constexpr int NoSelection = -1;
 
@@ -32,6 +35,18 @@ constexpr int Samples = 4;
 // The limits of zooming: the height of the view in millimetres.
 constexpr double LeastHeight = 1e-4;
 constexpr double GreatestHeight = 1e8;
+
+// The point of the edge next to one on the lines that are drawn for it.
+gp_Pnt NearestPoint(const TopoDS_Edge& edge, const gp_Pnt& drawn)
+{
+    double first = 0.0;
+    double last = 0.0;
+    const Handle(Geom_Curve) curve = BRep_Tool::Curve(edge, first, last);
+    if (curve.IsNull())
+        return drawn;
+    const GeomAPI_ProjectPointOnCurve projection(drawn, curve, first, last);
+    return projection.NbPoints() > 0 ? projection.NearestPoint() : drawn;
+}
 
 } // namespace
 
@@ -135,6 +150,23 @@ void PartScene::ShowPart(const TopoDS_Shape& shape, bool isShaded)
 {
     Replace(m_part, SceneStyle::NewPart(shape), isShaded ? AIS_Shaded : AIS_WireFrame,
             FaceSelection);
+    if (!m_hasFaces || m_hasEdges)
+        SetPickable(m_hasFaces, m_hasEdges);
+}
+
+void PartScene::SetPickable(bool hasFaces, bool hasEdges)
+{
+    m_hasFaces = hasFaces;
+    m_hasEdges = hasEdges;
+    if (m_part.IsNull())
+        return;
+    const auto set = [this](int selection, bool isActive) {
+        m_context->SetSelectionModeActive(m_part, selection, isActive,
+                                          AIS_SelectionModesConcurrency_Multiple, true);
+    };
+    set(FaceSelection, hasFaces);
+    set(EdgeSelection, hasEdges);
+    ResetPreviousMoveTo();
 }
 
 void PartScene::SetShaded(bool isShaded)
@@ -147,6 +179,11 @@ void PartScene::SetShaded(bool isShaded)
 void PartScene::ShowHighlight(const TopoDS_Shape& shape)
 {
     Replace(m_highlight, SceneStyle::NewHighlight(shape), AIS_Shaded, NoSelection);
+}
+
+void PartScene::ShowSymbols(const std::vector<ViewSymbol>& symbols)
+{
+    Replace(m_symbols, NewSymbols(symbols), 0, NoSelection);
 }
 
 void PartScene::ShowMark(const gp_Pnt& point)
@@ -215,16 +252,21 @@ std::optional<PartScene::Hit> PartScene::Detected(int x, int y) const
         return {};
     const Handle(StdSelect_BRepOwner) owner =
         Handle(StdSelect_BRepOwner)::DownCast(m_context->DetectedOwner());
-    if (owner.IsNull() || owner->Shape().ShapeType() != TopAbs_FACE)
+    if (owner.IsNull())
         return {};
-
-    Hit hit{TopoDS::Face(owner->Shape()), m_context->MainSelector()->PickedPoint(1)};
+    Hit hit{owner->Shape(), m_context->MainSelector()->PickedPoint(1)};
+    if (hit.shape.ShapeType() == TopAbs_EDGE) {
+        hit.point = NearestPoint(TopoDS::Edge(hit.shape), hit.point);
+        return hit;
+    }
+    if (hit.shape.ShapeType() != TopAbs_FACE)
+        return {};
     // The viewer's own point is on the facets that are drawn.
     gp_XYZ from;
     gp_XYZ along;
     m_view->ConvertWithProj(x, y, from.ChangeCoord(1), from.ChangeCoord(2), from.ChangeCoord(3),
                             along.ChangeCoord(1), along.ChangeCoord(2), along.ChangeCoord(3));
-    IntCurvesFace_Intersector ray(hit.face, Precision::Confusion());
+    IntCurvesFace_Intersector ray(TopoDS::Face(hit.shape), Precision::Confusion());
     ray.Perform(gp_Lin(from, along), -Precision::Infinite(), Precision::Infinite());
     double nearest = std::numeric_limits<double>::infinity();
     const gp_Pnt drawn = hit.point;

@@ -1,13 +1,16 @@
 #pragma once
 
+#include "ViewSymbol.h"
+
 #include <AIS_ViewController.hxx>
 #include <OpenGl_GraphicDriver.hxx>
 #include <QObject>
 #include <QWindow>
-#include <TopoDS_Face.hxx>
+#include <TopoDS_Shape.hxx>
 #include <V3d_TypeOfOrientation.hxx>
 
 #include <optional>
+#include <vector>
 
 class AIS_InteractiveContext;
 class AIS_InteractiveObject;
@@ -26,10 +29,10 @@ class PartScene : public QObject, public AIS_ViewController
     Q_OBJECT
 
 public:
-    /// A point of the part, and the face that it is on.
+    /// A point of the part, and the face or edge that it is on.
     struct Hit
     {
-        TopoDS_Face face;
+        TopoDS_Shape shape; ///< A face or an edge.
         gp_Pnt point;
     };
 
@@ -43,7 +46,11 @@ public:
 
     void ShowPart(const TopoDS_Shape& shape, bool isShaded);
     void SetShaded(bool isShaded);
+    /// What the cursor finds: faces, edges, or both.
+    void SetPickable(bool hasFaces, bool hasEdges);
     void ShowHighlight(const TopoDS_Shape& shape);
+    /// Shows @p symbols instead of those before.
+    void ShowSymbols(const std::vector<ViewSymbol>& symbols);
     void ShowMark(const gp_Pnt& point);
     void HideMark();
 
@@ -63,7 +70,7 @@ public:
     bool IsTurning() const;
     /// The cursor has left the view.
     void Leave();
-    /// The face under the cursor, which is at (@p x, @p y).
+    /// The face or edge under the cursor, which is at (@p x, @p y).
     std::optional<Hit> Detected(int x, int y) const;
 
 Q_SIGNALS:
@@ -90,5 +97,8 @@ private:
     Handle(AIS_ViewCube) m_cube;
     Handle(AIS_InteractiveObject) m_part;
     Handle(AIS_InteractiveObject) m_highlight;
+    Handle(AIS_InteractiveObject) m_symbols;
     Handle(AIS_InteractiveObject) m_mark;
+    bool m_hasFaces = true; // That the cursor finds.
+    bool m_hasEdges = false;
 };

@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QTimer>
 #include <Standard_Failure.hxx>
+#include <TopoDS.hxx>
 
 namespace {
 
@@ -145,6 +146,25 @@ void PartView::SetDisplayMode(DisplayMode mode)
     WithScene([mode](PartScene& scene) { scene.SetShaded(mode == ShadedWithEdges); });
 }
 
+void PartView::ShowSymbols(const std::vector<ViewSymbol>& symbols)
+{
+    m_symbols = symbols;
+    WithScene([this](PartScene& scene) { scene.ShowSymbols(m_symbols); });
+}
+
+void PartView::PickShapes(bool hasFaces, bool hasEdges)
+{
+    WithScene([=](PartScene& scene) { scene.SetPickable(hasFaces, hasEdges); });
+    PickFace();
+    m_isPickingMany = true;
+}
+
+void PartView::StopPicking()
+{
+    if (m_isPicking)
+        EndPicking();
+}
+
 void PartView::PickFace()
 {
     m_isPicking = true;
@@ -154,7 +174,10 @@ void PartView::PickFace()
 
 void PartView::EndPicking()
 {
+    if (m_isPickingMany)
+        WithScene([](PartScene& scene) { scene.SetPickable(true, false); });
     m_isPicking = false;
+    m_isPickingMany = false;
     m_escape->setEnabled(false);
     unsetCursor();
 }
@@ -198,6 +221,7 @@ void PartView::MakeScene()
         if (m_mark.has_value())
             scene.ShowMark(*m_mark);
         scene.ShowHighlight(m_highlight);
+        scene.ShowSymbols(m_symbols);
         scene.ShowPart(m_shape, m_mode == ShadedWithEdges);
     });
 }
@@ -278,6 +302,14 @@ void PartView::mousePressEvent(QMouseEvent* event)
 void PartView::mouseReleaseEvent(QMouseEvent* event)
 {
     mousePressEvent(event);
+    m_isDoubleClick = false;
+}
+
+void PartView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    // Its release is the second click.
+    m_isDoubleClick = true;
+    mousePressEvent(event);
 }
 
 void PartView::mouseMoveEvent(QMouseEvent* event)
@@ -321,9 +353,21 @@ void PartView::HandleMouse(const QPointF& position)
     });
     // From here on, receivers of the signals may show other shapes.
     TellPoint(hit.has_value() ? std::optional<gp_Pnt>(hit->point) : std::nullopt);
-    if (m_isPicking && wasClicked && hit.has_value()) {
+    if (wasClicked && hit.has_value())
+        TakeClick(hit->shape, hit->point);
+}
+
+void PartView::TakeClick(const TopoDS_Shape& shape, const gp_Pnt& point)
+{
+    if (m_isPickingMany) {
+        Q_EMIT ShapePicked(shape, point);
+    } else if (m_isPicking) {
         EndPicking();
-        Q_EMIT FacePicked(hit->face, hit->point);
+        Q_EMIT FacePicked(TopoDS::Face(shape), point);
+    } else if (m_isDoubleClick) {
+        Q_EMIT FaceDoubleClicked(shape);
+    } else {
+        Q_EMIT FaceClicked(shape);
     }
 }
 

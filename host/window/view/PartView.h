@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ViewSymbol.h"
+
 #include <Graphic3d_Camera.hxx>
 #include <QOpenGLWidget>
 #include <TopoDS_Face.hxx>
@@ -9,6 +11,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class PartScene;
 class QShortcut;
@@ -73,15 +76,28 @@ public:
     /// The next click on a face emits FacePicked(). Escape or CancelPicking() ends the wait with
     /// PickingCancelled(); a click beside the part does not.
     void PickFace();
+    /// Each click on a face or an edge, as wanted, emits ShapePicked(), until StopPicking(). Escape
+    /// or CancelPicking() ends it with PickingCancelled().
+    void PickShapes(bool hasFaces, bool hasEdges);
+    /// Ends PickShapes() without a signal.
+    void StopPicking();
     void CancelPicking();
     bool IsPicking() const { return m_isPicking; }
+
+    /// Shows @p symbols instead of those before.
+    void ShowSymbols(const std::vector<ViewSymbol>& symbols);
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
     /// @p point is the clicked point, exactly on the surface of the face.
     void FacePicked(const TopoDS_Face& face, const gp_Pnt& point);
+    /// @p shape is a face or an edge of the part; @p point is exactly on it.
+    void ShapePicked(const TopoDS_Shape& shape, const gp_Pnt& point);
     void PickingCancelled();
+    /// A click on a face while nothing is to be picked.
+    void FaceClicked(const TopoDS_Shape& face);
+    void FaceDoubleClicked(const TopoDS_Shape& face);
 
     /// The cursor is over this point of the part.
     void PointMoved(const gp_Pnt& point);
@@ -98,6 +114,7 @@ protected:
 
     void changeEvent(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -113,6 +130,7 @@ private:
     void EndPicking();
     /// Lets the scene handle the mouse at @p position, and emits the results.
     void HandleMouse(const QPointF& position);
+    void TakeClick(const TopoDS_Shape& shape, const gp_Pnt& point);
     void TellPoint(const std::optional<gp_Pnt>& point);
     /// The position in the device's pixels.
     QPoint DevicePosition(const QPointF& position) const;
@@ -121,6 +139,7 @@ private:
     // The content for a new scene.
     TopoDS_Shape m_shape;
     TopoDS_Shape m_highlight;
+    std::vector<ViewSymbol> m_symbols;
     std::optional<gp_Pnt> m_mark;
     Handle(Graphic3d_Camera) m_camera; // Null unless an earlier scene left it.
     StandardView m_firstView = IsometricView;
@@ -128,6 +147,8 @@ private:
 
     DisplayMode m_mode = ShadedWithEdges;
     bool m_isPicking = false;
+    bool m_isPickingMany = false; // Until the host ends it.
+    bool m_isDoubleClick = false;
     bool m_isPointKnown = false; // The last signal about the point was PointMoved().
     QPointF m_cursor;            // Where the mouse was last.
     QShortcut* m_escape;
