@@ -2,6 +2,7 @@
 
 #include "BuildError.h"
 #include "GlobalParaMeterMgr.h"
+#include "MaterialLibrary.h"
 #include "NumberTexts.h"
 #include "Project.h"
 #include "ResultsTable.h"
@@ -50,8 +51,21 @@ QString StepPath(const QDir& directory, int run)
     return directory.filePath(QStringLiteral("run_%1.step").arg(run, 4, 10, QLatin1Char('0')));
 }
 
-RunResult BuildRun(const Study& study, int run, const Project& project, KernelWorker& worker,
-                   const QString& stepPath)
+// Of the part, in kg/m3.
+double PartDensity(const Project& project)
+{
+    if (project.Material().isEmpty())
+        return project.Density();
+    ReadMaterials(project.Folder());
+    try {
+        return DensityOf(project.Material());
+    } catch (const MaterialError& error) {
+        throw HostError(QStringLiteral("%1: %2").arg(project.Path(), error.Reason()));
+    }
+}
+
+RunResult BuildRun(const Study& study, int run, const Project& project, double density,
+                   KernelWorker& worker, const QString& stepPath)
 {
     RunResult result;
     // An existing file is not the part of this run. A pipe or a folder stays, and is refused later.
@@ -74,7 +88,7 @@ RunResult BuildRun(const Study& study, int run, const Project& project, KernelWo
     result.ok = reply.outcome == PartReply::Done;
     if (result.ok) {
         result.measures = reply.measures;
-        result.mass = reply.measures.Mass(project.Density());
+        result.mass = reply.measures.Mass(density);
     } else {
         result.error = reply.Reason();
     }
@@ -113,6 +127,7 @@ StudyRunner::Summary StudyRunner::Run()
 {
     const Study study(m_project);
     const auto [first, last] = RequestedRuns(study.RunCount());
+    m_density = PartDensity(m_project);
     const QDir directory(m_options.directory);
     if (!directory.mkpath(QStringLiteral(".")))
         throw HostError(QStringLiteral("%1: cannot create the folder").arg(m_options.directory));
@@ -120,7 +135,7 @@ StudyRunner::Summary StudyRunner::Run()
     ResultsTable table(ParameterNames());
     if (QFileInfo::exists(tablePath))
         table.Read(tablePath);
-    CheckEarlierRuns(study, table, m_project.Density(), tablePath);
+    CheckEarlierRuns(study, table, m_density, tablePath);
     // Before the first part is built: a folder that cannot be written is reported at once.
     table.Write(tablePath);
 
@@ -170,7 +185,7 @@ void StudyRunner::DoRun(const Study& study, int run, const QString& stepPath, Re
         m_tell(QStringLiteral("%1: done before").arg(place));
         return;
     }
-    const RunResult result = BuildRun(study, run, m_project, m_worker, stepPath);
+    const RunResult result = BuildRun(study, run, m_project, m_density, m_worker, stepPath);
     table.Set(run, result);
     if (result.ok) {
         ++summary.ok;

@@ -50,5 +50,6 @@ private:
     const Project& m_project;
     Options m_options;
     std::function<void(const QString&)> m_tell;
+    double m_density = 0.0; // In kg/m3.
     KernelWorker m_worker;
 };

@@ -1,3 +1,4 @@
+#include "EmptyAnalysisStores.h"
 #include "EmptyDesignStores.h"
 #include "FlangeStudy.h"
 #include "HostTestMain.h"
@@ -18,6 +19,8 @@ class tst_StudyRunner : public TestCase
 private Q_SLOTS:
     void EveryRunIsBuiltAndWritten();
     void ARunHoldsTheMeasuresOfItsPart();
+    void TheMassIsThatOfTheMaterial();
+    void AnUnknownMaterialIsRefused();
     void ASecondCallSkipsWhatIsDone();
     void ARunWithoutItsStepFileIsDoneAgain();
     void AFailedRunDoesNotStopTheStudyAndIsTriedAgain();
@@ -108,6 +111,32 @@ void tst_StudyRunner::ARunHoldsTheMeasuresOfItsPart()
     QVERIFY(std::abs(run.measures.volume - volume) <= 1e-9 * volume);
     QCOMPARE(run.mass, run.measures.volume * 7850.0 / 1e9);
     QVERIFY(std::abs(run.measures.boundingBox[5] - 40.0) < 1e-6);
+}
+
+static QByteArray FlangeOf(const QByteArray& material)
+{
+    return Flange().replace("\"density\"", "\"material\": \"" + material + "\", \"density\"");
+}
+
+void tst_StudyRunner::TheMassIsThatOfTheMaterial()
+{
+    const EmptyDesignStores stores;
+    const EmptyAnalysisStores materials;
+    EnterTemporaryDirectory();
+    QCOMPARE(RunStudy(FlangeOf("Aluminium EN AW-6082-T6"), 1, 1).error, QString());
+    const RunResult run = Results().Runs().at(1);
+    QCOMPARE(run.mass, run.measures.volume * 2700.0 / 1e9);
+}
+
+void tst_StudyRunner::AnUnknownMaterialIsRefused()
+{
+    const EmptyDesignStores stores;
+    const EmptyAnalysisStores materials;
+    EnterTemporaryDirectory();
+    QCOMPARE(RunStudy(FlangeOf("Unobtainium")).error,
+             QString("p.json: The material \"Unobtainium\" is neither in the system's library nor "
+                     "in UserMaterial.xml beside the project."));
+    QVERIFY(!QFile::exists("out"));
 }
 
 void tst_StudyRunner::ASecondCallSkipsWhatIsDone()
