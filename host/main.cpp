@@ -6,6 +6,7 @@
 #include "MessageLevel.h"
 #include "Project.h"
 #include "Screenshots.h"
+#include "SolveRunner.h"
 #include "StudyRunner.h"
 #include "WorkerProcess.h"
 
@@ -22,8 +23,9 @@ namespace {
 enum ExitCode
 {
     DoneCode = 0,
-    FailedRunsCode = 1,
-    BadInputCode = 2
+    FailedCode = 1,
+    BadInputCode = 2,
+    BadFolderCode = 3
 };
 
 void Print(FILE* stream, const QString& text)
@@ -43,7 +45,30 @@ int RunStudy(const CommandLine& line)
     StudyRunner runner(project, options, [](const QString& progress) {
         Print(stdout, progress + QLatin1Char('\n'));
     });
-    return runner.Run().failed == 0 ? DoneCode : FailedRunsCode;
+    return runner.Run().failed == 0 ? DoneCode : FailedCode;
+}
+
+void Refuse(const QString& reason)
+{
+    Print(stderr, QStringLiteral("tarnhost: %1\n").arg(reason));
+}
+
+int SolveProject(const CommandLine& line)
+{
+    const Project project = Project::Load(line.projectFile);
+    SolveRunner::Options options;
+    options.directory = line.outputDirectory;
+    options.isStatic = line.isStatic;
+    options.isWithoutRun = line.isWithoutRun;
+    options.values = line.values;
+    SolveRunner runner(project, options, [](const QString& progress) {
+        Print(stdout, progress + QLatin1Char('\n'));
+    });
+    const SolveResultPointer result = runner.Run();
+    if (result->outcome == SolveResult::Done)
+        return DoneCode;
+    Refuse(result->problem);
+    return result->outcome == SolveResult::FolderFailed ? BadFolderCode : FailedCode;
 }
 
 QString WindowLanguage(const CommandLine& line)
@@ -85,8 +110,8 @@ void ChoosePlatform(const CommandLine& line)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     else if (qEnvironmentVariableIsEmpty("DISPLAY") &&
              qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        throw HostError(QStringLiteral(
-            "there is no display; --study and --screenshots work without one, see --help"));
+        throw HostError(QStringLiteral("there is no display; --study, --solve and --screenshots "
+                                       "work without one, see --help"));
 }
 
 // What the toolkit says about a missing desktop is no news to the user.
@@ -113,16 +138,13 @@ int Act(const CommandLine& line)
         return DoneCode;
     case CommandLine::RunStudy:
         return RunStudy(line);
+    case CommandLine::Solve:
+        return SolveProject(line);
     case CommandLine::WriteScreenshots:
         return WritePictures(line);
     default:
         return OpenWindow(line);
     }
-}
-
-void Refuse(const char* reason)
-{
-    Print(stderr, QStringLiteral("tarnhost: %1\n").arg(QString::fromUtf8(reason)));
 }
 
 QStringList Arguments(int argc, char** argv)
@@ -148,9 +170,9 @@ int main(int argc, char** argv)
         HostApplication application(argc, argv);
         return Act(line);
     } catch (const Standard_Failure& failure) {
-        Refuse(failure.GetMessageString());
+        Refuse(QString::fromUtf8(failure.GetMessageString()));
     } catch (const std::exception& error) {
-        Refuse(error.what());
+        Refuse(QString::fromUtf8(error.what()));
     }
     return BadInputCode;
 }

@@ -103,7 +103,7 @@ void tst_Program::BadInputIsRefusedInOneLine_data()
     row("pictures into a file", {"--screenshots", "broken.json"},
         "broken.json: cannot create the folder");
     row("no display", {"p.json"},
-        "there is no display; --study and --screenshots work without one, see --help");
+        "there is no display; --study, --solve and --screenshots work without one, see --help");
 }
 
 void tst_Program::BadInputIsRefusedInOneLine()
