@@ -1394,31 +1394,31 @@
     <name>ModelError</name>
     <message>
         <source>%1: the %2 (%3) has no value: %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2（%3）没有值：%4。</translation>
     </message>
     <message>
         <source>%1: the %2 is %3, but has to be greater than 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2 为 %3，但必须大于 0。</translation>
     </message>
     <message>
         <source>%1: the %2 is %3, but has to be a whole number from 1 to %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2 为 %3，但必须是 1 到 %4 的整数。</translation>
     </message>
     <message>
         <source>The mesh</source>
-        <translation type="unfinished"></translation>
+        <translation>网格</translation>
     </message>
     <message>
         <source>size</source>
-        <translation type="unfinished"></translation>
+        <translation>尺寸</translation>
     </message>
     <message>
         <source>The element property &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>单元属性“%1”</translation>
     </message>
     <message>
         <source>thickness</source>
-        <translation type="unfinished"></translation>
+        <translation>厚度</translation>
     </message>
     <message>
         <source>The boundary condition &quot;%1&quot;</source>
@@ -1430,15 +1430,15 @@
     </message>
     <message>
         <source>force</source>
-        <translation type="unfinished"></translation>
+        <translation>力</translation>
     </message>
     <message>
         <source>A local mesh</source>
-        <translation type="unfinished"></translation>
+        <translation>局部网格</translation>
     </message>
     <message>
         <source>number of elements</source>
-        <translation type="unfinished"></translation>
+        <translation>单元数</translation>
     </message>
     <message>
         <source>The part has no material.</source>
@@ -1507,6 +1507,10 @@
     <message>
         <source>All nodes are held, so nothing can move: hold fewer faces, or make the mesh finer.</source>
         <translation>所有节点都已被约束，无法运动：请减少约束的面，或加密网格。</translation>
+    </message>
+    <message>
+        <source>The mesh has too few nodes for a mode: make it finer.</source>
+        <translation>网格节点太少，无法计算模态：请加密网格。</translation>
     </message>
 </context>
 <context>
@@ -1940,12 +1944,16 @@
         <source>The part cannot be meshed: %1</source>
         <translation>零件无法划分网格：%1</translation>
     </message>
+    <message>
+        <source>The solver found %1 of %2 modes.</source>
+        <translation>求解器找到了 %2 个模态中的 %1 个。</translation>
+    </message>
 </context>
 <context>
     <name>RigidMotions</name>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished">%1 和 %2</translation>
+        <translation>%1 和 %2</translation>
     </message>
     <message>
         <source>free to move along %1</source>
@@ -2142,6 +2150,49 @@
     <message>
         <source>The part has too many faces for a line drawing.</source>
         <translation>零件的面过多，无法绘制线条图。</translation>
+    </message>
+</context>
+<context>
+    <name>SolveJob</name>
+    <message>
+        <source>building the part</source>
+        <translation>正在构建零件</translation>
+    </message>
+    <message>
+        <source>meshing with a size of %1 mm</source>
+        <translation>正在以尺寸 %1 mm 划分网格</translation>
+    </message>
+    <message>
+        <source>reading the mesh</source>
+        <translation>正在读取网格</translation>
+    </message>
+    <message>
+        <source>The mesh has an element that is folded, near (%1, %2, %3) mm: choose another mesh size there.</source>
+        <translation>网格在 (%1, %2, %3) mm 附近有折叠的单元：请在该处选择其他网格尺寸。</translation>
+    </message>
+    <message>
+        <source>%1 elements, %2 nodes, %3 degrees of freedom</source>
+        <translation>%1 个单元，%2 个节点，%3 个自由度</translation>
+    </message>
+    <message>
+        <source>solving</source>
+        <translation>正在求解</translation>
+    </message>
+    <message>
+        <source>reading the results</source>
+        <translation>正在读取结果</translation>
+    </message>
+    <message>
+        <source>The greatest displacement would be %1 mm: pieces of the part can move against each other. Add supports, or join the pieces along faces.</source>
+        <translation>最大位移将为 %1 mm：零件的各部分可以相对移动。请添加支撑，或沿面连接各部分。</translation>
+    </message>
+    <message>
+        <source>The analysis was cancelled.</source>
+        <translation>分析已取消。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory: choose a greater mesh size.</source>
+        <translation>内存不足：请选择更大的网格尺寸。</translation>
     </message>
 </context>
 <context>
