@@ -1,5 +1,6 @@
 #include "ResultsTable.h"
 
+#include "CsvText.h"
 #include "HostError.h"
 #include "WholeFile.h"
 
@@ -21,62 +22,6 @@ const QStringList MeasureNames = {
 QString NumberCell(double value)
 {
     return QString::number(value, 'g', 17);
-}
-
-QString Cell(const QString& text)
-{
-    const bool plain = !text.contains(QLatin1Char(',')) && !text.contains(QLatin1Char('"')) &&
-                       !text.contains(QLatin1Char('\n')) && !text.contains(QLatin1Char('\r'));
-    if (plain)
-        return text;
-    QString quoted = text;
-    quoted.replace(QLatin1Char('"'), QLatin1String("\"\""));
-    return QLatin1Char('"') + quoted + QLatin1Char('"');
-}
-
-QString Line(const QStringList& cells)
-{
-    QStringList line;
-    line.reserve(cells.size());
-    for (const QString& cell : cells)
-        line << Cell(cell);
-    return line.join(QLatin1Char(',')) + QLatin1Char('\n');
-}
-
-// Cells may hold line ends, so the text is split as a whole and not line by line.
-std::vector<QStringList> Split(const QString& text)
-{
-    std::vector<QStringList> rows;
-    QStringList row;
-    QString cell;
-    bool quoted = false;
-    for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text[i];
-        if (quoted) {
-            if (c != QLatin1Char('"')) {
-                cell += c;
-            } else if (i + 1 < text.size() && text[i + 1] == QLatin1Char('"')) {
-                cell += c;
-                ++i;
-            } else {
-                quoted = false;
-            }
-        } else if (c == QLatin1Char('"')) {
-            quoted = true;
-        } else if (c == QLatin1Char(',')) {
-            row << std::exchange(cell, QString());
-        } else if (c == QLatin1Char('\n')) {
-            row << std::exchange(cell, QString());
-            rows.push_back(std::exchange(row, QStringList()));
-        } else if (c != QLatin1Char('\r')) {
-            cell += c;
-        }
-    }
-    if (!cell.isEmpty() || !row.isEmpty()) {
-        row << cell;
-        rows.push_back(row);
-    }
-    return rows;
 }
 
 /// Takes the cells of a row one after the other.
@@ -127,7 +72,7 @@ void ResultsTable::Read(const QString& path)
     QByteArray bytes;
     if (!file.Read(bytes))
         throw HostError(QStringLiteral("%1: %2").arg(path, file.Error()));
-    const std::vector<QStringList> rows = Split(QString::fromUtf8(bytes));
+    const std::vector<QStringList> rows = CsvRows(QString::fromUtf8(bytes));
     const QStringList header = Header();
     if (rows.empty() || rows.front() != header)
         throw HostError(
@@ -168,7 +113,7 @@ void ResultsTable::Read(const QString& path)
 
 void ResultsTable::Write(const QString& path) const
 {
-    QString text = Line(Header());
+    QString text = CsvLine(Header());
     for (const auto& [run, result] : m_runs) {
         QStringList cells(QString::number(run));
         for (const double value : result.values)
@@ -183,7 +128,7 @@ void ResultsTable::Write(const QString& path) const
                 cells << QString();
         }
         cells << (result.ok ? OkStatus : FailedStatus) << result.error;
-        text += Line(cells);
+        text += CsvLine(cells);
     }
 
     tarn::WholeFile file(path, MaximumFileSize);

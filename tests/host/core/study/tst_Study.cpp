@@ -20,6 +20,12 @@ private Q_SLOTS:
     void ExpressionsAreEvaluated();
     void AnExpressionWithoutAValueIsToldByTheRun();
     void WithoutTickedSamplesThereIsNoRun();
+    void EveryDesignHasItsRuns_data();
+    void EveryDesignHasItsRuns();
+    void AParameterOutsideTheDesignKeepsItsValue();
+    void OneAtATimeStartsWithTheOwnValues();
+    void ABadDesignIsRefused_data();
+    void ABadDesignIsRefused();
     void ABadStudyIsRefused_data();
     void ABadStudyIsRefused();
 };
@@ -119,6 +125,111 @@ void tst_Study::WithoutTickedSamplesThereIsNoRun()
     QCOMPARE(Study(WithSamples("")).RunCount(), 0);
     const Project project = WithSamples(R"({"parameter": "a", "values": [5], "ticked": false})");
     QCOMPARE(Study(project).RunCount(), 0);
+}
+
+// Three ticked parameters from 0 to 2, and d, which is not ticked.
+static Project WithDesign(const QByteArray& study, const QByteArray& ticked = "abc")
+{
+    QByteArray samples;
+    for (const char name : ticked)
+        samples += QByteArray(samples.isEmpty() ? "" : ", ") + "{\"parameter\": \"" + name +
+                   "\", \"values\": [2, 0, 1]}";
+    Put("p.json", R"({"version": 2, "parameters": [
+        {"name": "a", "value": 1}, {"name": "b", "value": 5}, {"name": "c", "value": 1},
+        {"name": "d", "value": 7}], "samples": [)" +
+                      samples + R"(], "study": {)" + study + "}}");
+    return Project::Load("p.json");
+}
+
+void tst_Study::EveryDesignHasItsRuns_data()
+{
+    QTest::addColumn<QByteArray>("study");
+    QTest::addColumn<int>("runs");
+    QTest::addColumn<std::vector<double>>("second");
+    using Values = std::vector<double>;
+    NewRow("full factorial", QByteArray(), 27, Values{2, 2, 0});
+    NewRow("full factorial by name", QByteArray(R"("design": "fullFactorial")"), 27,
+           Values{2, 2, 0});
+    NewRow("Latin hypercube of one interval",
+           QByteArray(R"("design": "latinHypercube", "runs": 2, "seed": 1)"), 2, Values());
+    NewRow("Sobol", QByteArray(R"("design": "sobol", "runs": 5)"), 5, Values{1.5, 0.5, 0.5});
+    NewRow("Box-Behnken", QByteArray(R"("design": "boxBehnken")"), 13, Values{0, 2, 1});
+    NewRow("central composite", QByteArray(R"("design": "centralComposite")"), 15, Values{0, 0, 2});
+    NewRow("one at a time", QByteArray(R"("design": "oneAtATime")"), 8, Values{2, 5, 1});
+    NewRow("list", QByteArray(R"("design": "list", "file": "runs.csv")"), 2, Values{4, 5, 6});
+}
+
+void tst_Study::EveryDesignHasItsRuns()
+{
+    const EmptyDesignStores stores;
+    QFETCH(QByteArray, study);
+    QFETCH(std::vector<double>, second);
+    EnterTemporaryDirectory();
+    Put("runs.csv", "a,b,c\n1,2,3\n4,5,6\n");
+    const Project project = WithDesign(study);
+    const Study runs(project);
+    QTEST(runs.RunCount(), "runs");
+    QCOMPARE(runs.Names(), QStringList({"a", "b", "c"}));
+    QCOMPARE(runs.Choose(2), QString());
+    if (!second.empty())
+        QCOMPARE(Stored(), second);
+    QCOMPARE(runs.Values(2), Stored());
+}
+
+void tst_Study::AParameterOutsideTheDesignKeepsItsValue()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    Put("runs.csv", "\xef\xbb\xbf d ,a\r\n1,2\r\n");
+    const Project project = WithDesign(R"("design": "list", "file": "runs.csv")", "a");
+    const Study study(project);
+    study.Choose(1);
+    QCOMPARE(Stored(), std::vector<double>({2, 5, 1}));
+    QCOMPARE(GlobalParaMeterMgr::GetParameterRawValue("d").toDouble(), 1.0);
+}
+
+void tst_Study::OneAtATimeStartsWithTheOwnValues()
+{
+    const EmptyDesignStores stores;
+    EnterTemporaryDirectory();
+    const Project project = WithDesign(R"("design": "oneAtATime")", "bc");
+    const Study study(project);
+    std::vector<std::vector<double>> runs;
+    for (int run = 1; run <= study.RunCount(); ++run)
+        runs.push_back(study.Values(run));
+    const std::vector<std::vector<double>> expected = {{5, 1}, {2, 1}, {0, 1},
+                                                       {1, 1}, {5, 2}, {5, 0}};
+    QCOMPARE(runs, expected);
+}
+
+void tst_Study::ABadDesignIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("study");
+    QTest::addColumn<QByteArray>("ticked");
+    QTest::addColumn<QString>("reason");
+    NewRow("Box-Behnken of two", QByteArray(R"("design": "boxBehnken")"), QByteArray("ab"),
+           QString("p.json: the Box-Behnken design needs at least 3 ticked parameters, not 2"));
+    NewRow("a list without a ticked parameter",
+           QByteArray(R"("design": "list", "file": "runs.csv")"), QByteArray("ad"),
+           QString("runs.csv: row 1: the ticked parameter \"d\" has no column"));
+    NewRow("no list", QByteArray(R"("design": "list", "file": "none.csv")"), QByteArray("a"),
+           QString("none.csv: cannot be opened: No such file or directory"));
+}
+
+void tst_Study::ABadDesignIsRefused()
+{
+    const EmptyDesignStores stores;
+    QFETCH(QByteArray, study);
+    QFETCH(QByteArray, ticked);
+    EnterTemporaryDirectory();
+    Put("runs.csv", "a,b,c\n1,2,3\n4,5,6\n");
+    const Project project = WithDesign(study, ticked);
+    try {
+        const Study runs(project);
+        QFAIL("It was taken.");
+    } catch (const HostError& error) {
+        QTEST(error.Reason(), "reason");
+    }
 }
 
 void tst_Study::ABadStudyIsRefused_data()
