@@ -1,6 +1,7 @@
 #include "ParameterEvaluator.h"
 
 #include "ExpressionEngine.h"
+#include "ExpressionNames.h"
 #include "GlobalParaMeterMgr.h"
 #include "NumberTexts.h"
 
@@ -24,6 +25,26 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(ParameterEvaluator)
 };
 
+QString TextOf(const ParametersDef& record)
+{
+    return QString::fromLocal8Bit(record.m_strExpression.c_str());
+}
+
+QSet<QString> StoredNames()
+{
+    QSet<QString> names;
+    for (const auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters)
+        names.insert(name);
+    return names;
+}
+
+void SetValue(ParametersDef& record, double value)
+{
+    record.m_dValue = value;
+    record.m_varRawValue = value;
+    record.m_strValue = ShortText(value);
+}
+
 /// A parameter with an expression, and the expressions that it depends on.
 struct Node
 {
@@ -46,13 +67,13 @@ class Evaluator
 public:
     explicit Evaluator(const QSet<QString>& held) { CollectNodes(held); }
 
-    std::vector<QString> Run()
+    EvaluationFaults Run()
     {
         for (int node = 0; node < int(m_nodes.size()); ++node) {
             if (m_nodes[std::size_t(node)].order == NotVisited)
                 Search(node);
         }
-        return m_messages;
+        return m_faults;
     }
 
 private:
@@ -61,6 +82,7 @@ private:
     void CollectNodes(const QSet<QString>& held)
     {
         QHash<QString, int> nodeOfName;
+        const QSet<QString> names = StoredNames();
         for (auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters) {
             if (record.m_strExpression.empty() || held.contains(name))
                 continue;
@@ -68,7 +90,7 @@ private:
             Node node;
             node.name = name;
             node.record = &record;
-            node.uses = record.m_strExpressPara.split(QLatin1Char(','), Qt::SkipEmptyParts);
+            node.uses = ParametersIn(TextOf(record), names);
             m_nodes.push_back(std::move(node));
         }
         for (Node& node : m_nodes) {
@@ -153,59 +175,76 @@ private:
             names << At(member).name;
         }
         names << At(node).name;
-        m_messages.push_back(
-            Text::tr("Circular reference: %1").arg(names.join(QStringLiteral(" -> "))));
+        const QString message =
+            Text::tr("Circular reference: %1").arg(names.join(QStringLiteral(" -> ")));
+        m_faults.messages.push_back(message);
         for (const int member : component)
-            At(member).isBad = true;
+            Fail(At(member), message);
+    }
+
+    void Fail(Node& node, const QString& reason)
+    {
+        node.isBad = true;
+        SetValue(*node.record, std::nan(""));
+        m_faults.reasons.insert(node.name, reason);
     }
 
     void Evaluate(Node& node)
     {
         const ParameterMap& store = GlobalParaMeterMgr::m_nameMapParameters;
-        ParametersDef& record = *node.record;
         std::map<std::string, double> variables;
         for (const QString& name : qAsConst(node.uses)) {
             if (store.count(name) == 0) {
-                node.isBad = true;
-                m_messages.push_back(
-                    Text::tr("%1: its expression uses \"%2\", which is not a parameter")
-                        .arg(node.name, name));
+                const QString reason =
+                    Text::tr("its expression uses \"%1\", which is not a parameter").arg(name);
+                Fail(node, reason);
+                m_faults.messages.push_back(QStringLiteral("%1: %2").arg(node.name, reason));
                 return;
             }
             variables[name.toLocal8Bit().toStdString()] =
                 GlobalParaMeterMgr::GetParameterRawValue(name).toDouble();
         }
 
-        const double value = ExpressionEngine::CalculateExpress(record.m_strExpression, variables);
-        record.m_dValue = value;
-        record.m_varRawValue = value;
-        record.m_strValue = ShortText(value);
-        if (!std::isnan(value))
+        const double value =
+            ExpressionEngine::CalculateExpress(node.record->m_strExpression, variables);
+        if (!std::isnan(value)) {
+            SetValue(*node.record, value);
             return;
-
-        // A value that is missing only because of an earlier failure gets no message of its own.
-        node.isBad = true;
-        const bool isConsequence =
-            std::any_of(node.needs.begin(), node.needs.end(), [this](int needed) {
-                return At(needed).isBad && std::isnan(At(needed).record->m_dValue);
-            });
-        if (!isConsequence)
-            m_messages.push_back(QStringLiteral("%1 = %2: %3")
-                                     .arg(node.name,
-                                          QString::fromLocal8Bit(record.m_strExpression.c_str()),
-                                          ExpressionEngine::LastError()));
+        }
+        const QString reason = ExpressionEngine::LastError();
+        const auto bad = std::find_if(node.needs.begin(), node.needs.end(),
+                                      [this](int needed) { return At(needed).isBad; });
+        if (bad != node.needs.end()) {
+            Fail(node, Text::tr("it uses \"%1\", which has no value").arg(At(*bad).name));
+            return;
+        }
+        Fail(node, reason);
+        m_faults.messages.push_back(
+            QStringLiteral("%1 = %2: %3").arg(node.name, TextOf(*node.record), reason));
     }
 
     std::vector<Node> m_nodes;
     std::vector<int> m_path; // From the root of the search to the current node.
     std::vector<int> m_open; // The open nodes, in the order in which they were entered.
     int m_visited = 0;
-    std::vector<QString> m_messages;
+    EvaluationFaults m_faults;
 };
 
 } // namespace
 
-std::vector<QString> EvaluateParameters(const QSet<QString>& held)
+EvaluationFaults EvaluateStore(const QSet<QString>& held)
 {
     return Evaluator(held).Run();
+}
+
+std::vector<QString> EvaluateParameters(const QSet<QString>& held)
+{
+    return EvaluateStore(held).messages;
+}
+
+void NoteUsedParameters()
+{
+    const QSet<QString> names = StoredNames();
+    for (auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters)
+        record.m_strExpressPara = ParametersIn(TextOf(record), names).join(QLatin1Char(','));
 }

@@ -1,16 +1,33 @@
 #pragma once
 
+#include <QHash>
 #include <QSet>
 #include <QString>
 
 #include <vector>
 
-/// Evaluates all expressions of GlobalParaMeterMgr, each after the parameters that it declares to
-/// use, and writes value, raw value and value text into the records as the parameter editor does.
+/// What could not be evaluated.
+struct EvaluationFaults
+{
+    /// One for each record that cannot be evaluated, or for each cycle ("a -> b -> a"). A value
+    /// that is missing only because of another one has no message of its own.
+    std::vector<QString> messages;
+    /// Why a parameter has no value, by its name; also where that is a consequence.
+    QHash<QString, QString> reasons;
+};
+
+/// Evaluates all expressions of GlobalParaMeterMgr, each after the parameters that it uses, and
+/// writes value, raw value and value text into the records as the parameter editor does.
 ///
-/// Returns one message for each record that cannot be evaluated, or for each cycle ("a -> b -> a").
-/// The records of a cycle keep their values, and so does one that uses a name that is not a
-/// parameter. A record whose expression has no finite value then holds NaN. The parameters named in
-/// @p held keep their values even if they have an expression. Takes time proportional to the number
-/// of parameters and declared names.
+/// An expression may use every parameter; m_strExpressPara is not read. A record whose expression
+/// has no finite value then holds NaN: in a cycle, or with a name that is not a parameter. The
+/// parameters named in @p held keep their values even if they have an expression. Takes time
+/// proportional to the number of parameters and used names.
+EvaluationFaults EvaluateStore(const QSet<QString>& held = {});
+
+/// The messages of EvaluateStore().
 std::vector<QString> EvaluateParameters(const QSet<QString>& held = {});
+
+/// Writes the parameters that each expression uses into its record, where the parameter editor
+/// shows them.
+void NoteUsedParameters();

@@ -2,6 +2,7 @@
 
 #include "JsonSection.h"
 #include "NumberTexts.h"
+#include "SampleSpacing.h"
 
 #include <algorithm>
 #include <cmath>
@@ -57,12 +58,17 @@ QString FaultText(SampleRange::Fault fault)
 
 bool MatchesRange(const std::vector<double>& values, const SampleRange& range)
 {
-    std::vector<double> samples = range.Samples();
+    const std::vector<double> samples = range.Samples();
     if (samples.empty())
         return false;
     if (AreSame(values, samples))
         return true;
-    for (double& sample : samples)
-        sample = ShortText(sample).toDouble();
-    return AreSame(values, samples);
+    const double error = std::max(std::abs(range.min), std::abs(range.max)) * 1e-12;
+    return std::equal(values.begin(), values.end(), samples.begin(), samples.end(),
+                      [&](double value, double sample) {
+                          const bool isCut = IsSame(value, ShortText(sample).toDouble());
+                          return IsSame(value, sample) ||
+                                 (isCut && (range.spacing != SampleSpacing::Linear ||
+                                            std::abs(value - sample) <= error));
+                      });
 }

@@ -26,6 +26,6 @@ struct SampleList
 /// ...". Empty without a fault.
 QString FaultText(SampleRange::Fault fault);
 
-/// Whether @p values are the samples of @p range: exactly, or as the sampling dialog stores them,
-/// cut to the six digits of its cells.
+/// Whether @p values are the samples of @p range, apart from rounding errors. Logarithms may be cut
+/// to the six digits of the sampling dialog's cells.
 bool MatchesRange(const std::vector<double>& values, const SampleRange& range);
