@@ -1,9 +1,7 @@
-#include "AnalysisFiles.h"
 #include "CommandLine.h"
 #include "HostApplication.h"
 #include "Language.h"
 #include "MainWindow.h"
-#include "MessageLevel.h"
 #include "Project.h"
 #include "Screenshots.h"
 #include "SolveRunner.h"
@@ -82,12 +80,11 @@ int OpenWindow(const CommandLine& line)
     // What is wrong with the file goes to the console, which knows no other language.
     const Project project = Project::Load(line.projectFile);
     const Language language(WindowLanguage(line));
-    const QString warning = ReadAnalysisFiles();
     MainWindow window;
-    if (!warning.isEmpty())
-        PostMessageToChannel(WarningLevel, warning);
     window.show();
-    window.OpenProject(project);
+    const bool isSample = line.projectFile == Project::SamplePath();
+    if (!isSample || !window.OfferAbandonedProject())
+        window.OpenProject(project);
     return HostApplication::exec();
 }
 

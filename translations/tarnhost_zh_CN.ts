@@ -81,6 +81,29 @@
         <source>No system library of materials: cannot write SysMaterial.xml</source>
         <translation>没有系统材料库：无法写入 SysMaterial.xml</translation>
     </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>无法写入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>AnalysisParameters</name>
+    <message>
+        <source>mesh size</source>
+        <translation>网格尺寸</translation>
+    </message>
+    <message>
+        <source>element property %1</source>
+        <translation>单元属性 %1</translation>
+    </message>
+    <message>
+        <source>load %1</source>
+        <translation>载荷 %1</translation>
+    </message>
+    <message>
+        <source>local mesh size</source>
+        <translation>局部网格尺寸</translation>
+    </message>
 </context>
 <context>
     <name>AnalysisTargets</name>
@@ -264,6 +287,13 @@
     <message>
         <source>Local meshes</source>
         <translation>局部网格</translation>
+    </message>
+</context>
+<context>
+    <name>Autosave</name>
+    <message>
+        <source>The changes are not saved automatically: %1</source>
+        <translation>无法自动保存更改：%1</translation>
     </message>
 </context>
 <context>
@@ -534,10 +564,6 @@
 <context>
     <name>DesignActions</name>
     <message>
-        <source>&amp;Restore parameters</source>
-        <translation>恢复参数(&amp;R)</translation>
-    </message>
-    <message>
         <source>&amp;Parameters</source>
         <translation>参数(&amp;P)</translation>
     </message>
@@ -546,16 +572,39 @@
         <translation>试验设计(&amp;E)</translation>
     </message>
     <message>
-        <source>What was saved are the values of a run; &quot;Restore parameters&quot; brings the design back</source>
-        <translation>保存的是某次运行的值；“恢复参数”可恢复原设计</translation>
+        <source>&amp;Back to the design</source>
+        <translation>返回设计(&amp;B)</translation>
     </message>
     <message>
-        <source>The parameters are as before the design of experiments</source>
-        <translation>参数已恢复到试验设计之前的状态</translation>
+        <source>Remove parameters?</source>
+        <translation>删除参数？</translation>
     </message>
     <message>
-        <source>Removed parameters: %1</source>
-        <translation>已删除参数：%1</translation>
+        <source>They are used by: %1.
+
+Remove these as well?</source>
+        <translation>它们被以下对象使用：%1。
+
+是否一并删除？</translation>
+    </message>
+    <message>
+        <source>Remove parameters: %1</source>
+        <translation>删除参数：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DesignModel</name>
+    <message>
+        <source>there is no parameter %1</source>
+        <translation>没有参数 %1</translation>
+    </message>
+    <message>
+        <source>Rename %1 to %2</source>
+        <translation>将 %1 重命名为 %2</translation>
+    </message>
+    <message>
+        <source>The parameters are those of the design again</source>
+        <translation>参数已恢复为设计值</translation>
     </message>
 </context>
 <context>
@@ -568,8 +617,31 @@
 <context>
     <name>DoeSession</name>
     <message>
-        <source>Run taken: %1. The other parameters, %2 of them, have their values from before again.</source>
-        <translation>已采用该次运行：%1。其余 %2 个参数已恢复为之前的值。</translation>
+        <source>Tick %1</source>
+        <translation>勾选 %1</translation>
+    </message>
+    <message>
+        <source>Untick %1</source>
+        <translation>取消勾选 %1</translation>
+    </message>
+    <message>
+        <source>Samples of %1</source>
+        <translation>%1 的样本</translation>
+    </message>
+    <message>
+        <source>Run taken: %1. The other parameters, %2 of them, have their values of the design.</source>
+        <translation>已采用试验：%1。其余 %2 个参数取设计值。</translation>
+    </message>
+</context>
+<context>
+    <name>EditorSession</name>
+    <message>
+        <source>The parameter %1 was not changed: %2</source>
+        <translation>参数 %1 未更改：%2</translation>
+    </message>
+    <message>
+        <source>Edit parameters</source>
+        <translation>编辑参数</translation>
     </message>
 </context>
 <context>
@@ -1289,6 +1361,14 @@
         <source>View</source>
         <translation>视图</translation>
     </message>
+    <message>
+        <source>Project</source>
+        <translation>项目</translation>
+    </message>
+    <message>
+        <source>Lengths in mm, angles in degrees, forces in N, masses in kg</source>
+        <translation>长度单位 mm，角度单位度，力单位 N，质量单位 kg</translation>
+    </message>
 </context>
 <context>
     <name>MaterialError</name>
@@ -1521,18 +1601,151 @@
     </message>
 </context>
 <context>
+    <name>ParameterError</name>
+    <message>
+        <source>there is no type %1</source>
+        <translation>没有类型 %1</translation>
+    </message>
+    <message>
+        <source>there are more than %1 rows</source>
+        <translation>超过 %1 行</translation>
+    </message>
+    <message>
+        <source>there are two parameters %1</source>
+        <translation>有两个参数 %1</translation>
+    </message>
+    <message>
+        <source>row %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>%1 is not a number</source>
+        <translation>%1 不是数值</translation>
+    </message>
+    <message>
+        <source>%1 is neither &quot;true&quot; nor &quot;false&quot;</source>
+        <translation>%1 既不是“true”也不是“false”</translation>
+    </message>
+    <message>
+        <source>%1 is not a vector: type three numbers with commas between them</source>
+        <translation>%1 不是矢量：请输入以逗号分隔的三个数值</translation>
+    </message>
+    <message>
+        <source>a value is missing: type a number or an expression</source>
+        <translation>缺少值：请输入数值或表达式</translation>
+    </message>
+    <message>
+        <source>%1 is not a name: it has to begin with a letter, and letters, digits and underscores may follow</source>
+        <translation>%1 不是有效名称：必须以字母开头，后面可以是字母、数字和下划线</translation>
+    </message>
+    <message>
+        <source>there is already a parameter %1</source>
+        <translation>已有参数 %1</translation>
+    </message>
+</context>
+<context>
     <name>ParameterEvaluator</name>
     <message>
         <source>Circular reference: %1</source>
         <translation>表达式相互依赖：%1</translation>
     </message>
     <message>
-        <source>%1: its expression uses &quot;%2&quot;, which is not a parameter</source>
-        <translation>%1：其表达式使用的“%2”不是参数</translation>
+        <source>its expression uses &quot;%1&quot;, which is not a parameter</source>
+        <translation>其表达式使用了“%1”，它不是参数</translation>
+    </message>
+    <message>
+        <source>it uses &quot;%1&quot;, which has no value</source>
+        <translation>它使用的“%1”没有值</translation>
     </message>
 </context>
 <context>
-    <name>ParameterOverview</name>
+    <name>ParameterPanel</name>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>表格 (*.csv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>&amp;New parameter</source>
+        <translation>新建参数(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove parameters</source>
+        <translation>删除参数(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Move &amp;up</source>
+        <translation>上移(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move &amp;down</source>
+        <translation>下移(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Import CSV</source>
+        <translation>导入 CSV(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Export CSV</source>
+        <translation>导出 CSV(&amp;E)</translation>
+    </message>
+    <message>
+        <source>New parameter</source>
+        <translation>新建参数</translation>
+    </message>
+    <message>
+        <source>Move parameters</source>
+        <translation>移动参数</translation>
+    </message>
+    <message>
+        <source>Paste parameters</source>
+        <translation>粘贴参数</translation>
+    </message>
+    <message>
+        <source>No parameters were taken: %1</source>
+        <translation>未采用任何参数：%1</translation>
+    </message>
+    <message>
+        <source>Import parameters</source>
+        <translation>导入参数</translation>
+    </message>
+    <message>
+        <source>Export parameters</source>
+        <translation>导出参数</translation>
+    </message>
+    <message>
+        <source>Wrote %1</source>
+        <translation>已写入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterRemoval</name>
+    <message>
+        <source>parameter %1</source>
+        <translation>参数 %1</translation>
+    </message>
+    <message>
+        <source>feature %1</source>
+        <translation>特征 %1</translation>
+    </message>
+    <message>
+        <source>condition %1</source>
+        <translation>条件 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterTable</name>
     <message>
         <source>Bool</source>
         <translation>布尔</translation>
@@ -1554,36 +1767,56 @@
         <translation>未知（%1）</translation>
     </message>
     <message>
-        <source>Stored parameters</source>
-        <translation>存储的参数</translation>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>参数</translation>
     </message>
     <message>
         <source>Name</source>
         <translation>名称</translation>
     </message>
     <message>
-        <source>Type</source>
-        <translation>类型</translation>
+        <source>Number or expression</source>
+        <translation>数值或表达式</translation>
     </message>
     <message>
-        <source>Value</source>
-        <translation>值</translation>
+        <source>y</source>
+        <translation>y</translation>
     </message>
     <message>
-        <source>Raw value</source>
-        <translation>原始值</translation>
+        <source>z</source>
+        <translation>z</translation>
     </message>
     <message>
-        <source>Expression</source>
-        <translation>表达式</translation>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
     </message>
     <message>
         <source>Description</source>
         <translation>描述</translation>
     </message>
     <message>
-        <source>&amp;Remove parameters</source>
-        <translation>删除参数(&amp;R)</translation>
+        <source>No expression can use a parameter of this name</source>
+        <translation>任何表达式都不能使用此名称的参数</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>修改 %1</translation>
+    </message>
+    <message>
+        <source>not taken: %1</source>
+        <translation>未采用：%1</translation>
+    </message>
+    <message>
+        <source>The parameter was not changed: %1</source>
+        <translation>参数未更改：%1</translation>
     </message>
 </context>
 <context>
@@ -1913,6 +2146,140 @@
         <source>&quot;%1&quot; has changes that are not saved.</source>
         <translation>“%1”有未保存的更改。</translation>
     </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>还原(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;New project</source>
+        <translation>新建项目(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>最近的项目(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Project properties</source>
+        <translation>项目属性(&amp;P)</translation>
+    </message>
+    <message>
+        <source>%1 is open in another window, too: who saves last replaces what the other one has saved</source>
+        <translation>%1 也在另一个窗口中打开：后保存者会覆盖先保存的内容</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has changes of %2 that were not saved before the program ended. Recover them?</source>
+        <translation>“%1”有 %2 的更改在程序结束前未保存。是否恢复？</translation>
+    </message>
+    <message>
+        <source>Recover changes?</source>
+        <translation>恢复更改？</translation>
+    </message>
+    <message>
+        <source>Changes that were saved automatically cannot be recovered: %1</source>
+        <translation>无法恢复自动保存的更改：%1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of %2 was never saved before the program ended. Recover it?</source>
+        <translation>%2 的“%1”在程序结束前从未保存。是否恢复？</translation>
+    </message>
+    <message>
+        <source>New project</source>
+        <translation>新项目</translation>
+    </message>
+    <message>
+        <source>The project is empty: start with a body of the menu &quot;Model&quot; or with a parameter</source>
+        <translation>项目为空：请从“模型”菜单中的实体或从参数开始</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>暂无</translation>
+    </message>
+    <message>
+        <source>Revert?</source>
+        <translation>还原？</translation>
+    </message>
+    <message>
+        <source>All changes since the project was saved will be lost, and cannot be undone.</source>
+        <translation>自上次保存以来的所有更改都将丢失，且无法撤销。</translation>
+    </message>
+    <message>
+        <source>%1 of this project was not saved: %2 has another one</source>
+        <translation>此项目的 %1 未保存：%2 中已有另一个同名文件</translation>
+    </message>
+    <message>
+        <source>%1 - %2[*] - Tarn host</source>
+        <translation>%1 - %2[*] - Tarn host</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectProperties</name>
+    <message>
+        <source>Project properties</source>
+        <translation>项目属性</translation>
+    </message>
+    <message>
+        <source>&amp;Title</source>
+        <translation>标题(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Material</source>
+        <translation>材料(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Density without a material, kg/m³</source>
+        <translation>无材料时的密度 (kg/m³)(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Conditions that the parameters have to meet</source>
+        <translation>参数必须满足的条件(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>表达式</translation>
+    </message>
+    <message>
+        <source>Message if it does not hold</source>
+        <translation>不满足时的消息</translation>
+    </message>
+    <message>
+        <source>&amp;Add condition</source>
+        <translation>添加条件(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove condition</source>
+        <translation>删除条件(&amp;R)</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>The density %1 is not a number above 0.</source>
+        <translation>密度 %1 不是大于 0 的数值。</translation>
+    </message>
+    <message>
+        <source>The condition with the message %1 has no expression.</source>
+        <translation>消息为 %1 的条件没有表达式。</translation>
+    </message>
+    <message>
+        <source>The condition %1 does not hold.</source>
+        <translation>条件 %1 不满足。</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectSession</name>
+    <message>
+        <source>Analysis set-up</source>
+        <translation>分析设置</translation>
+    </message>
+    <message>
+        <source>Recover changes</source>
+        <translation>恢复更改</translation>
+    </message>
+    <message>
+        <source>Project properties</source>
+        <translation>项目属性</translation>
+    </message>
 </context>
 <context>
     <name>ResultError</name>
@@ -1966,6 +2333,17 @@
     <message>
         <source>free to move along %1 and to turn about %2</source>
         <translation>可沿 %1 移动并可绕 %2 转动</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>The part is a run of the experiments. Saving the project saves the design.</source>
+        <translation>当前零件是一次试验。保存项目时保存的是设计。</translation>
+    </message>
+    <message>
+        <source>Back to the design</source>
+        <translation>返回设计</translation>
     </message>
 </context>
 <context>

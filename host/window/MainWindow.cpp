@@ -6,11 +6,12 @@
 #include "AnalysisTargets.h"
 #include "AnalysisTree.h"
 #include "DesignActions.h"
+#include "DesignModel.h"
 #include "FeatureFields.h"
 #include "FeatureTree.h"
 #include "MessageDock.h"
 #include "MessageLevel.h"
-#include "ParameterOverview.h"
+#include "ParameterPanel.h"
 #include "PartActions.h"
 #include "PartModel.h"
 #include "PartPanel.h"
@@ -18,62 +19,87 @@
 #include "PositionDock.h"
 #include "Project.h"
 #include "ProjectActions.h"
+#include "ProjectSession.h"
+#include "RunBar.h"
 #include "SetupCheckDock.h"
 #include "ShapePicker.h"
 #include "SolverActions.h"
 #include "ViewActions.h"
+#include "WindowState.h"
 
 #include <QCloseEvent>
+#include <QIcon>
+#include <QLabel>
 #include <QMenuBar>
+#include <QStatusBar>
 #include <QToolBar>
+#include <QVBoxLayout>
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , m_analysis(new AnalysisRecords(this))
+    , m_design(new DesignModel(this))
     , m_part(new PartModel(this))
+    , m_session(new ProjectSession(*m_design, *m_part, *m_analysis, this))
     , m_summary(new PartPanel(this))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(tr("Tarn host"));
-    resize(1440, 940);
-    setCentralWidget(m_summary);
     CreateDocks();
     CreateMenus();
+    CreateToolBars();
+    CreateViewMenu();
     ConnectPart();
+    WindowState::Restore(*this);
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    // Before the part: the steps on its undo stack are the session's.
+    delete m_projectActions;
+    delete m_session;
+}
 
 void MainWindow::CreateDocks()
 {
+    auto* const centre = new QWidget(this);
+    auto* const layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* const bar = new RunBar(*m_design, centre);
+    connect(bar, &RunBar::BackWanted, m_design, &DesignModel::BackToDesign);
+    layout->addWidget(bar);
+    layout->addWidget(m_summary, 1);
+    setCentralWidget(centre);
+
     m_features = new FeatureTree(*m_part, this);
     m_fields = new FeatureFields(*m_part, this);
     m_position = new PositionDock(m_summary->View(), this);
     m_messages = new MessageDock(this);
     m_tree = new AnalysisTree(*m_analysis, this);
     m_check = new SetupCheckDock(this);
-    m_overview = new ParameterOverview(this);
+    m_parameters = new ParameterPanel(*m_design, this);
     addDockWidget(Qt::LeftDockWidgetArea, m_features);
     addDockWidget(Qt::LeftDockWidgetArea, m_fields);
-    addDockWidget(Qt::LeftDockWidgetArea, m_position);
     tabifyDockWidget(m_features, m_tree);
     m_features->raise();
-    addDockWidget(Qt::BottomDockWidgetArea, m_overview);
+    // Empty until a feature is selected or the cursor is on the part.
+    tabifyDockWidget(m_fields, m_position);
+    m_fields->raise();
+    addDockWidget(Qt::BottomDockWidgetArea, m_parameters);
     addDockWidget(Qt::BottomDockWidgetArea, m_messages);
     tabifyDockWidget(m_messages, m_check);
     m_check->hide();
-    resizeDocks({m_features}, {470}, Qt::Horizontal);
-    resizeDocks({m_features, m_fields, m_position}, {265, 275, 50}, Qt::Vertical);
-    resizeDocks({m_overview, m_messages}, {820, 620}, Qt::Horizontal);
-    resizeDocks({m_messages}, {260}, Qt::Vertical);
-    m_overview->Refresh();
+    resizeDocks({m_features}, {400}, Qt::Horizontal);
+    resizeDocks({m_features, m_fields}, {300, 240}, Qt::Vertical);
+    resizeDocks({m_parameters, m_messages}, {820, 620}, Qt::Horizontal);
+    resizeDocks({m_messages}, {230}, Qt::Vertical);
 }
 
 void MainWindow::CreateMenus()
 {
-    m_projectActions = new ProjectActions(*m_part, this);
+    m_projectActions = new ProjectActions(*m_session, this);
     m_projectActions->FillMenu(*menuBar()->addMenu(tr("&File")));
-    m_designActions = new DesignActions(this);
+    m_designActions = new DesignActions(*m_design, *m_part, *m_analysis, m_summary, this);
     m_designActions->FillMenu(*menuBar()->addMenu(tr("&Design")));
     m_partActions = new PartActions(*m_part, *m_features, *m_fields, m_summary->View(), this);
     m_partActions->FillMenu(*menuBar()->addMenu(tr("&Model")));
@@ -87,27 +113,52 @@ void MainWindow::CreateMenus()
     auto* const solver = new SolverActions(this);
     solver->FillMenu(*menuBar()->addMenu(tr("&Solver")));
 
+    // Dialogs write to the shared stores, which emit no signals: whatever an action has changed is
+    // a step of its own.
+    const QList<QAction*> menus = menuBar()->actions();
+    for (const QAction* const menu : menus) {
+        connect(menu->menu(), &QMenu::triggered, m_session, [this](const QAction* action) {
+            m_session->TakeChange(action->text().remove(QLatin1Char('&')));
+        });
+    }
+    connect(m_designActions, &DesignActions::SamplesEdited, m_session, &ProjectSession::TakeChange);
+    connect(m_parameters, &ParameterPanel::RemovalWanted, m_designActions,
+            &DesignActions::RemoveParameters);
+    connect(m_session, &ProjectSession::Opened, m_summary, &PartPanel::Clear);
+}
+
+void MainWindow::CreateToolBars()
+{
+    QToolBar* const toolBar = addToolBar(tr("Project"));
+    toolBar->setObjectName(QStringLiteral("projectToolBar"));
+    const std::pair<const char*, const char*> actions[] = {{"action_NewProject", "document-new"},
+                                                           {"action_OpenProject", "document-open"},
+                                                           {"action_SaveProject", "document-save"},
+                                                           {"action_Undo", "edit-undo"},
+                                                           {"action_Redo", "edit-redo"}};
+    for (const auto& [name, icon] : actions) {
+        auto* const action = findChild<QAction*>(QLatin1String(name));
+        action->setIcon(QIcon::fromTheme(QLatin1String(icon)));
+        toolBar->addAction(action);
+    }
+    statusBar()->addPermanentWidget(
+        new QLabel(tr("Lengths in mm, angles in degrees, forces in N, masses in kg"), this));
+}
+
+void MainWindow::CreateViewMenu()
+{
     QMenu& view = *menuBar()->addMenu(tr("&View"));
     const ViewActions* const viewActions = new ViewActions(m_summary->View(), this);
     viewActions->FillMenu(view);
     view.addSeparator();
-    const QList<QDockWidget*> docks = {m_features, m_fields,   m_position, m_tree,
-                                       m_overview, m_messages, m_check};
+    const QList<QDockWidget*> docks = {m_features,   m_fields,   m_position, m_tree,
+                                       m_parameters, m_messages, m_check};
     for (const QDockWidget* const dock : docks)
         view.addAction(dock->toggleViewAction());
     QToolBar* const toolBar = addToolBar(tr("View"));
     toolBar->setObjectName(QStringLiteral("viewToolBar"));
     viewActions->FillToolBar(*toolBar);
     toolBar->setVisible(m_summary->View() != nullptr);
-
-    connect(m_projectActions, &ProjectActions::Opened, this, &MainWindow::StartProject);
-    connect(m_projectActions, &ProjectActions::Saved, m_designActions,
-            &DesignActions::WarnIfRunIsStored);
-    connect(m_designActions, &DesignActions::ParametersChanged, this, &MainWindow::ApplyParameters);
-    connect(m_overview, &ParameterOverview::RemovalWanted, m_designActions,
-            &DesignActions::RemoveParameters);
-    connect(m_designActions, &DesignActions::SamplesEdited, m_projectActions,
-            &ProjectActions::UpdateModified);
 }
 
 void MainWindow::ConnectPart()
@@ -130,19 +181,9 @@ void MainWindow::OpenProject(const Project& project)
     m_projectActions->Open(project);
 }
 
-void MainWindow::StartProject()
+bool MainWindow::OfferAbandonedProject()
 {
-    m_analysis->Clear();
-    m_summary->Clear();
-    m_designActions->Start();
-    m_overview->Refresh();
-}
-
-void MainWindow::ApplyParameters()
-{
-    m_projectActions->UpdateModified();
-    m_overview->Refresh();
-    m_part->Rebuild();
+    return m_projectActions->OfferAbandoned();
 }
 
 void MainWindow::ShowBuiltPart()
@@ -150,7 +191,7 @@ void MainWindow::ShowBuiltPart()
     if (m_part->Shape().IsNull())
         m_summary->Clear();
     else
-        m_summary->ShowShape(m_part->Shape(), m_part->Measures(), m_projectActions->Density());
+        m_summary->ShowShape(m_part->Shape(), m_part->Measures(), m_session->Density());
     PostMessageToChannel(InfoLevel, tr("The part was built"));
 }
 
@@ -173,4 +214,8 @@ void MainWindow::ShowSelectedFeature()
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(m_projectActions->ConfirmDiscard());
+    if (!event->isAccepted())
+        return;
+    m_projectActions->Close();
+    WindowState::Store(*this);
 }

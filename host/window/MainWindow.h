@@ -4,23 +4,25 @@
 
 class AnalysisRecords;
 class DesignActions;
+class DesignModel;
 class FeatureFields;
 class FeatureTree;
 class MessageDock;
 class AnalysisTree;
 class PartActions;
-class ParameterOverview;
+class ParameterPanel;
 class PartModel;
 class PositionDock;
 class ShapePicker;
 class AnalysisMarks;
 class Project;
 class ProjectActions;
+class ProjectSession;
 class PartPanel;
 class SetupCheckDock;
 
-/// The host's window: menus that run the dialogs, and views of the messages, the stored parameters,
-/// the features and the part that they build.
+/// The host's window: menus that run the dialogs, and views of the messages, the parameters, the
+/// features and the part that they build.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -31,12 +33,18 @@ public:
 
     /// Replaces the content of the stores with @p project and builds its part.
     void OpenProject(const Project& project);
+    /// Offers a project that was never saved and that a crash has left; true if it was opened.
+    bool OfferAbandonedProject();
 
     /// The analysis set-up, which menu and tree share; the window owns it.
     AnalysisRecords& Analysis() { return *m_analysis; }
     /// The part; the window owns it.
     PartModel& Part() { return *m_part; }
     FeatureTree& Features() { return *m_features; }
+    /// The open project; the window owns it.
+    ProjectSession& Session() { return *m_session; }
+    /// The parameters; the window owns them.
+    DesignModel& Design() { return *m_design; }
 
 protected:
     /// Asks before discarding changes.
@@ -47,18 +55,20 @@ private:
     void CreateMenus();
     void ConnectPart();
 
-    void StartProject();
-    void ApplyParameters();
+    void CreateToolBars();
+    void CreateViewMenu();
     void ShowBuiltPart();
     void ShowFailure(const QString& reason);
     void ShowSelectedFeature();
 
     AnalysisRecords* m_analysis;
+    DesignModel* m_design;
     PartModel* m_part;
+    ProjectSession* m_session;
     PartPanel* m_summary;
 
     MessageDock* m_messages = nullptr;
-    ParameterOverview* m_overview = nullptr;
+    ParameterPanel* m_parameters = nullptr;
     AnalysisTree* m_tree = nullptr;
     SetupCheckDock* m_check = nullptr;
     FeatureTree* m_features = nullptr;

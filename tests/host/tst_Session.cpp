@@ -135,7 +135,7 @@ double StoredThickness(const Project& project)
 
 void tst_Session::AUserEditsBuildsSavesAndQuits()
 {
-    EnterTemporaryDirectory();
+    const QString directory = EnterTemporaryDirectory();
     QByteArray project = ContentOf(SourcePath("host/samples/flange.json"));
     Put("mine.json", project.replace("Bolted flange", "My flange"));
     const TwinEditor twin(Project::Load("mine.json"));
@@ -143,8 +143,8 @@ void tst_Session::AUserEditsBuildsSavesAndQuits()
     RunningHost host;
     host.EnterWindow("Bolted flange - Tarn host");
     host.user.Press({"Control_L", "o"});
-    host.ChooseFile("Open project", "mine.json");
-    host.EnterWindow("My flange - Tarn host");
+    host.ChooseFile("Open project", directory + "/mine.json");
+    host.EnterWindow("My flange - mine.json - Tarn host");
 
     host.user.Press({"Alt_L", "d"});
     host.user.Press({"p"});
@@ -154,7 +154,7 @@ void tst_Session::AUserEditsBuildsSavesAndQuits()
     host.user.Press({"Return"});
     host.user.Click(host.window, twin.PlaceOfButton("pushButton_OK"));
     host.WaitForEnd("ParameterEditor");
-    host.EnterWindow("My flange* - Tarn host");
+    host.EnterWindow("My flange - mine.json* - Tarn host");
 
     host.user.Press({"Alt_L", "m"});
     host.user.Press({"x"});
@@ -164,9 +164,9 @@ void tst_Session::AUserEditsBuildsSavesAndQuits()
     QVERIFY2(qAbs(measures.boundingBox[5] - (33.0 + 30.0)) < 1e-6,
              qPrintable(QString::number(measures.boundingBox[5])));
 
-    host.EnterWindow("My flange* - Tarn host");
+    host.EnterWindow("My flange - mine.json* - Tarn host");
     host.user.Press({"Control_L", "s"});
-    host.EnterWindow("My flange - Tarn host");
+    host.EnterWindow("My flange - mine.json - Tarn host");
     const Project saved = Project::Load("mine.json");
     QCOMPARE(StoredThickness(saved), 33.0);
     QVERIFY(saved.Features() == Project::Load(SourcePath("host/samples/flange.json")).Features());

@@ -2,8 +2,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFile>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTextCodec>
 #include <QVector>
 
@@ -199,6 +201,10 @@ QString SourcePath(const QString& place)
 
 void PrepareTestProgram()
 {
+    // Neither reads nor changes the settings and data of the user.
+    static const QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()) + "/config");
+    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()) + "/data");
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (qEnvironmentVariableIsEmpty("LOCPATH"))

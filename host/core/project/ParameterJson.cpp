@@ -1,6 +1,5 @@
 #include "ParameterJson.h"
 
-#include "GlobalParaMeterMgr.h"
 #include "JsonSection.h"
 #include "NumberTexts.h"
 #include "ProjectKeys.h"
@@ -56,13 +55,14 @@ QJsonValue Finite(double value)
     return std::isfinite(value) ? QJsonValue(value) : QJsonValue();
 }
 
-QJsonValue ValueOf(const ParametersDef& record)
+QJsonValue ValueOf(const ParameterEntry& entry)
 {
+    const ParametersDef& record = entry.record;
     switch (record.m_nType) {
     case ParametersDef::BoolType:
-        return record.m_strValue.toDouble() != 0.0;
+        return entry.Number() != 0.0;
     case ParametersDef::ScalarType:
-        return Finite(GlobalParaMeterMgr::GetParameterRawValue(record.m_strName).toDouble());
+        return Finite(entry.Number());
     case ParametersDef::VectorType:
         return QJsonArray{record.m_dX, record.m_dY, record.m_dZ};
     default:
@@ -72,15 +72,17 @@ QJsonValue ValueOf(const ParametersDef& record)
 
 } // namespace
 
-ParametersDef ReadParameter(const QJsonValue& value, int number)
+ParameterEntry ReadParameter(const QJsonValue& value, int number)
 {
-    const std::initializer_list<QLatin1String> keys = {NameKey,       TypeKey, ValueKey,
-                                                       ExpressionKey, UsesKey, DescriptionKey};
+    const std::initializer_list<QLatin1String> keys = {
+        NameKey, TypeKey, ValueKey, UnitKey, ExpressionKey, UsesKey, DescriptionKey};
     const QString place = JsonError::tr("parameter %1").arg(number);
     const QString name = JsonSection(place, value, keys).GivenText(NameKey);
     const JsonSection section(JsonError::tr("%1, %2,").arg(place, Quoted(name)), value, keys);
 
-    ParametersDef record;
+    ParameterEntry entry;
+    entry.unit = section.Text(UnitKey);
+    ParametersDef& record = entry.record;
     record.m_strName = name;
     const QString type = section.Text(TypeKey, TypeWords[ParametersDef::ScalarType]);
     record.m_nType = CodeOf(type, TypeWords);
@@ -90,16 +92,17 @@ ParametersDef ReadParameter(const QJsonValue& value, int number)
     record.m_strExpressPara = section.Texts(UsesKey).join(QLatin1Char(','));
     record.m_strDescription = section.Text(DescriptionKey);
     ReadValue(section, record);
-    return record;
+    return entry;
 }
 
-QJsonObject ToJson(const ParametersDef& record)
+QJsonObject ToJson(const ParameterEntry& entry)
 {
+    const ParametersDef& record = entry.record;
     QJsonObject json{{NameKey, record.m_strName}};
     if (record.m_nType >= 0 && record.m_nType < int(TypeWords.size()))
         json.insert(TypeKey, TypeWords[std::size_t(record.m_nType)]);
-    const QJsonValue value = ValueOf(record);
-    const QString expression = QString::fromLocal8Bit(record.m_strExpression.c_str());
+    const QJsonValue value = ValueOf(entry);
+    const QString expression = entry.Expression();
     // An expression that has no value now may have one when it is read.
     if (expression.isEmpty() || !value.isNull())
         json.insert(ValueKey, value);
@@ -110,16 +113,7 @@ QJsonObject ToJson(const ParametersDef& record)
         json.insert(UsesKey, QJsonArray::fromStringList(uses));
     if (!record.m_strDescription.isEmpty())
         json.insert(DescriptionKey, record.m_strDescription);
-    return json;
-}
-
-QJsonArray StoredParameters()
-{
-    QJsonArray json;
-    for (const auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters) {
-        ParametersDef named = record;
-        named.m_strName = name;
-        json.append(ToJson(named));
-    }
+    if (!entry.unit.isEmpty())
+        json.insert(UnitKey, entry.unit);
     return json;
 }

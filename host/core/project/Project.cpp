@@ -79,11 +79,14 @@ void Project::Read(const QJsonValue& json)
     QSet<QString> names;
     const QJsonArray parameters = root.Array(ParametersKey);
     for (const QJsonValue& value : parameters) {
-        m_parameters.push_back(ReadParameter(value, int(m_parameters.size()) + 1));
-        const QString& name = m_parameters.back().m_strName;
+        const ParameterEntry entry = ReadParameter(value, int(m_parameters.size()) + 1);
+        const QString& name = entry.Name();
         if (names.contains(name))
             root.Fail(JsonError::tr("has two parameters %1").arg(Quoted(name)));
         names.insert(name);
+        m_parameters.push_back(entry.record);
+        if (!entry.unit.isEmpty())
+            m_units.insert(name, entry.unit);
     }
 
     QSet<QString> sampled;
@@ -109,10 +112,13 @@ void Project::Read(const QJsonValue& json)
 
 QJsonObject Project::ToJson() const
 {
+    QJsonArray parameters;
+    for (const ParametersDef& record : m_parameters)
+        parameters.append(::ToJson(ParameterEntry{record, m_units.value(record.m_strName)}));
     QJsonObject json{{VersionKey, Version},
                      {TitleKey, m_title},
                      {DensityKey, m_density},
-                     {ParametersKey, StoredParameters()},
+                     {ParametersKey, parameters},
                      {SamplesKey, ::ToJson(m_samples)}};
     if (!m_features.IsEmpty())
         json.insert(FeaturesKey, m_features.ToJson());
@@ -125,6 +131,26 @@ QJsonObject Project::ToJson() const
     if (m_study != StudyDefinition())
         json.insert(StudyKey, ::ToJson(m_study));
     return json;
+}
+
+void Project::SetParameters(const ParameterEntries& entries)
+{
+    m_parameters.clear();
+    m_units.clear();
+    for (const ParameterEntry& entry : entries) {
+        m_parameters.push_back(entry.record);
+        if (!entry.unit.isEmpty())
+            m_units.insert(entry.Name(), entry.unit);
+    }
+}
+
+void Project::TakeParameterStore()
+{
+    m_parameters.clear();
+    for (const auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters) {
+        m_parameters.push_back(record);
+        m_parameters.back().m_strName = name;
+    }
 }
 
 QString Project::Folder() const

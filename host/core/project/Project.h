@@ -4,17 +4,18 @@
 #include "Conditions.h"
 #include "FeatureList.h"
 #include "HostError.h"
-#include "ParametersDef.h"
+#include "ParameterEntry.h"
 #include "PartPlan.h"
 #include "SampleList.h"
 #include "StudyDefinition.h"
 
+#include <QHash>
+#include <QJsonObject>
 #include <QString>
 
 #include <utility>
 #include <vector>
 
-class QJsonObject;
 class QJsonValue;
 
 /// Why a project file cannot be read or written: one line, with the file's name.
@@ -44,7 +45,9 @@ public:
     /// Reads the file at @p path. @throws ProjectError
     static Project Load(const QString& path);
 
-    const QString& Path() const { return m_path; }   ///< As given to Load() or Save().
+    const QString& Path() const { return m_path; } ///< As given to Load() or Save().
+    /// Where the project is thought to be; relative paths of imports stay as they are.
+    void SetPath(const QString& path) { m_path = path; }
     const QString& Title() const { return m_title; } ///< What the project is called.
     void SetTitle(const QString& title) { m_title = title; }
     /// Of a part without a material, in kg/m3. MaterialLibrary.h knows those of materials.
@@ -54,6 +57,11 @@ public:
     const QString& Material() const { return m_material; }
     void SetMaterial(const QString& material) { m_material = material; }
     const std::vector<ParametersDef>& Parameters() const { return m_parameters; }
+    /// For display, by the parameter's name.
+    const QHash<QString, QString>& Units() const { return m_units; }
+    void SetParameters(const ParameterEntries& entries);
+    /// Takes the records that GlobalParaMeterMgr holds now.
+    void TakeParameterStore();
     const std::vector<SampleList>& SampleLists() const { return m_samples; }
     void SetSampleLists(std::vector<SampleList> lists) { m_samples = std::move(lists); }
     const FeatureList& Features() const { return m_features; }
@@ -72,9 +80,11 @@ public:
     /// does not hold, or if there is nothing to build
     PartPlan Plan() const;
 
-    /// Writes the project to the file at @p path: the parameters as GlobalParaMeterMgr holds them
-    /// now, the rest as it is here. Path() is @p path from then on; relative paths of imports
-    /// follow a change of folder. A project that Load() would refuse is not written, and an
+    /// Whether a file with @p other would be the same as one with this project.
+    bool HasSameContent(const Project& other) const { return ToJson() == other.ToJson(); }
+
+    /// Writes the project to the file at @p path. Path() is @p path from then on; relative paths of
+    /// imports follow a change of folder. A project that Load() would refuse is not written, and an
     /// existing file stays until the new one is complete. @throws ProjectError
     void Save(const QString& path);
 
@@ -90,6 +100,7 @@ private:
     QString m_title;
     double m_density = SteelDensity;
     std::vector<ParametersDef> m_parameters;
+    QHash<QString, QString> m_units;
     std::vector<SampleList> m_samples;
     FeatureList m_features;
     std::vector<Condition> m_conditions;

@@ -24,6 +24,7 @@ inline const QLatin1String StudyKey("study");
 inline const QLatin1String NameKey("name");
 inline const QLatin1String TypeKey("type");
 inline const QLatin1String ValueKey("value");
+inline const QLatin1String UnitKey("unit");
 inline const QLatin1String ExpressionKey("expression");
 inline const QLatin1String UsesKey("expressionParameters");
 inline const QLatin1String DescriptionKey("description");

@@ -9,8 +9,23 @@
 
 #include <QDir>
 
+namespace {
+
+void FillSampleStores()
+{
+    KVPropertyData& properties = *KVPropertyData::GetInstance();
+    properties.Clear();
+    properties.AddPropInfo(new CQLTElemPropDef(SampleProperty(QStringLiteral("flange"), 20.0)));
+    properties.AddPropInfo(new CQLTElemPropDef(SampleProperty(QStringLiteral("hub"), 12.0)));
+    KVMaterialData::GetInstance()->ClearInfo();
+    ReadAnalysisFiles();
+}
+
+} // namespace
+
 void FillSampleAnalysis(AnalysisRecords& records)
 {
+    FillSampleStores();
     records.TakeStores();
     AnalysisDefinition analysis = records.Definition();
     ConstraintDefinition bore;
@@ -33,12 +48,7 @@ SampleAnalysisFiles::SampleAnalysisFiles()
     : m_before(QDir::currentPath())
 {
     QDir::setCurrent(m_directory.path());
-    KVPropertyData& properties = *KVPropertyData::GetInstance();
-    properties.Clear();
-    properties.AddPropInfo(new CQLTElemPropDef(SampleProperty(QStringLiteral("flange"), 20.0)));
-    properties.AddPropInfo(new CQLTElemPropDef(SampleProperty(QStringLiteral("hub"), 12.0)));
-    KVMaterialData::GetInstance()->ClearInfo();
-    ReadAnalysisFiles();
+    FillSampleStores();
 }
 
 SampleAnalysisFiles::~SampleAnalysisFiles()

@@ -1,6 +1,7 @@
 #include "Screenshots.h"
 
 #include "DOEDlg.h"
+#include "DesignModel.h"
 #include "DialogCatalogue.h"
 #include "DialogTables.h"
 #include "DoeSession.h"
@@ -31,6 +32,7 @@
 namespace {
 
 constexpr int PointSize = 9;             // The default of a system without a desktop is unusual.
+constexpr QSize WindowSize(1440, 940);   // Whatever the screen and the last session.
 constexpr QSize RoomySampling(360, 460); // The form's own size shows one sample.
 
 class PictureFont
@@ -52,6 +54,7 @@ private:
 std::unique_ptr<MainWindow> NewMainWindow(const Project& project)
 {
     auto window = std::make_unique<MainWindow>();
+    window->resize(WindowSize);
     window->OpenProject(project);
     window->Part().WaitUntilIdle();
     FillSampleAnalysis(window->Analysis());
@@ -67,7 +70,8 @@ std::unique_ptr<MainWindow> NewMainWindow(const Project& project)
 void Prepare(QWidget& dialog)
 {
     if (auto* const experiments = qobject_cast<DOEDlg*>(&dialog)) {
-        const DoeSession ticksByName(*experiments);
+        DesignModel design;
+        const DoeSession ticksByName(*experiments, design);
         FitTables(*experiments);
     } else if (auto* const editor = qobject_cast<ParameterEditor*>(&dialog)) {
         FitTables(*editor);

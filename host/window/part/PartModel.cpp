@@ -105,6 +105,12 @@ void PartModel::WaitUntilIdle() const
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
+void PartModel::Replace(const FeatureList& features, const std::vector<Condition>& conditions)
+{
+    m_features = features;
+    m_conditions = conditions;
+}
+
 void PartModel::Rebuild()
 {
     SetFeatures(m_features);

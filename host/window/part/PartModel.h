@@ -31,6 +31,7 @@ public:
     ~PartModel() override;
 
     const FeatureList& Features() const { return m_features; }
+    const std::vector<Condition>& Conditions() const { return m_conditions; }
     /// The folder that paths of imports are relative to.
     const QString& Folder() const { return m_folder; }
 
@@ -61,6 +62,10 @@ public:
     /// Replaces this part by another one and builds it. This cannot be undone.
     void Open(const FeatureList& features, const std::vector<Condition>& conditions,
               const QString& folder);
+
+    /// Replaces features and conditions without a step on the undo stack: whoever calls it has one.
+    /// Rebuild() is to follow.
+    void Replace(const FeatureList& features, const std::vector<Condition>& conditions);
 
     /// Builds with the current values of the parameters.
     void Rebuild();

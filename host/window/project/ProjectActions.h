@@ -1,65 +1,66 @@
 #pragma once
 
+#include "Autosave.h"
 #include "Project.h"
+#include "ProjectFolder.h"
 
-#include <QJsonArray>
 #include <QObject>
 
-#include <optional>
-
-class PartModel;
+class ProjectSession;
+class QAction;
 class QMenu;
 class QWidget;
 
-/// Opens and saves projects, and asks before changes are lost.
+/// The menu of the project: opens, saves and closes projects, and asks before changes are lost.
 ///
-/// The window's title has the project's, and its mark for changes is set while the features, the
-/// stored parameters or the samples are not those of the file.
+/// The window's title has the title and the file of the project, and a mark while there are
+/// changes.
 class ProjectActions : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Dialogs belong to @p window, which also owns this object; the model must outlive it.
-    ProjectActions(PartModel& model, QWidget* window);
+    /// Dialogs belong to @p window, which also owns this object; the session must outlive it.
+    ProjectActions(ProjectSession& session, QWidget* window);
     ~ProjectActions() override;
 
     void FillMenu(QMenu& menu);
 
-    /// Puts @p project into the stores and the model, in place of what they hold.
+    /// Opens @p project in place of the open one, and offers what a crash has left of it.
     void Open(const Project& project);
-
-    /// In kg/m3.
-    double Density() const;
+    /// Offers a project that was never saved and that a crash has left. True if it was opened.
+    bool OfferAbandoned();
 
     /// False when there are changes that the user wants to keep and that are not saved.
     bool ConfirmDiscard();
-
-public Q_SLOTS:
-    /// To be called after a dialog has written to the parameter store or the sample registry, which
-    /// emit no signals. Changes of the features are noticed without a call.
-    void UpdateModified();
+    /// The project is closed, with or without its changes: nothing of it is to be recovered.
+    void Close();
 
 Q_SIGNALS:
-    /// Another project stands in the stores; its part comes next.
-    void Opened();
     /// The project was written.
     void Saved();
 
 private:
+    void OpenNew();
     void AskForProject();
+    void OpenFile(const QString& path);
+    void Revert();
     bool Save();
     bool SaveAs();
     bool SaveTo(const QString& path);
-    void NoteSaved();
-    bool IsChanged() const;
-    void ShowModified();
+    void SaveFiles(const QString& folder);
+    void EditProperties();
 
-    PartModel& m_model;
+    void Follow(Project project, const QString& folder);
+    void OfferRest();
+    void ShowRecent();
+    void ShowState();
+
+    ProjectSession& m_session;
     QWidget* m_window;
-    // As it was opened: the model's relative paths are those of its folder.
-    std::optional<Project> m_project;
-    QString m_path;           // Where Save writes; empty where that has to be asked.
-    QJsonArray m_savedDesign; // The stores as they were opened or saved.
-    bool m_isDesignChanged = false;
+    ProjectFolder m_folder;
+    Autosave m_autosave;
+    QString m_path; // Where Save writes; empty where that has to be asked.
+    QMenu* m_recent = nullptr;
+    QAction* m_revert;
 };

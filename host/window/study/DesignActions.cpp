@@ -1,25 +1,38 @@
 #include "DesignActions.h"
 
+#include "AnalysisRecords.h"
 #include "DOEDlg.h"
+#include "DesignModel.h"
+#include "DialogPlace.h"
 #include "DialogTables.h"
 #include "DoeSession.h"
-#include "GlobalParaMeterMgr.h"
+#include "EditorSession.h"
 #include "JsonSection.h"
 #include "MenuActions.h"
-#include "MessageLevel.h"
 #include "ParameterEditor.h"
-#include "ParameterEvaluator.h"
+#include "ParameterRemoval.h"
+#include "ParameterUse.h"
+#include "PartModel.h"
 #include "sParaArrayData.h"
 
 #include <QMenu>
+#include <QMessageBox>
 
-DesignActions::DesignActions(QWidget* window)
+DesignActions::DesignActions(DesignModel& design, PartModel& part, AnalysisRecords& analysis,
+                             QWidget* view, QWidget* window)
     : QObject(window)
+    , m_design(design)
+    , m_part(part)
+    , m_analysis(analysis)
+    , m_view(view)
     , m_window(window)
-    , m_restore(NewAction(tr("&Restore parameters"), "action_RestoreParameters", this,
-                          &DesignActions::RestoreParameters))
+    , m_back(NewAction(tr("&Back to the design"), "action_RestoreParameters", this,
+                       &DesignActions::BackToDesign))
 {
-    m_restore->setEnabled(false);
+    m_back->setEnabled(false);
+    connect(&m_design, &DesignModel::Changed, this,
+            [this] { m_back->setEnabled(m_design.HoldsRun()); });
+    connect(&m_design, &DesignModel::Renamed, this, &DesignActions::FollowName);
 }
 
 DesignActions::~DesignActions() = default;
@@ -31,90 +44,63 @@ void DesignActions::FillMenu(QMenu& menu)
          NewAction(tr("Design of &Experiments"), "action_DesignOfExperiments", this,
                    &DesignActions::DesignExperiments)});
     menu.addSeparator();
-    menu.addAction(m_restore);
-}
-
-void DesignActions::Start()
-{
-    m_design.clear();
-    m_storeIsRun = false;
-    m_restore->setEnabled(false);
-    SettleExpressions();
-}
-
-void DesignActions::WarnIfRunIsStored() const
-{
-    if (m_storeIsRun)
-        PostMessageToChannel(WarningLevel, tr("What was saved are the values of a run; \"Restore "
-                                              "parameters\" brings the design back"));
+    menu.addAction(m_back);
 }
 
 void DesignActions::EditParameters()
 {
+    // What the user applies is the design, and not the run that the store may hold.
+    m_design.BackToDesign();
     ParameterEditor editor(m_window);
     editor.m_Slot_RefreshGUI();
     FitTables(editor);
-    connect(&editor, &ParameterEditor::m_Signal_Apply, this, [this, &editor] {
-        // What the user applied is the design from now on.
-        m_storeIsRun = false;
-        SettleExpressions();
-        editor.m_Slot_RefreshGUI();
-        Q_EMIT ParametersChanged();
-    });
+    const EditorSession session(editor, m_design);
     editor.exec();
 }
 
 void DesignActions::DesignExperiments()
 {
     DOEDlg dialog(m_window);
-    const DoeSession session(dialog);
+    const DoeSession session(dialog, m_design);
+    connect(&session, &DoeSession::SamplesEdited, this, &DesignActions::SamplesEdited);
     FitTables(dialog);
-    connect(&session, &DoeSession::RunReady, this, [this, &session] {
-        KeepDesign(session.Remembered());
-        Q_EMIT ParametersChanged();
-    });
+    if (m_view != nullptr)
+        PlaceBeside(dialog, *m_view);
     dialog.exec();
-    Q_EMIT SamplesEdited();
 }
 
-void DesignActions::KeepDesign(const ParameterMap& records)
+void DesignActions::BackToDesign()
 {
-    // Of several runs in a row the first one has replaced the design.
-    if (!m_storeIsRun)
-        m_design = records;
-    m_storeIsRun = true;
-    m_restore->setEnabled(true);
-}
-
-void DesignActions::RestoreParameters()
-{
-    for (const auto& [name, record] : m_design)
-        GlobalParaMeterMgr::AddParameter(name, record);
-    m_storeIsRun = false;
-    m_restore->setEnabled(false);
-    PostMessageToChannel(InfoLevel, tr("The parameters are as before the design of experiments"));
-    // For the expressions of parameters that came later.
-    SettleExpressions();
-    Q_EMIT ParametersChanged();
+    m_design.BackToDesign();
 }
 
 void DesignActions::RemoveParameters(const QStringList& names)
 {
+    const ParameterRemoval removal = FindRemoval(names, m_design.Design(), m_part.Features(),
+                                                 m_part.Conditions(), m_analysis.Definition());
+    if (!removal.users.isEmpty()) {
+        QMessageBox box(QMessageBox::Question, tr("Remove parameters?"),
+                        tr("They are used by: %1.\n\nRemove these as well?")
+                            .arg(removal.users.join(QStringLiteral(", "))),
+                        QMessageBox::Yes | QMessageBox::Cancel, m_window);
+        box.setDefaultButton(QMessageBox::Cancel);
+        if (box.exec() != QMessageBox::Yes)
+            return;
+    }
     QStringList quoted;
-    for (const QString& name : names) {
-        GlobalParaMeterMgr::m_nameMapParameters.erase(name);
-        m_design.erase(name);
+    for (const QString& name : removal.parameters) {
         g_mapParaArrays.erase(name);
         quoted << Quoted(name);
     }
-    PostMessageToChannel(InfoLevel,
-                         tr("Removed parameters: %1").arg(quoted.join(QStringLiteral(", "))));
-    SettleExpressions();
-    Q_EMIT ParametersChanged();
+    quoted.sort();
+    const QString removed = tr("Remove parameters: %1").arg(quoted.join(QStringLiteral(", ")));
+    m_part.Replace(removal.leftFeatures, removal.leftConditions);
+    m_analysis.SetDefinition(removal.leftAnalysis);
+    m_design.Edit(removal.leftParameters, removed);
 }
 
-void DesignActions::SettleExpressions()
+void DesignActions::FollowName(const QString& before, const QString& after)
 {
-    for (const QString& problem : EvaluateParameters())
-        PostMessageToChannel(ErrorLevel, problem);
+    m_part.Replace(WithRenamedParameter(m_part.Features(), before, after),
+                   WithRenamedParameter(m_part.Conditions(), before, after));
 }

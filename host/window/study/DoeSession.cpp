@@ -1,14 +1,18 @@
 #include "DoeSession.h"
 
 #include "DOEDlg.h"
+#include "DesignModel.h"
 #include "GlobalParaMeterMgr.h"
+#include "JsonSection.h"
 #include "MessageLevel.h"
-#include "ParameterEvaluator.h"
+#include "SamplingGuard.h"
 #include "sParaArrayData.h"
 
 #include <QCheckBox>
 #include <QPushButton>
 #include <QTableWidget>
+
+#include <memory>
 
 namespace {
 
@@ -31,32 +35,46 @@ QSet<QString> TickedParameters()
 
 } // namespace
 
-DoeSession::DoeSession(DOEDlg& dialog, QObject* parent)
+DoeSession::DoeSession(DOEDlg& dialog, DesignModel& design, QObject* parent)
     : QObject(parent)
     , m_dialog(dialog)
-    , m_remembered(GlobalParaMeterMgr::m_nameMapParameters)
+    , m_design(design)
 {
-    ShowTicksByName();
+    m_design.ExpectRuns();
+    if (const auto* const table =
+            m_dialog.findChild<QTableWidget*>(QStringLiteral("tableWidget_Parameters")))
+        ConnectRows(*table);
     connect(&m_dialog, &DOEDlg::m_Signal_RegenerateGeo, this, &DoeSession::CompleteRun);
 }
 
 DoeSession::~DoeSession() = default;
 
-void DoeSession::ShowTicksByName()
+void DoeSession::ConnectRows(const QTableWidget& table)
 {
-    const auto* const table =
-        m_dialog.findChild<QTableWidget*>(QStringLiteral("tableWidget_Parameters"));
-    if (table == nullptr)
-        return;
     const QSet<QString> ticked = TickedParameters();
-    for (int row = 0; row < table->rowCount(); ++row) {
-        const QTableWidgetItem* const name = table->item(row, NameColumn);
-        auto* const check = qobject_cast<QCheckBox*>(table->cellWidget(row, TickColumn));
-        auto* const button = qobject_cast<QPushButton*>(table->cellWidget(row, ButtonColumn));
-        if (name == nullptr || check == nullptr || button == nullptr)
+    for (int row = 0; row < table.rowCount(); ++row) {
+        const QTableWidgetItem* const item = table.item(row, NameColumn);
+        auto* const check = qobject_cast<QCheckBox*>(table.cellWidget(row, TickColumn));
+        auto* const button = qobject_cast<QPushButton*>(table.cellWidget(row, ButtonColumn));
+        if (item == nullptr || check == nullptr || button == nullptr)
             continue;
-        check->setChecked(ticked.contains(name->text()));
+        const QString name = item->text();
+        check->setChecked(ticked.contains(name));
         button->setEnabled(check->isChecked());
+        connect(check, &QCheckBox::clicked, this, [this, name](bool isTicked) {
+            // The dialog leaves the name of a new record empty.
+            g_mapParaArrays[name].strName = name;
+            Q_EMIT SamplesEdited(isTicked ? tr("Tick %1").arg(Quoted(name))
+                                          : tr("Untick %1").arg(Quoted(name)));
+        });
+        // The dialog shows the sampling dialog when the button is clicked, before this is told.
+        const auto guard = std::make_shared<std::unique_ptr<SamplingGuard>>();
+        connect(button, &QPushButton::pressed, this,
+                [guard, name] { *guard = std::make_unique<SamplingGuard>(name); });
+        connect(button, &QPushButton::clicked, this, [this, guard, name] {
+            if (*guard != nullptr && (*guard)->Finish())
+                Q_EMIT SamplesEdited(tr("Samples of %1").arg(Quoted(name)));
+        });
     }
 }
 
@@ -64,25 +82,14 @@ void DoeSession::CompleteRun()
 {
     const QSet<QString> ticked = TickedParameters();
     QStringList run;
-    int given = 0;
-    for (auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters) {
-        if (ticked.contains(name)) {
+    for (const auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters) {
+        if (ticked.contains(name))
             run << QStringLiteral("%1 = %2").arg(name, record.m_strValue);
-            continue;
-        }
-        const auto remembered = m_remembered.find(name);
-        if (remembered == m_remembered.end())
-            continue;
-        record = remembered->second;
-        ++given;
     }
-    m_problems = EvaluateParameters(ticked);
-
-    PostMessageToChannel(InfoLevel, tr("Run taken: %1. The other parameters, %2 of them, have "
-                                       "their values from before again.")
-                                        .arg(run.join(QStringLiteral(", ")))
-                                        .arg(given));
-    for (const QString& problem : m_problems)
-        PostMessageToChannel(ErrorLevel, problem);
-    Q_EMIT RunReady();
+    const int given = m_design.TakeRun(ticked);
+    PostMessageToChannel(InfoLevel,
+                         tr("Run taken: %1. The other parameters, %2 of them, have their values "
+                            "of the design.")
+                             .arg(run.join(QStringLiteral(", ")))
+                             .arg(given));
 }

@@ -1,50 +1,43 @@
 #pragma once
 
-#include "ParameterMap.h"
-
+#include <QHash>
 #include <QObject>
 #include <QString>
 
-#include <vector>
-
 class DOEDlg;
+class DesignModel;
+class QTableWidget;
 
-/// What a host does around one DOE dialog, so that a chosen run gives a whole part.
+/// What a host does around one DOE dialog, so that a chosen run gives a whole part and no samples
+/// are lost.
 ///
 ///     DOEDlg dialog(window);
-///     DoeSession session(dialog);
-///     connect(&session, &DoeSession::RunReady, window, &MainWindow::Rebuild);
+///     DoeSession session(dialog, design);
 ///     dialog.exec();
 ///
-/// "Generate" sets every parameter outside the run to 0. The session remembers all records when it
-/// is constructed, gives those that are not ticked back, settles the expressions, says so once in
-/// the message channel, and then asks for the rebuild. A ticked parameter with an expression keeps
-/// the run's value. The session also brings the dialog's ticks, which the dialog pairs with the
-/// registry by position, into line with the registry by name.
+/// - "Generate" sets every parameter outside the run to 0. The session gives those that are not
+///   ticked their values of the design, settles the expressions, and says so once in the message
+///   channel. A ticked parameter with an expression keeps the run's value.
+/// - The dialog pairs its ticks with the registry by position; the session pairs them by name.
+/// - "Set Array" of a parameter without samples starts with a range around its value. Samples that
+///   the sampling dialog cannot show are kept if its OK changed nothing.
 class DoeSession : public QObject
 {
     Q_OBJECT
 
 public:
-    /// To be constructed before the dialog is shown; the dialog must outlive the session.
-    explicit DoeSession(DOEDlg& dialog, QObject* parent = nullptr);
+    /// To be constructed before the dialog is shown; dialog and design must outlive the session.
+    DoeSession(DOEDlg& dialog, DesignModel& design, QObject* parent = nullptr);
     ~DoeSession() override;
 
-    /// What could not be settled after the last run; see EvaluateParameters().
-    const std::vector<QString>& Problems() const { return m_problems; }
-
-    /// All records as they were when the session was constructed.
-    const ParameterMap& Remembered() const { return m_remembered; }
-
 Q_SIGNALS:
-    /// A run stands in the parameter store, complete and settled: the part is to be rebuilt.
-    void RunReady();
+    /// The user changed ticks or samples, as @p text says.
+    void SamplesEdited(const QString& text);
 
 private:
-    void ShowTicksByName();
+    void ConnectRows(const QTableWidget& table);
     void CompleteRun();
 
     DOEDlg& m_dialog;
-    ParameterMap m_remembered;
-    std::vector<QString> m_problems;
+    DesignModel& m_design;
 };

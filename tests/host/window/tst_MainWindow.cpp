@@ -42,13 +42,17 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                 texts << QString(menu->text() + "/" + action->text()).remove('&');
         }
     }
-    QCOMPARE(texts, QStringList({"File/Open project",
+    QCOMPARE(texts, QStringList({"File/New project",
+                                 "File/Open project",
+                                 "File/Open recent",
                                  "File/Save project",
                                  "File/Save project as",
+                                 "File/Revert",
+                                 "File/Project properties",
                                  "File/Quit",
                                  "Design/Parameters",
                                  "Design/Design of Experiments",
-                                 "Design/Restore parameters",
+                                 "Design/Back to the design",
                                  "Model/Add body",
                                  "Model/Transform",
                                  "Model/Combine",
@@ -91,7 +95,7 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                                  "View/Fields of the feature",
                                  "View/Position",
                                  "View/Analysis model",
-                                 "View/Stored parameters",
+                                 "View/Parameters",
                                  "View/Messages",
                                  "View/Set-up check"}));
 }

@@ -1,7 +1,7 @@
 #include "HostApplication.h"
 #include "HostTestMain.h"
 #include "OpenWindow.h"
-#include "ParameterOverview.h"
+#include "ParameterTable.h"
 
 #include <QCheckBox>
 #include <QTableWidget>
@@ -70,10 +70,9 @@ void tst_MainWindowExperiments::GenerateRestoresTheParametersOutsideTheRun()
     // Evaluated again from the bore of the run.
     QCOMPARE(Stored("hub_diameter"), 128.0);
     const auto& overview = Find<QTableWidget>(open.window, "parameterTable");
-    QCOMPARE(
-        overview.item(RowOf(overview, "outer_diameter"), ParameterOverview::ValueColumn)->text(),
-        QStringLiteral("200"));
-    QCOMPARE(overview.item(RowOf(overview, "thickness"), ParameterOverview::ValueColumn)->text(),
+    QCOMPARE(overview.item(RowOf(overview, "outer_diameter"), ParameterTable::ValueColumn)->text(),
+             QStringLiteral("200"));
+    QCOMPARE(overview.item(RowOf(overview, "thickness"), ParameterTable::ValueColumn)->text(),
              QStringLiteral("24"));
 }
 
@@ -116,7 +115,7 @@ void tst_MainWindowExperiments::RestoreBringsAllParametersBack()
         QCOMPARE(restored.m_strExpression, record.m_strExpression);
     }
     const auto& overview = Find<QTableWidget>(open.window, "parameterTable");
-    QCOMPARE(overview.item(RowOf(overview, "thickness"), ParameterOverview::ValueColumn)->text(),
+    QCOMPARE(overview.item(RowOf(overview, "thickness"), ParameterTable::ValueColumn)->text(),
              QStringLiteral("20"));
 }
 

@@ -2,7 +2,7 @@
 #include "HostApplication.h"
 #include "HostTestMain.h"
 #include "OpenWindow.h"
-#include "ParameterOverview.h"
+#include "ParameterTable.h"
 
 #include <QTableWidget>
 
@@ -52,9 +52,8 @@ void tst_MainWindowParameters::ApplyEvaluatesTheExpressionsAndRebuilds()
     QCOMPARE(open.Shown("label_BoundingBox"), QStringLiteral("240 × 240 × 50 mm"));
     QVERIFY(open.Shown("label_Mass") != before);
     const auto& overview = Find<QTableWidget>(open.window, "parameterTable");
-    QCOMPARE(
-        overview.item(RowOf(overview, "bolt_circle"), ParameterOverview::RawValueColumn)->text(),
-        QStringLiteral("184"));
+    QCOMPARE(overview.item(RowOf(overview, "bolt_circle"), ParameterTable::ResultColumn)->text(),
+             QStringLiteral("184"));
 }
 
 void tst_MainWindowParameters::ApplyRefreshesTheEditorWithTheEvaluatedValues()
@@ -84,7 +83,7 @@ void tst_MainWindowParameters::ApplyRefreshesTheEditorWithTheEvaluatedValues()
 void tst_MainWindowParameters::AnEmptyRowCanBeSavedAndRemoved()
 {
     OpenWindow open;
-    EnterTemporaryDirectory();
+    const QString directory = EnterTemporaryDirectory();
     open.user.Then([](QDialog& editor) {
         Click(editor, "pushButton_Add");
         Click(editor, "pushButton_OK");
@@ -94,9 +93,9 @@ void tst_MainWindowParameters::AnEmptyRowCanBeSavedAndRemoved()
     QVERIFY(open.window.isWindowModified());
     auto& overview = Find<QTableWidget>(open.window, "parameterTable");
     const int rows = overview.rowCount();
-    QCOMPARE(overview.item(rows - 1, ParameterOverview::NameColumn)->text(), QString());
+    QCOMPARE(overview.item(rows - 1, ParameterTable::NameColumn)->text(), QString());
 
-    ChooseFile(open.user, "saved.json");
+    ChooseFile(open.user, directory + "/saved.json");
     open.Trigger("action_SaveProject");
     QVERIFY(open.user.IsDone());
     QVERIFY(!open.window.isWindowModified());
@@ -159,9 +158,8 @@ void tst_MainWindowParameters::AFailedBuildIsReportedOnceAndKeepsTheLastShape()
     QCOMPARE(open.Shown("label_Volume"), volume);
     QCOMPARE(open.Shown("label_BoundingBox"), box);
     const auto& overview = Find<QTableWidget>(open.window, "parameterTable");
-    QCOMPARE(
-        overview.item(RowOf(overview, "bore_diameter"), ParameterOverview::ValueColumn)->text(),
-        QStringLiteral("400"));
+    QCOMPARE(overview.item(RowOf(overview, "bore_diameter"), ParameterTable::ValueColumn)->text(),
+             QStringLiteral("400"));
 
     open.user.Then([](QDialog& editor) {
         TypeValue(editor, "bore_diameter", "70");

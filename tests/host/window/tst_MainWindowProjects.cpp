@@ -5,6 +5,7 @@
 #include "HostTestMain.h"
 #include "OpenWindow.h"
 #include "PartModel.h"
+#include "ProjectSession.h"
 #include "TestFiles.h"
 
 #include <QDir>
@@ -23,7 +24,7 @@ private Q_SLOTS:
     void ASavedProjectIsReadBackUnchanged();
     void SaveOverwritesTheFileOfTheProject();
     void TheSampleIsSavedUnderAnotherName();
-    void SavingARunWarns();
+    void SavingARunSavesTheDesign();
     void AFailedSaveIsReported();
     void TheTitleMarksChanges();
     void OpeningAsksBeforeDiscardingChanges();
@@ -150,7 +151,7 @@ void tst_MainWindowProjects::TheSampleIsSavedUnderAnotherName()
     open.Trigger("action_SaveProject");
 }
 
-void tst_MainWindowProjects::SavingARunWarns()
+void tst_MainWindowProjects::SavingARunSavesTheDesign()
 {
     OpenWindow open;
     const QString directory = EnterTemporaryDirectory();
@@ -159,13 +160,20 @@ void tst_MainWindowProjects::SavingARunWarns()
         dialog.reject();
     });
     open.Trigger("action_DesignOfExperiments");
-    QVERIFY(open.window.isWindowModified());
-    const PostedMessages posted;
+    QCOMPARE(Stored("thickness"), 24.0);
+    QVERIFY(!open.window.isWindowModified());
+    QVERIFY(Find<QWidget>(open.window, "runBar").isVisible());
     ChooseFile(open.user, directory + "/run.json");
     open.Trigger("action_SaveProject");
-    QCOMPARE(posted.At(WarningLevel).filter("a run").size(), 1);
-    open.Trigger("action_RestoreParameters");
-    QVERIFY(open.window.isWindowModified());
+    const Project saved = Project::Load("run.json");
+    QVERIFY(saved.HasSameContent(open.window.Session().Current()));
+    for (const ParametersDef& record : saved.Parameters()) {
+        if (record.m_strName == "thickness")
+            QCOMPARE(record.m_dValue, 20.0);
+    }
+    Click(open.window, "pushButton_BackToDesign");
+    QVERIFY(!Find<QWidget>(open.window, "runBar").isVisible());
+    QCOMPARE(Stored("thickness"), 20.0);
 }
 
 void tst_MainWindowProjects::AFailedSaveIsReported()
@@ -177,7 +185,7 @@ void tst_MainWindowProjects::AFailedSaveIsReported()
     open.OpenProject(directory + "/gone/mine.json");
     open.SelectFeature("flange");
     open.Trigger("action_DeleteFeature");
-    QVERIFY(QDir("gone").removeRecursively());
+    QVERIFY(QDir(directory + "/gone").removeRecursively());
     const PostedMessages posted;
     open.Trigger("action_SaveProject");
     const QStringList errors = posted.At(ErrorLevel);

@@ -1,7 +1,7 @@
-#include "EmptyDesignStores.h"
 #include "ParameterJson.h"
 #include "TestCase.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -15,7 +15,7 @@ class tst_ParameterJson : public TestCase
 private Q_SLOTS:
     void ParametersAreWrittenUnchanged_data();
     void ParametersAreWrittenUnchanged();
-    void ParametersKeepTheirOrder();
+    void EveryEntryIsReadBack();
 };
 
 static QByteArray Text(const QJsonArray& json)
@@ -51,7 +51,6 @@ void tst_ParameterJson::ParametersAreWrittenUnchanged_data()
 
 void tst_ParameterJson::ParametersAreWrittenUnchanged()
 {
-    const EmptyDesignStores stores;
     QFETCH(int, type);
     QFETCH(double, value);
     QFETCH(QString, text);
@@ -64,25 +63,25 @@ void tst_ParameterJson::ParametersAreWrittenUnchanged()
     record.m_dY = 2.0;
     record.m_dZ = 3.0;
     record.m_strExpression = expression.toStdString();
-    GlobalParaMeterMgr::AddParameter("a", record);
-    QTEST(Text(StoredParameters()), "json");
+    record.m_strName = "a";
+    QTEST(Text(QJsonArray{ToJson(ParameterEntry{record, {}})}), "json");
 }
 
-void tst_ParameterJson::ParametersKeepTheirOrder()
+void tst_ParameterJson::EveryEntryIsReadBack()
 {
-    const EmptyDesignStores stores;
     ParametersDef record;
+    record.m_strName = "a";
     record.m_nType = ParametersDef::ScalarType;
-    record.m_dValue = 5.0;
-    GlobalParaMeterMgr::AddParameter("c", record);
     record.m_varRawValue = 7.0;
     record.m_strExpressPara = "c,d";
     record.m_strDescription = "what it is";
-    GlobalParaMeterMgr::AddParameter("a", record);
-    QCOMPARE(Text(StoredParameters()),
-             QByteArray(R"([{"name":"c","type":"Scalar","value":5},)"
-                        R"({"description":"what it is","expressionParameters":["c","d"],)"
-                        R"("name":"a","type":"Scalar","value":7}])"));
+    const QJsonObject json = ToJson(ParameterEntry{record, "mm"});
+    QCOMPARE(Text(QJsonArray{json}),
+             QByteArray(R"([{"description":"what it is","expressionParameters":["c","d"],)"
+                        R"("name":"a","type":"Scalar","unit":"mm","value":7}])"));
+    const ParameterEntry read = ReadParameter(json, 1);
+    QCOMPARE(read.unit, QString("mm"));
+    QCOMPARE(ToJson(read), json);
 }
 
 TARN_TEST_MAIN(tst_ParameterJson)

@@ -234,8 +234,8 @@ void tst_Project::BadFilesAreReportedInOneLine_data()
         WithParameter("{\"name\": \"a\", \"expression\": \"b\", \"expressionParameters\": [1]}"),
         "parameter 1, \"a\", has a \"expressionParameters\" that is not a list of texts");
     row("unknown entry in a parameter",
-        WithParameter("{\"name\": \"a\", \"value\": 1, \"unit\": \"mm\"}"),
-        "parameter 1 has the unknown entry \"unit\"");
+        WithParameter("{\"name\": \"a\", \"value\": 1, \"colour\": \"mm\"}"),
+        "parameter 1 has the unknown entry \"colour\"");
     row("two of a name",
         WithParameter("{\"name\": \"a\", \"value\": 1}, {\"name\": \"a\", \"value\": 2}"),
         "the project has two parameters \"a\"");

@@ -9,7 +9,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRandomGenerator>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
 #include <limits>
 
 class tst_ProjectSaving : public TestCase
@@ -19,7 +24,8 @@ class tst_ProjectSaving : public TestCase
 private Q_SLOTS:
     void ASavedProjectIsLoadedTheSame_data();
     void ASavedProjectIsLoadedTheSame();
-    void TheCurrentParametersAreSaved();
+    void TheParametersOfTheStoreAreSaved();
+    void EveryChangeMakesAnotherContent();
     void EveryNameIsSaved_data();
     void EveryNameIsSaved();
     void ImportsAreFoundFromAnotherFolder();
@@ -29,6 +35,7 @@ private Q_SLOTS:
     void OnlyAFileIsReplaced_data();
     void OnlyAFileIsReplaced();
     void AFullDiskLeavesTheOldFile();
+    void AKilledProgramLeavesAWholeFile();
 };
 
 // A project and the parameters that it stores, as text.
@@ -42,7 +49,7 @@ static QString Everything(const Project& project)
               << QString::number(record.m_dValue, 'g', 17)
               << QString("%1 %2 %3").arg(record.m_dX).arg(record.m_dY).arg(record.m_dZ)
               << QString::fromStdString(record.m_strExpression) << record.m_strExpressPara
-              << record.m_strDescription;
+              << record.m_strDescription << project.Units().value(name);
     for (const SampleList& list : project.SampleLists()) {
         lines << list.parameter << QString::number(int(list.ticked))
               << QString::number(list.range.spacing);
@@ -65,7 +72,7 @@ void tst_ProjectSaving::ASavedProjectIsLoadedTheSame_data()
         "parameters": [
           {"name": "z", "type": "Bool", "value": true},
           {"name": "长", "value": 0.30000000000000004, "expression": "2*宽",
-           "expressionParameters": ["宽", "z"], "description": "a length"},
+           "expressionParameters": ["宽", "z"], "unit": "mm", "description": "a length"},
           {"name": "宽", "expression": "1 +"},
           {"name": "v", "type": "Vector", "value": [1, 2.5, -3]},
           {"name": "t", "type": "Tensor", "value": "1 0; 0 1"}],
@@ -108,7 +115,7 @@ void tst_ProjectSaving::ASavedProjectIsLoadedTheSame()
     QCOMPARE(twice.readAll(), bytes);
 }
 
-void tst_ProjectSaving::TheCurrentParametersAreSaved()
+void tst_ProjectSaving::TheParametersOfTheStoreAreSaved()
 {
     const EmptyDesignStores stores;
     EnterTemporaryDirectory();
@@ -116,6 +123,7 @@ void tst_ProjectSaving::TheCurrentParametersAreSaved()
     project.FillParameterStore();
     GlobalParaMeterMgr::m_nameMapParameters["thickness"].m_varRawValue = 25.0;
     GlobalParaMeterMgr::m_nameMapParameters.erase("fillet_radius");
+    project.TakeParameterStore();
     project.SetSampleLists({{"bolt_count", {}, {6}}});
     FeatureList features = project.Features();
     features.SetSuppressed(10, true);
@@ -129,6 +137,24 @@ void tst_ProjectSaving::TheCurrentParametersAreSaved()
     QCOMPARE(saved.SampleLists().size(), std::size_t(1));
     QCOMPARE(saved.SampleLists()[0].values, std::vector<double>({6}));
     QVERIFY(saved.Features() == features);
+}
+
+void tst_ProjectSaving::EveryChangeMakesAnotherContent()
+{
+    const EmptyDesignStores stores;
+    const Project project = Project::Load(Project::SamplePath());
+    QVERIFY(project.HasSameContent(Project::Load(Project::SamplePath())));
+    Project other = project;
+    ParameterEntry entry = {project.Parameters().front(), "mm"};
+    other.SetParameters({entry});
+    QCOMPARE(other.Units().value(entry.Name()), QString("mm"));
+    QVERIFY(!project.HasSameContent(other));
+    other = project;
+    other.SetTitle("other");
+    QVERIFY(!project.HasSameContent(other));
+    other = project;
+    other.SetMaterial("other");
+    QVERIFY(!project.HasSameContent(other));
 }
 
 void tst_ProjectSaving::EveryNameIsSaved_data()
@@ -161,6 +187,7 @@ void tst_ProjectSaving::EveryNameIsSaved()
     record.m_strExpression = "2*a";
     record.m_strExpressPara = "a";
     GlobalParaMeterMgr::AddParameter(name, record);
+    project.TakeParameterStore();
     project.SetSampleLists({{name, {}, {1, 2}}});
     project.Save("saved.json");
 
@@ -219,6 +246,7 @@ void tst_ProjectSaving::AProjectThatCouldNotBeReloadedIsNotSaved()
     record.m_nType = ParametersDef::ScalarType;
     record.m_dValue = value;
     GlobalParaMeterMgr::AddParameter(name, record);
+    project.TakeParameterStore();
     FeatureList list;
     for (int i = 0; i < features; ++i) {
         list.Append(NewFeature("x", "box"));
@@ -298,6 +326,37 @@ void tst_ProjectSaving::AFullDiskLeavesTheOldFile()
     disk.Empty();
     project.Save("p.json");
     QCOMPARE(ContentOf("p.json"), before);
+}
+
+void tst_ProjectSaving::AKilledProgramLeavesAWholeFile()
+{
+    constexpr int Kills = 200;
+    EnterTemporaryDirectory();
+    Project project = Project::Load(Project::SamplePath());
+    project.Save("p.json");
+    QRandomGenerator random(1);
+    for (int kill = 0; kill < Kills; ++kill) {
+        int started[2];
+        QCOMPARE(pipe(started), 0);
+        const pid_t child = fork();
+        if (child == 0) {
+            for (int i = 0;; ++i) {
+                project.SetTitle(QString::number(i));
+                project.Save("p.json");
+                if (i == 0 && write(started[1], "x", 1) != 1)
+                    _exit(1);
+            }
+        }
+        char byte = 0;
+        QCOMPARE(read(started[0], &byte, 1), ssize_t(1));
+        usleep(random.bounded(2000));
+        QCOMPARE(::kill(child, SIGKILL), 0);
+        QCOMPARE(waitpid(child, nullptr, 0), child);
+        close(started[0]);
+        close(started[1]);
+        const Project left = Project::Load("p.json");
+        QVERIFY(left.Features() == project.Features());
+    }
 }
 
 TARN_TEST_MAIN(tst_ProjectSaving)

@@ -1,17 +1,18 @@
 #include "DrawerOutput.h"
-#include "EmptyDesignStores.h"
 #include "FileChoice.h"
+#include "FullDisk.h"
 #include "HostTestMain.h"
 #include "MenuUser.h"
 #include "ModalDriver.h"
 #include "NewFeature.h"
-#include "PartModel.h"
+#include "OpenSession.h"
 #include "ProjectActions.h"
 #include "TestFiles.h"
 
 #include <QDir>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QTimer>
 
 class tst_ProjectActions : public TestCase
 {
@@ -19,23 +20,32 @@ class tst_ProjectActions : public TestCase
 
 private Q_SLOTS:
     void WithoutAProjectThereIsNothingToLose();
-    void AnOpenedProjectFillsStoresAndModel();
-    void ItsImportsAreLookedForBesideIt();
+    void ANewProjectIsEmpty();
+    void TheFolderOfTheProjectIsTheWorkingDirectory();
+    void AnUnsavedProjectHasAFolderOfItsOwn();
+    void ItsFilesGoAlongOnSaveAs();
+    void TheTitleHasTitleAndFile();
     void ImportsAreFoundAfterSavingElsewhere();
-    void ChangedSamplesAreAChange();
-    void UndoingAFeatureKeepsChangedSamplesAChange();
+    void RecentProjectsAreOffered();
+    void RevertBringsTheFileBack();
     void SaveEmitsThatItSaved();
     void AFailedSaveLosesNothing();
+    void ChangesAreSavedBesideTheFile();
+    void WhatACrashLeftIsOffered_data();
+    void WhatACrashLeftIsOffered();
+    void AnUnsavedProjectIsRecovered();
+    void AFullDiskIsReportedOnce();
 };
 
 namespace {
 
-struct Opened
+struct Opened : OpenSession
 {
     explicit Opened(const QString& path = Project::SamplePath())
     {
         actions->FillMenu(menu);
-        actions->Open(Project::Load(path));
+        if (!path.isEmpty())
+            actions->Open(Project::Load(path));
     }
 
     void Trigger(const char* name) const { ::Trigger(window, name); }
@@ -47,50 +57,110 @@ struct Opened
         QVERIFY(user.IsDone());
     }
 
-    EmptyDesignStores stores;
+    /// The minute is over.
+    void Autosave() const
+    {
+        auto* const timer = actions->findChild<QTimer*>("autosaveTimer");
+        QVERIFY(timer != nullptr && timer->isActive());
+        QMetaObject::invokeMethod(timer, "timeout");
+    }
+
     QWidget window;
     QMenu menu;
-    PartModel model;
-    ProjectActions* actions = new ProjectActions(model, &window);
+    ProjectActions* actions = new ProjectActions(session, &window);
     ModalDriver user;
 };
 
 const QByteArray ProjectWithImport =
     R"({ "version": 1, "title": "Nut", "density": 1000, "parameters": [],
          "features": [ { "name": "nut", "kind": "import", "file": "parts/nut.step" } ] })";
+const QByteArray Plain = R"({ "version": 1, "title": "Plain", "parameters": [] })";
 
 } // namespace
 
 void tst_ProjectActions::WithoutAProjectThereIsNothingToLose()
 {
-    const EmptyDesignStores stores;
-    QWidget window;
-    QMenu menu;
-    PartModel model;
-    auto* const actions = new ProjectActions(model, &window);
-    actions->FillMenu(menu);
-    QVERIFY(actions->ConfirmDiscard());
-    QCOMPARE(actions->Density(), Project::SteelDensity);
-    Trigger(window, "action_SaveProject");
+    Opened opened{QString()};
+    QVERIFY(opened.actions->ConfirmDiscard());
+    QCOMPARE(opened.session.Density(), Project::SteelDensity);
+    opened.Trigger("action_SaveProject");
 }
 
-void tst_ProjectActions::AnOpenedProjectFillsStoresAndModel()
+void tst_ProjectActions::ANewProjectIsEmpty()
 {
-    const Opened opened;
-    QCOMPARE(GlobalParaMeterMgr::m_nameMapParameters.size(), std::size_t(9));
-    QVERIFY(opened.model.Features() == Project::Load(Project::SamplePath()).Features());
-    QCOMPARE(opened.window.windowTitle(), QString("Bolted flange[*] - Tarn host"));
+    Opened opened;
+    opened.part.Add(NewFeature("cube", "box"));
+    opened.user.Answer(QMessageBox::Discard);
+    opened.Trigger("action_NewProject");
+    QVERIFY(opened.user.IsDone());
+    QVERIFY(GlobalParaMeterMgr::m_nameMapParameters.empty());
+    QVERIFY(opened.part.Features().IsEmpty());
+    QVERIFY(g_mapParaArrays.empty());
     QVERIFY(!opened.window.isWindowModified());
-    QCOMPARE(opened.actions->Density(), 7850.0);
+    QCOMPARE(opened.window.windowTitle(), QString("New project[*] - Tarn host"));
 }
 
-void tst_ProjectActions::ItsImportsAreLookedForBesideIt()
+void tst_ProjectActions::TheFolderOfTheProjectIsTheWorkingDirectory()
 {
     const QString directory = EnterTemporaryDirectory();
-    Put("nut.json", ProjectWithImport);
-    const Opened opened(directory + "/nut.json");
-    QCOMPARE(QDir(opened.model.Folder()), QDir(directory));
-    QCOMPARE(opened.actions->Density(), 1000.0);
+    QVERIFY(QDir().mkpath("a"));
+    Put("a/nut.json", ProjectWithImport);
+    {
+        const Opened opened("a/nut.json");
+        QCOMPARE(QDir::currentPath(), directory + "/a");
+        QCOMPARE(QDir(opened.part.Folder()), QDir(directory + "/a"));
+        QCOMPARE(opened.session.Density(), 1000.0);
+    }
+    QCOMPARE(QDir::currentPath(), directory);
+}
+
+void tst_ProjectActions::AnUnsavedProjectHasAFolderOfItsOwn()
+{
+    const QString directory = EnterTemporaryDirectory();
+    Put("UserMaterial.xml", "of another project");
+    QString own;
+    {
+        Opened opened;
+        own = QDir::currentPath();
+        QVERIFY(own != directory);
+        QVERIFY(!QFile::exists("UserMaterial.xml"));
+        opened.Trigger("action_NewProject");
+        QVERIFY(QDir::currentPath() != own);
+        QVERIFY(!QFile::exists(own));
+        own = QDir::currentPath();
+    }
+    QVERIFY(!QFile::exists(own));
+    QCOMPARE(QDir::currentPath(), directory);
+}
+
+void tst_ProjectActions::ItsFilesGoAlongOnSaveAs()
+{
+    const QString directory = EnterTemporaryDirectory();
+    QVERIFY(QDir().mkpath("a"));
+    Put("a/UserMaterial.xml", "there");
+    Opened opened;
+    Put("UserMaterial.xml", "mine");
+    Put("Model_Active.bdf", "deck");
+    const QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    opened.SaveAs(directory + "/a/mine.json");
+    QCOMPARE(QDir::currentPath(), directory + "/a");
+    QCOMPARE(ContentOf("Model_Active.bdf"), QByteArray("deck"));
+    // Nothing of another project is replaced, and that is said.
+    QCOMPARE(ContentOf("UserMaterial.xml"), QByteArray("there"));
+    QVERIFY(posted[0][1].toString().startsWith("UserMaterial.xml of this project was not saved"));
+}
+
+void tst_ProjectActions::TheTitleHasTitleAndFile()
+{
+    const QString directory = EnterTemporaryDirectory();
+    Opened opened;
+    QCOMPARE(opened.window.windowTitle(), QString("Bolted flange[*] - Tarn host"));
+    opened.SaveAs(directory + "/mine.json");
+    QCOMPARE(opened.window.windowTitle(), QString("Bolted flange - mine.json[*] - Tarn host"));
+    SetValue(opened.design, "thickness", 33.0);
+    QVERIFY(opened.window.isWindowModified());
+    opened.part.UndoStack().undo();
+    QVERIFY(!opened.window.isWindowModified());
 }
 
 void tst_ProjectActions::ImportsAreFoundAfterSavingElsewhere()
@@ -106,38 +176,53 @@ void tst_ProjectActions::ImportsAreFoundAfterSavingElsewhere()
         QCOMPARE(QDir::cleanPath(QDir(saved.Folder()).filePath(saved.Features().At(0).file)),
                  directory + "/a/parts/nut.step");
     }
-    QCOMPARE(opened.model.Features().At(0).file, QString("parts/nut.step"));
+    QCOMPARE(opened.part.Features().At(0).file, QString("parts/nut.step"));
 }
 
-void tst_ProjectActions::ChangedSamplesAreAChange()
+void tst_ProjectActions::RecentProjectsAreOffered()
 {
-    Opened opened;
-    g_mapParaArrays["bolt_count"].vecValues.push_back(12.0);
-    opened.actions->UpdateModified();
-    QVERIFY(opened.window.isWindowModified());
-    g_mapParaArrays["bolt_count"].vecValues.pop_back();
-    opened.actions->UpdateModified();
-    QVERIFY(!opened.window.isWindowModified());
+    const QString directory = EnterTemporaryDirectory();
+    Put("a.json", Plain);
+    Put("b.json", Plain);
+    Opened opened(directory + "/a.json");
+    opened.actions->Open(Project::Load(directory + "/b.json"));
+    auto& recent = *opened.menu.findChild<QMenu*>("menu_RecentProjects");
+    Q_EMIT recent.aboutToShow();
+    QCOMPARE(recent.actions().at(0)->text(), directory + "/b.json");
+    recent.actions().at(1)->trigger();
+    QVERIFY(opened.window.windowTitle().contains("a.json"));
+    // A file that is gone is offered once.
+    QVERIFY(QFile::remove(directory + "/b.json"));
+    Q_EMIT recent.aboutToShow();
+    recent.actions().at(1)->trigger();
+    Q_EMIT recent.aboutToShow();
+    for (const QAction* const action : recent.actions())
+        QVERIFY(!action->text().endsWith("/b.json"));
 }
 
-void tst_ProjectActions::UndoingAFeatureKeepsChangedSamplesAChange()
+void tst_ProjectActions::RevertBringsTheFileBack()
 {
+    const QString directory = EnterTemporaryDirectory();
     Opened opened;
-    g_mapParaArrays["bolt_count"].vecValues.push_back(12.0);
-    opened.actions->UpdateModified();
-    opened.model.Add(NewFeature("cube", "box"));
-    opened.model.UndoStack().undo();
-    QVERIFY(opened.window.isWindowModified());
+    QVERIFY(!FindAction(opened.window, "action_RevertProject").isEnabled());
+    opened.SaveAs(directory + "/mine.json");
+    SetValue(opened.design, "thickness", 33.0);
     opened.user.Answer(QMessageBox::Cancel);
-    QVERIFY(!opened.actions->ConfirmDiscard());
+    opened.Trigger("action_RevertProject");
+    QCOMPARE(Stored("thickness"), 33.0);
+    opened.user.Answer(QMessageBox::Discard);
+    opened.Trigger("action_RevertProject");
+    QVERIFY(opened.user.IsDone());
+    QCOMPARE(Stored("thickness"), 20.0);
+    QVERIFY(!opened.window.isWindowModified());
 }
 
 void tst_ProjectActions::SaveEmitsThatItSaved()
 {
     const QString directory = EnterTemporaryDirectory();
     Opened opened;
-    QSignalSpy saved(opened.actions, &ProjectActions::Saved);
-    opened.model.Add(NewFeature("cube", "box"));
+    const QSignalSpy saved(opened.actions, &ProjectActions::Saved);
+    opened.part.Add(NewFeature("cube", "box"));
     opened.SaveAs(directory + "/mine");
     QCOMPARE(saved.count(), 1);
     opened.Trigger("action_SaveProject");
@@ -150,13 +235,13 @@ void tst_ProjectActions::AFailedSaveLosesNothing()
 {
     const QString directory = EnterTemporaryDirectory();
     Opened opened;
-    opened.model.Add(NewFeature("cube", "box"));
-    QVERIFY(QDir().mkpath("gone"));
+    opened.part.Add(NewFeature("cube", "box"));
+    QVERIFY(QDir().mkpath(directory + "/gone"));
     opened.SaveAs(directory + "/gone/mine.json");
-    QVERIFY(QDir("gone").removeRecursively());
-    opened.model.Add(NewFeature("cube_2", "box"));
-    QSignalSpy saved(opened.actions, &ProjectActions::Saved);
-    QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    QVERIFY(QDir(directory + "/gone").removeRecursively());
+    opened.part.Add(NewFeature("cube_2", "box"));
+    const QSignalSpy saved(opened.actions, &ProjectActions::Saved);
+    const QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
     // After a failed save, the project must not be discarded.
     opened.user.Answer(QMessageBox::Save);
     QVERIFY(!opened.actions->ConfirmDiscard());
@@ -165,6 +250,93 @@ void tst_ProjectActions::AFailedSaveLosesNothing()
     QVERIFY(posted[0][1].toString().contains("mine.json"));
     QCOMPARE(saved.count(), 0);
     QVERIFY(opened.window.isWindowModified());
+}
+
+void tst_ProjectActions::ChangesAreSavedBesideTheFile()
+{
+    const QString directory = EnterTemporaryDirectory();
+    Opened opened;
+    opened.SaveAs(directory + "/mine.json");
+    const QString file = directory + "/mine.json.autosave";
+    opened.Autosave();
+    QVERIFY(!QFile::exists(file));
+    SetValue(opened.design, "thickness", 33.0);
+    opened.Autosave();
+    QVERIFY(QFile::exists(file));
+    const Project saved = Project::Load(file);
+    QVERIFY(saved.HasSameContent(opened.session.Current()));
+    opened.part.UndoStack().undo();
+    opened.Autosave();
+    QVERIFY(!QFile::exists(file));
+    opened.part.UndoStack().redo();
+    opened.Autosave();
+    opened.Trigger("action_SaveProject");
+    QVERIFY(!QFile::exists(file));
+    opened.actions->Close();
+    QCOMPARE(AllFiles(), QStringList("mine.json"));
+}
+
+void tst_ProjectActions::WhatACrashLeftIsOffered_data()
+{
+    QTest::addColumn<bool>("isWanted");
+    NewRow("recovered", true);
+    NewRow("discarded", false);
+}
+
+void tst_ProjectActions::WhatACrashLeftIsOffered()
+{
+    QFETCH(bool, isWanted);
+    const QString directory = EnterTemporaryDirectory();
+    Put("mine.json", Plain);
+    Put("mine.json.autosave", QByteArray(Plain).replace("Plain", "Left"));
+    Opened opened{QString()};
+    opened.user.Answer(isWanted ? QMessageBox::Yes : QMessageBox::Discard);
+    opened.actions->Open(Project::Load(directory + "/mine.json"));
+    QVERIFY(opened.user.IsDone());
+    QCOMPARE(opened.user.Boxes().size(), 1);
+    QCOMPARE(opened.window.isWindowModified(), isWanted);
+    QCOMPARE(opened.session.Current().Title(), QString(isWanted ? "Left" : "Plain"));
+    QCOMPARE(QFile::exists("mine.json.autosave"), isWanted);
+}
+
+void tst_ProjectActions::AnUnsavedProjectIsRecovered()
+{
+    QDir unsaved(qEnvironmentVariable("XDG_DATA_HOME") + "/tarnhost/unsaved");
+    QVERIFY(unsaved.mkpath("crashed"));
+    Put(unsaved.filePath("crashed/unsaved.json.autosave"), Plain);
+    Put(unsaved.filePath("crashed/UserMaterial.xml"), "mine");
+    Opened opened{QString()};
+    opened.user.Answer(QMessageBox::Yes);
+    QVERIFY(opened.actions->OfferAbandoned());
+    QVERIFY(opened.user.IsDone());
+    QCOMPARE(opened.session.Current().Title(), QString("Plain"));
+    QVERIFY(QFile::exists("UserMaterial.xml"));
+    QVERIFY(!opened.actions->OfferAbandoned());
+    QVERIFY(opened.user.UnseenBoxes().isEmpty());
+}
+
+void tst_ProjectActions::AFullDiskIsReportedOnce()
+{
+    FullDisk disk;
+    const QString directory = QDir::currentPath();
+    Opened opened;
+    opened.SaveAs(directory + "/mine.json");
+    const QByteArray before = ContentOf("mine.json");
+    SetValue(opened.design, "thickness", 33.0);
+    disk.Fill();
+    const QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    opened.Autosave();
+    opened.Autosave();
+    QCOMPARE(posted.count(), 1);
+    QVERIFY(posted[0][1].toString().contains(disk.Reason()));
+    opened.Trigger("action_SaveProject");
+    QCOMPARE(posted.count(), 2);
+    QCOMPARE(ContentOf("mine.json"), before);
+    disk.Empty();
+    opened.Autosave();
+    QVERIFY(QFile::exists("mine.json.autosave"));
+    opened.Trigger("action_SaveProject");
+    QVERIFY(!opened.window.isWindowModified());
 }
 
 TARN_HOST_TEST_MAIN(tst_ProjectActions)

@@ -1,30 +1,34 @@
+#include "AnalysisRecords.h"
 #include "DesignActions.h"
-#include "DrawerOutput.h"
+#include "DesignModel.h"
 #include "EmptyDesignStores.h"
-#include "MessageLevel.h"
+#include "HostTestMain.h"
+#include "MenuUser.h"
 #include "ModalDriver.h"
+#include "PartModel.h"
 #include "Project.h"
 #include "SampleRegistry.h"
-#include "TestCase.h"
 #include "sParaArrayData.h"
 
-#include <QAction>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTableWidget>
 
-class tst_DesignActions : public TestCase
+class tst_DesignActions : public With<TestCase, EmptyDesignStores>
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void ApplyEmitsTheParameterChange();
-    void ACancelledEditorEmitsNothing();
-    void ARunEmitsTheParameterChange();
-    void RestoreResetsTheDesignAndEmits();
-    void SavingARunIsReportedUntilTheDesignIsRestored();
-    void AnotherProjectForgetsTheDesign();
+    void ApplyIsAnEdit();
+    void ACancelledEditorChangesNothing();
+    void ARunIsNotAnEdit();
+    void BackToTheDesignResetsTheParameters();
+    void TheEditorShowsTheDesign();
+    void AParameterThatNobodyUsesIsRemoved();
+    void UsersAreNamedBeforeTheRemoval();
+    void UsersGoWithTheParameter();
     void RemovedParametersDoNotReturn();
+    void FeaturesAndConditionsFollowANewName();
 };
 
 namespace {
@@ -36,11 +40,10 @@ struct Design
         const Project project = Project::Load(Project::SamplePath());
         project.FillParameterStore();
         FillSampleRegistry(project.SampleLists());
+        part.Replace(project.Features(), project.Conditions());
         actions->FillMenu(menu);
-        actions->Start();
+        model.Open({});
     }
-
-    QAction& Action(const char* name) { return *window.findChild<QAction*>(name); }
 
     void Generate(int row)
     {
@@ -49,17 +52,23 @@ struct Design
             Click(dialog, "pushButton_GenGeo");
             dialog.reject();
         });
-        Action("action_DesignOfExperiments").trigger();
+        Trigger(window, "action_DesignOfExperiments");
         QVERIFY(user.IsDone());
     }
 
-    EmptyDesignStores stores;
+    bool Has(const QString& name) const
+    {
+        return GlobalParaMeterMgr::m_nameMapParameters.count(name) != 0;
+    }
+
+    DesignModel model;
+    PartModel part;
+    AnalysisRecords analysis;
     QWidget window;
     QMenu menu;
-    DesignActions* actions = new DesignActions(&window);
+    DesignActions* actions = new DesignActions(model, part, analysis, nullptr, &window);
     ModalDriver user;
-    QSignalSpy changed{actions, &DesignActions::ParametersChanged};
-    QSignalSpy posted{DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage};
+    QSignalSpy edited{&model, &DesignModel::Edited};
 };
 
 double Stored(const QString& name)
@@ -69,85 +78,113 @@ double Stored(const QString& name)
 
 } // namespace
 
-void tst_DesignActions::ApplyEmitsTheParameterChange()
+void tst_DesignActions::ApplyIsAnEdit()
 {
     Design design;
     design.user.Then([](QDialog& editor) {
         Click(editor, "pushButton_Apply");
         Click(editor, "pushButton_Cancel");
     });
-    design.Action("action_Parameters").trigger();
+    Trigger(design.window, "action_Parameters");
     QVERIFY(design.user.IsDone());
-    QCOMPARE(design.changed.count(), 1);
+    QCOMPARE(design.edited.count(), 1);
 }
 
-void tst_DesignActions::ACancelledEditorEmitsNothing()
+void tst_DesignActions::ACancelledEditorChangesNothing()
 {
     Design design;
     design.user.Then([](QDialog& editor) { Click(editor, "pushButton_Cancel"); });
-    design.Action("action_Parameters").trigger();
+    Trigger(design.window, "action_Parameters");
     QVERIFY(design.user.IsDone());
-    QCOMPARE(design.changed.count(), 0);
+    QCOMPARE(design.edited.count(), 0);
 }
 
-void tst_DesignActions::ARunEmitsTheParameterChange()
+void tst_DesignActions::ARunIsNotAnEdit()
 {
     Design design;
-    QSignalSpy edited(design.actions, &DesignActions::SamplesEdited);
     design.Generate(17);
-    QCOMPARE(design.changed.count(), 1);
-    QCOMPARE(edited.count(), 1);
     QCOMPARE(Stored("thickness"), 24.0);
+    QVERIFY(design.model.HoldsRun());
+    QCOMPARE(design.edited.count(), 0);
 }
 
-void tst_DesignActions::RestoreResetsTheDesignAndEmits()
+void tst_DesignActions::BackToTheDesignResetsTheParameters()
 {
     Design design;
-    QVERIFY(!design.Action("action_RestoreParameters").isEnabled());
+    QVERIFY(!FindAction(design.window, "action_RestoreParameters").isEnabled());
     design.Generate(17);
-    design.Action("action_RestoreParameters").trigger();
-    QCOMPARE(design.changed.count(), 2);
+    Trigger(design.window, "action_RestoreParameters");
     QCOMPARE(Stored("thickness"), 20.0);
-    QVERIFY(!design.Action("action_RestoreParameters").isEnabled());
+    QVERIFY(!FindAction(design.window, "action_RestoreParameters").isEnabled());
 }
 
-void tst_DesignActions::SavingARunIsReportedUntilTheDesignIsRestored()
-{
-    Design design;
-    design.actions->WarnIfRunIsStored();
-    design.Generate(17);
-    design.posted.clear();
-    design.actions->WarnIfRunIsStored();
-    QCOMPARE(design.posted.count(), 1);
-    QCOMPARE(design.posted[0][0].toInt(), int(WarningLevel));
-    design.Action("action_RestoreParameters").trigger();
-    design.posted.clear();
-    design.actions->WarnIfRunIsStored();
-    QCOMPARE(design.posted.count(), 0);
-}
-
-void tst_DesignActions::AnotherProjectForgetsTheDesign()
+void tst_DesignActions::TheEditorShowsTheDesign()
 {
     Design design;
     design.Generate(17);
-    design.actions->Start();
-    QVERIFY(!design.Action("action_RestoreParameters").isEnabled());
+    design.user.Then([](QDialog& editor) { Click(editor, "pushButton_OK"); });
+    Trigger(design.window, "action_Parameters");
+    QCOMPARE(Stored("thickness"), 20.0);
+    QVERIFY(!design.model.HoldsRun());
+}
+
+void tst_DesignActions::AParameterThatNobodyUsesIsRemoved()
+{
+    Design design;
+    ParameterEntries entries = design.model.Design();
+    entries.push_back(NewParameter("spare"));
+    design.model.Replace(entries);
+    design.actions->RemoveParameters({"spare"});
+    QCOMPARE(design.user.Boxes(), ShownBoxes());
+    QVERIFY(!design.Has("spare"));
+    QCOMPARE(design.edited.count(), 1);
+}
+
+void tst_DesignActions::UsersAreNamedBeforeTheRemoval()
+{
+    Design design;
+    design.user.Answer(QMessageBox::Cancel);
+    design.actions->RemoveParameters({"bore_diameter"});
+    const QString text = design.user.Boxes().at(0).text;
+    for (const char* const user : {"parameter \"hub_diameter\"", "feature \"bore\"", "condition"})
+        QVERIFY2(text.contains(user), qPrintable(text));
+    QVERIFY(design.Has("bore_diameter"));
+    QCOMPARE(design.edited.count(), 0);
+}
+
+void tst_DesignActions::UsersGoWithTheParameter()
+{
+    Design design;
+    design.user.Answer(QMessageBox::Yes);
+    design.actions->RemoveParameters({"thickness"});
+    QVERIFY(!design.Has("thickness"));
+    QVERIFY(design.part.Features().Find("plate") < 0);
+    // It is made from the plate.
+    QVERIFY(design.part.Features().Find("body") < 0);
+    QCOMPARE(g_mapParaArrays.count("thickness"), std::size_t(0));
+    QCOMPARE(design.edited.count(), 1);
 }
 
 void tst_DesignActions::RemovedParametersDoNotReturn()
 {
     Design design;
-    GlobalParaMeterMgr::AddParameter("", {});
     design.Generate(17);
-    QVERIFY(g_mapParaArrays.count("thickness") != 0);
-    design.actions->RemoveParameters({"", "thickness"});
-    QCOMPARE(design.changed.count(), 2);
-    design.Action("action_RestoreParameters").trigger();
-    for (const char* const name : {"", "thickness"}) {
-        QCOMPARE(GlobalParaMeterMgr::m_nameMapParameters.count(name), std::size_t(0));
-        QCOMPARE(g_mapParaArrays.count(name), std::size_t(0));
-    }
+    design.user.Answer(QMessageBox::Yes);
+    design.actions->RemoveParameters({"thickness"});
+    QVERIFY(!design.model.HoldsRun());
+    QVERIFY(!FindAction(design.window, "action_RestoreParameters").isEnabled());
+    QVERIFY(!design.Has("thickness"));
 }
 
-TARN_TEST_MAIN(tst_DesignActions)
+void tst_DesignActions::FeaturesAndConditionsFollowANewName()
+{
+    Design design;
+    design.model.Rename("outer_diameter", "breite");
+    const FeatureList& features = design.part.Features();
+    QCOMPARE(features.At(features.Find("plate")).fields[0], QString("breite / 2"));
+    for (const Condition& condition : design.part.Conditions())
+        QVERIFY(!condition.expression.contains("outer_diameter"));
+}
+
+TARN_HOST_TEST_MAIN(tst_DesignActions)
 #include "tst_DesignActions.moc"

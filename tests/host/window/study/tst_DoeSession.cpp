@@ -1,4 +1,5 @@
 #include "DOEDlg.h"
+#include "DesignModel.h"
 #include "DoeSession.h"
 #include "DrawerOutput.h"
 #include "EmptyDesignStores.h"
@@ -8,6 +9,7 @@
 #include "sParaArrayData.h"
 
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
@@ -26,9 +28,9 @@ private Q_SLOTS:
     void TheRunIsCompleteBeforeTheHostHears();
     void TheChannelReportsARunOnce();
     void ProblemsAreReportedAndKept();
-    void TheRecordsFromBeforeAreKept();
     void AParameterRemovedMeanwhileStaysRemoved();
-    void ASecondSessionStartsFromTheResultOfTheFirst();
+    void AnUntickedParameterGetsItsDesignValueInASecondSession();
+    void SetArrayStartsAroundTheValue();
 };
 
 static void Add(const QString& name, double value, const char* expression = "",
@@ -103,7 +105,8 @@ void tst_DoeSession::TicksAreInTheRowsOfTheirParameters()
     Tick("depth", {1.0});
     g_mapParaArrays["width"].bChecked = 0;
     DOEDlg dialog(nullptr);
-    const DoeSession session(dialog);
+    DesignModel design;
+    const DoeSession session(dialog, design);
     auto& table = Find<QTableWidget>(dialog, "tableWidget_Parameters");
     for (int row = 0; row < table.rowCount(); ++row) {
         const bool ticked = table.item(row, 0)->text() == "depth";
@@ -117,7 +120,8 @@ void tst_DoeSession::ParametersOutsideTheRunGetTheirRecordsBack()
     const BoxInStores stores;
     Tick("width", {11.0, 12.0});
     DOEDlg dialog(nullptr);
-    DoeSession session(dialog);
+    DesignModel design;
+    DoeSession session(dialog, design);
     Run(dialog, [](QDialog& shown) { Generate(shown, 1); });
     QCOMPARE(Value("width"), 12.0);
     QCOMPARE(Value("depth"), 20.0);
@@ -132,10 +136,10 @@ void tst_DoeSession::ExpressionsFollowTheRun()
     const BoxInStores stores;
     Tick("width", {11.0, 12.0});
     DOEDlg dialog(nullptr);
-    DoeSession session(dialog);
+    DesignModel design;
+    DoeSession session(dialog, design);
     Run(dialog, [](QDialog& shown) { Generate(shown, 0); });
     QCOMPARE(Value("area"), 220.0);
-    QVERIFY(session.Problems().empty());
 }
 
 void tst_DoeSession::ATickedParameterWithAnExpressionKeepsTheRunsValue()
@@ -144,7 +148,8 @@ void tst_DoeSession::ATickedParameterWithAnExpressionKeepsTheRunsValue()
     Add("volume", 0.0, "area*height", "area,height");
     Tick("area", {7.0});
     DOEDlg dialog(nullptr);
-    DoeSession session(dialog);
+    DesignModel design;
+    DoeSession session(dialog, design);
     Run(dialog, [](QDialog& shown) { Generate(shown, 0); });
     QCOMPARE(Value("area"), 7.0);
     QCOMPARE(Value("volume"), 35.0);
@@ -158,7 +163,8 @@ void tst_DoeSession::ParametersOutsideEveryRunStayThroughSeveralRuns()
     Tick("width", {11.0, 12.0});
     Tick("depth", {21.0, 22.0});
     DOEDlg dialog(nullptr);
-    DoeSession session(dialog);
+    DesignModel design;
+    DoeSession session(dialog, design);
     Run(dialog, [](QDialog& shown) {
         Generate(shown, 0);
         Generate(shown, 3);
@@ -176,7 +182,8 @@ void tst_DoeSession::ATickTakenInTheDialogCounts()
     g_mapParaArrays["height"].strName = "height";
     g_mapParaArrays["height"].vecValues = {6.0};
     DOEDlg dialog(nullptr);
-    DoeSession session(dialog);
+    DesignModel design;
+    DoeSession session(dialog, design);
     Run(dialog, [](QDialog& shown) {
         QTest::mouseClick(&TickOf(shown, 3), Qt::LeftButton, {}, QPoint(5, 10));
         Generate(shown, 0);
@@ -191,9 +198,10 @@ void tst_DoeSession::TheRunIsCompleteBeforeTheHostHears()
     const BoxInStores stores;
     Tick("width", {11.0});
     DOEDlg dialog(nullptr);
-    DoeSession session(dialog);
+    DesignModel design;
+    DoeSession session(dialog, design);
     QVector<double> heard;
-    connect(&session, &DoeSession::RunReady, this,
+    connect(&design, &DesignModel::Changed, this,
             [&] { heard << Value("width") << Value("area") << Value("height"); });
     Run(dialog, [](QDialog& shown) { Generate(shown, 0); });
     QCOMPARE(heard, QVector<double>({11.0, 220.0, 5.0}));
@@ -204,14 +212,15 @@ void tst_DoeSession::TheChannelReportsARunOnce()
     const BoxInStores stores;
     Tick("width", {11.5});
     DOEDlg dialog(nullptr);
-    DoeSession session(dialog);
+    DesignModel design;
+    DoeSession session(dialog, design);
     const QSignalSpy messages(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
     Run(dialog, [](QDialog& shown) { Generate(shown, 0); });
     QCOMPARE(messages.size(), 1);
     QCOMPARE(messages[0][0].toInt(), 0);
     QCOMPARE(messages[0][1].toString(),
              QString("Run taken: width = 11.5. The other parameters, 3 of them, have their values "
-                     "from before again."));
+                     "of the design."));
 }
 
 void tst_DoeSession::ProblemsAreReportedAndKept()
@@ -220,30 +229,15 @@ void tst_DoeSession::ProblemsAreReportedAndKept()
     Add("bad", 1.0, "x", "x");
     Tick("width", {11.0});
     DOEDlg dialog(nullptr);
-    DoeSession session(dialog);
-    const QSignalSpy ready(&session, &DoeSession::RunReady);
+    DesignModel design;
+    DoeSession session(dialog, design);
     const QSignalSpy messages(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
     Run(dialog, [](QDialog& shown) { Generate(shown, 0); });
     const QString problem = "bad: its expression uses \"x\", which is not a parameter";
-    QCOMPARE(session.Problems(), std::vector<QString>({problem}));
+    QCOMPARE(design.ReasonFor("bad"), problem.mid(5));
     QCOMPARE(messages.size(), 2);
-    QCOMPARE(messages[1][0].toInt(), 2);
-    QCOMPARE(messages[1][1].toString(), problem);
-    QCOMPARE(ready.size(), 1);
-}
-
-void tst_DoeSession::TheRecordsFromBeforeAreKept()
-{
-    const BoxInStores stores;
-    Tick("width", {11.0});
-    DOEDlg dialog(nullptr);
-    DoeSession session(dialog);
-    Run(dialog, [](QDialog& shown) { Generate(shown, 0); });
-    GlobalParaMeterMgr::m_nameMapParameters.erase("depth");
-    QStringList kept;
-    for (const auto& [name, record] : session.Remembered())
-        kept << name + "=" + record.m_strValue;
-    QCOMPARE(kept, QStringList({"width=10", "depth=20", "area=200", "height=5"}));
+    QCOMPARE(messages[0][0].toInt(), 2);
+    QCOMPARE(messages[0][1].toString(), problem);
 }
 
 void tst_DoeSession::AParameterRemovedMeanwhileStaysRemoved()
@@ -251,7 +245,8 @@ void tst_DoeSession::AParameterRemovedMeanwhileStaysRemoved()
     const BoxInStores stores;
     Tick("width", {11.0});
     DOEDlg dialog(nullptr);
-    DoeSession session(dialog);
+    DesignModel design;
+    DoeSession session(dialog, design);
     Run(dialog, [](QDialog& shown) {
         GlobalParaMeterMgr::m_nameMapParameters.erase("height");
         Generate(shown, 0);
@@ -261,24 +256,51 @@ void tst_DoeSession::AParameterRemovedMeanwhileStaysRemoved()
     QCOMPARE(Value("area"), 220.0);
 }
 
-void tst_DoeSession::ASecondSessionStartsFromTheResultOfTheFirst()
+void tst_DoeSession::AnUntickedParameterGetsItsDesignValueInASecondSession()
 {
     const BoxInStores stores;
     Tick("width", {11.0, 12.0});
+    DesignModel design;
     {
         DOEDlg dialog(nullptr);
-        DoeSession session(dialog);
+        DoeSession session(dialog, design);
         Run(dialog, [](QDialog& shown) { Generate(shown, 1); });
     }
     g_mapParaArrays["width"].bChecked = 0;
     Tick("depth", {30.0});
     DOEDlg dialog(nullptr);
-    DoeSession session(dialog);
+    DoeSession session(dialog, design);
     Run(dialog, [](QDialog& shown) { Generate(shown, 0); });
-    QCOMPARE(Value("width"), 12.0);
+    QCOMPARE(Value("width"), 10.0);
     QCOMPARE(Value("depth"), 30.0);
-    QCOMPARE(Value("area"), 360.0);
+    QCOMPARE(Value("area"), 300.0);
     QCOMPARE(Value("height"), 5.0);
+}
+
+void tst_DoeSession::SetArrayStartsAroundTheValue()
+{
+    const BoxInStores stores;
+    g_mapParaArrays["height"].bChecked = 1;
+    DesignModel design;
+    DOEDlg dialog(nullptr);
+    DoeSession session(dialog, design);
+    const QSignalSpy edited(&session, &DoeSession::SamplesEdited);
+    ModalDriver user;
+    user.Then([](QDialog& shown) {
+        auto& table = Find<QTableWidget>(shown, "tableWidget_Parameters");
+        QTest::mouseClick(table.cellWidget(3, 2), Qt::LeftButton);
+        shown.reject();
+    });
+    user.Then([](QDialog& sampling) {
+        QCOMPARE(Find<QLineEdit>(sampling, "lineEdit_Min").text(), QString("4"));
+        QCOMPARE(Find<QLineEdit>(sampling, "lineEdit_Max").text(), QString("6"));
+        Click(sampling, "pushButton_OK");
+    });
+    dialog.exec();
+    QVERIFY(user.IsDone());
+    QCOMPARE(g_mapParaArrays["height"].vecValues, std::vector<double>({4, 5, 6}));
+    QCOMPARE(edited.count(), 1);
+    QCOMPARE(edited[0][0].toString(), QString("Samples of \"height\""));
 }
 
 TARN_TEST_MAIN(tst_DoeSession)

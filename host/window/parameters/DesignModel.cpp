@@ -1,0 +1,133 @@
+#include "DesignModel.h"
+
+#include "GlobalParaMeterMgr.h"
+#include "JsonSection.h"
+#include "MessageLevel.h"
+#include "sParaArrayData.h"
+
+DesignModel::DesignModel(QObject* parent)
+    : QObject(parent)
+{
+}
+
+DesignModel::~DesignModel() = default;
+
+ParameterEntries DesignModel::Stored() const
+{
+    ParameterEntries entries;
+    entries.reserve(GlobalParaMeterMgr::m_nameMapParameters.size());
+    for (const auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters) {
+        entries.push_back({record, m_units.value(name)});
+        entries.back().record.m_strName = name;
+    }
+    return entries;
+}
+
+ParameterEntries DesignModel::Design() const
+{
+    return m_holdsRun ? m_design : Stored();
+}
+
+void DesignModel::Open(const QHash<QString, QString>& units)
+{
+    m_units = units;
+    m_design.clear();
+    m_holdsRun = false;
+    NoteUsedParameters();
+    Settle();
+    Q_EMIT Changed();
+}
+
+void DesignModel::Store(const ParameterEntries& entries)
+{
+    GlobalParaMeterMgr::m_nameMapParameters.clear();
+    m_units.clear();
+    for (const ParameterEntry& entry : entries) {
+        GlobalParaMeterMgr::AddParameter(entry.Name(), entry.record);
+        if (!entry.unit.isEmpty())
+            m_units.insert(entry.Name(), entry.unit);
+    }
+    m_design.clear();
+    m_holdsRun = false;
+    NoteUsedParameters();
+    Settle();
+}
+
+void DesignModel::Replace(const ParameterEntries& entries)
+{
+    Store(entries);
+    Q_EMIT Changed();
+}
+
+void DesignModel::Edit(const ParameterEntries& entries, const QString& text)
+{
+    Store(entries);
+    Q_EMIT Edited(text);
+    Q_EMIT Changed();
+}
+
+void DesignModel::Rename(const QString& before, const QString& after)
+{
+    if (before == after)
+        return;
+    ParameterEntries entries = Design();
+    const int index = FindParameter(entries, before);
+    if (index < 0)
+        throw ParameterError(tr("there is no parameter %1").arg(Quoted(before)));
+    RenameParameter(entries, index, after);
+
+    const auto samples = g_mapParaArrays.find(before);
+    if (samples != g_mapParaArrays.end()) {
+        sParaArrayData renamed = samples->second;
+        renamed.strName = after;
+        g_mapParaArrays.erase(samples);
+        g_mapParaArrays[after] = renamed;
+    }
+    Store(entries);
+    Q_EMIT Renamed(before, after);
+    Q_EMIT Edited(tr("Rename %1 to %2").arg(Quoted(before), Quoted(after)));
+    Q_EMIT Changed();
+}
+
+void DesignModel::ExpectRuns()
+{
+    if (!m_holdsRun)
+        m_design = Stored();
+}
+
+int DesignModel::TakeRun(const QSet<QString>& ticked)
+{
+    int given = 0;
+    for (const ParameterEntry& entry : m_design) {
+        const auto stored = GlobalParaMeterMgr::m_nameMapParameters.find(entry.Name());
+        if (ticked.contains(entry.Name()) ||
+            stored == GlobalParaMeterMgr::m_nameMapParameters.end())
+            continue;
+        stored->second = entry.record;
+        ++given;
+    }
+    m_holdsRun = true;
+    Settle(ticked);
+    Q_EMIT Changed();
+    return given;
+}
+
+void DesignModel::BackToDesign()
+{
+    if (!m_holdsRun)
+        return;
+    for (const ParameterEntry& entry : m_design)
+        GlobalParaMeterMgr::AddParameter(entry.Name(), entry.record);
+    m_holdsRun = false;
+    m_design.clear();
+    PostMessageToChannel(InfoLevel, tr("The parameters are those of the design again"));
+    Settle();
+    Q_EMIT Changed();
+}
+
+void DesignModel::Settle(const QSet<QString>& held)
+{
+    m_faults = EvaluateStore(held);
+    for (const QString& problem : m_faults.messages)
+        PostMessageToChannel(ErrorLevel, problem);
+}
