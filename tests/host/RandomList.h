@@ -35,7 +35,8 @@ inline FeatureList RandomList(unsigned seed)
         Feature feature = add(Primitives[random() % Primitives.size()], {});
         const bool isTorus = feature.kind == &KindOf("torus");
         if (feature.kind == &KindOf("box"))
-            feature.fields = QStringList({text(5, 20), text(5, 20), text(5, 20)});
+            for (int side = 0; side < 3; ++side)
+                feature.fields[side] = text(5, 20);
         else
             feature.fields[1] = feature.kind == &KindOf("sphere") ? text(-90, 0) : text(1, 9);
         list.Append(feature);

@@ -7,4 +7,6 @@ Feature::Feature(const FeatureKind& featureKind)
 {
     for (const FieldDefinition& field : featureKind.fields)
         fields << field.defaultText;
+    if (featureKind.hasProfile)
+        profile = SquareProfile();
 }

@@ -5,18 +5,58 @@
 #include "BuildInput.h"
 #include "FeatureKind.h"
 #include "KernelSignals.h"
+#include "PartFaces.h"
 
 #include <QCryptographicHash>
 #include <Standard_Failure.hxx>
 
+#include <algorithm>
+
 namespace {
+
+// Without repetitions, ascending.
+std::vector<int> Sorted(std::vector<int> numbers)
+{
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+    return numbers;
+}
+
+std::vector<int> FacesFor(const BuildStep& step, const BuiltPart& part)
+{
+    std::vector<int> found;
+    for (const FaceTarget& target : step.faces) {
+        const std::vector<int> faces = PartFaces(part).Faces(step.inputs.front(), target);
+        found.insert(found.end(), faces.begin(), faces.end());
+    }
+    return Sorted(found);
+}
+
+std::vector<int> EdgesFor(const BuildStep& step, const BuiltPart& part)
+{
+    std::vector<int> found;
+    for (const EdgeTarget& target : step.edges) {
+        const std::vector<int> edges = PartFaces(part).Edges(step.inputs.front(), target);
+        found.insert(found.end(), edges.begin(), edges.end());
+    }
+    return Sorted(found);
+}
 
 TracedShape Built(const BuildStep& step, const BuiltPart& part, BodyVolumes& volumes)
 {
     std::vector<BuildInput::Body> bodies;
     for (const int input : step.inputs)
         bodies.push_back({part.plan[std::size_t(input)].name, part.shapes[std::size_t(input)]});
-    return step.kind->Built({*step.kind, step.values, bodies, step.file}, volumes);
+    BuildInput::Extras extras;
+    extras.file = step.file;
+    extras.outline = step.outline;
+    extras.findFaces = [&] {
+        return FacesFor(step, part);
+    };
+    extras.findEdges = [&] {
+        return EdgesFor(step, part);
+    };
+    return step.kind->Built({*step.kind, step.values, bodies, extras}, volumes);
 }
 
 // Makes every failure of @p call one of the feature called @p name.
@@ -99,10 +139,32 @@ QByteArray FeatureBuilder::KeyOf(const BuildStep& step, const BuiltPart& part)
     const auto addPart = [&hash](const QByteArray& bytes) {
         hash.addData(QByteArray::number(bytes.size()) + ' ' + bytes);
     };
-    addPart(QByteArray::fromRawData(reinterpret_cast<const char*>(step.values.data()),
-                                    int(step.values.size() * sizeof(double))));
+    const auto addNumbers = [&](const auto& numbers) {
+        addPart(QByteArray::fromRawData(reinterpret_cast<const char*>(numbers.data()),
+                                        int(numbers.size() * sizeof(numbers[0]))));
+    };
+    addNumbers(step.values);
     for (const int input : step.inputs)
         addPart(part.keys[std::size_t(input)]);
+    // Names may mean other faces while all numbers stay, so what they mean counts.
+    const auto addFace = [&](const FaceTarget& target) {
+        addPart(target.IsPoint() ? "point" : "faces");
+        if (target.IsPoint())
+            return addNumbers(target.at);
+        if (!part.shapes[std::size_t(step.inputs.front())].IsNull())
+            addNumbers(PartFaces(part).Faces(step.inputs.front(), target));
+    };
+    for (const FaceTarget& target : step.faces)
+        addFace(target);
+    for (const EdgeTarget& target : step.edges) {
+        addPart(target.IsPoint() ? "point" : "edge");
+        if (target.IsPoint())
+            addNumbers(target.at);
+        for (const FaceTarget& face : target.between)
+            addFace(face);
+    }
+    for (const OutlineCorner& corner : step.outline)
+        addNumbers(corner.Numbers());
     if (step.kind->readsFile)
         addPart(m_cache.ContentHash(step.file));
     return hash.result();

@@ -1,7 +1,9 @@
 #include "FeatureList.h"
 
 #include "BuildError.h"
-#include "FeatureKinds.h"
+#include "FeatureJson.h"
+#include "FeatureKind.h"
+#include "FeatureRename.h"
 #include "JsonSection.h"
 
 #include <QSet>
@@ -9,71 +11,6 @@
 #include <algorithm>
 
 namespace {
-
-const QLatin1String NameKey("name");
-const QLatin1String KindKey("kind");
-const QLatin1String SuppressedKey("suppressed");
-const QLatin1String InputsKey("inputs");
-const QLatin1String FieldsKey("fields");
-const QLatin1String FileKey("file");
-
-QStringList ReadFields(const JsonSection& section, const QString& place, const FeatureKind& kind)
-{
-    std::vector<QLatin1String> keys;
-    keys.reserve(kind.fields.size());
-    for (const FieldDefinition& field : kind.fields)
-        keys.push_back(field.key);
-    const JsonSection values(JsonError::tr("%1 in its \"fields\"").arg(place),
-                             section.Has(FieldsKey) ? section.Value(FieldsKey) : QJsonObject(),
-                             keys);
-    QStringList texts;
-    for (const FieldDefinition& field : kind.fields)
-        texts << values.Expression(field.key, field.defaultText);
-    return texts;
-}
-
-Feature ReadFeature(const QJsonValue& json, int number)
-{
-    const std::vector<QLatin1String> keys = {NameKey,   KindKey,   SuppressedKey,
-                                             InputsKey, FieldsKey, FileKey};
-    const QString nameless = JsonError::tr("feature %1").arg(number);
-    const QString name = JsonSection(nameless, json, keys).NeededText(NameKey);
-    const QString place = JsonError::tr("%1, %2,").arg(nameless, Quoted(name));
-    const JsonSection section(place, json, keys);
-
-    const QString word = section.NeededText(KindKey);
-    const FeatureKind* const kind = FeatureKinds::Find(word);
-    if (kind == nullptr)
-        section.Fail(JsonError::tr("has the unknown kind %1").arg(Quoted(word)));
-    Feature feature(*kind);
-    feature.name = name;
-    feature.suppressed = section.Flag(SuppressedKey, false);
-    feature.inputs = section.Texts(InputsKey);
-    feature.fields = ReadFields(section, place, *kind);
-    feature.file = section.Text(FileKey);
-    return feature;
-}
-
-QJsonObject WriteFeature(const Feature& feature)
-{
-    const FeatureKind& kind = *feature.kind;
-    QJsonObject json;
-    json.insert(NameKey, feature.name);
-    json.insert(KindKey, kind.word);
-    if (feature.suppressed)
-        json.insert(SuppressedKey, true);
-    if (!feature.inputs.isEmpty())
-        json.insert(InputsKey, QJsonArray::fromStringList(feature.inputs));
-    QJsonObject fields;
-    const int count = std::min(int(kind.fields.size()), feature.fields.size());
-    for (int field = 0; field < count; ++field)
-        fields.insert(kind.fields[std::size_t(field)].key, ExpressionToJson(feature.fields[field]));
-    if (!fields.isEmpty())
-        json.insert(FieldsKey, fields);
-    if (!feature.file.isEmpty())
-        json.insert(FileKey, feature.file);
-    return json;
-}
 
 QString InputsText(const FeatureKind& kind)
 {
@@ -103,6 +40,18 @@ void CheckShape(const Feature& feature)
     if (!kind.readsFile && !feature.file.isEmpty())
         throw FeatureError(feature.name,
                            BuildError::tr("a feature of kind \"%1\" has no file.").arg(kind.word));
+    if (!kind.isAtEdges && !feature.edges.empty())
+        throw FeatureError(feature.name,
+                           BuildError::tr("a feature of kind \"%1\" has no edges.").arg(kind.word));
+    if (!kind.isAtFace && feature.face)
+        throw FeatureError(feature.name,
+                           BuildError::tr("a feature of kind \"%1\" has no face.").arg(kind.word));
+    if (kind.hasProfile == feature.profile.empty())
+        throw FeatureError(feature.name,
+                           (kind.hasProfile
+                                ? BuildError::tr("a feature of kind \"%1\" needs a profile.")
+                                : BuildError::tr("a feature of kind \"%1\" has no profile."))
+                               .arg(kind.word));
 }
 
 // Inputs are earlier features, each of them once.
@@ -133,6 +82,14 @@ int FeatureList::Find(const QString& name) const
     return found == m_features.end() ? -1 : int(found - m_features.begin());
 }
 
+QSet<QString> FeatureList::Names() const
+{
+    QSet<QString> names;
+    for (const Feature& feature : m_features)
+        names.insert(feature.name);
+    return names;
+}
+
 QStringList FeatureList::UsersOf(const QString& name) const
 {
     QStringList users;
@@ -160,14 +117,20 @@ void FeatureList::Replace(int index, const Feature& feature)
 {
     Feature& place = m_features.at(std::size_t(index));
     const QString former = place.name;
+    const QSet<QString> names = Names();
     place = feature;
     if (former == feature.name || Find(former) >= 0)
         return;
+    const FeatureRename rename(names, former, feature.name);
     for (Feature& user : m_features) {
         for (QString& input : user.inputs) {
             if (input == former)
                 input = feature.name;
         }
+        for (EdgeReference& edge : user.edges)
+            edge = rename.Applied(edge);
+        if (user.face)
+            user.face = rename.Applied(*user.face);
     }
 }
 
@@ -222,6 +185,6 @@ QJsonArray FeatureList::ToJson() const
 {
     QJsonArray json;
     for (const Feature& feature : m_features)
-        json.append(WriteFeature(feature));
+        json.append(::ToJson(feature));
     return json;
 }

@@ -3,6 +3,7 @@
 #include "Feature.h"
 
 #include <QJsonArray>
+#include <QSet>
 
 #include <vector>
 
@@ -21,6 +22,8 @@ public:
 
     /// The place of the feature called @p name, or -1.
     int Find(const QString& name) const;
+    /// Of all features.
+    QSet<QString> Names() const;
     /// The names of the features that use @p name.
     QStringList UsersOf(const QString& name) const;
     /// @p stem if no feature has this name, otherwise @p stem with the next free number.
@@ -28,7 +31,7 @@ public:
 
     void Append(const Feature& feature) { Insert(Size(), feature); }
     void Insert(int index, const Feature& feature);
-    /// A new name also replaces the former one in the inputs of other features.
+    /// A new name also replaces the former one in the inputs and references of all features.
     void Replace(int index, const Feature& feature);
     void Remove(int index);
     /// Moves the feature at @p from to the place @p to.

@@ -44,6 +44,10 @@ std::vector<double> FieldValues::Of(const Feature& feature)
     values.reserve(fields.size());
     for (const FieldDefinition& field : fields) {
         const QString& text = feature.fields.at(int(values.size()));
+        if (feature.HasReferences() && feature.kind->IsPosition(field)) {
+            values.push_back(0.0);
+            continue;
+        }
         const QString label = field.Label();
         const double value = Evaluate(text);
         if (std::isnan(value))
@@ -78,20 +82,32 @@ EdgeTarget FieldValues::Of(const EdgeReference& reference)
     return target;
 }
 
+Outline FieldValues::Of(const Profile& profile)
+{
+    Outline outline;
+    for (const ProfileCorner& corner : profile) {
+        OutlineCorner place;
+        place.point = gp_Pnt2d(Coordinate(corner.x), Coordinate(corner.y));
+        if (corner.IsArc())
+            place.via = gp_Pnt2d(Coordinate(corner.viaX), Coordinate(corner.viaY));
+        outline.push_back(place);
+    }
+    return outline;
+}
+
 std::array<double, 3> FieldValues::Point(const PointTexts& texts)
 {
-    std::array<double, 3> point{};
-    for (std::size_t axis = 0; axis < point.size(); ++axis) {
-        const QString& text = texts[axis];
-        const double value = Evaluate(text);
-        if (std::isnan(value))
-            throw BuildError(BuildError::tr("the coordinate %1 of a point has no value: %2.")
-                                 .arg(Quoted(text), ExpressionEngine::LastError()));
-        if (!FieldRules::Coordinate.Allows(value))
-            throw BuildError(
-                BuildError::tr("the coordinate %1 of a point is %2, but has to be %3.")
-                    .arg(Quoted(text), ShortText(value), FieldRules::Coordinate.Text()));
-        point[axis] = value;
-    }
-    return point;
+    return {Coordinate(texts[0]), Coordinate(texts[1]), Coordinate(texts[2])};
+}
+
+double FieldValues::Coordinate(const QString& text)
+{
+    const double value = Evaluate(text);
+    if (std::isnan(value))
+        throw BuildError(BuildError::tr("the coordinate %1 of a point has no value: %2.")
+                             .arg(Quoted(text), ExpressionEngine::LastError()));
+    if (!FieldRules::Coordinate.Allows(value))
+        throw BuildError(BuildError::tr("the coordinate %1 of a point is %2, but has to be %3.")
+                             .arg(Quoted(text), ShortText(value), FieldRules::Coordinate.Text()));
+    return value;
 }

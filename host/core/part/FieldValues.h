@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Feature.h"
+#include "Outline.h"
 #include "ShapeReference.h"
 #include "ShapeTargets.h"
 
@@ -15,8 +16,12 @@ public:
     /// Copies the current values of all Bool and Scalar parameters from GlobalParaMeterMgr.
     FieldValues();
 
-    /// The value of each field; each is within its rule. @throws FeatureError
+    /// The value of each field; each is within its rule. Fields in whose place the feature has
+    /// edges or a face count 0. @throws FeatureError
     std::vector<double> Of(const Feature& feature);
+
+    /// @throws BuildError as for a reference
+    Outline Of(const Profile& profile);
 
     /// What the reference means now. @throws BuildError if a coordinate has no value, or one that
     /// is too large
@@ -28,6 +33,7 @@ public:
     double Evaluate(const QString& text);
 
 private:
+    double Coordinate(const QString& text);
     std::array<double, 3> Point(const PointTexts& texts);
 
     std::map<std::string, double> m_variables;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Outline.h"
+#include "ShapeTargets.h"
+
 #include <QString>
 
 #include <vector>
@@ -16,6 +19,9 @@ struct BuildStep
     std::vector<int> inputs;    ///< Places of earlier steps.
     std::vector<double> values; ///< Of the kind's fields, each within its rule. None if suppressed.
     QString file;               ///< A path; empty unless the kind reads a file.
+    std::vector<EdgeTarget> edges; ///< Of the first input, of a kind at edges.
+    std::vector<FaceTarget> faces; ///< Of the first input, of a kind at a face.
+    Outline outline;               ///< Of a kind with a profile.
 };
 
 /// The features of a part in the order in which they are built. Building needs nothing else, so a

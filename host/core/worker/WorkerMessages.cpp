@@ -25,6 +25,8 @@ QDataStream& operator<<(QDataStream& out, const FaceTarget& target);
 QDataStream& operator>>(QDataStream& in, FaceTarget& target);
 QDataStream& operator<<(QDataStream& out, const EdgeTarget& target);
 QDataStream& operator>>(QDataStream& in, EdgeTarget& target);
+QDataStream& operator<<(QDataStream& out, const OutlineCorner& corner);
+QDataStream& operator>>(QDataStream& in, OutlineCorner& corner);
 QDataStream& operator<<(QDataStream& out, const FoundTarget& found);
 QDataStream& operator>>(QDataStream& in, FoundTarget& found);
 
@@ -63,13 +65,14 @@ QDataStream& operator>>(QDataStream& in, std::vector<T>& values)
 QDataStream& operator<<(QDataStream& out, const BuildStep& step)
 {
     return out << step.name << QString(step.kind->word) << step.suppressed << step.inputs
-               << step.values << step.file;
+               << step.values << step.file << step.edges << step.faces << step.outline;
 }
 
 QDataStream& operator>>(QDataStream& in, BuildStep& step)
 {
     QString word;
-    in >> step.name >> word >> step.suppressed >> step.inputs >> step.values >> step.file;
+    in >> step.name >> word >> step.suppressed >> step.inputs >> step.values >> step.file >>
+        step.edges >> step.faces >> step.outline;
     step.kind = FeatureKinds::Find(word);
     return in;
 }
@@ -102,6 +105,35 @@ QDataStream& operator<<(QDataStream& out, const EdgeTarget& target)
 QDataStream& operator>>(QDataStream& in, EdgeTarget& target)
 {
     return in >> target.between >> target.at;
+}
+
+QDataStream& operator<<(QDataStream& out, const gp_Pnt2d& point)
+{
+    return out << point.X() << point.Y();
+}
+
+QDataStream& operator>>(QDataStream& in, gp_Pnt2d& point)
+{
+    double x = 0.0;
+    double y = 0.0;
+    in >> x >> y;
+    point = gp_Pnt2d(x, y);
+    return in;
+}
+
+QDataStream& operator<<(QDataStream& out, const OutlineCorner& corner)
+{
+    return out << corner.point << corner.via.has_value() << corner.via.value_or(gp_Pnt2d());
+}
+
+QDataStream& operator>>(QDataStream& in, OutlineCorner& corner)
+{
+    bool isArc = false;
+    gp_Pnt2d via;
+    in >> corner.point >> isArc >> via;
+    if (isArc)
+        corner.via = via;
+    return in;
 }
 
 QDataStream& operator<<(QDataStream& out, const FoundTarget& found)

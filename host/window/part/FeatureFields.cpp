@@ -166,8 +166,15 @@ Feature FeatureFields::Edited(const Feature& feature, int row, const QString& te
         edited.inputs = Names(text);
     else if (feature.kind->readsFile)
         edited.file = text.trimmed();
-    else
-        edited.fields[row - FirstFieldRow] = text.trimmed();
+    else {
+        const int field = row - FirstFieldRow;
+        edited.fields[field] = text.trimmed();
+        // A point takes the place of faces and edges.
+        if (feature.kind->IsPosition(feature.kind->fields[std::size_t(field)])) {
+            edited.edges.clear();
+            edited.face.reset();
+        }
+    }
     return edited;
 }
 

@@ -20,9 +20,11 @@ QString FieldsText(const Feature& feature)
         texts << FeatureTree::tr("of %1").arg(feature.inputs.join(QStringLiteral(", ")));
     if (!feature.file.isEmpty())
         texts << QFileInfo(feature.file).fileName();
-    for (int i = 0; i < feature.fields.size(); ++i)
-        texts << QStringLiteral("%1 = %2").arg(feature.kind->fields[std::size_t(i)].Label(),
-                                               feature.fields[i]);
+    for (int i = 0; i < feature.fields.size(); ++i) {
+        const FieldDefinition& field = feature.kind->fields[std::size_t(i)];
+        if (!field.isOptional || feature.fields[i] != field.defaultText)
+            texts << QStringLiteral("%1 = %2").arg(field.Label(), feature.fields[i]);
+    }
     return texts.join(QStringLiteral(", "));
 }
 

@@ -264,6 +264,7 @@ void PartActions::TakePoint(const gp_Pnt& point)
     EndPicking();
     feature.fields = QStringList(
         {CoordinateText(point.X()), CoordinateText(point.Y()), CoordinateText(point.Z())});
+    feature.face.reset();
     Try([this, &feature] {
         if (feature.name.isEmpty())
             AddNamed(feature);

@@ -18,6 +18,19 @@ void FaceTrace::AddNew(const TopoDS_Shape& face, const QString& word)
     Add(face, {NewFace(word)});
 }
 
+void FaceTrace::KeepOnly(const TopoDS_Shape& shape)
+{
+    TopTools_IndexedMapOfShape faces;
+    TopExp::MapShapes(shape, TopAbs_FACE, faces);
+    Faces before;
+    before.Exchange(m_faces);
+    for (int number = 1; number <= faces.Extent(); ++number) {
+        const Origins* const known = before.Seek(faces(number));
+        if (known != nullptr)
+            m_faces.Bind(faces(number), *known);
+    }
+}
+
 TracedShape FaceTrace::Of(const TopoDS_Shape& shape, const QString& wordOfOthers)
 {
     TopTools_IndexedMapOfShape faces;

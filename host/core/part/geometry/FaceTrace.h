@@ -18,6 +18,9 @@ public:
     /// Adds a face that the feature makes. A face that is added twice has both words.
     void AddNew(const TopoDS_Shape& face, const QString& word);
 
+    /// Forgets faces that @p shape does not have. Copies and mirrors know no others.
+    void KeepOnly(const TopoDS_Shape& shape);
+
     /// Replaces each face by what @p operation, whose history the kernel has kept, made of it.
     template<class Operation>
     void Follow(Operation& operation)

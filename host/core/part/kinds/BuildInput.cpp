@@ -7,15 +7,19 @@
 #include "JsonSection.h"
 #include "Limits.h"
 
+#include <TopExp.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+#include <TopoDS.hxx>
 #include <gp.hxx>
+#include <gp_Trsf.hxx>
 #include <gp_Vec.hxx>
 
 BuildInput::BuildInput(const FeatureKind& kind, std::vector<double> values,
-                       std::vector<Body> bodies, QString file)
+                       std::vector<Body> bodies, Extras extras)
     : m_kind(kind)
     , m_values(std::move(values))
     , m_bodies(std::move(bodies))
-    , m_file(std::move(file))
+    , m_extras(std::move(extras))
 {
 }
 
@@ -43,6 +47,26 @@ gp_Dir BuildInput::Direction() const
     return gp_Dir(direction);
 }
 
+TopLoc_Location BuildInput::Placement() const
+{
+    gp_Trsf placement;
+    const auto turn = [&](const gp_Ax1& axis, const char* key) {
+        gp_Trsf rotation;
+        rotation.SetRotation(axis, Radians(key));
+        if (Value(key) != 0.0)
+            placement.PreMultiply(rotation);
+    };
+    turn(gp::OX(), "turnX");
+    turn(gp::OY(), "turnY");
+    turn(gp::OZ(), "turnZ");
+    const gp_Vec distance(Value("moveX"), Value("moveY"), Value("moveZ"));
+    gp_Trsf translation;
+    translation.SetTranslation(distance);
+    if (distance.SquareMagnitude() > 0.0)
+        placement.PreMultiply(translation);
+    return placement.Form() == gp_Identity ? TopLoc_Location() : TopLoc_Location(placement);
+}
+
 const TopoDS_Shape& BuildInput::FirstBody() const
 {
     const Body& first = m_bodies.at(0);
@@ -57,6 +81,26 @@ TracedShape BuildInput::Placed(const TopLoc_Location& place) const
     FaceTrace trace;
     trace.AddInput(0, shape, place);
     return trace.Of(shape.Moved(place));
+}
+
+std::vector<TopoDS_Face> BuildInput::Faces() const
+{
+    TopTools_IndexedMapOfShape all;
+    TopExp::MapShapes(FirstBody(), TopAbs_FACE, all);
+    std::vector<TopoDS_Face> faces;
+    for (const int number : m_extras.findFaces())
+        faces.push_back(TopoDS::Face(all(number)));
+    return faces;
+}
+
+std::vector<TopoDS_Edge> BuildInput::Edges() const
+{
+    TopTools_IndexedMapOfShape all;
+    TopExp::MapShapes(FirstBody(), TopAbs_EDGE, all);
+    std::vector<TopoDS_Edge> edges;
+    for (const int number : m_extras.findEdges())
+        edges.push_back(TopoDS::Edge(all(number)));
+    return edges;
 }
 
 std::vector<TopoDS_Shape> BuildInput::OtherBodies() const

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "FaceOrigins.h"
+#include "Outline.h"
 
 #include <QString>
+#include <TopoDS_Edge.hxx>
+#include <TopoDS_Face.hxx>
 #include <TopoDS_Shape.hxx>
 #include <gp_Ax1.hxx>
 #include <gp_Dir.hxx>
@@ -10,6 +13,7 @@
 
 #include <TopLoc_Location.hxx>
 
+#include <functional>
 #include <vector>
 
 struct FeatureKind;
@@ -25,9 +29,19 @@ public:
         TopoDS_Shape shape; ///< Null if the feature is suppressed and has no input itself.
     };
 
-    /// @p values are those of the fields of @p kind, each within its rule; @p file is a path.
+    /// What only some kinds have.
+    struct Extras
+    {
+        QString file; ///< A path.
+        Outline outline;
+        /// Find faces and edges of the first body. @throws BuildError
+        std::function<std::vector<int>()> findFaces;
+        std::function<std::vector<int>()> findEdges;
+    };
+
+    /// @p values are those of the fields of @p kind, each within its rule.
     BuildInput(const FeatureKind& kind, std::vector<double> values, std::vector<Body> bodies,
-               QString file);
+               Extras extras = {});
 
     /// The value of the field called @p key in files.
     double Value(const char* key) const;
@@ -38,6 +52,8 @@ public:
     gp_Pnt Point() const;
     /// Of dx, dy and dz. @throws BuildError if all are 0
     gp_Dir Direction() const;
+    /// Of a kind that is placed.
+    TopLoc_Location Placement() const;
     /// Through Point() along Direction().
     gp_Ax1 Axis() const { return gp_Ax1(Point(), Direction()); }
 
@@ -56,7 +72,12 @@ public:
     /// The first input at @p place as the result.
     TracedShape Placed(const TopLoc_Location& place) const;
 
-    const QString& File() const { return m_file; }
+    const QString& File() const { return m_extras.file; }
+    const Outline& Profile() const { return m_extras.outline; }
+    /// The faces that the feature is at, of the first body; at least one. @throws BuildError
+    std::vector<TopoDS_Face> Faces() const;
+    /// The edges that it is at, as well.
+    std::vector<TopoDS_Edge> Edges() const;
 
 private:
     std::vector<TopoDS_Shape> BodiesFrom(std::size_t first) const;
@@ -64,5 +85,5 @@ private:
     const FeatureKind& m_kind;
     std::vector<double> m_values;
     std::vector<Body> m_bodies;
-    QString m_file;
+    Extras m_extras;
 };

@@ -7,7 +7,9 @@
 #include "BuildInput.h"
 #include "FaceTrace.h"
 #include "FeatureKinds.h"
+#include "Seams.h"
 
+#include <BRepAlgoAPI_Common.hxx>
 #include <BRepAlgoAPI_Cut.hxx>
 #include <BRepAlgoAPI_Fuse.hxx>
 
@@ -27,35 +29,71 @@ void AddInputs(FaceTrace& trace, const BuildInput& input)
     }
 }
 
-// Body by body: those of one compound may overlap, which the kernel allows only among arguments.
-template<class Operation>
-TracedShape Combined(const BuildInput& input)
+// The kernel's time grows with the square of their number, and it cannot be interrupted.
+void CheckCount(const BuildInput& input)
 {
-    const TopoDS_Shape& first = input.FirstBody();
-    TopTools_ListOfShape tools;
-    for (const TopoDS_Shape& tool : input.OtherBodies()) {
-        TopTools_ListOfShape bodies = BodiesOf(tool);
-        tools.Append(bodies);
-    }
-    if (tools.IsEmpty())
-        return input.Unchanged();
-    const TopTools_ListOfShape arguments = BodiesOf(first);
-    // The kernel's time grows with the square of their number, and it cannot be interrupted.
-    const int bodies = arguments.Size() + tools.Size();
+    const int bodies = CountBodies(Compound(input.Bodies()));
     if (bodies > MaximumBodies)
         throw BuildError(BuildError::tr("too many bodies to combine: %1 (maximum %2).")
                              .arg(bodies)
                              .arg(MaximumBodies));
+}
+
+// Body by body: those of one compound may overlap, which the kernel allows only among arguments.
+template<class Operation>
+TopoDS_Shape Combine(const TopoDS_Shape& first, const std::vector<TopoDS_Shape>& others,
+                     FaceTrace& trace)
+{
+    TopTools_ListOfShape tools;
+    for (const TopoDS_Shape& other : others) {
+        TopTools_ListOfShape bodies = BodiesOf(other);
+        tools.Append(bodies);
+    }
     Operation operation;
-    operation.SetArguments(arguments);
+    operation.SetArguments(BodiesOf(first));
     operation.SetTools(tools);
     operation.Build();
     if (!operation.IsDone() || operation.HasErrors())
         throw BuildError(BuildError::tr("the geometry kernel could not combine the bodies."));
+    trace.Follow(operation);
+    return operation.Shape();
+}
+
+TracedShape CutBody(const BuildInput& input)
+{
+    if (input.OtherBodies().empty())
+        return input.Unchanged();
+    CheckCount(input);
     FaceTrace trace;
     AddInputs(trace, input);
-    trace.Follow(operation);
-    return trace.Of(Unwrapped(operation.Shape()));
+    return trace.Of(
+        Unwrapped(Combine<BRepAlgoAPI_Cut>(input.FirstBody(), input.OtherBodies(), trace)));
+}
+
+TracedShape FuseBody(const BuildInput& input)
+{
+    const TopoDS_Shape& first = input.FirstBody();
+    if (input.OtherBodies().empty())
+        return input.Unchanged();
+    CheckCount(input);
+    FaceTrace trace;
+    AddInputs(trace, input);
+    const TopoDS_Shape fused = Combine<BRepAlgoAPI_Fuse>(first, input.OtherBodies(), trace);
+    return trace.Of(Unwrapped(WithoutSeams(fused, trace)));
+}
+
+// One after the other: the kernel would keep what any of them shares with the first.
+TracedShape CommonBody(const BuildInput& input)
+{
+    if (input.OtherBodies().empty())
+        return input.Unchanged();
+    CheckCount(input);
+    FaceTrace trace;
+    AddInputs(trace, input);
+    TopoDS_Shape common = input.FirstBody();
+    for (const TopoDS_Shape& other : input.OtherBodies())
+        common = Combine<BRepAlgoAPI_Common>(common, {other}, trace);
+    return trace.Of(Unwrapped(common));
 }
 
 // Of a single body: those of one compound may overlap, and fused they have less than together.
@@ -81,13 +119,24 @@ void CheckCut(const BuildInput& input, const TopoDS_Shape& result, BodyVolumes& 
     CheckVolume(volume, 0.0, volumes.Of(input.FirstBody()));
 }
 
-template<class Operation>
-FeatureKind Combination(const char* word, const char* title, decltype(FeatureKind::check) check)
+void CheckCommon(const BuildInput& input, const TopoDS_Shape& result, BodyVolumes& volumes)
+{
+    const double volume = volumes.Of(result);
+    if (volume == 0.0)
+        throw BuildError(BuildError::tr("the bodies have no volume in common."));
+    double smallest = volumes.Of(input.FirstBody());
+    for (const TopoDS_Shape& other : input.OtherBodies())
+        smallest = std::min(smallest, volumes.Of(other));
+    CheckVolume(volume, 0.0, smallest);
+}
+
+FeatureKind Combination(const char* word, const char* title, decltype(FeatureKind::build) build,
+                        decltype(FeatureKind::check) check)
 {
     FeatureKind kind(word, title, FeatureGroup::Combination);
     kind.minInputs = 2;
     kind.maxInputs = FeatureKind::Unlimited;
-    kind.build = Combined<Operation>;
+    kind.build = build;
     kind.check = check;
     return kind;
 }
@@ -96,7 +145,8 @@ FeatureKind Combination(const char* word, const char* title, decltype(FeatureKin
 
 std::vector<FeatureKind> FeatureKinds::Combinations()
 {
-    return {
-        Combination<BRepAlgoAPI_Fuse>("fuse", QT_TRANSLATE_NOOP("FeatureKinds", "Fuse"), CheckFuse),
-        Combination<BRepAlgoAPI_Cut>("cut", QT_TRANSLATE_NOOP("FeatureKinds", "Cut"), CheckCut)};
+    return {Combination("fuse", QT_TRANSLATE_NOOP("FeatureKinds", "Fuse"), FuseBody, CheckFuse),
+            Combination("cut", QT_TRANSLATE_NOOP("FeatureKinds", "Cut"), CutBody, CheckCut),
+            Combination("common", QT_TRANSLATE_NOOP("FeatureKinds", "Common"), CommonBody,
+                        CheckCommon)};
 }

@@ -24,6 +24,21 @@ std::vector<FieldDefinition> AxisFields()
                   DirectionFields());
 }
 
+void MakePlaced(FeatureKind& kind)
+{
+    std::vector<FieldDefinition> fields = {
+        {"moveX", QT_TRANSLATE_NOOP("FeatureKinds", "Move x"), "0", FieldRules::Coordinate},
+        {"moveY", QT_TRANSLATE_NOOP("FeatureKinds", "Move y"), "0", FieldRules::Coordinate},
+        {"moveZ", QT_TRANSLATE_NOOP("FeatureKinds", "Move z"), "0", FieldRules::Coordinate},
+        {"turnX", QT_TRANSLATE_NOOP("FeatureKinds", "Turn about x"), "0", FieldRules::Turn},
+        {"turnY", QT_TRANSLATE_NOOP("FeatureKinds", "Turn about y"), "0", FieldRules::Turn},
+        {"turnZ", QT_TRANSLATE_NOOP("FeatureKinds", "Turn about z"), "0", FieldRules::Turn}};
+    for (FieldDefinition& field : fields)
+        field.isOptional = true;
+    kind.fields = Joined(kind.fields, fields);
+    kind.isPlaced = true;
+}
+
 std::vector<FieldDefinition> Joined(std::vector<FieldDefinition> fields,
                                     const std::vector<FieldDefinition>& more)
 {

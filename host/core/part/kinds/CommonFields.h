@@ -32,6 +32,10 @@ std::vector<FieldDefinition> DirectionFields();
 /// A point on the axis, and its direction.
 std::vector<FieldDefinition> AxisFields();
 
+/// Adds the fields that place a body: it is turned about the x axis, then the y axis, then the z
+/// axis, and then moved.
+void MakePlaced(FeatureKind& kind);
+
 /// @p fields, then @p more.
 std::vector<FieldDefinition> Joined(std::vector<FieldDefinition> fields,
                                     const std::vector<FieldDefinition>& more);

@@ -8,51 +8,84 @@
 #include "FaceTrace.h"
 #include "FeatureKinds.h"
 #include "NumberTexts.h"
-#include "ShapeAtPoint.h"
 
+#include <BRepFilletAPI_MakeChamfer.hxx>
 #include <BRepFilletAPI_MakeFillet.hxx>
-#include <TopExp.hxx>
-#include <TopTools_IndexedMapOfShape.hxx>
-#include <TopoDS.hxx>
 #include <TopoDS_Edge.hxx>
 
 using namespace FieldRules;
 
 namespace {
 
-FeatureKind Fillet()
+// A kind that replaces edges by faces of one size. Each edge takes those along that are tangent to
+// it.
+template<class Operation>
+TracedShape WithEdgesReplaced(const BuildInput& input, double size, const QString& word)
 {
-    FeatureKind kind("fillet", QT_TRANSLATE_NOOP("FeatureKinds", "Fillet"),
-                     FeatureGroup::Combination);
+    const TopoDS_Shape& body = input.FirstBody();
+    if (size == 0.0)
+        return input.Unchanged();
+    Operation operation(body);
+    for (const TopoDS_Edge& edge : input.Edges()) {
+        if (operation.Contour(edge) == 0)
+            operation.Add(size, edge);
+    }
+    operation.Build();
+    if (!operation.IsDone())
+        return {};
+    FaceTrace trace;
+    trace.AddInput(0, body);
+    trace.Follow(operation);
+    return trace.Of(Unwrapped(operation.Shape()), word);
+}
+
+FeatureKind AtEdges(const char* word, const char* title, const FieldDefinition& size)
+{
+    FeatureKind kind(word, title, FeatureGroup::Combination);
     kind.minInputs = 1;
     kind.maxInputs = 1;
-    kind.fields =
-        Joined({{"radius", QT_TRANSLATE_NOOP("FeatureKinds", "Radius"), "1", LengthOrZero}},
-               PointFields(QT_TRANSLATE_NOOP("FeatureKinds", "Point on edge x"),
-                           QT_TRANSLATE_NOOP("FeatureKinds", "Point on edge y"),
-                           QT_TRANSLATE_NOOP("FeatureKinds", "Point on edge z")));
+    kind.isAtEdges = true;
+    kind.fields = Joined({size}, PointFields(QT_TRANSLATE_NOOP("FeatureKinds", "Point on edge x"),
+                                             QT_TRANSLATE_NOOP("FeatureKinds", "Point on edge y"),
+                                             QT_TRANSLATE_NOOP("FeatureKinds", "Point on edge z")));
+    kind.check = [](const BuildInput& input, const TopoDS_Shape& result, BodyVolumes&) {
+        CheckWithinBox(result, input.FirstBody());
+    };
+    return kind;
+}
+
+FeatureKind Fillet()
+{
+    FeatureKind kind =
+        AtEdges("fillet", QT_TRANSLATE_NOOP("FeatureKinds", "Fillet"),
+                {"radius", QT_TRANSLATE_NOOP("FeatureKinds", "Radius"), "1", LengthOrZero});
     kind.build = [](const BuildInput& input) {
-        const TopoDS_Shape& body = input.FirstBody();
         const double radius = input.Value("radius");
-        if (radius == 0.0)
-            return input.Unchanged();
-        // It continues along edges that are tangent to this one.
-        BRepFilletAPI_MakeFillet fillet(body);
-        TopTools_IndexedMapOfShape edges;
-        TopExp::MapShapes(body, TopAbs_EDGE, edges);
-        fillet.Add(radius, TopoDS::Edge(edges(EdgeAt(body, input.Point()))));
-        fillet.Build();
-        if (!fillet.IsDone())
+        TracedShape result =
+            WithEdgesReplaced<BRepFilletAPI_MakeFillet>(input, radius, QStringLiteral("round"));
+        if (result.shape.IsNull())
             throw BuildError(BuildError::tr("a fillet of %1 mm cannot be built there; it may be "
                                             "too large for the faces beside the edge.")
                                  .arg(ShortText(radius)));
-        FaceTrace trace;
-        trace.AddInput(0, body);
-        trace.Follow(fillet);
-        return trace.Of(Unwrapped(fillet.Shape()), QStringLiteral("round"));
+        return result;
     };
-    kind.check = [](const BuildInput& input, const TopoDS_Shape& result, BodyVolumes&) {
-        CheckWithinBox(result, input.FirstBody());
+    return kind;
+}
+
+FeatureKind Chamfer()
+{
+    FeatureKind kind =
+        AtEdges("chamfer", QT_TRANSLATE_NOOP("FeatureKinds", "Chamfer"),
+                {"distance", QT_TRANSLATE_NOOP("FeatureKinds", "Distance"), "1", LengthOrZero});
+    kind.build = [](const BuildInput& input) {
+        const double distance = input.Value("distance");
+        TracedShape result =
+            WithEdgesReplaced<BRepFilletAPI_MakeChamfer>(input, distance, QStringLiteral("bevel"));
+        if (result.shape.IsNull())
+            throw BuildError(BuildError::tr("a chamfer of %1 mm cannot be built there; it may be "
+                                            "too large for the faces beside the edge.")
+                                 .arg(ShortText(distance)));
+        return result;
     };
     return kind;
 }
@@ -61,5 +94,5 @@ FeatureKind Fillet()
 
 std::vector<FeatureKind> FeatureKinds::EdgeFeatures()
 {
-    return {Fillet()};
+    return {Fillet(), Chamfer()};
 }

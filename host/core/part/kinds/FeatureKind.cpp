@@ -19,10 +19,20 @@ QString FeatureKind::Title() const
 TracedShape FeatureKind::Built(const BuildInput& input, BodyVolumes& volumes) const
 {
     TracedShape result = build(input);
+    // The order of the faces stays, and so do their origins.
+    if (isPlaced)
+        result.shape.Move(input.Placement());
     CheckNewBodies(result.shape, input.Bodies(), volumes);
     if (check != nullptr)
         check(input, result.shape, volumes);
     return result;
+}
+
+bool FeatureKind::IsPosition(const FieldDefinition& field) const
+{
+    return (isAtFace || isAtEdges) &&
+           (field.key == QLatin1String("x") || field.key == QLatin1String("y") ||
+            field.key == QLatin1String("z"));
 }
 
 std::size_t FeatureKind::IndexOf(const char* key) const

@@ -17,6 +17,7 @@ struct FieldDefinition
     const char* label;         ///< For people; Label() translates it.
     QLatin1String defaultText; ///< Of a new feature.
     FieldRule rule;
+    bool isOptional = false; ///< Files leave it out where it has its default text.
 
     FieldDefinition(const char* fieldKey, const char* fieldLabel, const char* fieldDefault,
                     const FieldRule& fieldRule)
@@ -52,7 +53,10 @@ struct FeatureKind
     int maxInputs = 0;
     std::vector<FieldDefinition> fields;
     bool readsFile = false; ///< It has a file.
-    bool isAtFace = false;  ///< The fields x, y, z are a point on a face of its input.
+    bool isAtFace = false;  ///< It has a face of its input, or x, y, z are a point on it.
+    bool isAtEdges = false; ///< It has edges of its input, or x, y, z are a point on one.
+    bool hasProfile = false;
+    bool isPlaced = false; ///< Fields move and turn the result, see MakePlaced().
     TracedShape (*build)(const BuildInput& input) = nullptr; ///< @throws BuildError
     /// Checks what is true of the results of this kind only; null if there is no such rule.
     /// @throws BuildError
@@ -70,6 +74,8 @@ struct FeatureKind
     /// Builds the result and checks it. @p volumes may know the bodies of @p input already.
     /// @throws BuildError
     TracedShape Built(const BuildInput& input, BodyVolumes& volumes) const;
+    /// Whether edges or a face take the place of @p field.
+    bool IsPosition(const FieldDefinition& field) const;
     /// The place of the field called @p key in files, or the number of fields.
     std::size_t IndexOf(const char* key) const;
 };

@@ -7,7 +7,7 @@ const std::vector<FeatureKind>& FeatureKinds::All()
     static const std::vector<FeatureKind> all = [] {
         std::vector<FeatureKind> kinds;
         for (const auto family :
-             {Primitives, Imports, Transforms, Arrays, Combinations, EdgeFeatures}) {
+             {Primitives, Profiles, Imports, Transforms, Arrays, Combinations, EdgeFeatures}) {
             const std::vector<FeatureKind> more = family();
             kinds.insert(kinds.end(), more.begin(), more.end());
         }

@@ -19,6 +19,7 @@ public:
 
 private:
     static std::vector<FeatureKind> Primitives();
+    static std::vector<FeatureKind> Profiles();
     static std::vector<FeatureKind> Imports();
     static std::vector<FeatureKind> Transforms();
     static std::vector<FeatureKind> Arrays();

@@ -243,5 +243,9 @@ FeatureKind Polygon()
 
 std::vector<FeatureKind> FeatureKinds::Primitives()
 {
-    return {Box(), Cylinder(), Sphere(), Torus(), Cone(), Wedge(), Polygon()};
+    std::vector<FeatureKind> kinds = {Box(),  Cylinder(), Sphere(), Torus(),
+                                      Cone(), Wedge(),    Polygon()};
+    for (FeatureKind& kind : kinds)
+        MakePlaced(kind);
+    return kinds;
 }

@@ -5,7 +5,9 @@
 
 #include <BRepBuilderAPI_MakeFace.hxx>
 #include <BRepPrimAPI_MakePrism.hxx>
+#include <BRepPrimAPI_MakeRevol.hxx>
 #include <TopoDS_Face.hxx>
+#include <gp_Ax1.hxx>
 #include <gp_Vec.hxx>
 
 namespace {
@@ -35,4 +37,17 @@ TracedShape Extruded(const TopoDS_Wire& outline, const std::vector<TopoDS_Edge>&
     trace.AddNew(prism.LastShape(), FaceWords::Top);
     AddSides(trace, edges, prism);
     return trace.Of(prism.Shape());
+}
+
+TracedShape Revolved(const TopoDS_Wire& outline, const std::vector<TopoDS_Edge>& edges,
+                     const gp_Ax1& axis, double radians)
+{
+    constexpr bool OnlyPlane = true;
+    BRepPrimAPI_MakeRevol turn(BRepBuilderAPI_MakeFace(outline, OnlyPlane).Face(), axis, radians);
+    FaceTrace trace;
+    // A full turn has neither.
+    trace.AddNew(turn.FirstShape(), FaceWords::Start);
+    trace.AddNew(turn.LastShape(), FaceWords::End);
+    AddSides(trace, edges, turn);
+    return trace.Of(turn.Shape());
 }

@@ -16,3 +16,8 @@ class gp_Vec;
 /// Sweeps the face within @p outline along @p sweep. The outline's own face is the bottom.
 TracedShape Extruded(const TopoDS_Wire& outline, const std::vector<TopoDS_Edge>& edges,
                      const gp_Vec& sweep);
+
+/// Turns the face within @p outline about @p axis by @p radians, at most a full turn. The outline
+/// must not cross the axis.
+TracedShape Revolved(const TopoDS_Wire& outline, const std::vector<TopoDS_Edge>& edges,
+                     const gp_Ax1& axis, double radians);

@@ -6,20 +6,19 @@
 #include "CommonFields.h"
 #include "FaceTrace.h"
 #include "FeatureKinds.h"
-#include "ShapeAtPoint.h"
 
 #include <BRepAdaptor_Surface.hxx>
 #include <BRepBuilderAPI_Transform.hxx>
 #include <GeomAbs_SurfaceType.hxx>
-#include <TopExp.hxx>
-#include <TopTools_IndexedMapOfShape.hxx>
-#include <TopoDS.hxx>
+#include <Precision.hxx>
 #include <TopoDS_Face.hxx>
 #include <TopoDS_Shape.hxx>
 #include <gp_Ax2.hxx>
 #include <gp_Pln.hxx>
 #include <gp_Trsf.hxx>
 #include <gp_Vec.hxx>
+
+#include <optional>
 
 using namespace FieldRules;
 
@@ -102,14 +101,23 @@ FeatureKind MirrorAtAxis()
     return kind;
 }
 
-gp_Ax2 PlaneOf(const TopoDS_Shape& body, int face)
+// Of all the faces: a name may mean several pieces of one.
+gp_Ax2 PlaneOf(const std::vector<TopoDS_Face>& faces)
 {
-    TopTools_IndexedMapOfShape faces;
-    TopExp::MapShapes(body, TopAbs_FACE, faces);
-    const BRepAdaptor_Surface surface(TopoDS::Face(faces(face)));
-    if (surface.GetType() != GeomAbs_Plane)
-        throw BuildError(BuildError::tr("the face at the point is not flat."));
-    return surface.Plane().Position().Ax2();
+    std::optional<gp_Pln> plane;
+    for (const TopoDS_Face& face : faces) {
+        const BRepAdaptor_Surface surface(face);
+        if (surface.GetType() != GeomAbs_Plane)
+            throw BuildError(BuildError::tr("the face to mirror at is not flat."));
+        if (!plane)
+            plane = surface.Plane();
+        const gp_Pln& other = surface.Plane();
+        if (!plane->Axis().IsParallel(other.Axis(), Precision::Angular()) ||
+            plane->Distance(other.Location()) > Precision::Confusion())
+            throw BuildError(BuildError::tr(
+                "the faces to mirror at do not lie in one plane; name one of them."));
+    }
+    return plane->Position().Ax2();
 }
 
 FeatureKind MirrorAtFace()
@@ -122,7 +130,7 @@ FeatureKind MirrorAtFace()
                               QT_TRANSLATE_NOOP("FeatureKinds", "Point on face z"));
     kind.build = [](const BuildInput& input) {
         gp_Trsf mirror;
-        mirror.SetMirror(PlaneOf(input.FirstBody(), FaceAt(input.FirstBody(), input.Point())));
+        mirror.SetMirror(PlaneOf(input.Faces()));
         return Mirrored(input, mirror);
     };
     return kind;

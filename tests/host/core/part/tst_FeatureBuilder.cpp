@@ -166,7 +166,7 @@ static FeatureList ListWith(const FeatureKind& kind)
     }
     if (kind.isAtFace)
         feature.fields = QStringList({"4", "3", "10"});
-    if (kind.word == QLatin1String("fillet"))
+    if (kind.isAtEdges)
         feature.fields = QStringList({"2", "0", "10", "5"});
     list.Append(feature);
     return list;

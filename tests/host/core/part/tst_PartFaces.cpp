@@ -81,6 +81,30 @@ void tst_PartFaces::EveryKindNamesItsFaces_data()
               {"a.side2", Flat, {-middle, middle, 5}},
               {"a.side3", Flat, {-middle, -middle, 5}},
               {"a.side4", Flat, {middle, -middle, 5}}});
+    AddWalls("placed", Single("box", R"("moveX": 5, "turnZ": 90)"),
+             {{"a.xmax", Flat, {0, 10, 5}}, {"a.ymin", Flat, {5, 5, 5}}});
+    AddWalls("extruded profile",
+             R"({"name": "a", "kind": "extrude", "fields": {"length": 4},
+                 "profile": [{"x": 0, "y": 0}, {"x": 8, "y": 0}, {"x": 0, "y": 0.5, "viaX": 4, "viaY": 6}]})",
+             {{"a.bottom", Flat, {4, 1, 0}},
+              {"a.top", Flat, {4, 1, 4}},
+              {"a.side1", Flat, {4, 0, 2}},
+              {"a.side2", Cylindrical, {4, 6, 2}},
+              {"a.side3", Flat, {0, 0.2, 2}}});
+    AddWalls("revolved profile", Single("revolve", R"("angle": 90)"),
+             {{"a.side1", Flat, {3, 3, 0}},
+              {"a.side2", Cylindrical, {10 * Half, 10 * Half, 5}},
+              {"a.side3", Flat, {3, 3, 10}},
+              {"a.start", Flat, {5, 0, 5}},
+              {"a.end", Flat, {0, 5, 5}},
+              {"a.side4", Flat, {}, 0}});
+    AddWalls("ring",
+             R"({"name": "a", "kind": "revolve",
+                 "profile": [{"x": 5, "y": 0, "viaX": 7, "viaY": 2}, {"x": 9, "y": 0, "viaX": 7, "viaY": -2}]})",
+             {{"a.side", Toroidal, {7, 0, 2}, 2},
+              {"a.side1", Toroidal, {7, 0, -2}},
+              {"a.side2", Toroidal, {7, 0, 2}},
+              {"a.start", Flat, {}, 0}});
 }
 
 void tst_PartFaces::EveryKindNamesItsFaces()
@@ -126,12 +150,36 @@ void tst_PartFaces::LaterFeaturesHandNamesOn_data()
     AddWalls("faces at the same place",
              Brick + R"(, {"name": "b", "kind": "box", "fields": {"x": 4, "y": 4, "z": 4}},
                         {"name": "f", "kind": "fuse", "inputs": ["a", "b"]})",
-             {{"a.zmin", Flat, {9, 9, 0}, 2}, {"b.zmin", Flat, {1, 1, 0}}});
+             {{"a.zmin", Flat, {9, 9, 0}}, {"b.zmin", Flat, {9, 9, 0}}});
     AddWalls("fillet", OnBrick("fillet", R"("radius": 2, "z": 15)"),
              {{"b.round", Cylindrical, {2 - 2 * Half, 2 - 2 * Half, 15}},
               {"a.xmin", Flat, {0, 10, 15}},
               {"a.ymin", Flat, {5, 0, 15}},
               {"a.zmax", Flat, {5, 5, 30}}});
+    AddWalls("fillet of edges by names",
+             Brick + R"(, {"name": "b", "kind": "fillet", "inputs": ["a"], "fields": {"radius": 1},
+                           "edges": [{"between": ["a.zmax", "a.xmin"]}, {"between": ["a.zmax", "a.xmax"]},
+                                     {"between": ["a.zmax", "a.ymin"]}, {"between": ["a.zmax", "a.ymax"]}]})",
+             {{"a.zmax", Flat, {5, 10, 30}}, {"a.xmin", Flat, {0, 10, 15}}});
+    AddWalls("chamfer", OnBrick("chamfer", R"("distance": 2, "z": 15)"),
+             {{"b.bevel", Flat, {1, 1, 15}},
+              {"a.xmin", Flat, {0, 10, 15}},
+              {"a.ymin", Flat, {5, 0, 15}}});
+    AddWalls("common",
+             Brick + placed + R"(, {"name": "c", "kind": "common", "inputs": ["a", "p"]})",
+             {{"pin.side", Cylindrical, {3, 10, 15}},
+              {"pin.bottom", Flat, {5, 10, 1}},
+              {"a.zmax", Flat, {5, 10, 30}}});
+    AddWalls("mirror at a face by its name",
+             Brick + R"(, {"name": "b", "kind": "mirrorFace", "inputs": ["a"], "face": "a.xmax"})",
+             {{"b/a.xmin", Flat, {20, 10, 15}}});
+    AddWalls("faces that become one",
+             A10 + R"(, {"name": "b", "kind": "box", "fields": {"moveX": 10}},
+                        {"name": "f", "kind": "fuse", "inputs": ["a", "b"]})",
+             {{"a.zmax", Flat, {15, 5, 10}},
+              {"b.zmax", Flat, {5, 5, 10}},
+              {"b.xmax", Flat, {20, 5, 5}},
+              {"a.xmax", Flat, {}, 0}});
     AddWalls("fillet of nothing", OnBrick("fillet", R"("radius": 0, "z": 15)"),
              {{"b/a.xmin", Flat, {0, 10, 15}}});
     AddWalls("two instances are told apart by a feature",

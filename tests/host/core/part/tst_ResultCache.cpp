@@ -1,5 +1,6 @@
 #include "BodyFormulas.h"
 #include "EmptyDesignStores.h"
+#include "PartFaces.h"
 #include "ResultCache.h"
 #include "StepFile.h"
 #include "TestCase.h"
@@ -20,6 +21,8 @@ private Q_SLOTS:
     void OnlyWhatChangedIsBuilt_data();
     void OnlyWhatChangedIsBuilt();
     void EqualFeaturesAreBuiltOnce();
+    void ARenamedFeatureIsNotBuiltAgain();
+    void TheSameNameOfAnotherFaceIsBuiltAgain();
     void ASuppressedImportIsNotRead();
     void AnImportIsBuiltAgainAfterItsFileChanged();
     void AFileThatCannotBeReadNeverHasTheSameHash();
@@ -123,6 +126,36 @@ void tst_ResultCache::EqualFeaturesAreBuiltOnce()
     CachedBuilds builds;
     QCOMPARE(builds.Build(A10 + R"(, {"name": "b", "kind": "box"})"), QList<int>({0}));
     QCOMPARE(MassOf(builds.part.shape).volume, 2000.0);
+}
+
+void tst_ResultCache::ARenamedFeatureIsNotBuiltAgain()
+{
+    CachedBuilds builds;
+    const QByteArray list = R"({"name": "NAME", "kind": "box"},
+        {"name": "b", "kind": "fillet", "inputs": ["NAME"],
+         "edges": [{"between": ["NAME.xmin", "NAME.ymin"]}]})";
+    QCOMPARE(builds.Build(QByteArray(list).replace("NAME", "a")), QList<int>({0, 1}));
+    QCOMPARE(builds.Build(QByteArray(list).replace("NAME", "plate")), QList<int>());
+    QCOMPARE(PartFaces(builds.part).Named(PartFaces::WholePart, "plate.zmax").size(),
+             std::size_t(1));
+}
+
+void tst_ResultCache::TheSameNameOfAnotherFaceIsBuiltAgain()
+{
+    CachedBuilds builds;
+    // Both boxes are equal, so that only their names tell them apart.
+    const auto list = [](const QByteArray& first, const QByteArray& second) {
+        return R"({"name": ")" + first + R"(", "kind": "box"}, {"name": ")" + second +
+               R"(", "kind": "box"}, {"name": "moved", "kind": "move", "inputs": [")" + second +
+               R"("], "fields": {"dx": 5, "dy": 5, "dz": 5}},
+                 {"name": "both", "kind": "fuse", "inputs": [")" +
+               first + R"(", "moved"]}, {"name": "rounded", "kind": "fillet", "inputs": ["both"],
+                 "edges": [{"between": ["a.xmin", "a.ymin"]}]})";
+    };
+    QCOMPARE(builds.Build(list("a", "b")), QList<int>({0, 2, 3, 4}));
+    const Mass before = MassOf(builds.part.shape);
+    QCOMPARE(builds.Build(list("b", "a")), QList<int>({4}));
+    QVERIFY(MassOf(builds.part.shape).centre != before.centre);
 }
 
 void tst_ResultCache::ASuppressedImportIsNotRead()

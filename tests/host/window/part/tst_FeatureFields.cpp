@@ -146,7 +146,8 @@ void tst_FeatureFields::NameInputsAndFieldsHaveARowEach()
         rows << cells.join('|');
     }
     QCOMPARE(rows, QStringList({"Name|plate|", "Inputs||", "Size x|4 * 5|20", "Size y|10|10",
-                                "Size z|10|10"}));
+                                "Size z|10|10", "Move x|0|0", "Move y|0|0", "Move z|0|0",
+                                "Turn about x|0|0", "Turn about y|0|0", "Turn about z|0|0"}));
     shown.dock.ShowFeature("body");
     QCOMPARE(shown.Table().rowCount(), 2);
     QCOMPARE(shown.Text("Inputs"), QString("plate, pin"));

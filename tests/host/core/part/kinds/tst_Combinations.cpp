@@ -10,6 +10,8 @@ class tst_Combinations : public TestCase
 private Q_SLOTS:
     void BodiesMatchTheirFormulas_data();
     void BodiesMatchTheirFormulas() { CheckBody(); }
+    void AFuseHasNoSeams_data();
+    void AFuseHasNoSeams();
     void InvalidValuesAreReported_data();
     void InvalidValuesAreReported() { CheckFailure(); }
     void TooManyBodiesAreRefused();
@@ -56,11 +58,78 @@ void tst_Combinations::BodiesMatchTheirFormulas_data()
             Less(Less(Less(Less(brick, Box(2, 2, 2)), Moved(Box(2, 2, 2), 8, 0, 0)),
                       Moved(Box(2, 2, 2), 0, 18, 0)),
                  Moved(Box(2, 2, 2), 8, 18, 0)));
+    AddBody("common of boxes",
+            Brick + R"(, {"name": "b", "kind": "box", "fields": {"moveX": 4, "moveY": 5, "z": 50}},
+            {"name": "c", "kind": "common", "inputs": ["a", "b"]})",
+            Moved(Box(6, 10, 30), 4, 5, 0));
+    AddBody("common of three",
+            Brick + R"(, {"name": "b", "kind": "box", "fields": {"moveX": 4, "moveY": 5, "z": 50}},
+            {"name": "c", "kind": "box", "fields": {"x": 50, "moveZ": -3, "y": 50}},
+            {"name": "d", "kind": "common", "inputs": ["a", "b", "c"]})",
+            Moved(Box(6, 10, 7), 4, 5, 0));
+    AddBody("common with a pattern",
+            Brick + R"(, {"name": "b", "kind": "box", "fields": {"x": 2, "y": 2, "z": 2}},
+            {"name": "c", "kind": "rectangularArray", "inputs": ["b"],
+             "fields": {"xNumber": 2, "yNumber": 2, "xDistance": 9, "yDistance": 19}},
+            {"name": "d", "kind": "common", "inputs": ["a", "c"]})",
+            Sum(Sum(Box(2, 2, 2), Moved(Box(1, 2, 2), 9, 0, 0)),
+                Sum(Moved(Box(2, 1, 2), 0, 19, 0), Moved(Box(1, 1, 2), 9, 19, 0))));
+}
+
+void tst_Combinations::AFuseHasNoSeams_data()
+{
+    QTest::addColumn<QByteArray>("list");
+    QTest::addColumn<int>("faces");
+    QTest::addColumn<int>("edges");
+    const QByteArray fuse = R"(, {"name": "f", "kind": "fuse", "inputs": ["a", "b"]})";
+    QTest::newRow("boxes in a row")
+        << A10 + R"(, {"name": "b", "kind": "box", "fields": {"moveX": 10}})" + fuse << 6 << 12;
+    QTest::newRow("an L")
+        << A10 + R"(, {"name": "b", "kind": "box",
+                                         "fields": {"x": 30, "moveX": 10}})" +
+               R"(, {"name": "c", "kind": "box", "fields": {"y": 30, "moveY": 10}},
+                                      {"name": "f", "kind": "fuse", "inputs": ["a", "b", "c"]})"
+        << 8 << 18;
+    QTest::newRow("cylinders on each other") << QByteArray(R"({"name": "a", "kind": "cylinder"},
+                         {"name": "b", "kind": "cylinder", "fields": {"moveZ": 10}})") +
+                                                    fuse
+                                             << 3 << 3;
+    QTest::newRow("cylinders on each other, turned, which the kernel cannot merge")
+        << QByteArray(R"({"name": "a", "kind": "cylinder"},
+                         {"name": "b", "kind": "cylinder", "fields": {"moveZ": 10, "turnZ": 70}})") +
+               fuse
+        << 4 << 6;
+    QTest::newRow("flat faces beside what the kernel cannot merge")
+        << QByteArray(R"({"name": "a", "kind": "cylinder"},
+                         {"name": "b", "kind": "cylinder", "fields": {"moveZ": 10, "turnZ": 70}},
+                         {"name": "c", "kind": "box", "fields": {"x": 30, "y": 2}},
+                         {"name": "d", "kind": "box", "fields": {"x": 30, "y": 2, "moveX": 30}},
+                         {"name": "e", "kind": "fuse", "inputs": ["a", "b", "c", "d"]})")
+        << 8 << 16;
+    QTest::newRow("two halves of a cylinder")
+        << QByteArray(R"({"name": "a", "kind": "cylinder", "fields": {"angle": 180}},
+                         {"name": "b", "kind": "cylinder",
+                          "fields": {"angle": 180, "turnZ": 180}})") +
+               fuse
+        << 3 << 3;
+}
+
+void tst_Combinations::AFuseHasNoSeams()
+{
+    const EmptyDesignStores stores;
+    QFETCH(QByteArray, list);
+    const TopoDS_Shape shape = FeatureBuilder::Build(List(list)).shape;
+    QTEST(Count(shape, TopAbs_FACE), "faces");
+    QTEST(Count(shape, TopAbs_EDGE), "edges");
 }
 
 void tst_Combinations::InvalidValuesAreReported_data()
 {
     AddFailureColumns();
+    AddFailure("nothing in common",
+               A10 + R"(, {"name": "b", "kind": "box", "fields": {"moveX": 10}},
+                     {"name": "c", "kind": "common", "inputs": ["a", "b"]})",
+               "c: the bodies have no volume in common.");
     AddFailure("nothing left",
                Brick + R"(, {"name": "b", "kind": "box", "fields": {"x": 50, "y": 50, "z": 50}},
                      {"name": "c", "kind": "cut", "inputs": ["a", "b"]})",
@@ -72,7 +141,7 @@ void tst_Combinations::TooManyBodiesAreRefused()
     const EmptyDesignStores stores;
     const QByteArray tools = A10 + R"(, {"name": "b", "kind": "rectangularArray", "inputs": ["a"],
                     "fields": {"xNumber": 500, "yNumber": 1, "xDistance": 20}})";
-    for (const char* const kind : {"cut", "fuse"}) {
+    for (const char* const kind : {"cut", "fuse", "common"}) {
         const QByteArray combined = QByteArray(R"({"name": "d", "kind": ")") + kind + "\", ";
         QCOMPARE(Reason(List(tools + R"(, {"name": "c", "kind": "sphere"}, )" + combined +
                              R"("inputs": ["c", "b"]})")),

@@ -26,6 +26,18 @@ void tst_EdgeFeatures::BodiesMatchTheirFormulas_data()
     placed("fillet", "fillet", R"("radius": 2, "z": 15)",
            Less(brick, Mass{30 * (4.0 - disc), {middle, middle, 15}}));
     placed("fillet of radius 0", "fillet", R"("radius": 0, "z": 15)", brick);
+    AddBody("fillet of two edges",
+            Brick + R"(, {"name": "b", "kind": "fillet", "inputs": ["a"], "fields": {"radius": 2},
+                          "edges": [{"between": ["a.xmin", "a.ymin"]}, {"at": [10, 20, 15]}]})",
+            Mass{6000 - 2 * 30 * (4.0 - disc), {5, 10, 15}});
+    placed("chamfer", "chamfer", R"("distance": 3, "z": 15)",
+           Less(brick, Mass{30 * 4.5, {1, 1, 15}}));
+    placed("chamfer of 0", "chamfer", R"("distance": 0, "z": 15)", brick);
+    AddBody("chamfer of a rim",
+            R"({"name": "a", "kind": "cylinder", "fields": {"radius": 10, "height": 20}},
+               {"name": "b", "kind": "chamfer", "inputs": ["a"], "fields": {"distance": 2},
+                "edges": [{"between": ["a.side", "a.top"]}]})",
+            Sum(Cone(10, 10, 18, 360), Moved(Cone(10, 8, 2, 360), 0, 0, 18)));
     // The same cross-section carried round the rim; its moments are those of square and disc.
     const double area = 4.0 - disc;
     const double first = 4.0 - 8.0 / 3.0;
@@ -47,6 +59,12 @@ void tst_EdgeFeatures::InvalidValuesAreReported_data()
     };
     on("no edge there", "fillet", R"("x": 5, "y": 5, "z": 30)",
        "b: there is no edge at the point (5, 5, 30).");
+    AddFailure("no face of this name", Brick + R"(, {"name": "b", "kind": "fillet", "inputs": ["a"],
+                             "edges": [{"between": ["a.xmin", "c.side"]}]})",
+               "b: there is no face \"c.side\".");
+    on("chamfer that does not fit", "chamfer", R"("distance": 25, "z": 15)",
+       "b: a chamfer of 25 mm cannot be built there; it may be too large for the faces beside the "
+       "edge.");
     on("several edges there", "fillet", "",
        "b: several edges meet at the point (0, 0, 0); choose a point that lies on one edge only.");
     AddFailure("only a seam there",

@@ -47,13 +47,15 @@ struct KindRow
 constexpr int Any = FeatureKind::Unlimited;
 
 const std::vector<KindRow> Rows = {
-    {"box", "x y z", 0, 0},
-    {"cylinder", "radius height angle", 0, 0},
-    {"sphere", "radius angle1 angle2 angle3", 0, 0},
-    {"torus", "radius sweepRadius angle1 angle2 angle3", 0, 0},
-    {"cone", "baseRadius topRadius height angle", 0, 0},
-    {"wedge", "x z height xmin xmax zmin zmax", 0, 0},
-    {"polygon", "edges radius length dx dy dz", 0, 0},
+    {"box", "x y z moveX moveY moveZ turnX turnY turnZ", 0, 0},
+    {"cylinder", "radius height angle moveX moveY moveZ turnX turnY turnZ", 0, 0},
+    {"sphere", "radius angle1 angle2 angle3 moveX moveY moveZ turnX turnY turnZ", 0, 0},
+    {"torus", "radius sweepRadius angle1 angle2 angle3 moveX moveY moveZ turnX turnY turnZ", 0, 0},
+    {"cone", "baseRadius topRadius height angle moveX moveY moveZ turnX turnY turnZ", 0, 0},
+    {"wedge", "x z height xmin xmax zmin zmax moveX moveY moveZ turnX turnY turnZ", 0, 0},
+    {"polygon", "edges radius length dx dy dz moveX moveY moveZ turnX turnY turnZ", 0, 0},
+    {"extrude", "length moveX moveY moveZ turnX turnY turnZ", 0, 0},
+    {"revolve", "angle moveX moveY moveZ turnX turnY turnZ", 0, 0},
     {"import", "", 0, 0},
     {"move", "dx dy dz", 1, 1},
     {"rotate", "x y z dx dy dz angle", 1, 1},
@@ -64,7 +66,9 @@ const std::vector<KindRow> Rows = {
     {"rectangularArray", "xNumber yNumber xDistance yDistance", 1, 1},
     {"fuse", "", 2, Any},
     {"cut", "", 2, Any},
+    {"common", "", 2, Any},
     {"fillet", "radius x y z", 1, 1},
+    {"chamfer", "distance x y z", 1, 1},
 };
 
 } // namespace
@@ -122,9 +126,11 @@ void tst_FeatureKinds::ANewFeatureHasTheDefaults()
 {
     const Feature torus(KindOf("torus"));
     QCOMPARE(torus.kind, &KindOf("torus"));
-    QCOMPARE(torus.fields, QStringList({"10", "3", "-180", "180", "360"}));
+    QCOMPARE(torus.fields,
+             QStringList({"10", "3", "-180", "180", "360", "0", "0", "0", "0", "0", "0"}));
     QVERIFY(torus.name.isEmpty() && torus.inputs.isEmpty() && torus.file.isEmpty());
-    QVERIFY(!torus.suppressed);
+    QVERIFY(!torus.suppressed && !torus.HasReferences() && torus.profile.empty());
+    QCOMPARE(Feature(KindOf("extrude")).profile.size(), std::size_t(4));
 }
 
 TARN_TEST_MAIN(tst_FeatureKinds)

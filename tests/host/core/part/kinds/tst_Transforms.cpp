@@ -60,7 +60,7 @@ void tst_Transforms::InvalidValuesAreReported_data()
     AddFailure("a round face",
                R"({"name": "a", "kind": "cylinder"},
            {"name": "b", "kind": "mirrorFace", "inputs": ["a"], "fields": {"x": 10, "z": 5}})",
-               "b: the face at the point is not flat.");
+               "b: the face to mirror at is not flat.");
 }
 
 TARN_TEST_MAIN(tst_Transforms)
