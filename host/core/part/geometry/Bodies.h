@@ -3,6 +3,7 @@
 #include <TopTools_ListOfShape.hxx>
 #include <TopoDS_Iterator.hxx>
 #include <TopoDS_Shape.hxx>
+#include <gp_Pnt.hxx>
 
 #include <vector>
 
@@ -35,3 +36,6 @@ TopoDS_Shape Compound(const std::vector<TopoDS_Shape>& shapes);
 
 /// Removes the compounds around a single body.
 TopoDS_Shape Unwrapped(const TopoDS_Shape& shape);
+
+/// The corners of @p body, and the middles of its edges.
+std::vector<gp_Pnt> PointsOf(const TopoDS_Shape& body);

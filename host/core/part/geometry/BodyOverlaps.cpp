@@ -4,19 +4,13 @@
 #include "BodyVolumes.h"
 #include "Limits.h"
 
-#include <BRepAdaptor_Curve.hxx>
 #include <BRepAlgoAPI_Common.hxx>
 #include <BRepBndLib.hxx>
 #include <BRepClass3d_SolidClassifier.hxx>
-#include <BRep_Tool.hxx>
 #include <Bnd_Box.hxx>
 #include <QStringList>
 #include <Standard_Failure.hxx>
-#include <TopExp.hxx>
 #include <TopTools_DataMapOfShapeInteger.hxx>
-#include <TopTools_IndexedMapOfShape.hxx>
-#include <TopoDS.hxx>
-#include <TopoDS_Edge.hxx>
 #include <TopoDS_Shape.hxx>
 
 #include <algorithm>
@@ -76,26 +70,6 @@ bool Overlap(const Bnd_Box& a, const Bnd_Box& b, int axis)
 {
     return Least(a, axis) + MinimumDepth < Greatest(b, axis) &&
            Least(b, axis) + MinimumDepth < Greatest(a, axis);
-}
-
-// Corners, and the middles of edges.
-std::vector<gp_Pnt> PointsOf(const TopoDS_Shape& body)
-{
-    std::vector<gp_Pnt> points;
-    TopTools_IndexedMapOfShape vertices;
-    TopExp::MapShapes(body, TopAbs_VERTEX, vertices);
-    for (int i = 1; i <= vertices.Extent(); ++i)
-        points.push_back(BRep_Tool::Pnt(TopoDS::Vertex(vertices(i))));
-    TopTools_IndexedMapOfShape edges;
-    TopExp::MapShapes(body, TopAbs_EDGE, edges);
-    for (int i = 1; i <= edges.Extent(); ++i) {
-        const TopoDS_Edge& edge = TopoDS::Edge(edges(i));
-        if (BRep_Tool::Degenerated(edge))
-            continue;
-        const BRepAdaptor_Curve curve(edge);
-        points.push_back(curve.Value((curve.FirstParameter() + curve.LastParameter()) / 2.0));
-    }
-    return points;
 }
 
 // Finds most overlaps in little time.

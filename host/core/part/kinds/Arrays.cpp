@@ -5,6 +5,7 @@
 #include "BuildError.h"
 #include "BuildInput.h"
 #include "CommonFields.h"
+#include "EqualBodies.h"
 #include "FaceTrace.h"
 #include "FeatureKinds.h"
 #include "NumberTexts.h"
@@ -69,11 +70,18 @@ TracedShape PolarArrayBody(const BuildInput& input)
             BuildError::tr("the instances would coincide: the angle between them is %1 degrees.")
                 .arg(ShortText(step)));
     std::vector<TopLoc_Location> places = {TopLoc_Location()};
+    std::vector<gp_Trsf> turns;
     for (int instance = 1; instance < number; ++instance) {
         gp_Trsf rotation;
         rotation.SetRotation(axis, step * instance * tarn::RadiansPerDegree);
         places.emplace_back(rotation);
+        turns.push_back(rotation);
     }
+    const int equal = PlaceOfEqualBodies(shape, turns);
+    if (equal >= 0)
+        throw BuildError(BuildError::tr("the instances would coincide: a turn of %1 degrees puts a "
+                                        "body in the place of another.")
+                             .arg(ShortText(step * (equal + 1))));
     return Copies(shape, places);
 }
 

@@ -179,6 +179,8 @@ void tst_Arrays::BodiesMatchTheirFormulas_data()
     placed("array in rows", "rectangularArray",
            R"("xNumber": 3, "yNumber": 2, "xDistance": -100, "yDistance": 50)",
            Mass{6 * brick.volume, {-95, 35, 15}});
+    placed("box about its middle, which looks different after a quarter", "polarArray",
+           R"("x": 5, "y": 10, "angle": 90, "number": 2)", Mass{2 * brick.volume, {5, 10, 15}});
     placed("array round a circle", "polarArray", R"("x": 200, "angle": 360, "number": 5)",
            Mass{5 * brick.volume, {200, 0, 15}});
 }
@@ -190,6 +192,27 @@ void tst_Arrays::InvalidValuesAreReported_data()
         AddFailure(name, OnBrick(kind, fields), reason);
     };
     on("array about nothing", "polarArray", R"("dz": 0)", "b: its direction is zero.");
+    const auto coincident = [](double degrees) {
+        return QString("b: the instances would coincide: a turn of %1 degrees puts a body in the "
+                       "place of another.")
+            .arg(degrees)
+            .toUtf8();
+    };
+    const auto array = [](const QByteArray& body, const char* fields) {
+        return body + R"(, {"name": "b", "kind": "polarArray", "inputs": ["a"], "fields": {)" +
+               fields + "}}";
+    };
+    AddFailure("cylinder about its axis", array(Single("cylinder", ""), R"("angle": 90)"),
+               coincident(30));
+    AddFailure("ball about any axis through it", array(Single("sphere", ""), R"("dx": 1, "dy": 2)"),
+               coincident(30));
+    on("box about its middle", "polarArray", R"("x": 5, "y": 10, "angle": 360, "number": 4)",
+       coincident(180));
+    AddFailure("pattern upon itself",
+               OnBrick("rectangularArray", R"("xNumber": 2, "yNumber": 1)") +
+                   R"(, {"name": "c", "kind": "polarArray", "inputs": ["b"],
+                         "fields": {"x": 30, "y": 10, "angle": 180, "number": 2}})",
+               coincident(180).replace("b: ", "c: "));
 }
 
 TARN_TEST_MAIN(tst_Arrays)
