@@ -123,7 +123,12 @@ void FeatureBuilder::Add(const BuildStep& step, BuiltPart& part, const Progress&
         if (result.shape.IsNull()) {
             if (progress)
                 progress(int(part.shapes.size()));
-            result = Built(step, part, m_volumes);
+            try {
+                result = Built(step, part, m_cache.Volumes());
+            } catch (...) {
+                m_cache.ForgetVolumes();
+                throw;
+            }
             m_cache.Keep(key, result);
         }
     }

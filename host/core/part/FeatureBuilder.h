@@ -1,6 +1,5 @@
 #pragma once
 
-#include "BodyVolumes.h"
 #include "BuildError.h"
 #include "BuiltPart.h"
 #include "ResultCache.h"
@@ -40,5 +39,4 @@ private:
     QByteArray KeyOf(const BuildStep& step, const BuiltPart& part);
 
     ResultCache& m_cache;
-    BodyVolumes m_volumes;
 };

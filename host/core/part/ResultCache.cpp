@@ -42,6 +42,8 @@ void ResultCache::Keep(const QByteArray& key, const TracedShape& result)
 {
     QSet<const TopoDS_TShape*> counted;
     const qint64 size = EstimatedSize(result.shape, counted) + result.faces.Size();
+    if (size > m_size)
+        ForgetVolumes();
     if (size > m_size || m_places.contains(key))
         return;
     m_entries.push_front({key, result, size});
@@ -51,6 +53,7 @@ void ResultCache::Keep(const QByteArray& key, const TracedShape& result)
         m_used -= m_entries.back().size;
         m_places.remove(m_entries.back().key);
         m_entries.pop_back();
+        ForgetVolumes();
     }
 }
 

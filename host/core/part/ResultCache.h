@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BodyVolumes.h"
 #include "FaceOrigins.h"
 
 #include <QByteArray>
@@ -25,6 +26,11 @@ public:
     TracedShape Find(const QByteArray& key);
     /// Results that are larger than the whole cache are not kept.
     void Keep(const QByteArray& key, const TracedShape& result);
+
+    /// The volumes of results that are kept, for all who measure them.
+    BodyVolumes& Volumes() { return m_volumes; }
+    /// It keeps the bodies that it has measured: call it where a result will not be kept.
+    void ForgetVolumes() { m_volumes = BodyVolumes(); }
 
     /// A hash of the content of the file at @p path. If the file cannot be read, a value that no
     /// other call returns.
@@ -52,4 +58,5 @@ private:
     std::list<Entry> m_entries; // The one that was used last comes first.
     QHash<QByteArray, std::list<Entry>::iterator> m_places;
     QHash<QString, KnownFile> m_files;
+    BodyVolumes m_volumes;
 };

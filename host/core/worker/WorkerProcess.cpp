@@ -172,7 +172,7 @@ private:
         Begin(int(m_request.plan.size()));
         if (m_reply.part.shape.IsNull())
             return;
-        m_reply.measures = Measure(m_reply.part.shape);
+        m_reply.measures = Measure(m_reply.part.shape, m_cache.Volumes());
         if (!m_request.stepPath.isEmpty())
             WriteStepFile(StepShape(), m_request.stepPath);
         if (!m_request.brepPath.isEmpty())

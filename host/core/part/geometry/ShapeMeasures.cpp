@@ -29,10 +29,10 @@ double Area(const TopoDS_Shape& shape)
     return sum;
 }
 
-ShapeMeasures MeasuresOf(const TopoDS_Shape& shape)
+ShapeMeasures MeasuresOf(const TopoDS_Shape& shape, BodyVolumes& volumes)
 {
     ShapeMeasures measures;
-    measures.volume = BodyVolumes().Of(shape);
+    measures.volume = volumes.Of(shape);
     measures.area = Area(shape);
     const Bnd_Box box = TightBox(shape);
     if (!box.IsVoid()) {
@@ -45,9 +45,15 @@ ShapeMeasures MeasuresOf(const TopoDS_Shape& shape)
 
 } // namespace
 
+ShapeMeasures Measure(const TopoDS_Shape& shape, BodyVolumes& volumes)
+{
+    return GuardKernelCall([&] { return MeasuresOf(shape, volumes); });
+}
+
 ShapeMeasures Measure(const TopoDS_Shape& shape)
 {
-    return GuardKernelCall([&shape] { return MeasuresOf(shape); });
+    BodyVolumes volumes;
+    return Measure(shape, volumes);
 }
 
 double ShapeMeasures::Mass(double density) const

@@ -4,6 +4,7 @@
 
 #include <array>
 
+class BodyVolumes;
 class TopoDS_Shape;
 
 /// What a study records of a part.
@@ -18,5 +19,8 @@ struct ShapeMeasures
     double Mass(double density) const;
 };
 
-/// Measures @p shape. @throws Standard_Failure if the kernel fails
+/// Measures @p shape. @p volumes may know its bodies already. @throws Standard_Failure if the
+/// kernel fails
+ShapeMeasures Measure(const TopoDS_Shape& shape, BodyVolumes& volumes);
+/// Measures @p shape alone. @throws Standard_Failure
 ShapeMeasures Measure(const TopoDS_Shape& shape);
