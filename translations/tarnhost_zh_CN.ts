@@ -478,10 +478,6 @@
         <translation>点 %1 处没有面。</translation>
     </message>
     <message>
-        <source>the face at the point is not flat.</source>
-        <translation>该点处的面不是平面。</translation>
-    </message>
-    <message>
         <source>The project has no features, so there is no part.</source>
         <translation>项目没有特征，因此没有零件。</translation>
     </message>
@@ -532,6 +528,66 @@
     <message>
         <source>the faces %1 and %2 have no edge in common.</source>
         <translation>面 %1 和 %2 没有公共边。</translation>
+    </message>
+    <message>
+        <source>a feature of kind &quot;%1&quot; has no edges.</source>
+        <translation>类型为“%1”的特征不使用边。</translation>
+    </message>
+    <message>
+        <source>a feature of kind &quot;%1&quot; has no face.</source>
+        <translation>类型为“%1”的特征不使用面。</translation>
+    </message>
+    <message>
+        <source>a feature of kind &quot;%1&quot; needs a profile.</source>
+        <translation>类型为“%1”的特征需要轮廓。</translation>
+    </message>
+    <message>
+        <source>a feature of kind &quot;%1&quot; has no profile.</source>
+        <translation>类型为“%1”的特征不使用轮廓。</translation>
+    </message>
+    <message>
+        <source>the instances would coincide: a turn of %1 degrees puts a body in the place of another.</source>
+        <translation>各实例将重合：旋转 %1 度会使一个实体与另一个实体位置相同。</translation>
+    </message>
+    <message>
+        <source>the bodies have no volume in common.</source>
+        <translation>这些实体没有公共体积。</translation>
+    </message>
+    <message>
+        <source>a chamfer of %1 mm cannot be built there; it may be too large for the faces beside the edge.</source>
+        <translation>该处无法生成 %1 mm 的倒角；对边两侧的面而言可能过大。</translation>
+    </message>
+    <message>
+        <source>corner %1 of its profile is at the same place as the one before.</source>
+        <translation>其轮廓的第 %1 个角点与前一个角点位置相同。</translation>
+    </message>
+    <message>
+        <source>the arc to corner %1 of its profile goes through three points on a line.</source>
+        <translation>其轮廓中通往第 %1 个角点的圆弧所经过的三点共线。</translation>
+    </message>
+    <message>
+        <source>its profile has %1 corners, but has to have from 2 to %2.</source>
+        <translation>其轮廓有 %1 个角点，但必须有 2 至 %2 个。</translation>
+    </message>
+    <message>
+        <source>its profile is not a closed line.</source>
+        <translation>其轮廓不是封闭的线。</translation>
+    </message>
+    <message>
+        <source>its profile does not enclose an area.</source>
+        <translation>其轮廓没有围成面积。</translation>
+    </message>
+    <message>
+        <source>its profile extends to x = %1, but has to lie at x = 0 or above: the axis is at x = 0.</source>
+        <translation>其轮廓延伸到 x = %1，但必须位于 x = 0 或以上：轴线在 x = 0 处。</translation>
+    </message>
+    <message>
+        <source>the face to mirror at is not flat.</source>
+        <translation>用于镜像的面不是平面。</translation>
+    </message>
+    <message>
+        <source>the faces to mirror at do not lie in one plane; name one of them.</source>
+        <translation>用于镜像的各面不在同一平面内；请指定其中一个。</translation>
     </message>
 </context>
 <context>
@@ -940,6 +996,50 @@ Remove these as well?</source>
         <source>STEP import</source>
         <translation>STEP 导入</translation>
     </message>
+    <message>
+        <source>Common</source>
+        <translation>求交</translation>
+    </message>
+    <message>
+        <source>Move x</source>
+        <translation>移动 x</translation>
+    </message>
+    <message>
+        <source>Move y</source>
+        <translation>移动 y</translation>
+    </message>
+    <message>
+        <source>Move z</source>
+        <translation>移动 z</translation>
+    </message>
+    <message>
+        <source>Turn about x</source>
+        <translation>绕 x 旋转</translation>
+    </message>
+    <message>
+        <source>Turn about y</source>
+        <translation>绕 y 旋转</translation>
+    </message>
+    <message>
+        <source>Turn about z</source>
+        <translation>绕 z 旋转</translation>
+    </message>
+    <message>
+        <source>Chamfer</source>
+        <translation>倒角</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>距离</translation>
+    </message>
+    <message>
+        <source>Extruded profile</source>
+        <translation>拉伸轮廓</translation>
+    </message>
+    <message>
+        <source>Revolved profile</source>
+        <translation>旋转轮廓</translation>
+    </message>
 </context>
 <context>
     <name>FeatureTree</name>
@@ -1283,6 +1383,30 @@ Remove these as well?</source>
     <message>
         <source>the study</source>
         <translation>研究</translation>
+    </message>
+    <message>
+        <source>has &quot;%1&quot;, but the feature names its place already</source>
+        <translation>含有“%1”，但该特征已指定其位置</translation>
+    </message>
+    <message>
+        <source>%1 corner %2 of &quot;%3&quot;</source>
+        <translation>%1“%3”的第 %2 个角点</translation>
+    </message>
+    <message>
+        <source>needs &quot;x&quot; and &quot;y&quot;</source>
+        <translation>需要“x”和“y”</translation>
+    </message>
+    <message>
+        <source>needs both &quot;viaX&quot; and &quot;viaY&quot;, or none of them</source>
+        <translation>“viaX”和“viaY”必须同时给出或都不给出</translation>
+    </message>
+    <message>
+        <source>a list of at least one edge</source>
+        <translation>至少含一条边的列表</translation>
+    </message>
+    <message>
+        <source>%1 its &quot;%2&quot;</source>
+        <translation>%1 的“%2”</translation>
     </message>
 </context>
 <context>
