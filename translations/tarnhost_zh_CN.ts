@@ -1493,6 +1493,26 @@ Remove these as well?</source>
         <source>Lengths in mm, angles in degrees, forces in N, masses in kg</source>
         <translation>长度单位 mm，角度单位度，力单位 N，质量单位 kg</translation>
     </message>
+    <message>
+        <source>New</source>
+        <translation>新建</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
 </context>
 <context>
     <name>MaterialError</name>

@@ -28,12 +28,21 @@
 #include "WindowState.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QVBoxLayout>
+
+namespace {
+
+// Below, the docks do not fit above each other.
+constexpr int LowScreen = 600;
+
+} // namespace
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
@@ -93,6 +102,16 @@ void MainWindow::CreateDocks()
     resizeDocks({m_features, m_fields}, {300, 240}, Qt::Vertical);
     resizeDocks({m_parameters, m_messages}, {820, 620}, Qt::Horizontal);
     resizeDocks({m_messages}, {230}, Qt::Vertical);
+    if (QGuiApplication::primaryScreen()->availableSize().height() < LowScreen)
+        StackDocks();
+}
+
+void MainWindow::StackDocks()
+{
+    for (QDockWidget* const dock : std::initializer_list<QDockWidget*>{
+             m_fields, m_position, m_parameters, m_messages, m_check})
+        tabifyDockWidget(m_tree, dock);
+    m_features->raise();
 }
 
 void MainWindow::CreateMenus()
@@ -131,14 +150,20 @@ void MainWindow::CreateToolBars()
 {
     QToolBar* const toolBar = addToolBar(tr("Project"));
     toolBar->setObjectName(QStringLiteral("projectToolBar"));
-    const std::pair<const char*, const char*> actions[] = {{"action_NewProject", "document-new"},
-                                                           {"action_OpenProject", "document-open"},
-                                                           {"action_SaveProject", "document-save"},
-                                                           {"action_Undo", "edit-undo"},
-                                                           {"action_Redo", "edit-redo"}};
-    for (const auto& [name, icon] : actions) {
+    const struct
+    {
+        const char* name;
+        const char* icon;
+        QString text; // Where the theme has no such icon.
+    } actions[] = {{"action_NewProject", "document-new", tr("New")},
+                   {"action_OpenProject", "document-open", tr("Open")},
+                   {"action_SaveProject", "document-save", tr("Save")},
+                   {"action_Undo", "edit-undo", tr("Undo")},
+                   {"action_Redo", "edit-redo", tr("Redo")}};
+    for (const auto& [name, icon, text] : actions) {
         auto* const action = findChild<QAction*>(QLatin1String(name));
         action->setIcon(QIcon::fromTheme(QLatin1String(icon)));
+        action->setIconText(text);
         toolBar->addAction(action);
     }
     statusBar()->addPermanentWidget(

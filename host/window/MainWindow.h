@@ -52,6 +52,8 @@ protected:
 
 private:
     void CreateDocks();
+    /// All in one place, for a low screen.
+    void StackDocks();
     void CreateMenus();
     void ConnectPart();
 

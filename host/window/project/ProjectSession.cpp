@@ -46,6 +46,9 @@ ProjectSession::ProjectSession(DesignModel& design, PartModel& part, AnalysisRec
     , m_part(part)
     , m_analysis(analysis)
 {
+    // Each step holds the whole project.
+    constexpr int MaximumSteps = 200;
+    m_part.UndoStack().setUndoLimit(MaximumSteps);
     connect(&m_design, &DesignModel::Renamed, this, &ProjectSession::FollowName);
     connect(&m_design, &DesignModel::Edited, this, &ProjectSession::TakeChange);
     connect(&m_design, &DesignModel::Changed, this, [this] {

@@ -67,7 +67,7 @@ void tst_ProjectSession::EveryChangeIsUndoneAndRedone_data()
     row("value", [](OpenSession& open) { SetValue(open.design, "thickness", 33.0); });
     row("unit", [](OpenSession& open) {
         ParameterEntries entries = open.design.Design();
-        entries[0].unit = "mm";
+        entries[0].unit = "inch";
         open.design.Edit(entries, "unit");
     });
     row("order", [](OpenSession& open) {
