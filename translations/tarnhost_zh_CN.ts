@@ -104,6 +104,10 @@
         <source>local mesh size</source>
         <translation>局部网格尺寸</translation>
     </message>
+    <message>
+        <source>support %1</source>
+        <translation>支撑 %1</translation>
+    </message>
 </context>
 <context>
     <name>AnalysisTargets</name>

@@ -4,26 +4,51 @@
 
 #include <algorithm>
 
-namespace {
+void VisitExpressions(FaceReference& face, const ExpressionVisitor& visit)
+{
+    std::for_each(face.at.begin(), face.at.end(), visit);
+}
 
-bool UsesOneOf(const QString& expression, const QSet<QString>& names)
+void VisitExpressions(EdgeReference& edge, const ExpressionVisitor& visit)
+{
+    for (FaceReference& face : edge.between)
+        VisitExpressions(face, visit);
+    std::for_each(edge.at.begin(), edge.at.end(), visit);
+}
+
+void VisitExpressions(Feature& feature, const ExpressionVisitor& visit)
+{
+    std::for_each(feature.fields.begin(), feature.fields.end(), visit);
+    for (EdgeReference& edge : feature.edges)
+        VisitExpressions(edge, visit);
+    if (feature.face.has_value())
+        VisitExpressions(*feature.face, visit);
+    for (ProfileCorner& corner : feature.profile) {
+        for (QString* const text : {&corner.x, &corner.y, &corner.viaX, &corner.viaY})
+            visit(*text);
+    }
+}
+
+bool UsesParameter(const QString& expression, const QSet<QString>& names)
 {
     const QStringList used = NamesIn(expression);
     return std::any_of(used.begin(), used.end(),
                        [&names](const QString& name) { return names.contains(name); });
 }
 
-} // namespace
-
 bool UsesParameter(const Feature& feature, const QSet<QString>& names)
 {
-    return std::any_of(feature.fields.begin(), feature.fields.end(),
-                       [&names](const QString& field) { return UsesOneOf(field, names); });
+    bool isUser = false;
+    Feature visited = feature;
+    VisitExpressions(visited, [&](const QString& expression) {
+        isUser = isUser || UsesParameter(expression, names);
+    });
+    return isUser;
 }
 
 bool UsesParameter(const Condition& condition, const QSet<QString>& names)
 {
-    return UsesOneOf(condition.expression, names);
+    return UsesParameter(condition.expression, names);
 }
 
 FeatureList WithRenamedParameter(FeatureList features, const QString& before, const QString& after)
@@ -32,8 +57,9 @@ FeatureList WithRenamedParameter(FeatureList features, const QString& before, co
         if (!UsesParameter(features.At(index), {before}))
             continue;
         Feature feature = features.At(index);
-        for (QString& field : feature.fields)
-            field = WithRenamed(field, before, after);
+        VisitExpressions(feature, [&](QString& expression) {
+            expression = WithRenamed(expression, before, after);
+        });
         features.Replace(index, feature);
     }
     return features;

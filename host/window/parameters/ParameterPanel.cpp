@@ -31,7 +31,7 @@ QString CsvFilter()
 QString FreeName(const ParameterEntries& entries)
 {
     for (int number = int(entries.size()) + 1;; ++number) {
-        const QString name = QStringLiteral("parameter_%1").arg(number);
+        QString name = QStringLiteral("parameter_%1").arg(number);
         if (FindParameter(entries, name) < 0)
             return name;
     }
@@ -129,8 +129,9 @@ void ParameterPanel::Move(int step)
     bool hasMoved = false;
     for (int i = 1; i < size; ++i) {
         const int from = step < 0 ? i : size - 1 - i;
-        if (isMoved(from) && !isMoved(from + step)) {
-            std::swap(entries[std::size_t(from)], entries[std::size_t(from + step)]);
+        const int to = from + step;
+        if (isMoved(from) && !isMoved(to)) {
+            std::swap(entries[std::size_t(from)], entries[std::size_t(to)]);
             hasMoved = true;
         }
     }

@@ -19,6 +19,10 @@ static AnalysisDefinition Sample()
     load.name = "pull";
     load.force = {"0", "-10*a", "aa"};
     definition.loads = {load};
+    ConstraintDefinition clamp;
+    clamp.name = "clamp";
+    clamp.faces = {{QString(), {"a", "0", "0"}}};
+    definition.constraints = {clamp};
     definition.localMeshes = {{"a", "", {}, {}}, {"", "12", {}, {}}};
     return definition;
 }
@@ -31,16 +35,18 @@ void tst_AnalysisParameters::ExpressionsFollowANewName()
     QCOMPARE(renamed.loads[0].force[1], QString("-10*b"));
     QCOMPARE(renamed.loads[0].force[2], QString("aa"));
     QCOMPARE(renamed.localMeshes[0].size, QString("b"));
+    QCOMPARE(renamed.constraints[0].faces[0].at[0], QString("b"));
 }
 
 void tst_AnalysisParameters::UsersAreRemovedAndNamed()
 {
     QStringList users;
     const AnalysisDefinition left = WithoutParameters(Sample(), {"a"}, users);
-    QCOMPARE(users, QStringList({"mesh size", "element property \"web\"", "load \"pull\"",
-                                 "local mesh size"}));
+    QCOMPARE(users, QStringList({"mesh size", "element property \"web\"", "support \"clamp\"",
+                                 "load \"pull\"", "local mesh size"}));
     QVERIFY(left.meshSize.isEmpty());
     QCOMPARE(left.properties.size(), std::size_t(1));
+    QVERIFY(left.constraints.empty());
     QVERIFY(left.loads.empty());
     QCOMPARE(left.localMeshes.size(), std::size_t(1));
     users.clear();

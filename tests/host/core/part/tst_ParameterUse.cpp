@@ -32,6 +32,18 @@ void tst_ParameterUse::ExpressionsFollowANewName()
     features.Append(Box("2*a"));
     features = WithRenamedParameter(features, "a", "width");
     QCOMPARE(features.At(0).fields[0], QString("2*width"));
+    Feature extrude = NewFeature("rib", "extrude");
+    extrude.profile = {{"a", "0", "", ""}, {"1", "a", "a/2", "1"}, {"0", "2", "", ""}};
+    Feature fillet = NewFeature("round", "fillet");
+    fillet.edges = {{{{"plate.xmin", {}}, {QString(), {"a", "0", "0"}}}, {}}};
+    fillet.face = FaceReference{QString(), {"0", "a", "0"}};
+    FeatureList others;
+    others.Append(extrude);
+    others.Append(fillet);
+    others = WithRenamedParameter(others, "a", "width");
+    QCOMPARE(others.At(0).profile[1].viaX, QString("width/2"));
+    QCOMPARE(others.At(1).edges[0].between[1].at[0], QString("width"));
+    QCOMPARE(others.At(1).face->at[1], QString("width"));
     const std::vector<Condition> conditions =
         WithRenamedParameter({{"a > b", "a is less than b"}}, "a", "width");
     QCOMPARE(conditions[0].expression, QString("width > b"));
