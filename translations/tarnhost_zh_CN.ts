@@ -714,6 +714,10 @@ Remove these as well?</source>
         <source>A direction needs a component other than 0; the dialog stays open</source>
         <translation>方向至少需要一个不为 0 的分量；对话框保持打开</translation>
     </message>
+    <message>
+        <source>%1: %2 is neither a number nor an expression with a value</source>
+        <translation>%1：%2 既不是数字，也不是有值的表达式</translation>
+    </message>
 </context>
 <context>
     <name>FeatureFields</name>
@@ -1550,6 +1554,21 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>MeasureTool</name>
+    <message>
+        <source>&amp;Measure</source>
+        <translation>测量(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Pick one or two faces or edges to measure:</source>
+        <translation>拾取一个或两个面或边进行测量：</translation>
+    </message>
+    <message>
+        <source>Nothing was measured: pick one or two faces or edges</source>
+        <translation>未进行测量：请拾取一个或两个面或边</translation>
+    </message>
+</context>
+<context>
     <name>MeshError</name>
     <message>
         <source>The file of the mesh is damaged or not complete.</source>
@@ -2234,6 +2253,29 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>PickedMeasures</name>
+    <message>
+        <source>Radius: %1 mm, diameter: %2 mm</source>
+        <translation>半径：%1 mm，直径：%2 mm</translation>
+    </message>
+    <message>
+        <source>Length: %1 mm</source>
+        <translation>长度：%1 mm</translation>
+    </message>
+    <message>
+        <source>Area: %1 mm²</source>
+        <translation>面积：%1 mm²</translation>
+    </message>
+    <message>
+        <source>Distance: %1 mm</source>
+        <translation>距离：%1 mm</translation>
+    </message>
+    <message>
+        <source>Angle: %1°</source>
+        <translation>角度：%1°</translation>
+    </message>
+</context>
+<context>
     <name>PositionDock</name>
     <message>
         <source>Position</source>
@@ -2891,6 +2933,22 @@ Remove these as well?</source>
     <message>
         <source>&amp;Wireframe</source>
         <translation>线框(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;No section</source>
+        <translation>无剖面(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Section across &amp;x</source>
+        <translation>垂直于 x 的剖面(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Section across &amp;y</source>
+        <translation>垂直于 y 的剖面(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Section across &amp;z</source>
+        <translation>垂直于 z 的剖面(&amp;Z)</translation>
     </message>
 </context>
 <context>

@@ -7,8 +7,10 @@
 #include "AnalysisTree.h"
 #include "DesignActions.h"
 #include "DesignModel.h"
+#include "FaceClicks.h"
 #include "FeatureFields.h"
 #include "FeatureTree.h"
+#include "MeasureTool.h"
 #include "MessageDock.h"
 #include "MessageLevel.h"
 #include "ParameterPanel.h"
@@ -175,6 +177,7 @@ void MainWindow::CreateViewMenu()
     QMenu& view = *menuBar()->addMenu(tr("&View"));
     const ViewActions* const viewActions = new ViewActions(m_summary->View(), this);
     viewActions->FillMenu(view);
+    view.addAction((new MeasureTool(*m_part, *m_picker, this))->Action());
     view.addSeparator();
     const QList<QDockWidget*> docks = {m_features,   m_fields,   m_position, m_tree,
                                        m_parameters, m_messages, m_check};
@@ -196,6 +199,7 @@ void MainWindow::ConnectPart()
     connect(m_part, &PartModel::Exported, m_summary, &PartPanel::EndProgress);
     connect(m_part, &PartModel::ExportFailed, m_summary, &PartPanel::EndProgress);
     connect(m_summary, &PartPanel::CancelWanted, m_part, &PartModel::Cancel);
+    new FaceClicks(*m_part, *m_features, m_summary->View(), this);
     connect(m_picker, &ShapePicker::Ended, this, &MainWindow::ShowSelectedFeature);
     connect(m_features, &FeatureTree::SelectionChanged, this, &MainWindow::ShowSelectedFeature);
     connect(m_position, &PositionDock::PointEntered, m_partActions, &PartActions::TakePoint);

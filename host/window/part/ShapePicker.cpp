@@ -161,6 +161,8 @@ void ShapePicker::ShowChoice()
         texts << edge.Text();
     m_ui->choiceLabel->setText(texts.isEmpty() ? tr("Click in the view; click again to take back.")
                                                : texts.join(QStringLiteral(", ")));
+    // One line, so that the view keeps its height.
+    m_ui->choiceLabel->setToolTip(texts.join(QLatin1Char('\n')).toHtmlEscaped());
     m_ui->clearButton->setEnabled(!texts.isEmpty());
     if (m_view != nullptr)
         m_view->HighlightShape(ShapeOf(m_model, m_request.choice, m_request.step));

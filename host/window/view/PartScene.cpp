@@ -9,7 +9,10 @@
 #include <Aspect_DisplayConnection.hxx>
 #include <Aspect_NeutralWindow.hxx>
 #include <BRep_Tool.hxx>
+#include <Bnd_Box.hxx>
 #include <GeomAPI_ProjectPointOnCurve.hxx>
+#include <Graphic3d_ClipPlane.hxx>
+#include <Graphic3d_SequenceOfHClipPlane.hxx>
 #include <OpenGl_FrameBuffer.hxx>
 #include <QOpenGLContext>
 #include <Standard_ProgramError.hxx>
@@ -167,6 +170,44 @@ void PartScene::SetPickable(bool hasFaces, bool hasEdges)
     set(FaceSelection, hasFaces);
     set(EdgeSelection, hasEdges);
     ResetPreviousMoveTo();
+}
+
+void PartScene::SetSection(const gp_XYZ& normal)
+{
+    if (m_part.IsNull())
+        return;
+    Handle(Graphic3d_SequenceOfHClipPlane) planes = new Graphic3d_SequenceOfHClipPlane;
+    Bnd_Box box;
+    m_part->BoundingBox(box);
+    if (normal.SquareModulus() > 0.0 && !box.IsVoid()) {
+        const gp_XYZ middle = (box.CornerMin().XYZ() + box.CornerMax().XYZ()) / 2.0;
+        const Handle(Graphic3d_ClipPlane) plane =
+            new Graphic3d_ClipPlane(gp_Pln(gp_Pnt(middle), gp_Dir(normal.Reversed())));
+        plane->SetCapping(true);
+        plane->SetCappingColor(SceneStyle::CutColour());
+        planes->Append(plane);
+    }
+    m_part->SetClipPlanes(planes);
+    ResetPreviousMoveTo();
+    Q_EMIT PictureChanged();
+}
+
+bool PartScene::SeesPart() const
+{
+    Bnd_Box box;
+    if (!m_part.IsNull())
+        m_part->BoundingBox(box);
+    if (box.IsVoid())
+        return true;
+    // The corners of the box on the screen, from -1 to 1.
+    Bnd_Box screen;
+    const gp_Pnt corners[] = {box.CornerMin(), box.CornerMax()};
+    for (int corner = 0; corner < 8; ++corner)
+        screen.Add(m_view->Camera()->Project(gp_Pnt(
+            corners[corner & 1].X(), corners[corner >> 1 & 1].Y(), corners[corner >> 2 & 1].Z())));
+    const gp_Pnt least = screen.CornerMin();
+    const gp_Pnt greatest = screen.CornerMax();
+    return least.X() < 1.0 && greatest.X() > -1.0 && least.Y() < 1.0 && greatest.Y() > -1.0;
 }
 
 void PartScene::SetShaded(bool isShaded)

@@ -48,6 +48,11 @@ public:
     void SetShaded(bool isShaded);
     /// What the cursor finds: faces, edges, or both.
     void SetPickable(bool hasFaces, bool hasEdges);
+    /// Cuts the part at the middle of its box, and hides the side to which @p normal points;
+    /// nothing if that is zero.
+    void SetSection(const gp_XYZ& normal);
+    /// Whether any of the part's box is in the picture; true if there is no part.
+    bool SeesPart() const;
     void ShowHighlight(const TopoDS_Shape& shape);
     /// Shows @p symbols instead of those before.
     void ShowSymbols(const std::vector<ViewSymbol>& symbols);

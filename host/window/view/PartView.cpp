@@ -104,7 +104,15 @@ void PartView::ShowShape(const TopoDS_Shape& shape, bool fitFirstTime)
     const bool isFirst = m_shape.IsNull();
     m_shape = shape;
     TellPoint({});
-    WithScene([this](PartScene& scene) { scene.ShowPart(m_shape, m_mode == ShadedWithEdges); });
+    bool isSeen = true;
+    WithScene([&](PartScene& scene) {
+        scene.ShowPart(m_shape, m_mode == ShadedWithEdges);
+        isSeen = scene.SeesPart();
+    });
+    ShowSection();
+    // A change may have moved the part out of the picture.
+    if (!isFirst && !isSeen)
+        FitAll();
     if (isFirst && fitFirstTime && !shape.IsNull())
         FitAll();
 }
@@ -144,6 +152,20 @@ void PartView::SetDisplayMode(DisplayMode mode)
 {
     m_mode = mode;
     WithScene([mode](PartScene& scene) { scene.SetShaded(mode == ShadedWithEdges); });
+}
+
+void PartView::SetSection(Section section)
+{
+    m_section = section;
+    ShowSection();
+}
+
+void PartView::ShowSection()
+{
+    const double x = m_section == SectionX ? 1.0 : 0.0;
+    const double y = m_section == SectionY ? 1.0 : 0.0;
+    const double z = m_section == SectionZ ? 1.0 : 0.0;
+    WithScene([=](PartScene& scene) { scene.SetSection(gp_XYZ(x, y, z)); });
 }
 
 void PartView::ShowSymbols(const std::vector<ViewSymbol>& symbols)
@@ -224,6 +246,7 @@ void PartView::MakeScene()
         scene.ShowSymbols(m_symbols);
         scene.ShowPart(m_shape, m_mode == ShadedWithEdges);
     });
+    ShowSection();
 }
 
 void PartView::DropScene()
@@ -307,9 +330,9 @@ void PartView::mouseReleaseEvent(QMouseEvent* event)
 
 void PartView::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    mousePressEvent(event);
     // Its release is the second click.
     m_isDoubleClick = true;
-    mousePressEvent(event);
 }
 
 void PartView::mouseMoveEvent(QMouseEvent* event)
@@ -353,7 +376,7 @@ void PartView::HandleMouse(const QPointF& position)
     });
     // From here on, receivers of the signals may show other shapes.
     TellPoint(hit.has_value() ? std::optional<gp_Pnt>(hit->point) : std::nullopt);
-    if (wasClicked && hit.has_value())
+    if ((wasClicked || m_isDoubleClick) && hit.has_value())
         TakeClick(hit->shape, hit->point);
 }
 

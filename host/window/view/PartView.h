@@ -42,6 +42,15 @@ public:
         IsometricView
     };
 
+    /// Which half of the part is cut away, through the middle of its box.
+    enum Section
+    {
+        NoSection,
+        SectionX, ///< The half with the greater x is cut away.
+        SectionY,
+        SectionZ
+    };
+
     enum DisplayMode
     {
         ShadedWithEdges,
@@ -72,6 +81,7 @@ public:
     void SetStandardView(StandardView view);
     void SetDisplayMode(DisplayMode mode);
     DisplayMode CurrentDisplayMode() const { return m_mode; }
+    void SetSection(Section section);
 
     /// The next click on a face emits FacePicked(). Escape or CancelPicking() ends the wait with
     /// PickingCancelled(); a click beside the part does not.
@@ -124,6 +134,7 @@ private:
     /// Runs @p act on the scene, if there is one, in its context; false if that failed.
     bool WithScene(const std::function<void(PartScene&)>& act);
     void MakeScene();
+    void ShowSection();
     void DropScene();
     void Resize(PartScene& scene) const;
     void Fail(const Standard_Failure& failure);
@@ -146,6 +157,7 @@ private:
     bool m_isFitAwaited = false;
 
     DisplayMode m_mode = ShadedWithEdges;
+    Section m_section = NoSection;
     bool m_isPicking = false;
     bool m_isPickingMany = false; // Until the host ends it.
     bool m_isDoubleClick = false;

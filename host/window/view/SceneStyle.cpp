@@ -41,6 +41,7 @@ const QColor EdgeColour(0x00, 0x00, 0x00);
 const QColor WireColour(0x3f, 0x6e, 0xa5); // Visible on a light and on a dark background.
 const QColor CursorColour(0x96, 0xd2, 0xf8);
 const QColor SelectionColour(0xff, 0x9a, 0x2e);
+const QColor SectionColour(0xc8, 0x8a, 0x5a);
 const QColor MarkColour(0xd0, 0x20, 0x20);
 const QColor CubeColour(0xb4, 0xbe, 0xca);
 const QColor AxisColour(0x74, 0x86, 0x9a);
@@ -93,6 +94,11 @@ void SceneStyle::SetDrawing(const AIS_InteractiveContext& context)
     SetHighlight(context, Prs3d_TypeOfHighlight_LocalSelected, SelectionColour);
 }
 
+Quantity_Color SceneStyle::CutColour()
+{
+    return Colour(SectionColour);
+}
+
 void SceneStyle::SetBackground(V3d_View& view, const QPalette& palette)
 {
     const QColor& window = palette.color(QPalette::Window);
@@ -125,8 +131,8 @@ Handle(AIS_InteractiveObject) SceneStyle::NewHighlight(const TopoDS_Shape& shape
     Handle(AIS_Shape) highlight = new AIS_Shape(shape);
     highlight->SetMaterial(Graphic3d_NameOfMaterial_Plastified);
     highlight->SetColor(Colour(SelectionColour));
-    highlight->SetTransparency(0.4);
-    // Above the part, which would hide a shape within it.
+    // Above the part, which would hide a shape within it; opaque, with a depth of its own, so that
+    // a body does not look hollow.
     highlight->SetZLayer(Graphic3d_ZLayerId_Topmost);
     return highlight;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Quantity_Color.hxx>
 #include <Standard_Handle.hxx>
 
 class AIS_AnimationCamera;
@@ -18,6 +19,8 @@ namespace SceneStyle {
 void SetLights(V3d_Viewer& viewer);
 /// How shapes are drawn and highlighted.
 void SetDrawing(const AIS_InteractiveContext& context);
+/// Of the surface of a section.
+Quantity_Color CutColour();
 void SetBackground(V3d_View& view, const QPalette& palette);
 
 /// A null object for a null shape.

@@ -59,6 +59,24 @@ ViewActions::ViewActions(PartView* view, QObject* parent)
     addMode(tr("&Shaded with edges"), "action_ShadedWithEdges", PartView::ShadedWithEdges);
     addMode(tr("&Wireframe"), "action_Wireframe", PartView::Wireframe);
 
+    m_menuOnly << NewSeparator(this);
+    m_actions << m_menuOnly;
+
+    auto* const sections = new QActionGroup(this);
+    const auto addSection = [this, view, sections](const QString& text, const char* name,
+                                                   PartView::Section section) {
+        QAction* const action =
+            Add(text, name, QKeySequence(), [view, section] { view->SetSection(section); });
+        action->setCheckable(true);
+        action->setChecked(section == PartView::NoSection);
+        sections->addAction(action);
+        m_menuOnly << action;
+    };
+    addSection(tr("&No section"), "action_NoSection", PartView::NoSection);
+    addSection(tr("Section across &x"), "action_SectionX", PartView::SectionX);
+    addSection(tr("Section across &y"), "action_SectionY", PartView::SectionY);
+    addSection(tr("Section across &z"), "action_SectionZ", PartView::SectionZ);
+
     for (QAction* const action : qAsConst(m_actions))
         action->setEnabled(view != nullptr);
 }
@@ -83,5 +101,8 @@ void ViewActions::FillMenu(QMenu& menu) const
 
 void ViewActions::FillToolBar(QToolBar& toolBar) const
 {
-    toolBar.addActions(m_actions);
+    for (QAction* const action : m_actions) {
+        if (!m_menuOnly.contains(action))
+            toolBar.addAction(action);
+    }
 }

@@ -11,7 +11,8 @@ class QAction;
 class QMenu;
 class QToolBar;
 
-/// The actions of the menu and toolbar for the view: fit, the standard views, the display mode.
+/// The actions of the menu and toolbar for the view: fit, the standard views, the display mode,
+/// sections.
 ///
 /// Without a view, because there is no OpenGL, the actions are disabled.
 class ViewActions : public QObject
@@ -31,4 +32,5 @@ private:
                  const std::function<void()>& act);
 
     QList<QAction*> m_actions;
+    QList<QAction*> m_menuOnly; // Not on the tool bar.
 };

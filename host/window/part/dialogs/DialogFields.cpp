@@ -3,6 +3,7 @@
 #include "Angles.h"
 #include "FeatureKind.h"
 #include "FieldValues.h"
+#include "JsonSection.h"
 #include "Limits.h"
 #include "NumberTexts.h"
 
@@ -59,8 +60,10 @@ void DialogFields::Replace(const char* key, double number, const QString& text)
 {
     Text(key) = text;
     const FieldDefinition& field = m_feature.kind->fields[m_feature.kind->IndexOf(key)];
-    if (!field.rule.Allows(number))
-        m_problem =
+    if (field.rule.Allows(number))
+        m_problems.remove(field.key);
+    else
+        m_problems[field.key] =
             tr("%1 has to be %2; %3 was entered").arg(field.Label(), field.rule.Text(), text);
 }
 
@@ -106,4 +109,25 @@ void DialogFields::TakeDirection(const gp_Dir& direction)
 void DialogFields::TakeText(const QDialog& dialog, const FieldEdit& edit)
 {
     Take(edit.key, Edit(dialog, edit.name).text().toDouble());
+}
+
+void DialogFields::TakeExpression(const QDialog& dialog, const FieldEdit& edit)
+{
+    const std::size_t index = m_feature.kind->IndexOf(edit.key);
+    const QLineEdit& line = Edit(dialog, edit.name);
+    if (index >= m_feature.kind->fields.size() || !line.isVisibleTo(&dialog))
+        return;
+    const QString text = line.text().trimmed();
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    if ((isNumber && std::isfinite(number)) ||
+        (IsShown(edit.key) && text == m_shown.value(QLatin1String(edit.key))))
+        return;
+    const double value = FieldValues().Evaluate(text);
+    if (std::isfinite(value))
+        Replace(edit.key, value, text);
+    else
+        m_problems[QLatin1String(edit.key)] =
+            tr("%1: %2 is neither a number nor an expression with a value")
+                .arg(m_feature.kind->fields[index].Label(), Quoted(text));
 }

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QLatin1String>
+#include <QMap>
 
 class QDialog;
 class gp_Dir;
@@ -34,7 +35,7 @@ public:
 
     const Feature& Result() const { return m_feature; }
     /// Which value the kind does not allow; empty if it allows all.
-    const QString& Problem() const { return m_problem; }
+    QString Problem() const { return m_problems.isEmpty() ? QString() : m_problems.first(); }
 
     /// Makes the feature one of @p kind with the default texts, unless it is one already.
     void SetKind(const FeatureKind& kind);
@@ -51,6 +52,10 @@ public:
     /// What the line edit shows, for dialogs whose getters do not return it.
     void TakeText(const QDialog& dialog, const FieldEdit& edit);
 
+    /// Takes the text of the line edit if it is not a number: the dialogs count it as 0 without a
+    /// word. It becomes a problem unless it is an expression with a value that the kind allows.
+    void TakeExpression(const QDialog& dialog, const FieldEdit& edit);
+
 private:
     void Replace(const char* key, double number, const QString& text);
     QString& Text(const char* key);
@@ -58,6 +63,6 @@ private:
     double Shown(const char* key) const { return m_shown.value(QLatin1String(key)).toDouble(); }
 
     Feature m_feature;
-    QHash<QLatin1String, QString> m_shown; // By key.
-    QString m_problem;
+    QHash<QLatin1String, QString> m_shown;   // By key.
+    QMap<QLatin1String, QString> m_problems; // By key.
 };

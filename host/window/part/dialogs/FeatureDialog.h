@@ -26,8 +26,10 @@ DialogStep StepOf(void (*take)(const Dialog&, DialogFields&), const std::vector<
                 for (const FieldEdit& edit : edits)
                     fields.Show(dialog, edit);
             },
-            [take](const QDialog& dialog, DialogFields& fields) {
+            [take, edits](const QDialog& dialog, DialogFields& fields) {
                 take(static_cast<const Dialog&>(dialog), fields);
+                for (const FieldEdit& edit : edits)
+                    fields.TakeExpression(dialog, edit);
             }};
 }
 

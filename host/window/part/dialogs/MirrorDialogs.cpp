@@ -67,8 +67,10 @@ void Take(const MirrorDialog& dialog, DialogFields& fields)
     fields.SetKind(*FeatureKinds::Find(mode->kind));
     if (!mode->takesEdits)
         return;
-    for (const FieldEdit& edit : mode->edits)
+    for (const FieldEdit& edit : mode->edits) {
         fields.TakeText(dialog, edit);
+        fields.TakeExpression(dialog, edit);
+    }
 }
 
 } // namespace
