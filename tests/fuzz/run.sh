@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fuzzes both file readers, each for the given number of seconds (default: 60). Inputs that reach new
+# Fuzzes the file readers, each for the given number of seconds (default: 60). Inputs that reach new
 # code go to out/fuzz. The console shows inputs that crash, hang or exhaust memory; add them to the
 # corpus once the fault is fixed. Requires clang 14.
 set -euo pipefail
@@ -7,10 +7,12 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 seconds=${1:-60}
 
 cmake --preset fuzz >/dev/null
-for class in KVMaterialData KVPropertyData; do
+for class in KVMaterialData KVPropertyData MeshFile ModesTable ResultFile; do
+  dictionary=()
+  [[ $class != KV* ]] || dictionary=(-dict=tests/fuzz/xml.dict)
   cmake --build --preset fuzz --target "fuzz_$class"
   mkdir -p "out/fuzz/$class"
   "build/fuzz/tests/fuzz/fuzz_$class" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
-    -max_len=8192 -dict=tests/fuzz/xml.dict -artifact_prefix="out/fuzz/$class-" -print_final_stats=1 \
+    -max_len=8192 "${dictionary[@]}" -artifact_prefix="out/fuzz/$class-" -print_final_stats=1 \
     "out/fuzz/$class" "tests/fuzz/corpus/$class"
 done

@@ -16,6 +16,9 @@ private Q_SLOTS:
     void BadInputIsRefusedInOneLine();
     void HelpAndVersionArePrinted();
     void NoLocaleIsNeeded();
+    void AProjectIsSolved();
+    void TheExitCodeOfSolvingSaysWhatWentWrong_data();
+    void TheExitCodeOfSolvingSaysWhatWentWrong();
 };
 
 /// The outcome of the program, started without a display.
@@ -43,6 +46,16 @@ static Process RunProgram(const QStringList& arguments,
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
 }
+
+// A block on its bottom.
+static const QByteArray Block = R"({
+    "version": 2, "material": "Steel S355",
+    "parameters": [{"name": "l", "type": "Scalar", "value": 50}],
+    "features": [{"name": "block", "kind": "box", "fields": {"x": "l", "y": 40, "z": 30}}],
+    "analysis": {
+        "meshSize": 20, "frequencies": {"number": 2},
+        "constraints": [{"name": "foot", "held": ["X_D", "Y_D", "Z_D"],
+                         "faces": ["block.zmin"]}]}})";
 
 void tst_Program::AStudyIsRun()
 {
@@ -142,6 +155,42 @@ void tst_Program::NoLocaleIsNeeded()
     const QByteArray step = ContentOf("out/run_0001.step");
     QVERIFY(step.contains("CARTESIAN_POINT"));
     QVERIFY(!step.contains(",0000"));
+}
+
+void tst_Program::AProjectIsSolved()
+{
+    EnterTemporaryDirectory();
+    Put("p.json", Block);
+    const Process process = RunProgram({"--solve", "p.json", "--out", "out", "--set", "l=80"});
+    QCOMPARE(process.error, QString());
+    QCOMPARE(process.code, 0);
+    QVERIFY(process.out.startsWith("building the part\nmeshing with a size of 20 mm\n"));
+    QVERIFY(process.out.contains("\nmode 2: "));
+    QCOMPARE(ContentOf("out/modes.csv").count('\n'), 3);
+}
+
+void tst_Program::TheExitCodeOfSolvingSaysWhatWentWrong_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("cannot be solved") << QStringList{"--out", "out", "--static"} << 1
+                                      << "There is no load, so nothing moves: add a load.";
+    QTest::newRow("unknown parameter") << QStringList{"--out", "out", "--set", "k=1"} << 2
+                                       << "--set k: the project has no parameter of that name";
+    QTest::newRow("folder is a file")
+        << QStringList{"--out", "p.json"} << 3 << "p.json: cannot create the folder";
+}
+
+void tst_Program::TheExitCodeOfSolvingSaysWhatWentWrong()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, reason);
+    EnterTemporaryDirectory();
+    Put("p.json", Block);
+    const Process process = RunProgram(QStringList{"--solve", "p.json"} + arguments);
+    QTEST(process.code, "code");
+    QCOMPARE(process.error, QString("tarnhost: %1\n").arg(reason));
 }
 
 TARN_TEST_MAIN(tst_Program)

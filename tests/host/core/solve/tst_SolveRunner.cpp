@@ -16,6 +16,8 @@ private Q_SLOTS:
     void WrongArgumentsAreRefused_data();
     void WrongArgumentsAreRefused();
     void AFolderThatCannotBeMadeIsReported();
+    void TheSamplesAreSolved_data();
+    void TheSamplesAreSolved();
 };
 
 namespace {
@@ -150,6 +152,27 @@ void tst_SolveRunner::AFolderThatCannotBeMadeIsReported()
     const Outcome outcome = Run(BeamProject, To("file/out"));
     QCOMPARE(outcome.result->outcome, SolveResult::FolderFailed);
     QCOMPARE(outcome.result->problem, QString("file/out: cannot create the folder"));
+}
+
+void tst_SolveRunner::TheSamplesAreSolved_data()
+{
+    QTest::addColumn<QString>("sample");
+    QTest::addColumn<double>("frequency");
+    NewRow("flange", QString("flange.json"), 5139.0);
+    NewRow("bracket", QString("bracket.json"), 143.4);
+}
+
+void tst_SolveRunner::TheSamplesAreSolved()
+{
+    QFETCH(QString, sample);
+    QFETCH(double, frequency);
+    const QByteArray project = ContentOf(SourcePath("host/samples/" + sample));
+    QCOMPARE(Run(project, To("out")).result->problem, QString());
+    QVERIFY2(std::abs(FirstMode() / frequency - 1.0) < 1e-3,
+             qPrintable(QString::number(FirstMode())));
+    SolveRunner::Options options = To("out");
+    options.isStatic = true;
+    QCOMPARE(Run(project, options).result->problem, QString());
 }
 
 TARN_HOST_TEST_MAIN(tst_SolveRunner)
