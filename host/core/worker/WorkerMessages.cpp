@@ -138,12 +138,12 @@ QDataStream& operator>>(QDataStream& in, OutlineCorner& corner)
 
 QDataStream& operator<<(QDataStream& out, const FoundTarget& found)
 {
-    return out << found.numbers << found.error;
+    return out << found.numbers << found.area << found.error;
 }
 
 QDataStream& operator>>(QDataStream& in, FoundTarget& found)
 {
-    return in >> found.numbers >> found.error;
+    return in >> found.numbers >> found.area >> found.error;
 }
 
 QDataStream& operator<<(QDataStream& out, const ShapeMeasures& measures)
@@ -271,8 +271,8 @@ QByteArray ToBytes(const PartReply& reply, const PartRequest& request)
     }
     return Written([&](QDataStream& out) {
         out << true << int(reply.outcome) << reply.cause << reply.failedFeature << reply.part.keys
-            << reply.measures << reply.faces << reply.edges << reply.solids << reply.isLast
-            << sent.shapes << sent.faces;
+            << reply.measures << reply.faces << reply.edges << reply.solids << reply.contacts
+            << reply.isLast << sent.shapes << sent.faces;
     });
 }
 
@@ -292,7 +292,8 @@ WorkerMessage MessageFromBytes(const QByteArray& bytes, const PartRequest& reque
     int outcome = 0;
     SentShapes sent;
     in >> outcome >> reply.cause >> reply.failedFeature >> reply.part.keys >> reply.measures >>
-        reply.faces >> reply.edges >> reply.solids >> reply.isLast >> sent.shapes >> sent.faces;
+        reply.faces >> reply.edges >> reply.solids >> reply.contacts >> reply.isLast >>
+        sent.shapes >> sent.faces;
     reply.outcome = PartReply::Outcome(outcome);
     reply.part.plan = request.plan;
     if (!sent.shapes.isEmpty())

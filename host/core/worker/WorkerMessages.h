@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 // What the program and its worker process send each other. Each message is a frame: its length as
@@ -40,6 +41,7 @@ struct PartRequest
 struct FoundTarget
 {
     std::vector<int> numbers; ///< In TopExp::MapShapes(), from 1, ascending; empty if not found.
+    double area = 0.0;        ///< Of the faces, in mm2.
     QString error;            ///< Why nothing was found; names the target.
 };
 
@@ -63,6 +65,8 @@ struct PartReply
     /// Of each solid of the whole part, in the order of TopExp::MapShapes(): the feature whose
     /// result it is in, as a place in the plan.
     std::vector<int> solids;
+    /// Pairs of solids that touch without sharing a face, from 1; only with a BREP file.
+    std::vector<std::pair<int, int>> contacts;
     bool isLast = false; ///< The worker ends after this reply.
 
     /// Why it failed: one line that names the feature.

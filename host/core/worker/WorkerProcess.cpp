@@ -1,5 +1,6 @@
 #include "WorkerProcess.h"
 
+#include "BodyContacts.h"
 #include "BrepFile.h"
 #include "KernelSignals.h"
 #include "Language.h"
@@ -8,9 +9,14 @@
 #include "Triangles.h"
 #include "WorkerMessages.h"
 
+#include <BRepGProp.hxx>
+#include <GProp_GProps.hxx>
 #include <QCoreApplication>
 #include <QFile>
 #include <QTextCodec>
+#include <TopExp.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+#include <TopoDS_Shape.hxx>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -106,6 +112,13 @@ bool IsMemoryAlmostUsedUp(int megabytes)
     return false;
 }
 
+double AreaOf(const TopoDS_Shape& face)
+{
+    GProp_GProps properties;
+    BRepGProp::SurfaceProperties(face, properties);
+    return properties.Mass();
+}
+
 /// Builds what one request asks for.
 class Answer
 {
@@ -175,8 +188,10 @@ private:
         m_reply.measures = Measure(m_reply.part.shape, m_cache.Volumes());
         if (!m_request.stepPath.isEmpty())
             WriteStepFile(StepShape(), m_request.stepPath);
-        if (!m_request.brepPath.isEmpty())
+        if (!m_request.brepPath.isEmpty()) {
             WriteBrepFile(m_reply.part.shape, m_request.brepPath);
+            m_reply.contacts = GuardKernelCall([this] { return FindContacts(m_reply.part.shape); });
+        }
         FindTargets();
         if (m_request.wantsShapes)
             AddTriangles(m_reply.part.shape);
@@ -194,9 +209,14 @@ private:
             }
             return answer;
         };
-        for (const FaceTarget& target : m_request.faces)
+        TopTools_IndexedMapOfShape map;
+        TopExp::MapShapes(m_reply.part.shape, TopAbs_FACE, map);
+        for (const FaceTarget& target : m_request.faces) {
             m_reply.faces.push_back(
                 found([&] { return faces.Faces(PartFaces::WholePart, target); }));
+            for (const int face : m_reply.faces.back().numbers)
+                m_reply.faces.back().area += AreaOf(map(face));
+        }
         for (const EdgeTarget& target : m_request.edges)
             m_reply.edges.push_back(
                 found([&] { return faces.Edges(PartFaces::WholePart, target); }));

@@ -141,10 +141,10 @@ void SolveJob::MakeMesh()
 
 void SolveJob::CheckSize() const
 {
-    if (!m_plan.ShellFaces().empty())
-        return;
-    const QString problem = MeshEstimate::OfSolids(m_result->part.measures.volume)
-                                .Problem(m_plan.meshSize, m_input->tools.maximumFreedoms);
+    const MeshEstimate estimate = m_plan.ShellFaces().empty()
+                                      ? MeshEstimate::OfSolids(m_result->part.measures.volume)
+                                      : MeshEstimate::OfShells(m_plan.shellArea);
+    const QString problem = estimate.Problem(m_plan.meshSize, m_input->tools.maximumFreedoms);
     if (!problem.isEmpty())
         throw HostError(problem);
 }

@@ -53,6 +53,7 @@ struct AnalysisPlan
     std::vector<PlannedConstraint> constraints;
     std::vector<PlannedLoad> loads;
     std::vector<LocalMesh> localMeshes;
+    double shellArea = 0.0; ///< Of the faces of all shells, in mm2; estimated from above.
     /// The names of the bodies, in the order of the shape's solids; may be empty.
     std::vector<QString> bodies;
 

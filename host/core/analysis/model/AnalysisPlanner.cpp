@@ -157,8 +157,24 @@ AnalysisPlan AnalysisPlanner::Plan(const PartReply& reply) const
     AnalysisPlan plan = m_plan;
     if (!(plan.meshSize > 0.0))
         plan.meshSize = DefaultSize * LongestSide(reply.measures);
-    for (std::size_t i = 0; i < plan.properties.size(); ++i)
+    for (const int step : reply.solids)
+        plan.bodies.push_back(reply.part.plan.at(std::size_t(step)).name);
+    if (!reply.contacts.empty()) {
+        const auto name = [&plan](int solid) {
+            return ModelError::tr("body %1 (%2)")
+                .arg(solid)
+                .arg(plan.bodies.at(std::size_t(solid) - 1));
+        };
+        const auto& [first, second] = reply.contacts.front();
+        throw ModelError(ModelError::tr("The bodies touch without being joined: %1 and %2. Fuse "
+                                        "them, or leave a gap.")
+                             .arg(name(first), name(second)));
+    }
+    for (std::size_t i = 0; i < plan.properties.size(); ++i) {
         plan.properties[i].faces = TargetOf(m_properties[i], reply).faces;
+        for (std::size_t face = 0; face < m_properties[i].faces; ++face)
+            plan.shellArea += reply.faces.at(m_properties[i].firstFace + face).area;
+    }
     for (std::size_t i = 0; i < plan.constraints.size(); ++i)
         plan.constraints[i].target = TargetOf(m_constraints[i], reply);
     for (std::size_t i = 0; i < plan.loads.size(); ++i)
@@ -168,8 +184,5 @@ AnalysisPlan AnalysisPlanner::Plan(const PartReply& reply) const
         plan.localMeshes[i].faces = target.faces;
         plan.localMeshes[i].edges = target.edges;
     }
-    for (const int step : reply.solids)
-        plan.bodies.push_back(reply.part.plan.empty() ? QString()
-                                                      : reply.part.plan.at(std::size_t(step)).name);
     return plan;
 }

@@ -189,6 +189,18 @@ void tst_SolveJob::WhatIsWrongIsSaidByName_data()
            QString("The part has no material."));
     NewRow("a face that is missing", Beam("beam.xmin", "hole.side"), false,
            QString("The boundary condition \"clamp\": "));
+    NewRow(
+        "too fine a mesh of shells",
+        QByteArray(Strip).replace("\"meshSize\": 5", "\"meshSize\": 0.05"), false,
+        QString("The mesh of size 0.05 mm would have about 9.1e+06 degrees of freedom; the limit "
+                "is 2000000. A mesh size of 0.11 mm would fit."));
+    NewRow("two bodies that touch",
+           Beam(R"("z": 10}}])", R"("z": 10}}, {"name": "other", "kind": "box"},
+                                  {"name": "beside", "kind": "move", "inputs": ["other"],
+                                   "fields": {"dy": 10}}])"),
+           false,
+           QString("The bodies touch without being joined: body 1 (beam) and body 2 (beside). Fuse "
+                   "them, or leave a gap."));
     NewRow("two bodies that overlap",
            Beam(R"("z": 10}}])", R"("z": 10}}, {"name": "other", "kind": "box"}])"), false,
            QString());
