@@ -1759,6 +1759,14 @@ Remove these as well?</source>
         <source>The mesh has too few nodes for a mode: make it finer.</source>
         <translation>网格节点太少，无法计算模态：请加密网格。</translation>
     </message>
+    <message>
+        <source>body %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bodies touch without being joined: %1 and %2. Fuse them, or leave a gap.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>OpenGlSupport</name>

@@ -57,6 +57,7 @@ std::vector<MeshPart> PartsOf(const Mesh& mesh)
     for (const Mesh::Tetrahedron& element : mesh.tetrahedra)
         parts[sets.Find(element.nodes[0])].body = element.body;
     std::vector<MeshPart> list;
+    list.reserve(parts.size());
     for (auto& [first, part] : parts)
         list.push_back(std::move(part));
     return list;
