@@ -41,8 +41,8 @@ struct PartRequest
 struct FoundTarget
 {
     std::vector<int> numbers; ///< In TopExp::MapShapes(), from 1, ascending; empty if not found.
-    double area = 0.0;        ///< Of the faces, in mm2.
     QString error;            ///< Why nothing was found; names the target.
+    double area = 0.0;        ///< Of the faces, in mm2.
 };
 
 /// What became of a request.
