@@ -1761,11 +1761,11 @@ Remove these as well?</source>
     </message>
     <message>
         <source>body %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>实体 %1（%2）</translation>
     </message>
     <message>
         <source>The bodies touch without being joined: %1 and %2. Fuse them, or leave a gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>实体相互接触但未连接：%1 与 %2。请将它们合并，或留出间隙。</translation>
     </message>
 </context>
 <context>
