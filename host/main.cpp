@@ -4,17 +4,21 @@
 #include "MainWindow.h"
 #include "Project.h"
 #include "Screenshots.h"
+#include "SolveFolder.h"
 #include "SolveRunner.h"
+#include "StudyFolder.h"
 #include "StudyRunner.h"
 #include "WorkerProcess.h"
 
 #include <QLocale>
 #include <QTextCodec>
+#include <QThread>
 #include <Standard_Failure.hxx>
 
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <memory>
 
 namespace {
 
@@ -33,6 +37,16 @@ void Print(FILE* stream, const QString& text)
     std::fflush(stream); // A study's progress is to be seen at once, also through a pipe.
 }
 
+void Refuse(const QString& reason)
+{
+    Print(stderr, QStringLiteral("tarnhost: %1\n").arg(reason));
+}
+
+void Tell(const QString& line)
+{
+    Print(stdout, line + QLatin1Char('\n'));
+}
+
 int RunStudy(const CommandLine& line)
 {
     const Project project = Project::Load(line.projectFile);
@@ -40,15 +54,35 @@ int RunStudy(const CommandLine& line)
     options.directory = line.outputDirectory;
     options.firstRun = line.firstRun;
     options.lastRun = line.lastRun;
-    StudyRunner runner(project, options, [](const QString& progress) {
-        Print(stdout, progress + QLatin1Char('\n'));
-    });
-    return runner.Run().failed == 0 ? DoneCode : FailedCode;
+    options.jobs = line.jobs > 0 ? line.jobs : QThread::idealThreadCount();
+    options.seconds = line.seconds;
+    options.hasSteps = line.hasSteps;
+    const StudyRunner::Summary summary = StudyRunner(project, options, Tell).Run();
+    constexpr int SignalCode = 128; // As shells report a signal.
+    if (summary.signal != 0)
+        return SignalCode + summary.signal;
+    if (summary.failed == 0)
+        return DoneCode;
+    Refuse(QStringLiteral("%1 of %2 runs failed; results.csv holds the reasons")
+               .arg(summary.failed)
+               .arg(summary.ok + summary.failed + summary.skipped));
+    return FailedCode;
 }
 
-void Refuse(const QString& reason)
+int ReportStudy(const CommandLine& line)
 {
-    Print(stderr, QStringLiteral("tarnhost: %1\n").arg(reason));
+    const std::unique_ptr<StudyFolder> folder = StudyFolder::Open(line.outputDirectory);
+    if (line.action == CommandLine::MergeStudy)
+        folder->Merge();
+    else
+        folder->Records().Refresh();
+    const StudyFolder::Counts counts = folder->Count();
+    Tell(QStringLiteral("%1 done, %2 failed, %3 running, %4 open")
+             .arg(counts.done)
+             .arg(counts.failed)
+             .arg(counts.running)
+             .arg(counts.open));
+    return DoneCode;
 }
 
 int SolveProject(const CommandLine& line)
@@ -59,9 +93,7 @@ int SolveProject(const CommandLine& line)
     options.isStatic = line.isStatic;
     options.isWithoutRun = line.isWithoutRun;
     options.values = line.values;
-    SolveRunner runner(project, options, [](const QString& progress) {
-        Print(stdout, progress + QLatin1Char('\n'));
-    });
+    SolveRunner runner(project, options, Tell);
     const SolveResultPointer result = runner.Run();
     if (result->outcome == SolveResult::Done)
         return DoneCode;
@@ -137,6 +169,9 @@ int Act(const CommandLine& line)
         return RunStudy(line);
     case CommandLine::Solve:
         return SolveProject(line);
+    case CommandLine::MergeStudy:
+    case CommandLine::ShowStudyStatus:
+        return ReportStudy(line);
     case CommandLine::WriteScreenshots:
         return WritePictures(line);
     default:
@@ -166,6 +201,9 @@ int main(int argc, char** argv)
         qInstallMessageHandler(DropDesktopWarnings);
         HostApplication application(argc, argv);
         return Act(line);
+    } catch (const FolderError& error) {
+        Refuse(error.Reason());
+        return BadFolderCode;
     } catch (const Standard_Failure& failure) {
         Refuse(QString::fromUtf8(failure.GetMessageString()));
     } catch (const std::exception& error) {

@@ -82,7 +82,8 @@ void tst_Program::TheExitCodeReportsFailedRuns()
     EnterTemporaryDirectory();
     Put("p.json", Flange("[150]"));
     const Process process = RunProgram({"--study", "p.json", "--out", "out", "--runs", "1"});
-    QCOMPARE(process.error, QString());
+    QCOMPARE(process.error,
+             QString("tarnhost: 1 of 1 runs failed; results.csv holds the reasons\n"));
     QCOMPARE(process.code, 1);
     QCOMPARE(process.out,
              QString("run 1 of 2: failed: The bore (150) is not smaller than the hub (110).\n"

@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 
+#include "BuildLimits.h"
 #include "Language.h"
 #include "Project.h"
 
@@ -10,6 +11,8 @@
 #include <cmath>
 
 namespace {
+
+const QString EmptyName = QStringLiteral("the name of a file or folder is empty");
 
 QString LanguageNames()
 {
@@ -29,6 +32,25 @@ struct Options
     QCommandLineOption runs{QStringLiteral("runs"),
                             QStringLiteral("Do only these runs of the study: 3-7, or 5."),
                             QStringLiteral("runs")};
+    QCommandLineOption jobs{
+        QStringLiteral("jobs"),
+        QStringLiteral("Do <number> runs of the study at once; without, one on each processor."),
+        QStringLiteral("number")};
+    QCommandLineOption timeout{
+        QStringLiteral("timeout"),
+        QStringLiteral("Give up a run of the study that takes longer than <seconds>."),
+        QStringLiteral("seconds")};
+    QCommandLineOption step{
+        QStringLiteral("step"),
+        QStringLiteral("Write a STEP file for each run of the study: all or none."),
+        QStringLiteral("which")};
+    QCommandLineOption merge{QStringLiteral("merge"),
+                             QStringLiteral("Write results.csv of the study in the folder <dir>."),
+                             QStringLiteral("dir")};
+    QCommandLineOption status{
+        QStringLiteral("status"),
+        QStringLiteral("Print how many runs of the study in the folder <dir> are done."),
+        QStringLiteral("dir")};
     QCommandLineOption solve{
         QStringLiteral("solve"),
         QStringLiteral("Analyse the part of the project <file> without a window: its natural "
@@ -63,8 +85,8 @@ struct Options
     {
         parser.setApplicationDescription(
             QStringLiteral("Reference host of the dialogs: a bolted flange and its study."));
-        parser.addOptions({study, solve, out, runs, isStatic, set, noRun, screenshots, palette,
-                           lang, help, version});
+        parser.addOptions({study, out, runs, jobs, timeout, step, merge, status, solve, isStatic,
+                           set, noRun, screenshots, palette, lang, help, version});
         parser.addPositionalArgument(QStringLiteral("project"),
                                      QStringLiteral("The project file; without, a sample project."),
                                      QStringLiteral("[project]"));
@@ -85,6 +107,27 @@ void ReadRuns(const QString& text, CommandLine& line)
     if (line.firstRun < 1 || line.lastRun < line.firstRun)
         Refuse(QStringLiteral("--runs %1: runs are given as 3-7 or 5, counted from 1")
                    .arg(text.simplified()));
+}
+
+int ReadNumber(const QCommandLineParser& parser, const QCommandLineOption& option, int most)
+{
+    const QString text = parser.value(option);
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    if (!isNumber || number < 1 || number > most)
+        Refuse(QStringLiteral("--%1 %2: has to be a whole number from 1 to %3")
+                   .arg(option.names().constFirst(), text.simplified())
+                   .arg(most));
+    return number;
+}
+
+bool ReadStep(const QString& text)
+{
+    const bool hasSteps = text == QLatin1String("all");
+    if (!hasSteps && text != QLatin1String("none"))
+        Refuse(QStringLiteral("--step %1: STEP files are written for all or none")
+                   .arg(text.simplified()));
+    return hasSteps;
 }
 
 // The last "=" separates: a name may contain one, a number cannot.
@@ -129,14 +172,45 @@ void CheckCombination(const QCommandLineParser& parser, const Options& options)
         Refuse(QStringLiteral("--solve FILE needs --out DIR"));
     if (!solve && study != parser.isSet(options.out))
         Refuse(QStringLiteral("--study FILE and --out DIR need each other"));
-    if (parser.isSet(options.runs) && !study)
-        Refuse(QStringLiteral("--runs needs --study FILE"));
+    for (const QCommandLineOption& option :
+         {options.runs, options.jobs, options.timeout, options.step}) {
+        if (parser.isSet(option) && !study)
+            Refuse(QStringLiteral("--%1 needs --study FILE").arg(option.names().constFirst()));
+    }
+    // These have the folder alone.
+    for (const QCommandLineOption& option : {options.merge, options.status}) {
+        if (parser.isSet(option) &&
+            (parser.optionNames().size() > 1 || !parser.positionalArguments().isEmpty()))
+            Refuse(
+                QStringLiteral("--%1 DIR goes with nothing else").arg(option.names().constFirst()));
+    }
     for (const QCommandLineOption& option : {options.isStatic, options.set, options.noRun}) {
         if (parser.isSet(option) && !solve)
             Refuse(QStringLiteral("--%1 needs --solve FILE").arg(option.names().constFirst()));
     }
     if (parser.isSet(options.palette) && !screenshots)
         Refuse(QStringLiteral("--palette needs --screenshots DIR"));
+}
+
+void ReadStudyOptions(const QCommandLineParser& parser, const Options& options, CommandLine& line)
+{
+    if (parser.isSet(options.runs))
+        ReadRuns(parser.value(options.runs), line);
+    if (parser.isSet(options.jobs))
+        line.jobs = ReadNumber(parser, options.jobs, CommandLine::MaximumJobs);
+    if (parser.isSet(options.timeout))
+        line.seconds = ReadNumber(parser, options.timeout, BuildLimits::MaximumSeconds);
+    if (parser.isSet(options.step))
+        line.hasSteps = ReadStep(parser.value(options.step));
+    for (const QCommandLineOption& option : {options.merge, options.status}) {
+        if (!parser.isSet(option))
+            continue;
+        const bool isMerge = parser.isSet(options.merge);
+        line.action = isMerge ? CommandLine::MergeStudy : CommandLine::ShowStudyStatus;
+        line.outputDirectory = parser.value(option);
+        if (line.outputDirectory.isEmpty())
+            Refuse(EmptyName);
+    }
 }
 
 } // namespace
@@ -182,9 +256,8 @@ CommandLine CommandLine::Parse(const QStringList& arguments)
         line.action = WriteScreenshots;
     if (line.projectFile.isEmpty() || ((study || solve) && line.outputDirectory.isEmpty()) ||
         (screenshots && line.screenshotDirectory.isEmpty()))
-        Refuse(QStringLiteral("the name of a file or folder is empty"));
-    if (parser.isSet(options.runs))
-        ReadRuns(parser.value(options.runs), line);
+        Refuse(EmptyName);
+    ReadStudyOptions(parser, options, line);
     line.isStatic = parser.isSet(options.isStatic);
     line.isWithoutRun = parser.isSet(options.noRun);
     const QStringList values = parser.values(options.set);

@@ -9,10 +9,14 @@
 /// What the program is asked to do.
 struct CommandLine
 {
+    static constexpr int MaximumJobs = 1000;
+
     enum Action
     {
         OpenWindow,
         RunStudy,
+        MergeStudy,
+        ShowStudyStatus,
         Solve,
         WriteScreenshots,
         ShowHelp,
@@ -21,13 +25,16 @@ struct CommandLine
 
     Action action = OpenWindow;
     QString projectFile;         ///< The sample project where none was given.
-    QString outputDirectory;     ///< Of a study or an analysis.
+    QString outputDirectory;     ///< Of a study, also to merge or to report, or an analysis.
     QString screenshotDirectory; ///< Of the screenshots.
     bool isDark = false;         ///< Whether the screenshots have light text on dark.
     QString language;            ///< Of the windows; empty for the user's own.
     int firstRun = 0;            ///< Of a study, from 1; 0 for all runs.
     int lastRun = 0;
-    bool isStatic = false;     ///< Whether a static analysis is solved, instead of vibration.
+    int jobs = 0;          ///< Of a study: how many runs at once; 0 for the number of processors.
+    int seconds = 0;       ///< Of a study: the time limit of a run; 0 for the user's setting.
+    bool hasSteps = true;  ///< Of a study: whether STEP files are written.
+    bool isStatic = false; ///< Whether a static analysis is solved, instead of vibration.
     bool isWithoutRun = false; ///< Whether only the decks are written.
     /// Values of parameters that replace those of the project, by name, in the order given.
     std::vector<std::pair<QString, double>> values;

@@ -159,16 +159,18 @@ std::vector<double> Study::Values(int run) const
     return m_runs.empty() ? m_factorial.Run(index) : m_runs.at(index);
 }
 
-QString Study::Choose(int run) const
+QString Study::Choose(const QStringList& names, const std::vector<double>& values) const
 {
     ParameterMap& store = GlobalParaMeterMgr::m_nameMapParameters;
     store = m_parameters;
-    const std::vector<double> values = Values(run);
-    for (int column = 0; column < m_names.size(); ++column) {
-        ParametersDef& record = store.at(m_names[column]);
-        record.m_dValue = values[std::size_t(column)];
+    for (int column = 0; column < names.size(); ++column) {
+        ParametersDef& record = store.at(names[column]);
+        const double value = values[std::size_t(column)];
+        if (value == GlobalParaMeterMgr::GetParameterRawValue(names[column]).toDouble())
+            continue;
+        record.m_dValue = value;
         record.m_varRawValue = record.m_dValue;
         record.m_strValue = ExactText(record.m_dValue);
     }
-    return Joined(EvaluateParameters(QSet<QString>(m_names.begin(), m_names.end())));
+    return Joined(EvaluateParameters(QSet<QString>(names.begin(), names.end())));
 }

@@ -31,7 +31,9 @@ public:
     /// Puts @p run, counted from 1, into the parameter store: its values, the project's own values
     /// of all other parameters, and the values of their expressions. Returns why that failed, in
     /// one line, or an empty text.
-    QString Choose(int run) const;
+    QString Choose(int run) const { return Choose(Names(), Values(run)); }
+    /// As well, with these values of the parameters @p names.
+    QString Choose(const QStringList& names, const std::vector<double>& values) const;
 
 private:
     void ReadSamples(const Project& project);

@@ -244,6 +244,7 @@ void KernelWorker::FinishWithoutReply()
 PartReply KernelWorker::FailedAtStep(const QString& cause) const
 {
     PartReply reply = Failed(cause);
+    reply.isLast = true;
     const auto step = std::size_t(m_step);
     reply.failedFeature = step < m_request.plan.size() ? m_request.plan[step].name : QString();
     if (reply.failedFeature.isEmpty())

@@ -10,6 +10,8 @@ private Q_SLOTS:
     void WithoutArgumentsTheSampleProjectIsOpened();
     void AProjectCanBeNamed();
     void AStudyHasAProjectAFolderAndRuns();
+    void AStudyHasWorkersALimitAndStepFiles();
+    void AStudyIsMergedOrReportedByItsFolder();
     void RunsAreARangeOrANumber_data();
     void RunsAreARangeOrANumber();
     void AnAnalysisHasAProjectAFolderAndValues();
@@ -49,6 +51,30 @@ void tst_CommandLine::AStudyHasAProjectAFolderAndRuns()
     QCOMPARE(line.outputDirectory, QString("o"));
     QCOMPARE(line.firstRun, 3);
     QCOMPARE(line.lastRun, 7);
+}
+
+void tst_CommandLine::AStudyHasWorkersALimitAndStepFiles()
+{
+    CommandLine line = Parse({"--study", "a.json", "--out", "o"});
+    QCOMPARE(line.jobs, 0);
+    QCOMPARE(line.seconds, 0);
+    QVERIFY(line.hasSteps);
+    line =
+        Parse({"--study", "a", "--out", "o", "--jobs", "8", "--timeout", "60", "--step", "none"});
+    QCOMPARE(line.jobs, 8);
+    QCOMPARE(line.seconds, 60);
+    QVERIFY(!line.hasSteps);
+    QVERIFY(Parse({"--study", "a", "--out", "o", "--step", "all"}).hasSteps);
+}
+
+void tst_CommandLine::AStudyIsMergedOrReportedByItsFolder()
+{
+    CommandLine line = Parse({"--merge", "o"});
+    QCOMPARE(line.action, CommandLine::MergeStudy);
+    QCOMPARE(line.outputDirectory, QString("o"));
+    line = Parse({"--status", "o"});
+    QCOMPARE(line.action, CommandLine::ShowStudyStatus);
+    QCOMPARE(line.outputDirectory, QString("o"));
 }
 
 void tst_CommandLine::RunsAreARangeOrANumber_data()
@@ -122,9 +148,10 @@ void tst_CommandLine::TheHelpNamesEveryOption()
 {
     const QString help = CommandLine::HelpText();
     for (const char* option :
-         {"--study <file>", "--out <dir>", "--runs <runs>", "--solve <file>", "--static",
-          "--set <name=value>", "--no-run", "--screenshots <dir>", "--palette <name>",
-          "--lang <name>", "--help", "--version", "[project]"})
+         {"--study <file>", "--out <dir>", "--runs <runs>", "--jobs <number>",
+          "--timeout <seconds>", "--step <which>", "--merge <dir>", "--status <dir>",
+          "--solve <file>", "--static", "--set <name=value>", "--no-run", "--screenshots <dir>",
+          "--palette <name>", "--lang <name>", "--help", "--version", "[project]"})
         QVERIFY2(help.contains(option), option);
 }
 
@@ -165,6 +192,23 @@ void tst_CommandLine::BadArgumentsAreToldInOneLine_data()
     row("two projects", {"a", "b"}, "there is more than one project: a and b");
     row("two projects, one in a study", {"--study", "a", "--out", "o", "b"},
         "there is more than one project: a and b");
+    for (const char* option : {"jobs", "timeout", "step"})
+        row(qPrintable(QString("%1 without study").arg(option)), {QString("--") + option, "1"},
+            qPrintable(QString("--%1 needs --study FILE").arg(option)));
+    for (const char* jobs : {"", "0", "-1", "1.5", "x", "1001"})
+        row(qPrintable(QString("jobs \"%1\"").arg(jobs)),
+            {"--study", "a", "--out", "o", QString("--jobs=") + jobs},
+            qPrintable(QString("--jobs %1: has to be a whole number from 1 to 1000").arg(jobs)));
+    row("timeout", {"--study", "a", "--out", "o", "--timeout", "0"},
+        "--timeout 0: has to be a whole number from 1 to 604800");
+    row("step", {"--study", "a", "--out", "o", "--step", "some"},
+        "--step some: STEP files are written for all or none");
+    row("merge and study", {"--merge", "o", "--study", "a"},
+        "--study FILE and --out DIR need each other");
+    row("merge and folder", {"--merge", "o", "--status", "o"},
+        "--merge DIR goes with nothing else");
+    row("status and project", {"--status", "o", "a"}, "--status DIR goes with nothing else");
+    row("status of nothing", {"--status", ""}, "the name of a file or folder is empty");
     row("empty project", {""}, "the name of a file or folder is empty");
     row("empty study", {"--study", "", "--out", "o"}, "the name of a file or folder is empty");
     row("empty folder", {"--study", "a", "--out", ""}, "the name of a file or folder is empty");

@@ -89,9 +89,10 @@ void tst_StudyRunner::EveryRunIsBuiltAndWritten()
     QCOMPARE(outcome.told.size(), 5);
     QVERIFY(outcome.told[0].startsWith("run 1 of 4: ok, volume "));
     QCOMPARE(outcome.told[4], QString("4 ok, 0 failed, 0 done before; see out/results.csv"));
-    QCOMPARE(QDir("out").entryList(QDir::Files),
-             QStringList({"results.csv", "run_0001.step", "run_0002.step", "run_0003.step",
-                          "run_0004.step"}));
+    QCOMPARE(
+        QDir("out").entryList(QDir::Files),
+        QStringList({"journal_0001.csv", "results.csv", "run_0001.step", "run_0002.step",
+                     "run_0003.step", "run_0004.step", "runs.csv", "study.json", "study.lock"}));
     QCOMPARE(Results().Runs().size(), std::size_t(4));
 }
 
@@ -145,14 +146,12 @@ void tst_StudyRunner::ASecondCallSkipsWhatIsDone()
     EnterTemporaryDirectory();
     RunStudy(Flange(), 2, 3);
     const QByteArray step = ContentOf("out/run_0002.step");
-    Put("out/run_0003.step", "kept");
     const Outcome outcome = RunStudy(Flange());
     QCOMPARE(outcome.error, QString());
     QCOMPARE(outcome.summary.ok, 2);
     QCOMPARE(outcome.summary.skipped, 2);
     QCOMPARE(outcome.told[1], QString("run 2 of 4: done before"));
     QCOMPARE(ContentOf("out/run_0002.step"), step);
-    QCOMPARE(ContentOf("out/run_0003.step"), QByteArray("kept"));
     QCOMPARE(Results().Runs().size(), std::size_t(4));
 
     const QByteArray table = ContentOf("out/results.csv");
@@ -230,29 +229,41 @@ void tst_StudyRunner::ResultsOfAnotherStudyAreNotTouched_data()
 {
     QTest::addColumn<QByteArray>("project");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("other values")
-        << Flange("[60, 71]") << "run 3 in it belongs to a different study; choose another folder";
-    QTest::newRow("fewer runs")
-        << Flange("[60]") << "run 3 in it belongs to a different study; choose another folder";
-    QTest::newRow("another density")
-        << Flange("[60, 70]", "2700")
-        << "run 3 in it belongs to a different study; choose another folder";
-    QTest::newRow("other parameters")
-        << Flange().replace("\"parameters\": [", "\"parameters\": [{\"name\":\"x\",\"value\":1},")
-        << "holds the results of another study; choose another folder";
+    const auto row = [](const char* name, const QByteArray& project, const char* difference) {
+        QTest::newRow(name) << project
+                            << QString("out: holds the results of another study: %1; choose "
+                                       "another folder")
+                                   .arg(difference);
+    };
+    row("another density", Flange("[60, 70]", "2700"), "its density differs");
+    row("a material", FlangeOf("Steel S235"), "its material differs");
+    row("other parameters",
+        Flange().replace("\"parameters\": [", "\"parameters\": [{\"name\":\"x\",\"value\":1},"),
+        "its parameters differ");
+    row("another expression", Flange().replace("1.5 * thickness", "2 * thickness"),
+        "its expressions differ");
+    row("another part", Flange().replace("bolt_hole / 2", "bolt_hole / 3"), "its part differs");
+    row("another condition", Flange().replace("<= 360", "<= 300"), "its conditions differ");
+    row("another analysis",
+        Flange().replace("\"version\": 1", "\"version\": 2, \"analysis\": {\"meshSize\": 5}"),
+        "its analysis differs");
+    row("a response", Flange().replace("\"version\": 1", R"("version": 2, "study": {"responses": [
+            {"name": "r", "expression": "1"}]})"),
+        "its analyses or responses differ");
 }
 
 void tst_StudyRunner::ResultsOfAnotherStudyAreNotTouched()
 {
     const EmptyDesignStores stores;
+    const EmptyAnalysisStores materials;
     QFETCH(QByteArray, project);
-    QFETCH(QString, reason);
     EnterTemporaryDirectory();
     RunStudy(Flange(), 3, 3);
     const QByteArray table = ContentOf("out/results.csv");
-    QCOMPARE(RunStudy(project).error, "out/results.csv: " + reason);
+    const QStringList files = QDir("out").entryList(QDir::Files);
+    QTEST(RunStudy(project).error, "reason");
     QCOMPARE(ContentOf("out/results.csv"), table);
-    QCOMPARE(QDir("out").entryList(QDir::Files).size(), 2);
+    QCOMPARE(QDir("out").entryList(QDir::Files), files);
 }
 
 void tst_StudyRunner::AStudyWithoutRunsIsRefused()
@@ -292,9 +303,7 @@ void tst_StudyRunner::AnExpressionThatCannotBeSettledFailsTheRun()
 {
     const EmptyDesignStores stores;
     EnterTemporaryDirectory();
-    const Outcome outcome = RunStudy(Flange().replace("\"expressionParameters\": [\"thickness\"]",
-                                                      "\"expressionParameters\": [\"height\"]"),
-                                     1, 1);
+    const Outcome outcome = RunStudy(Flange().replace("1.5 * thickness", "1.5 * height"), 1, 1);
     QCOMPARE(outcome.summary.failed, 1);
     QCOMPARE(outcome.told[0],
              QString("run 1 of 4: failed: hub_height: its expression uses \"height\", which is not "

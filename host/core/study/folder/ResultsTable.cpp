@@ -1,9 +1,10 @@
 #include "ResultsTable.h"
 
 #include "CsvText.h"
-#include "HostError.h"
+#include "SolveFolder.h"
 #include "WholeFile.h"
 
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -14,10 +15,17 @@ constexpr int MaximumFileSize = 1024 * 1024 * 1024;
 const QString OkStatus = QStringLiteral("ok");
 const QString FailedStatus = QStringLiteral("failed");
 
-const QStringList MeasureNames = {
-    QStringLiteral("volume_mm3"), QStringLiteral("area_mm2"), QStringLiteral("mass_kg"),
-    QStringLiteral("x_min"),      QStringLiteral("y_min"),    QStringLiteral("z_min"),
-    QStringLiteral("x_max"),      QStringLiteral("y_max"),    QStringLiteral("z_max")};
+// Which cells a spreadsheet calculates.
+bool IsLikeFormula(const QString& text)
+{
+    return !text.isEmpty() && QStringLiteral("=+-@\t\r").contains(text[0]);
+}
+
+QString PlainText(const QString& cell)
+{
+    const bool isMarked = cell.startsWith(QLatin1Char('\'')) && IsLikeFormula(cell.mid(1));
+    return isMarked ? cell.mid(1) : cell;
+}
 
 QString NumberCell(double value)
 {
@@ -34,6 +42,11 @@ public:
     }
 
     QString Text() { return m_cells[m_next++]; }
+
+    double NumberOrNone()
+    {
+        return m_cells[m_next].isEmpty() ? (++m_next, std::nan("")) : Number();
+    }
 
     double Number()
     {
@@ -55,15 +68,40 @@ private:
 
 } // namespace
 
-ResultsTable::ResultsTable(const QStringList& parameters)
-    : m_parameters(parameters)
+QString TextCell(const QString& text)
 {
+    return IsLikeFormula(text) ? QLatin1Char('\'') + text : text;
+}
+
+ResultsTable::ResultsTable(const QStringList& parameters, const QStringList& more)
+    : m_parameters(parameters)
+    , m_more(more)
+{
+}
+
+const QStringList& ResultsTable::MeasureNames()
+{
+    static const QStringList names = {
+        QStringLiteral("volume_mm3"), QStringLiteral("area_mm2"), QStringLiteral("mass_kg"),
+        QStringLiteral("x_min"),      QStringLiteral("y_min"),    QStringLiteral("z_min"),
+        QStringLiteral("x_max"),      QStringLiteral("y_max"),    QStringLiteral("z_max")};
+    return names;
+}
+
+std::vector<double> ResultsTable::MeasuresOf(const RunResult& result)
+{
+    std::vector<double> values = {result.measures.volume, result.measures.area, result.mass};
+    values.insert(values.end(), result.measures.boundingBox.begin(),
+                  result.measures.boundingBox.end());
+    return values;
 }
 
 QStringList ResultsTable::Header() const
 {
-    return QStringList(QStringLiteral("run"))
-           << m_parameters << MeasureNames << QStringLiteral("status") << QStringLiteral("error");
+    QStringList cells(QStringLiteral("run"));
+    for (const QString& name : m_parameters + MeasureNames() + m_more)
+        cells << TextCell(name);
+    return cells << QStringLiteral("status") << QStringLiteral("error");
 }
 
 void ResultsTable::Read(const QString& path)
@@ -99,11 +137,13 @@ void ResultsTable::Read(const QString& path)
             result.mass = reader.Number();
             for (double& bound : result.measures.boundingBox)
                 bound = reader.Number();
+            for (int column = 0; column < m_more.size(); ++column)
+                result.more.push_back(reader.NumberOrNone());
         } else {
-            reader.Skip(MeasureNames.size());
+            reader.Skip(MeasureNames().size() + m_more.size());
         }
         const QString status = reader.Text();
-        result.error = reader.Text();
+        result.error = PlainText(reader.Text());
         const bool knownStatus = status == OkStatus || status == FailedStatus;
         if (run < 1 || !knownStatus || !reader.IsGood() || !runs.emplace(run, result).second)
             fail();
@@ -111,29 +151,37 @@ void ResultsTable::Read(const QString& path)
     m_runs = std::move(runs);
 }
 
+QByteArray ResultsTable::Row(int run, const RunResult& result) const
+{
+    QStringList cells(QString::number(run));
+    for (const double value : result.values)
+        cells << NumberCell(value);
+    if (result.ok) {
+        for (const double value : MeasuresOf(result))
+            cells << NumberCell(value);
+        for (const double value : result.more)
+            cells << (std::isfinite(value) ? NumberCell(value) : QString());
+    } else {
+        for (int i = 0; i < MeasureNames().size() + m_more.size(); ++i)
+            cells << QString();
+    }
+    cells << (result.ok ? OkStatus : FailedStatus) << TextCell(result.error);
+    return CsvLine(cells).toUtf8();
+}
+
 void ResultsTable::Write(const QString& path) const
 {
-    QString text = CsvLine(Header());
-    for (const auto& [run, result] : m_runs) {
-        QStringList cells(QString::number(run));
-        for (const double value : result.values)
-            cells << NumberCell(value);
-        if (result.ok) {
-            cells << NumberCell(result.measures.volume) << NumberCell(result.measures.area)
-                  << NumberCell(result.mass);
-            for (const double bound : result.measures.boundingBox)
-                cells << NumberCell(bound);
-        } else {
-            for (int i = 0; i < MeasureNames.size(); ++i)
-                cells << QString();
-        }
-        cells << (result.ok ? OkStatus : FailedStatus) << result.error;
-        text += CsvLine(cells);
-    }
+    QByteArray rows;
+    for (const auto& [run, result] : m_runs)
+        rows += Row(run, result);
+    WriteRows(path, rows);
+}
 
+void ResultsTable::WriteRows(const QString& path, const QByteArray& rows) const
+{
     tarn::WholeFile file(path, MaximumFileSize);
-    if (!file.Write(text.toUtf8()))
-        throw HostError(QStringLiteral("%1: %2").arg(path, file.Error()));
+    if (!file.Write(CsvLine(Header()).toUtf8() + rows))
+        throw FolderError(QStringLiteral("%1: %2").arg(path, file.Error()));
 }
 
 void ResultsTable::Set(int run, RunResult result)

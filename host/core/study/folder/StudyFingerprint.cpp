@@ -1,0 +1,143 @@
+#include "StudyFingerprint.h"
+
+#include "AnalysisJson.h"
+#include "FeatureKind.h"
+#include "HostError.h"
+#include "Project.h"
+#include "StudyColumns.h"
+#include "WholeFile.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <Standard_Version.hxx>
+
+#include <array>
+
+namespace {
+
+constexpr int Format = 1;
+const QLatin1String FormatKey("format");
+const QLatin1String ParametersKey("parameters");
+const QLatin1String ColumnsKey("columns");
+const QLatin1String InputsKey("inputs");
+
+/// An entry of the file, and what is said if it differs.
+struct Entry
+{
+    QLatin1String key;
+    const char* difference;
+};
+
+const std::array<Entry, 12> Entries = {{
+    {FormatKey, "its format differs"},
+    {ParametersKey, "its parameters differ"},
+    {InputsKey, "its ticked parameters have other expressions"},
+    {QLatin1String("expressions"), "its expressions differ"},
+    {QLatin1String("features"), "its part differs"},
+    {QLatin1String("conditions"), "its conditions differ"},
+    {QLatin1String("files"), "its imported files or UserMaterial.xml differ"},
+    {QLatin1String("material"), "its material differs"},
+    {QLatin1String("density"), "its density differs"},
+    {QLatin1String("analysis"), "its analysis differs"},
+    {QLatin1String("study"), "its analyses or responses differ"},
+    {QLatin1String("kernel"), "the version of its geometry kernel differs"},
+}};
+
+QString Hash(const QByteArray& bytes)
+{
+    return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
+}
+
+QString Hash(const QJsonValue& json)
+{
+    const QJsonDocument document(QJsonArray{json});
+    return Hash(document.toJson(QJsonDocument::Compact));
+}
+
+// A file that cannot be read fails the runs later, and has no hash.
+QJsonObject ImportedFiles(const Project& project)
+{
+    QJsonObject files;
+    for (const Feature& feature : project.Features().Features()) {
+        if (!feature.kind->readsFile)
+            continue;
+        QByteArray content;
+        tarn::WholeFile file(QDir(project.Folder()).absoluteFilePath(feature.file));
+        files.insert(feature.file, file.Read(content) ? Hash(content) : QString());
+    }
+    // Without an analysis, materials only give the density.
+    if (project.Study().hasVibration || project.Study().hasStatic) {
+        const QString name = QStringLiteral("UserMaterial.xml");
+        QByteArray content;
+        tarn::WholeFile file(QDir(project.Folder()).filePath(name));
+        files.insert(name, file.Read(content) ? Hash(content) : QString());
+    }
+    return files;
+}
+
+// Only what is recorded: the design may change and so add runs.
+QJsonObject RecordedPart(StudyDefinition study)
+{
+    StudyDefinition recorded;
+    recorded.hasVibration = study.hasVibration;
+    recorded.hasStatic = study.hasStatic;
+    recorded.responses = std::move(study.responses);
+    return ToJson(recorded);
+}
+
+QStringList Texts(const QJsonValue& json)
+{
+    QStringList texts;
+    const QJsonArray array = json.toArray();
+    for (const QJsonValue& value : array)
+        texts << value.toString();
+    return texts;
+}
+
+} // namespace
+
+QJsonObject StudyFingerprint(const Project& project, const QStringList& inputs, double density)
+{
+    QJsonArray parameters;
+    QJsonObject expressions;
+    for (const ParametersDef& record : project.Parameters()) {
+        parameters.append(record.m_strName);
+        if (!inputs.contains(record.m_strName))
+            expressions.insert(record.m_strName,
+                               QString::fromLocal8Bit(record.m_strExpression.c_str()));
+    }
+    return {{FormatKey, Format},
+            {ParametersKey, parameters},
+            {InputsKey, QJsonArray::fromStringList(inputs)},
+            {QLatin1String("expressions"), expressions},
+            {QLatin1String("features"), Hash(project.Features().ToJson())},
+            {QLatin1String("conditions"), Hash(ConditionsToJson(project.Conditions()))},
+            {QLatin1String("files"), ImportedFiles(project)},
+            {QLatin1String("material"), project.Material()},
+            {QLatin1String("density"), density},
+            {QLatin1String("analysis"), Hash(ToJson(project.Analysis()))},
+            {QLatin1String("study"), RecordedPart(project.Study())},
+            {ColumnsKey, QJsonArray::fromStringList(StudyColumns(project).Names())},
+            {QLatin1String("kernel"), QStringLiteral(OCC_VERSION_COMPLETE)}};
+}
+
+QString FingerprintDifference(const QJsonObject& stored, const QJsonObject& study)
+{
+    for (const Entry& entry : Entries) {
+        if (stored.value(entry.key) != study.value(entry.key))
+            return QString::fromLatin1(entry.difference);
+    }
+    return {};
+}
+
+StudyNames::StudyNames(const QJsonObject& stored)
+    : parameters(Texts(stored.value(ParametersKey)))
+    , inputs(Texts(stored.value(InputsKey)))
+    , columns(Texts(stored.value(ColumnsKey)))
+{
+    if (stored.value(FormatKey).toInt() != Format)
+        throw HostError(
+            QStringLiteral("is not of format %1, which this program reads").arg(Format));
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "ResultsTable.h"
+#include "RunList.h"
+#include "RunLocks.h"
+#include "StudyRecords.h"
+
+#include <QJsonObject>
+#include <QString>
+
+#include <memory>
+
+/// The folder of a study: what its runs have in common ("study.json"), which runs there are
+/// ("runs.csv"), what became of them (a journal for each program that worked on it), a STEP file
+/// for each run, and the table "results.csv", which is derived from the rest.
+///
+/// Several programs may work on one folder at once, on several machines.
+class StudyFolder
+{
+public:
+    /// How many runs there are of each kind.
+    struct Counts
+    {
+        int done = 0;
+        int failed = 0;
+        int running = 0;
+        int open = 0;
+    };
+
+    /// Opens a folder that exists, to read it. @throws HostError if it is not that of a study
+    static std::unique_ptr<StudyFolder> Open(const QString& path);
+    /// Opens or creates a folder for a study with the @p fingerprint, and adds those of @p runs
+    /// that are not there. @throws HostError, also if the folder is that of another study
+    static std::unique_ptr<StudyFolder> Prepare(const QString& path, const QJsonObject& fingerprint,
+                                                const RunList& runs);
+
+    const RunList& Runs() const { return m_runs; }
+    StudyRecords& Records() { return *m_records; }
+    const ResultsTable& Table() const { return m_table; }
+
+    QString StepPath(int run) const;
+    QString ResultsPath() const;
+    QString LocksPath() const;
+
+    /// Whether a run is ok; with its STEP file as it was written, if that counts.
+    bool IsDone(int run, bool withStep) const;
+
+    /// Replaces results.csv by what the journals say. Programs that do so at once wait for each
+    /// other. @throws HostError
+    void Merge();
+    /// After Records() has been refreshed.
+    Counts Count() const;
+
+private:
+    explicit StudyFolder(const QString& path);
+    QString PathOf(const QString& name) const;
+    QJsonObject ReadFingerprint() const;
+    void ReadRuns(const QJsonObject& fingerprint);
+
+    QString m_path;
+    RunList m_runs;
+    ResultsTable m_table{{}};
+    std::unique_ptr<StudyRecords> m_records;
+};
