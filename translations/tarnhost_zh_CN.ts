@@ -1050,6 +1050,17 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>FeaturePlacing</name>
+    <message>
+        <source>Click the face to mirror at, or press Escape to cancel</source>
+        <translation>请单击用作镜像面的面，或按 Esc 键取消</translation>
+    </message>
+    <message>
+        <source>Pick edges for %1:</source>
+        <translation>为%1拾取边：</translation>
+    </message>
+</context>
+<context>
     <name>FeatureTree</name>
     <message>
         <source>of %1</source>
@@ -1997,10 +2008,6 @@ Remove these as well?</source>
 <context>
     <name>PartActions</name>
     <message>
-        <source>STEP files (*.step *.stp *.STEP *.STP);;All files (*)</source>
-        <translation>STEP 文件 (*.step *.stp *.STEP *.STP);;所有文件 (*)</translation>
-    </message>
-    <message>
         <source>&amp;Edit feature</source>
         <translation>编辑特征(&amp;E)</translation>
     </message>
@@ -2069,20 +2076,8 @@ Remove these as well?</source>
         <translation>没有可选取面的三维视图：请在 %1 的字段中输入面上一点</translation>
     </message>
     <message>
-        <source>Click the face to mirror at, or press Escape to cancel</source>
-        <translation>请单击用作镜像面的面，或按 Esc 键取消</translation>
-    </message>
-    <message>
-        <source>Import STEP</source>
-        <translation>导入 STEP</translation>
-    </message>
-    <message>
         <source>There is no shape to export</source>
         <translation>没有可导出的形状</translation>
-    </message>
-    <message>
-        <source>Export STEP</source>
-        <translation>导出 STEP</translation>
     </message>
     <message>
         <source>Wrote %1</source>
@@ -2875,6 +2870,21 @@ Remove these as well?</source>
     <message>
         <source>a body is not valid</source>
         <translation>有实体无效</translation>
+    </message>
+</context>
+<context>
+    <name>StepFileDialogs</name>
+    <message>
+        <source>STEP files (*.step *.stp *.STEP *.STP);;All files (*)</source>
+        <translation>STEP 文件 (*.step *.stp *.STEP *.STP);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Import STEP</source>
+        <translation>导入 STEP</translation>
+    </message>
+    <message>
+        <source>Export STEP</source>
+        <translation>导出 STEP</translation>
     </message>
 </context>
 <context>

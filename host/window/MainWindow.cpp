@@ -9,6 +9,7 @@
 #include "DesignModel.h"
 #include "FaceClicks.h"
 #include "FeatureFields.h"
+#include "FeaturePlacing.h"
 #include "FeatureTree.h"
 #include "MeasureTool.h"
 #include "MessageDock.h"
@@ -122,11 +123,13 @@ void MainWindow::CreateMenus()
     m_projectActions->FillMenu(*menuBar()->addMenu(tr("&File")));
     m_designActions = new DesignActions(*m_design, *m_part, *m_analysis, m_summary, this);
     m_designActions->FillMenu(*menuBar()->addMenu(tr("&Design")));
-    m_partActions = new PartActions(*m_part, *m_features, *m_fields, m_summary->View(), this);
-    m_partActions->FillMenu(*menuBar()->addMenu(tr("&Model")));
-    auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, *m_check, *m_part, this);
     m_picker = new ShapePicker(*m_part, m_summary->View(), m_summary);
     m_summary->AddBar(m_picker);
+    auto* const placing = new FeaturePlacing(*m_part, m_summary->View(), *m_picker, this);
+    connect(m_position, &PositionDock::PointEntered, placing, &FeaturePlacing::TakePoint);
+    m_partActions = new PartActions(*m_part, *m_features, *m_fields, *placing, this);
+    m_partActions->FillMenu(*menuBar()->addMenu(tr("&Model")));
+    auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, *m_check, *m_part, this);
     auto* const targets = new AnalysisTargets(*m_analysis, *m_tree, *m_picker, this);
     connect(analysis, &AnalysisActions::EntryAdded, targets, &AnalysisTargets::Pick);
     m_marks = new AnalysisMarks(*m_analysis, *m_tree, *m_part, m_summary->View(), this);
@@ -202,7 +205,6 @@ void MainWindow::ConnectPart()
     new FaceClicks(*m_part, *m_features, m_summary->View(), this);
     connect(m_picker, &ShapePicker::Ended, this, &MainWindow::ShowSelectedFeature);
     connect(m_features, &FeatureTree::SelectionChanged, this, &MainWindow::ShowSelectedFeature);
-    connect(m_position, &PositionDock::PointEntered, m_partActions, &PartActions::TakePoint);
 }
 
 void MainWindow::OpenProject(const Project& project)

@@ -4,44 +4,30 @@
 #include "FeatureDialog.h"
 #include "FeatureFields.h"
 #include "FeatureKinds.h"
+#include "FeaturePlacing.h"
 #include "FeatureTree.h"
 #include "JsonSection.h"
 #include "MenuActions.h"
 #include "MessageLevel.h"
 #include "PartModel.h"
-#include "PartView.h"
-#include "PickedReference.h"
+#include "StepFileDialogs.h"
 
 #include <QAction>
-#include <QDir>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QMenu>
 
 #include <algorithm>
 
 namespace {
 
-QString StepFilter()
-{
-    return PartActions::tr("STEP files (*.step *.stp *.STEP *.STP);;All files (*)");
-}
-
-// Where file dialogs start. The folder of the sample project is inside the program.
-QString StartFolder(const QString& folder)
-{
-    return folder.startsWith(QLatin1Char(':')) ? QString() : folder;
-}
-
 } // namespace
 
-PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fields, PartView* view,
-                         QWidget* window)
+PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fields,
+                         FeaturePlacing& placing, QWidget* window)
     : QObject(window)
     , m_model(model)
     , m_tree(tree)
     , m_fields(fields)
-    , m_view(view)
+    , m_placing(placing)
     , m_window(window)
     , m_dialogs(window)
     , m_edit(NewAction(tr("&Edit feature"), "action_EditFeature", this, &PartActions::Edit,
@@ -63,22 +49,11 @@ PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fie
 
     connect(&tree, &FeatureTree::SelectionChanged, this, &PartActions::UpdateActions);
     connect(&tree, &FeatureTree::EditWanted, this, &PartActions::Edit);
-    // A waiting feature was made for the former features.
-    connect(&model, &PartModel::Changed, this, &PartActions::EndPicking);
-    connect(&model, &PartModel::PartBuilt, this, &PartActions::EndPicking);
     connect(&model, &PartModel::Exported, this,
             [](const QString& path) { PostMessageToChannel(InfoLevel, tr("Wrote %1").arg(path)); });
     connect(&model, &PartModel::ExportFailed, this,
             [](const QString& reason) { PostMessageToChannel(ErrorLevel, reason); });
-    if (m_view != nullptr) {
-        connect(m_view, &PartView::FacePicked, this,
-                [this](const TopoDS_Face&, const gp_Pnt& point) { TakePoint(point); });
-        connect(m_view, &PartView::PickingCancelled, this, &PartActions::EndPicking);
-        connect(m_view, &PartView::Failed, this, [this] {
-            EndPicking();
-            m_view = nullptr;
-        });
-    }
+    connect(&placing, &FeaturePlacing::Placed, this, &PartActions::AddOrChange);
     UpdateActions();
 }
 
@@ -162,13 +137,13 @@ void PartActions::Try(const std::function<void()>& change)
 
 void PartActions::Add(const FeatureKind& kind)
 {
-    EndPicking();
+    m_placing.Cancel();
     Try([this, &kind] {
         Feature feature(kind);
         feature.inputs = InputsFor(kind);
         if (const std::optional<Feature> asked = Asked(feature, true)) {
-            if (asked->kind->isAtFace && m_view != nullptr)
-                PickFaceFor(*asked);
+            if (m_placing.CanPlace(*asked->kind))
+                m_placing.Place(*asked);
             else
                 AddNamed(*asked);
         }
@@ -180,7 +155,7 @@ std::optional<Feature> PartActions::Asked(const Feature& feature, bool isNew)
     if (!feature.kind->readsFile)
         return isNew ? m_dialogs.AskNew(feature) : m_dialogs.AskChanges(feature);
     Feature asked = feature;
-    asked.file = AskForStepFile();
+    asked.file = AskForStepFile(m_window, m_model.Folder());
     return asked.file.isEmpty() ? std::nullopt : std::make_optional(asked);
 }
 
@@ -214,7 +189,7 @@ void PartActions::AddNamed(Feature feature)
     feature.name = m_model.Features().UniqueName(feature.kind->word);
     m_model.Add(feature);
     m_tree.Select(feature.name);
-    if (feature.kind->isAtFace && m_view == nullptr) {
+    if (feature.kind->isAtFace && !m_placing.HasView()) {
         PostMessageToChannel(WarningLevel, tr("There is no 3D view to pick a face in: type a point "
                                               "on the face into the fields of %1")
                                                .arg(Quoted(feature.name)));
@@ -226,11 +201,13 @@ void PartActions::Edit()
 {
     if (m_tree.Selected().size() != 1)
         return;
-    EndPicking();
+    m_placing.Cancel();
     const Feature feature =
         m_model.Features().At(m_model.Features().Find(m_tree.Selected().first()));
     const FeatureKind& kind = *feature.kind;
-    if (!kind.readsFile && FeatureDialogs::Find(kind) == nullptr)
+    if (kind.isAtEdges && m_placing.HasView())
+        m_placing.Place(feature);
+    else if (!kind.readsFile && FeatureDialogs::Find(kind) == nullptr)
         m_fields.StartEditing();
     else if (const std::optional<Feature> changed = Asked(feature, false))
         Apply(*changed);
@@ -238,50 +215,20 @@ void PartActions::Edit()
 
 void PartActions::Apply(const Feature& feature)
 {
-    if (feature.kind->isAtFace && m_view != nullptr)
-        PickFaceFor(feature);
+    if (m_placing.CanPlace(*feature.kind))
+        m_placing.Place(feature);
     else
-        Try([this, &feature] { m_model.Change(feature.name, feature); });
+        AddOrChange(feature);
 }
 
-void PartActions::PickFaceFor(const Feature& feature)
+void PartActions::AddOrChange(const Feature& feature)
 {
-    PostMessageToChannel(InfoLevel, tr("Click the face to mirror at, or press Escape to cancel"));
-    m_waiting = feature;
-    // The face is one of the input, which the part may hide: an edited mirror shows its image
-    // there.
-    const TopoDS_Shape input = m_model.ShapeOf(feature.inputs.first());
-    if (!input.IsNull())
-        m_view->ShowShape(input);
-    m_view->PickFace();
-}
-
-void PartActions::TakePoint(const gp_Pnt& point)
-{
-    if (!m_waiting.has_value())
-        return;
-    Feature feature = *m_waiting;
-    EndPicking();
-    feature.fields = QStringList(
-        {CoordinateText(point.X()), CoordinateText(point.Y()), CoordinateText(point.Z())});
-    feature.face.reset();
     Try([this, &feature] {
         if (feature.name.isEmpty())
             AddNamed(feature);
         else
             m_model.Change(feature.name, feature);
     });
-}
-
-void PartActions::EndPicking()
-{
-    if (!m_waiting.has_value())
-        return;
-    m_waiting.reset();
-    if (m_view == nullptr)
-        return;
-    m_view->CancelPicking();
-    m_view->ShowShape(m_model.Shape());
 }
 
 void PartActions::MoveSelected(int steps)
@@ -300,17 +247,6 @@ void PartActions::DeleteSelected()
     Try([this] { m_model.Remove(m_tree.Selected()); });
 }
 
-QString PartActions::AskForStepFile()
-{
-    const QString path = QFileDialog::getOpenFileName(m_window, tr("Import STEP"),
-                                                      StartFolder(m_model.Folder()), StepFilter());
-    const QString fromFolder = QDir(m_model.Folder()).relativeFilePath(path);
-    // A file beside the project stays valid when the folder is moved.
-    const bool isBeside = !m_model.Folder().isEmpty() && !path.isEmpty() &&
-                          !fromFolder.startsWith(QStringLiteral(".."));
-    return isBeside ? fromFolder : path;
-}
-
 void PartActions::ExportStep()
 {
     const QStringList& selected = m_tree.Selected();
@@ -320,12 +256,9 @@ void PartActions::ExportStep()
         PostMessageToChannel(WarningLevel, tr("There is no shape to export"));
         return;
     }
-    QFileDialog dialog(m_window, tr("Export STEP"), StartFolder(m_model.Folder()), StepFilter());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("step"));
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    m_model.ExportStep(feature, dialog.selectedFiles().value(0));
+    const QString path = AskForStepTarget(m_window, m_model.Folder());
+    if (!path.isEmpty())
+        m_model.ExportStep(feature, path);
 }
 
 void PartActions::AskForLimits()

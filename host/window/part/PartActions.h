@@ -11,7 +11,7 @@
 
 class FeatureFields;
 class FeatureTree;
-class PartView;
+class FeaturePlacing;
 class PartModel;
 class QAction;
 class QMenu;
@@ -25,16 +25,13 @@ class PartActions : public QObject
     Q_OBJECT
 
 public:
-    /// Model, tree, fields and view must outlive the actions; @p view may be null. Dialogs belong
-    /// to @p window, which also owns this object.
-    PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fields, PartView* view,
+    /// Model, tree, fields, view and picker must outlive the actions; @p view may be null. Dialogs
+    /// belong to @p window, which also owns this object.
+    PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fields, FeaturePlacing& placing,
                 QWidget* window);
     ~PartActions() override;
 
     void FillMenu(QMenu& menu);
-
-    /// If a feature waits for its face, takes the face through @p point.
-    void TakePoint(const gp_Pnt& point);
 
 private:
     void OfferKinds(QMenu& menu, FeatureGroup group);
@@ -51,24 +48,22 @@ private:
     void AddNamed(Feature feature);
     void Edit();
     void Apply(const Feature& feature);
-    void PickFaceFor(const Feature& feature);
-    void EndPicking();
+    /// Adds the feature if it has no name yet.
+    void AddOrChange(const Feature& feature);
 
     void MoveSelected(int steps);
     void SuppressSelected();
     void DeleteSelected();
 
-    QString AskForStepFile();
     void ExportStep();
     void AskForLimits();
 
     PartModel& m_model;
     FeatureTree& m_tree;
     FeatureFields& m_fields;
-    PartView* m_view; // Null if there is none, or if it has failed.
+    FeaturePlacing& m_placing;
     QWidget* m_window;
     FeatureDialogs m_dialogs;
-    std::optional<Feature> m_waiting; // For its face; without a name if it is new.
 
     QAction* m_edit;
     QAction* m_up;

@@ -3,6 +3,7 @@
 #include "MessageLevel.h"
 #include "OpenGlSupport.h"
 #include "PartScene.h"
+#include "ViewConversions.h"
 
 #include <QMouseEvent>
 #include <QOpenGLContext>
@@ -10,53 +11,6 @@
 #include <QTimer>
 #include <Standard_Failure.hxx>
 #include <TopoDS.hxx>
-
-namespace {
-
-V3d_TypeOfOrientation Orientation(PartView::StandardView view)
-{
-    switch (view) {
-    case PartView::FrontView:
-        return V3d_TypeOfOrientation_Zup_Front;
-    case PartView::BackView:
-        return V3d_TypeOfOrientation_Zup_Back;
-    case PartView::LeftView:
-        return V3d_TypeOfOrientation_Zup_Left;
-    case PartView::RightView:
-        return V3d_TypeOfOrientation_Zup_Right;
-    case PartView::TopView:
-        return V3d_TypeOfOrientation_Zup_Top;
-    case PartView::BottomView:
-        return V3d_TypeOfOrientation_Zup_Bottom;
-    case PartView::IsometricView:
-        break;
-    }
-    return V3d_TypeOfOrientation_Zup_AxoRight;
-}
-
-Aspect_VKeyMouse MouseButtons(Qt::MouseButtons buttons)
-{
-    Aspect_VKeyMouse keys = Aspect_VKeyMouse_NONE;
-    if (buttons.testFlag(Qt::LeftButton))
-        keys |= Aspect_VKeyMouse_LeftButton;
-    if (buttons.testFlag(Qt::MiddleButton))
-        keys |= Aspect_VKeyMouse_MiddleButton;
-    if (buttons.testFlag(Qt::RightButton))
-        keys |= Aspect_VKeyMouse_RightButton;
-    return keys;
-}
-
-Aspect_VKeyFlags KeyFlags(Qt::KeyboardModifiers modifiers)
-{
-    return modifiers.testFlag(Qt::ShiftModifier) ? Aspect_VKeyFlags_SHIFT : Aspect_VKeyFlags_NONE;
-}
-
-Graphic3d_Vec2i Vector(const QPoint& point)
-{
-    return Graphic3d_Vec2i(point.x(), point.y());
-}
-
-} // namespace
 
 QString PartView::UnavailableReason()
 {
@@ -162,10 +116,7 @@ void PartView::SetSection(Section section)
 
 void PartView::ShowSection()
 {
-    const double x = m_section == SectionX ? 1.0 : 0.0;
-    const double y = m_section == SectionY ? 1.0 : 0.0;
-    const double z = m_section == SectionZ ? 1.0 : 0.0;
-    WithScene([=](PartScene& scene) { scene.SetSection(gp_XYZ(x, y, z)); });
+    WithScene([this](PartScene& scene) { scene.SetSection(SectionNormal(m_section)); });
 }
 
 void PartView::ShowSymbols(const std::vector<ViewSymbol>& symbols)
@@ -179,12 +130,6 @@ void PartView::PickShapes(bool hasFaces, bool hasEdges)
     WithScene([=](PartScene& scene) { scene.SetPickable(hasFaces, hasEdges); });
     PickFace();
     m_isPickingMany = true;
-}
-
-void PartView::StopPicking()
-{
-    if (m_isPicking)
-        EndPicking();
 }
 
 void PartView::PickFace()
@@ -210,11 +155,6 @@ void PartView::CancelPicking()
         return;
     EndPicking();
     Q_EMIT PickingCancelled();
-}
-
-QSize PartView::sizeHint() const
-{
-    return {480, 360};
 }
 
 void PartView::initializeGL()

@@ -90,14 +90,18 @@ public:
     /// or CancelPicking() ends it with PickingCancelled().
     void PickShapes(bool hasFaces, bool hasEdges);
     /// Ends PickShapes() without a signal.
-    void StopPicking();
+    void StopPicking()
+    {
+        if (m_isPicking)
+            EndPicking();
+    }
     void CancelPicking();
     bool IsPicking() const { return m_isPicking; }
 
     /// Shows @p symbols instead of those before.
     void ShowSymbols(const std::vector<ViewSymbol>& symbols);
 
-    QSize sizeHint() const override;
+    QSize sizeHint() const override { return {480, 360}; }
 
 Q_SIGNALS:
     /// @p point is the clicked point, exactly on the surface of the face.

@@ -3,6 +3,7 @@
 #include "DrawerOutput.h"
 #include "EmptyDesignStores.h"
 #include "FeatureFields.h"
+#include "FeaturePlacing.h"
 #include "FeatureTree.h"
 #include "MenuUser.h"
 #include "MessageLevel.h"
@@ -10,6 +11,7 @@
 #include "NewFeature.h"
 #include "PartActions.h"
 #include "PartModel.h"
+#include "ShapePicker.h"
 
 #include <QMainWindow>
 #include <QMenuBar>
@@ -20,7 +22,9 @@
 struct Modelling
 {
     explicit Modelling(PartView* view = nullptr)
-        : actions(new PartActions(model, *tree, *fields, view, &window))
+        : picker(new ShapePicker(model, view, &window))
+        , placing(new FeaturePlacing(model, view, *picker, &window))
+        , actions(new PartActions(model, *tree, *fields, *placing, &window))
     {
         window.addDockWidget(Qt::LeftDockWidgetArea, tree);
         window.addDockWidget(Qt::LeftDockWidgetArea, fields);
@@ -76,6 +80,8 @@ struct Modelling
     PartModel model;
     FeatureTree* tree = new FeatureTree(model, &window);
     FeatureFields* fields = new FeatureFields(model, &window);
+    ShapePicker* picker;
+    FeaturePlacing* placing;
     PartActions* actions;
     ModalDriver user;
     QSignalSpy posted{DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage};

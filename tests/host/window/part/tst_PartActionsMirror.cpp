@@ -71,13 +71,13 @@ void tst_PartActionsMirror::AWaitingMirrorCanBeCancelled()
     modelling.Trigger("action_Add_box");
     AskForFaceMirror(modelling, "action_Add_mirror");
     view.CancelPicking();
-    modelling.actions->TakePoint(gp_Pnt(10.0, 5.0, 5.0));
+    modelling.placing->TakePoint(gp_Pnt(10.0, 5.0, 5.0));
     QCOMPARE(modelling.model.Features().Size(), 1);
     // Another feature gives it up, too.
     AskForFaceMirror(modelling, "action_Add_mirror");
     modelling.Trigger("action_Add_cylinder");
     QVERIFY(!view.IsPicking());
-    modelling.actions->TakePoint(gp_Pnt(10.0, 5.0, 5.0));
+    modelling.placing->TakePoint(gp_Pnt(10.0, 5.0, 5.0));
     QCOMPARE(modelling.Names(), QStringList({"box", "cylinder"}));
 }
 
@@ -87,7 +87,7 @@ void tst_PartActionsMirror::AMirrorTakesATypedPoint()
     Modelling modelling(&view);
     modelling.Trigger("action_Add_box");
     AskForFaceMirror(modelling, "action_Add_mirror");
-    modelling.actions->TakePoint(gp_Pnt(5.0, 5.0, 10.0));
+    modelling.placing->TakePoint(gp_Pnt(5.0, 5.0, 10.0));
     QCOMPARE(modelling.Last().fields, QStringList({"5", "5", "10"}));
     QVERIFY(!view.IsPicking());
 }
@@ -120,7 +120,7 @@ void tst_PartActionsMirror::ATypedPointNeedsAWaitingMirror()
 {
     Modelling modelling;
     modelling.AddSamples();
-    modelling.actions->TakePoint(gp_Pnt(1.0, 2.0, 3.0));
+    modelling.placing->TakePoint(gp_Pnt(1.0, 2.0, 3.0));
     QCOMPARE(modelling.model.Features().Size(), 3);
 }
 

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void ALoadActsOnFacesOrOnEdges();
     void TheSelectedEntryIsHighlighted();
     void SymbolsAreShownWhileTheTreeIsVisible();
+    void AFilletIsAtTheEdgesThatArePicked();
 };
 
 namespace {
@@ -185,6 +186,23 @@ void tst_ShapePicker::SymbolsAreShownWhileTheTreeIsVisible()
     QVERIFY(with != without);
     QCOMPARE(RedPixels(without), 0);
     QVERIFY(RedPixels(with) > 50);
+}
+
+void tst_ShapePicker::AFilletIsAtTheEdgesThatArePicked()
+{
+    PickingWindow open;
+    open.Trigger("action_Add_fillet");
+    QVERIFY(open.view->IsPicking());
+    QCoreApplication::sendPostedEvents();
+    open.Trigger("action_FitView");
+    open.ClickAt(open.UpperEdge());
+    Click(open.window, "doneButton");
+    open.window.Part().WaitUntilIdle();
+    const Feature& fillet = open.window.Part().Features().Features().back();
+    QCOMPARE(fillet.kind, &KindOf("fillet"));
+    QCOMPARE(fillet.edges.size(), std::size_t(1));
+    QCOMPARE(fillet.edges[0].between.size(), std::size_t(2));
+    QVERIFY2(!open.window.Part().HasFailed(), qPrintable(open.window.Part().Failure()));
 }
 
 TARN_HOST_TEST_MAIN(tst_ShapePicker)
