@@ -138,6 +138,7 @@ void tst_StudyPrograms::AKilledProgramIsContinued()
     for (int run = 1; run <= 6; ++run) {
         const QString name = QString("run_000%1.step").arg(run);
         QVERIFY(ContentOf("out/" + name).contains("END-ISO-10303-21;"));
+        QCOMPARE(ContentOf("out/" + name), ContentOf("whole/" + name));
     }
 }
 

@@ -15,11 +15,16 @@
 #include <STEPControl_Reader.hxx>
 #include <STEPControl_Writer.hxx>
 #include <ShapeFix_Shape.hxx>
+#include <StepBasic_Product.hxx>
 #include <StepData_Protocol.hxx>
 #include <StepData_StepModel.hxx>
 #include <StepData_StepWriter.hxx>
+#include <StepRepr_NextAssemblyUsageOccurrence.hxx>
+#include <TCollection_HAsciiString.hxx>
 #include <TopoDS_Shape.hxx>
 #include <XSControl_WorkSession.hxx>
+
+#include <APIHeaderSection_MakeHeader.hxx>
 
 #include <sstream>
 
@@ -63,6 +68,28 @@ TopoDS_Shape Mended(const TopoDS_Shape& shape)
     return fix.Shape();
 }
 
+// The kernel writes the time, and numbers the products of the process: the same part would never
+// give the same file.
+void RemoveTimeAndCounters(const Handle(StepData_StepModel) & model)
+{
+    APIHeaderSection_MakeHeader header(model);
+    header.SetTimeStamp(new TCollection_HAsciiString("1970-01-01T00:00:00"));
+    int products = 0;
+    int uses = 0;
+    for (int i = 1; i <= model->NbEntities(); ++i) {
+        const auto product = Handle(StepBasic_Product)::DownCast(model->Value(i));
+        const auto use = Handle(StepRepr_NextAssemblyUsageOccurrence)::DownCast(model->Value(i));
+        if (!product.IsNull()) {
+            const TCollection_AsciiString name =
+                TCollection_AsciiString("Part ") + TCollection_AsciiString(++products);
+            product->SetName(new TCollection_HAsciiString(name));
+            product->SetId(new TCollection_HAsciiString(name));
+        } else if (!use.IsNull()) {
+            use->SetId(new TCollection_HAsciiString(TCollection_AsciiString(++uses)));
+        }
+    }
+}
+
 } // namespace
 
 QByteArray StepText(const TopoDS_Shape& shape)
@@ -72,6 +99,7 @@ QByteArray StepText(const TopoDS_Shape& shape)
     STEPControl_Writer writer;
     // Not STEPControl_Writer::Write(), which does not notice a full disk.
     if (writer.Transfer(shape, STEPControl_AsIs) == IFSelect_RetDone) {
+        RemoveTimeAndCounters(writer.Model());
         std::ostringstream stream;
         StepData_StepWriter text(writer.Model());
         text.SendModel(Handle(StepData_Protocol)::DownCast(writer.WS()->Protocol()));

@@ -28,6 +28,7 @@ class tst_StepFile : public TestCase
 
 private Q_SLOTS:
     void WrittenFilesCanBeRead();
+    void TheSameShapeGivesTheSameFile();
     void AFileIsReplaced();
     void AMissingFolderIsReported();
     void AFolderIsNotReplacedAndNothingIsLeft();
@@ -83,6 +84,24 @@ void tst_StepFile::WrittenFilesCanBeRead()
     WriteStepFile(Box(10.0), "长 a.step");
     QVERIFY(std::abs(VolumeInFile("长 a.step") - 1000.0) < 1e-6);
     QCOMPARE(QDir().entryList(QDir::Files), QStringList("长 a.step"));
+}
+
+void tst_StepFile::TheSameShapeGivesTheSameFile()
+{
+    EnterTemporaryDirectory();
+    TopoDS_Compound two;
+    const BRep_Builder builder;
+    builder.MakeCompound(two);
+    builder.Add(two, Box(10));
+    builder.Add(two, Box(20));
+    const std::vector<TopoDS_Shape> shapes = {Box(10), two};
+    for (const TopoDS_Shape& shape : shapes) {
+        WriteStepFile(shape, "a.step");
+        WriteStepFile(Box(3), "between.step");
+        WriteStepFile(shape, "b.step");
+        QCOMPARE(ContentOf("a.step"), ContentOf("b.step"));
+        QVERIFY(ContentOf("a.step").contains("'1970-01-01T00:00:00'"));
+    }
 }
 
 void tst_StepFile::AFileIsReplaced()
