@@ -26,6 +26,8 @@ private Q_SLOTS:
     void AStepFileThatIsNotWholeIsWrittenAgain();
     void WithoutStepFilesNoneIsWritten();
     void ResponsesHaveColumns();
+    void ABadResponseIsRefused_data();
+    void ABadResponseIsRefused();
     void TheFolderReportsItsRuns();
     void TheTableIsDerived();
 };
@@ -207,6 +209,26 @@ void tst_StudyPrograms::ResponsesHaveColumns()
     QCOMPARE(cells[half + 1], QByteArray());
     QCOMPARE(cells[half + 2].toDouble(), cells[half].toDouble() + 16);
     QCOMPARE(cells[half + 3], QByteArray("ok"));
+}
+
+void tst_StudyPrograms::ABadResponseIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("response");
+    NewRow("unknown name", QByteArray(R"("name": "r", "expression": "1 / mass_gk")"));
+    NewRow("syntax", QByteArray(R"("name": "r", "expression": "mass_kg +")"));
+    NewRow("name of a column", QByteArray(R"("name": "mass_kg", "expression": "1")"));
+    NewRow("name of a parameter", QByteArray(R"("name": "thickness", "expression": "1")"));
+}
+
+void tst_StudyPrograms::ABadResponseIsRefused()
+{
+    QFETCH(QByteArray, response);
+    EnterTemporaryDirectory();
+    Put("p.json",
+        Flange().replace("\"version\": 1",
+                         "\"version\": 2, \"study\": {\"responses\": [{" + response + "}]}"));
+    QCOMPARE(Run(Study), 2);
+    QVERIFY(!QDir("out").exists());
 }
 
 void tst_StudyPrograms::TheFolderReportsItsRuns()

@@ -11,6 +11,21 @@ namespace {
 
 constexpr double NoValue = std::numeric_limits<double>::quiet_NaN();
 
+// Why an expression can never have a value; empty if it may have one. Values that nobody chooses
+// rarely make a divisor 0, which would hide what follows.
+QString ExpressionFault(const QString& expression, const QStringList& names)
+{
+    constexpr double Probe = 0.7390851332;
+    std::map<std::string, double> variables;
+    for (const QString& name : names)
+        variables.emplace(name.toLocal8Bit().toStdString(), Probe);
+    ExpressionEngine::CalculateExpress(expression.toLocal8Bit().toStdString(), variables);
+    const QString error = ExpressionEngine::LastError();
+    const bool isOfTheValues = error.contains(QLatin1String("operation has no")) ||
+                               error.contains(QLatin1String("becomes too large"));
+    return isOfTheValues ? QString() : error;
+}
+
 } // namespace
 
 StudyColumns::StudyColumns(const Project& project)
@@ -29,7 +44,12 @@ StudyColumns::StudyColumns(const Project& project)
         if (taken.contains(response.name))
             throw HostError(QStringLiteral("%1: the response \"%2\" has the name of another column")
                                 .arg(project.Path(), response.name.simplified()));
+        const QString fault = ExpressionFault(response.expression, taken);
+        if (!fault.isEmpty())
+            throw HostError(QStringLiteral("%1: the response \"%2\" cannot be calculated: %3")
+                                .arg(project.Path(), response.name.simplified(), fault));
         m_names << response.name;
+        taken << response.name;
     }
 }
 
