@@ -193,10 +193,15 @@ bool WholeFile::Read(QByteArray& content)
     return true;
 }
 
+QString WholeFile::WriteError(const QString& reason)
+{
+    return tr("cannot be written: %1").arg(reason);
+}
+
 bool WholeFile::Write(const QByteArray& content, const std::function<QString()>& beforeReplace)
 {
     const auto fail = [this](const QString& reason) {
-        return Fail(tr("cannot be written: %1").arg(reason));
+        return Fail(WriteError(reason));
     };
     if (content.size() > m_maximumSize)
         return FailBySize();

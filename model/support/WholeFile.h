@@ -29,6 +29,9 @@ public:
     /// Reads the file into @p content. On failure returns false and leaves @p content as it was.
     bool Read(QByteArray& content);
 
+    /// Error() after a Write() that failed for @p reason.
+    static QString WriteError(const QString& reason);
+
     /// Replaces the content of the file, or creates the file. Symbolic links and the permissions of
     /// an existing file stay.
     ///

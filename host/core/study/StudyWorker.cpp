@@ -11,7 +11,7 @@ namespace {
 bool IsWriteError(const PartReply& reply, const QString& stepPath)
 {
     const QString start = QFileInfo(stepPath).fileName() + QStringLiteral(": ") +
-                          tarn::WholeFile::tr("cannot be written: %1").arg(QString());
+                          tarn::WholeFile::WriteError(QString());
     return !stepPath.isEmpty() && reply.failedFeature.isEmpty() && reply.cause.startsWith(start);
 }
 

@@ -53,7 +53,7 @@ void tst_MainWindowParameters::ApplyEvaluatesTheExpressionsAndRebuilds()
     QVERIFY(open.Shown("label_Mass") != before);
     const auto& overview = Find<QTableWidget>(open.window, "parameterTable");
     QCOMPARE(overview.item(RowOf(overview, "bolt_circle"), ParameterTable::ResultColumn)->text(),
-             QStringLiteral("184"));
+             QStringLiteral("184 mm"));
 }
 
 void tst_MainWindowParameters::ApplyRefreshesTheEditorWithTheEvaluatedValues()

@@ -211,7 +211,7 @@ void tst_PartViewCamera::ARebuildKeepsTheCamera()
     shown.view->ShowShape(Block());
     QCOMPARE(shown.Picture(), before);
     // A smaller part is seen smaller.
-    shown.view->ShowShape(BRepPrimAPI_MakeBox(10.0, 6.0, 4.0).Shape());
+    shown.view->ShowShape(BRepPrimAPI_MakeBox(gp_Pnt(45.0, 27.0, 18.0), 10.0, 6.0, 4.0).Shape());
     QVERIFY(BlackPixels(shown.Picture()) < BlackPixels(before));
     shown.view->ShowShape(Block());
     QCOMPARE(shown.Picture(), before);
