@@ -236,12 +236,7 @@ void SolveJob::Read()
             else
                 WriteSolverDeck();
         },
-        [this, isDone] {
-            if (*isDone)
-                Finish();
-            else
-                Solve();
-        });
+        [this, isDone] { *isDone ? Finish() : Solve(); });
 }
 
 void SolveJob::ReadModes(const ModesTable& table)

@@ -38,7 +38,7 @@ TracedShape FaceTrace::Of(const TopoDS_Shape& shape, const QString& wordOfOthers
     TracedShape traced;
     traced.shape = shape;
     const Origins others = wordOfOthers.isEmpty() ? Origins() : Origins{NewFace(wordOfOthers)};
-    for (const QString& word : m_words)
+    for (const QString& word : qAsConst(m_words))
         traced.faces.AddWord(word);
     for (int number = 1; number <= faces.Extent(); ++number) {
         const Origins* const known = m_faces.Seek(faces(number));
