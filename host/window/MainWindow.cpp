@@ -130,6 +130,7 @@ void MainWindow::CreateMenus()
     m_partActions = new PartActions(*m_part, *m_features, *m_fields, *placing, this);
     m_partActions->FillMenu(*menuBar()->addMenu(tr("&Model")));
     auto* const analysis = new AnalysisActions(*m_analysis, *m_tree, *m_check, *m_part, this);
+    analysis->SetPartMaterial([this] { return m_session->Current().Material(); });
     auto* const targets = new AnalysisTargets(*m_analysis, *m_tree, *m_picker, this);
     connect(analysis, &AnalysisActions::EntryAdded, targets, &AnalysisTargets::Pick);
     m_marks = new AnalysisMarks(*m_analysis, *m_tree, *m_part, m_summary->View(), this);

@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QListWidget>
 #include <QTableWidget>
 
 class tst_MainWindowProjects : public TestCase
@@ -19,6 +20,7 @@ class tst_MainWindowProjects : public TestCase
 private Q_SLOTS:
     void AnotherProjectReplacesTheFirst();
     void AnotherProjectHasAnAnalysisOfItsOwn();
+    void TheSampleCanBeAnalysed();
     void ABadProjectIsReportedAndChangesNothing();
     void ACancelledFileDialogChangesNothing();
     void ASavedProjectIsReadBackUnchanged();
@@ -63,6 +65,19 @@ void tst_MainWindowProjects::AnotherProjectHasAnAnalysisOfItsOwn()
     QCOMPARE(open.window.Analysis().Definition().loads.size(), ofSample.loads.size() + 1);
     QVERIFY(open.user.IsDone());
     QCOMPARE(open.user.Boxes(), QVector<ShownBox>());
+}
+
+void tst_MainWindowProjects::TheSampleCanBeAnalysed()
+{
+    OpenWindow open;
+    open.Trigger("action_CheckSetup");
+    const auto& list = Find<QListWidget>(open.window, "setupCheckList");
+    QStringList problems;
+    for (int row = 0; row < list.count(); ++row)
+        problems << list.item(row)->text();
+    // Its material is that of the part.
+    problems.removeAll("Load \"bolts\" has no effect on natural frequencies");
+    QCOMPARE(problems, QStringList());
 }
 
 void tst_MainWindowProjects::ABadProjectIsReportedAndChangesNothing()
