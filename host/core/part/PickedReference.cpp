@@ -34,7 +34,7 @@ QString UniqueName(const PartFaces& faces, int step, int face)
     const QStringList features = faces.FeaturesOf(step, face);
     for (const QString& feature : features) {
         for (const QString& name : names) {
-            const QString through = feature + QLatin1Char('/') + name;
+            QString through = feature + QLatin1Char('/') + name;
             if (faces.Named(step, through).size() == 1)
                 return through;
         }
