@@ -127,7 +127,7 @@ AnalysisPlanner::Owner AnalysisPlanner::Add(const QString& text,
                                             const std::vector<EdgeReference>& edges)
 {
     FieldValues values;
-    const Owner owner{text, m_faces.size(), faces.size(), m_edges.size(), edges.size()};
+    Owner owner{text, m_faces.size(), faces.size(), m_edges.size(), edges.size()};
     for (const FaceReference& face : faces)
         m_faces.push_back(values.Of(face));
     for (const EdgeReference& edge : edges)
