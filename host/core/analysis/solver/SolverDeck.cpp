@@ -53,7 +53,7 @@ private:
 
     void WriteElements(std::size_t section)
     {
-        const QByteArray set = ",ELSET=E" + QByteArray::number(qulonglong(section + 1)) + '\n';
+        const QByteArray set = ",ELSET=E" + QByteArray::number(qulonglong(section) + 1) + '\n';
         const std::vector<std::size_t>& elements = m_model.sections[section].elements;
         if (m_model.mesh.IsSolid()) {
             m_text += "*ELEMENT,TYPE=C3D10" + set;
