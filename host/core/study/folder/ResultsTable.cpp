@@ -99,7 +99,8 @@ std::vector<double> ResultsTable::MeasuresOf(const RunResult& result)
 QStringList ResultsTable::Header() const
 {
     QStringList cells(QStringLiteral("run"));
-    for (const QString& name : m_parameters + MeasureNames() + m_more)
+    const QStringList names = m_parameters + MeasureNames() + m_more;
+    for (const QString& name : names)
         cells << TextCell(name);
     return cells << QStringLiteral("status") << QStringLiteral("error");
 }

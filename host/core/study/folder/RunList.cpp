@@ -5,7 +5,6 @@
 #include "SolveFolder.h"
 #include "WholeFile.h"
 
-#include <cstring>
 #include <utility>
 
 namespace {
@@ -99,7 +98,7 @@ QByteArray RunList::TextOf(const std::vector<double>& values)
     QByteArray text;
     for (std::size_t i = 0; i < values.size(); ++i) {
         const double value = values[i] == 0.0 ? 0.0 : values[i]; // -0 is the same run as 0.
-        const bool isLast = std::memcmp(&value, &m_lastValues[i], sizeof value) == 0;
+        const bool isLast = value == m_lastValues[i];
         if (!isLast || m_lastTexts[i].isEmpty()) {
             m_lastValues[i] = value;
             m_lastTexts[i] = QByteArray::number(value, 'g', Digits);

@@ -29,7 +29,7 @@ const RunRecord& StudyRecords::Of(int run) const
 
 void StudyRecords::Read(const QString& name)
 {
-    constexpr qint64 BlockSize = 64 * 1024 * 1024;
+    constexpr qint64 BlockSize = qint64(64) * 1024 * 1024;
     QFile file(QDir(m_folder).filePath(name));
     qint64& read = m_read[name];
     if (file.size() <= read)
