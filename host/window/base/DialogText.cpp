@@ -28,7 +28,7 @@ QLineEdit& Field(const QWidget& dialog, const char* name)
 
 QString NumberOrExpression(const QWidget& dialog, const char* field, const QString& label)
 {
-    const QString text = Field(dialog, field).text().trimmed();
+    QString text = Field(dialog, field).text().trimmed();
     const double value = FieldValues().Evaluate(text);
     if (!std::isfinite(value))
         throw HostError(Texts::tr("%1: %2 is neither a number nor an expression with a value: %3")
