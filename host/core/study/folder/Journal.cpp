@@ -149,7 +149,7 @@ void Journal::Open()
     for (int number = 1; m_file < 0 && number <= MaximumJournals; ++number) {
         m_path = QDir(m_folder).filePath(
             QStringLiteral("journal_%1.csv").arg(number, NumberWidth, Decimal, QLatin1Char('0')));
-        // Created anew: programs of other machines may be at work in the folder.
+        // Always a new one: programs on other machines may be at work in the folder.
         m_file = open(QFile::encodeName(m_path).constData(),
                       O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, 0666);
         if (m_file < 0 && errno != EEXIST)
