@@ -1,21 +1,11 @@
-#include "DrawerOutput.h"
-#include "EmptyAttributeNames.h"
-#include "EmptyDesignStores.h"
 #include "FeatureTree.h"
 #include "HostApplication.h"
 #include "HostTestMain.h"
-#include "MainWindow.h"
-#include "MenuUser.h"
-#include "ModalDriver.h"
-#include "NewFeature.h"
-#include "PartModel.h"
-#include "PartView.h"
+#include "PickingWindow.h"
 #include "ShapeMeasures.h"
 
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QRadioButton>
-#include <QScreen>
 
 #include <cmath>
 
@@ -36,38 +26,10 @@ private Q_SLOTS:
 
 namespace {
 
-/// A window with a cube of 10 mm, seen from its right: the face x = 10 lies under the middle.
-class OpenWindow
+/// A picking window that asks for the face of a mirror.
+class OpenWindow : public PickingWindow
 {
 public:
-    OpenWindow()
-    {
-        QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
-        window.resize(1200, 900);
-        window.show();
-        window.activateWindow();
-        if (!QTest::qWaitForWindowActive(&window))
-            FailTest("The window does not become active");
-        view = &Find<PartView>(window, "modelView");
-        Add(NewFeature("cube", "box"));
-        Trigger("action_RightView");
-        view->grab();
-    }
-
-    void Add(const Feature& feature)
-    {
-        window.Part().Add(feature);
-        window.Part().WaitUntilIdle();
-        // The layout follows the messages below the view.
-        QCoreApplication::sendPostedEvents();
-    }
-    /// Also waits for the part that the action changes.
-    void Trigger(const char* name)
-    {
-        ::Trigger(window, name);
-        window.Part().WaitUntilIdle();
-    }
-
     // With "Pick One Face" and OK; the window then waits for the click.
     void AskForFace(const char* action)
     {
@@ -80,19 +42,6 @@ public:
         QVERIFY(view->IsPicking());
     }
 
-    void MoveTo(const QPoint& to) const
-    {
-        QMouseEvent move(QEvent::MouseMove, to, view->mapToGlobal(to), Qt::NoButton, Qt::NoButton,
-                         Qt::NoModifier);
-        QCoreApplication::sendEvent(view, &move);
-    }
-    void ClickInTheMiddle()
-    {
-        MoveTo(view->rect().center());
-        QTest::mouseClick(view, Qt::LeftButton, {}, view->rect().center());
-        window.Part().WaitUntilIdle();
-    }
-
     const Feature& Last() { return window.Part().Features().Features().back(); }
 
     // Along x, where the part begins and ends.
@@ -101,12 +50,6 @@ public:
         const auto box = Measure(window.Part().Shape()).boundingBox;
         return {qRound(box[0]), qRound(box[3])};
     }
-
-    EmptyDesignStores stores;
-    EmptyAttributeNames names;
-    MainWindow window;
-    PartView* view;
-    ModalDriver user;
 };
 
 } // namespace
