@@ -9,9 +9,6 @@
 
 namespace {
 
-// Enough for a million runs.
-constexpr int MaximumFileSize = 1024 * 1024 * 1024;
-
 const QString OkStatus = QStringLiteral("ok");
 const QString FailedStatus = QStringLiteral("failed");
 
@@ -19,12 +16,6 @@ const QString FailedStatus = QStringLiteral("failed");
 bool IsLikeFormula(const QString& text)
 {
     return !text.isEmpty() && QStringLiteral("=+-@\t\r").contains(text[0]);
-}
-
-QString PlainText(const QString& cell)
-{
-    const bool isMarked = cell.startsWith(QLatin1Char('\'')) && IsLikeFormula(cell.mid(1));
-    return isMarked ? cell.mid(1) : cell;
 }
 
 QString NumberCell(double value)
@@ -71,6 +62,12 @@ private:
 QString TextCell(const QString& text)
 {
     return IsLikeFormula(text) ? QLatin1Char('\'') + text : text;
+}
+
+QString PlainText(const QString& cell)
+{
+    const bool isMarked = cell.startsWith(QLatin1Char('\'')) && IsLikeFormula(cell.mid(1));
+    return isMarked ? cell.mid(1) : cell;
 }
 
 ResultsTable::ResultsTable(const QStringList& parameters, const QStringList& more)

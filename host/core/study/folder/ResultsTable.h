@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ResultColumns.h"
 #include "ShapeMeasures.h"
 
 #include <QString>
@@ -23,6 +24,8 @@ struct RunResult
 /// @p text as a cell that a spreadsheet does not take for a formula: with an apostrophe in front if
 /// it begins like one.
 QString TextCell(const QString& text);
+/// The text that TextCell() has made @p cell of.
+QString PlainText(const QString& cell);
 
 /// The runs of a study as a table in a CSV file (comma, full stop, quotes where needed, UTF-8): run
 /// number, every parameter, volume, area, mass, bounding box, results of analyses and responses,
@@ -30,6 +33,9 @@ QString TextCell(const QString& text);
 class ResultsTable
 {
 public:
+    /// In bytes; enough for a million runs.
+    static constexpr int MaximumFileSize = 1024 * 1024 * 1024;
+
     /// @p more are the columns of the results of analyses and the responses.
     explicit ResultsTable(const QStringList& parameters, const QStringList& more = {});
 
@@ -49,6 +55,9 @@ public:
     QByteArray Row(int run, const RunResult& result) const;
     /// Writes the file with rows of Row(), like Write().
     void WriteRows(const QString& path, const QByteArray& rows) const;
+
+    /// Columns without runs, for what Row() writes.
+    ResultColumns EmptyColumns() const { return {m_parameters, MeasureNames() + m_more}; }
 
     /// The results by run number, counted from 1.
     const std::map<int, RunResult>& Runs() const { return m_runs; }

@@ -23,10 +23,15 @@ StudyFolder::StudyFolder(const QString& path)
 {
 }
 
+bool StudyFolder::Exists(const QString& path)
+{
+    return QFileInfo::exists(StudyFolder(path).PathOf(FingerprintName));
+}
+
 std::unique_ptr<StudyFolder> StudyFolder::Open(const QString& path)
 {
     std::unique_ptr<StudyFolder> folder(new StudyFolder(path));
-    if (!QFileInfo::exists(folder->PathOf(FingerprintName)))
+    if (!Exists(path))
         throw HostError(QStringLiteral("%1: is not the folder of a study; there is no %2 in it")
                             .arg(path, FingerprintName));
     folder->ReadRuns(folder->ReadFingerprint());
@@ -104,8 +109,14 @@ void StudyFolder::ReadRuns(const QJsonObject& fingerprint)
     } catch (const HostError& error) {
         throw HostError(PathOf(FingerprintName) + QStringLiteral(": ") + error.Reason());
     }
+    m_runsSize = QFileInfo(PathOf(RunsName)).size();
     if (QFileInfo::exists(PathOf(RunsName)))
         m_runs.Read(PathOf(RunsName));
+}
+
+bool StudyFolder::HasMoreRuns() const
+{
+    return QFileInfo(PathOf(RunsName)).size() != m_runsSize;
 }
 
 bool StudyFolder::IsDone(int run, bool withStep) const

@@ -27,6 +27,8 @@ public:
         int open = 0;
     };
 
+    /// Whether the folder at @p path is that of a study.
+    static bool Exists(const QString& path);
     /// Opens a folder that exists, to read it. @throws HostError if it is not that of a study
     static std::unique_ptr<StudyFolder> Open(const QString& path);
     /// Opens or creates a folder for a study with the @p fingerprint, and adds those of @p runs
@@ -35,6 +37,8 @@ public:
                                                 const RunList& runs);
 
     const RunList& Runs() const { return m_runs; }
+    /// Whether another program has added runs since.
+    bool HasMoreRuns() const;
     StudyRecords& Records() { return *m_records; }
     const ResultsTable& Table() const { return m_table; }
 
@@ -59,6 +63,7 @@ private:
 
     QString m_path;
     RunList m_runs;
+    qint64 m_runsSize = 0; // In bytes, as it was read.
     ResultsTable m_table{{}};
     std::unique_ptr<StudyRecords> m_records;
 };
