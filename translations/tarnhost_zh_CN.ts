@@ -2475,6 +2475,25 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>ResponseSurface</name>
+    <message>
+        <source>a quadratic surface over these parameters needs at least %1 runs with a result; there are %2</source>
+        <translation>这些参数上的二次响应面至少需要 %1 次有结果的运行；现有 %2 次</translation>
+    </message>
+    <message>
+        <source>a quadratic surface over so many parameters and runs is too large; choose fewer parameters</source>
+        <translation>参数和运行这么多，二次响应面过大；请少选一些参数</translation>
+    </message>
+    <message>
+        <source>a quadratic surface needs at least three different values of &quot;%1&quot;</source>
+        <translation>二次响应面要求“%1”至少有三个不同的值</translation>
+    </message>
+    <message>
+        <source>the runs do not determine a quadratic surface; some parameters change only together</source>
+        <translation>这些运行不能确定二次响应面；有些参数总是一起变化</translation>
+    </message>
+</context>
+<context>
     <name>ResultError</name>
     <message>
         <source>The solver&apos;s table of modes is damaged.</source>
@@ -2885,6 +2904,13 @@ Remove these as well?</source>
     <message>
         <source>Export STEP</source>
         <translation>导出 STEP</translation>
+    </message>
+</context>
+<context>
+    <name>SurfaceOptimum</name>
+    <message>
+        <source>no point within the ranges of the parameters keeps all limits; widen a limit or a range</source>
+        <translation>在参数范围内没有满足所有限制的点；请放宽限制或范围</translation>
     </message>
 </context>
 <context>
