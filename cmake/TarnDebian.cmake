@@ -1,6 +1,6 @@
 # The Debian packages: the libraries, the development files, and the reference host.
 # `cmake --preset package && cmake --build --preset package` builds all three.
-set(debian_runtime libtarnguicommon${PROJECT_VERSION_MAJOR})
+set(debian_runtime libtarnguicommon${TARN_INTERFACE_VERSION})
 set(debian_development libtarnguicommon-dev)
 set(debian_host tarnhost)
 

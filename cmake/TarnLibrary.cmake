@@ -3,9 +3,19 @@ include(GenerateExportHeader)
 # The shared libraries. Other files read their list.
 set(TARN_LIBRARIES TarnCoreGeometry TarnDesign TarnFEMData TarnGUICommon)
 
+# The versions that share these numbers are compatible. While the major version is 0, minor versions are not.
+set(TARN_INTERFACE_VERSION ${PROJECT_VERSION_MAJOR})
+set(TARN_COMPATIBILITY SameMajorVersion)
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+  set(TARN_INTERFACE_VERSION 0.${PROJECT_VERSION_MINOR})
+  set(TARN_COMPATIBILITY SameMinorVersion)
+endif()
+
 # tarn_add_library(<target> [<source>...])
 #
-# Adds one of them with the common settings: export header, version, hidden symbols, no undefined symbols.
+# Adds one of them with the common settings: export header, version, hidden symbols, no undefined symbols. A class of
+# the host with the name of one of ours does not take its place. The library stays loaded until the process ends, since
+# Qt keeps pointers into a library that has shown a dialog.
 function(tarn_add_library target)
   add_library(${target} SHARED ${ARGN})
   add_library(TarnGUICommon::${target} ALIAS ${target})
@@ -16,14 +26,15 @@ function(tarn_add_library target)
   target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/exports>"
                                               "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon>")
   set(symbols "${PROJECT_SOURCE_DIR}/cmake/exports.map")
-  target_link_options(${target} PRIVATE "-Wl,--version-script=${symbols}")
+  set(shared_data "${PROJECT_SOURCE_DIR}/cmake/shared-data.list")
+  target_link_options(${target} PRIVATE "-Wl,--version-script=${symbols}" "-Wl,--dynamic-list=${shared_data}"
+                      -Wl,-z,nodelete)
   if(NOT TARN_SANITIZE)
     target_link_options(${target} PRIVATE -Wl,--no-undefined)
   endif()
   # The libraries find each other in their own folder, so that the package is relocatable.
-  set_target_properties(
-    ${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN"
-                         LINK_DEPENDS "${symbols}")
+  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${TARN_INTERFACE_VERSION}
+                                             INSTALL_RPATH "$ORIGIN" LINK_DEPENDS "${symbols};${shared_data}")
 endfunction()
 
 # tarn_add_model_library(<target>)
@@ -74,6 +85,23 @@ function(tarn_get_public_headers variable)
   foreach(library IN LISTS TARN_LIBRARIES)
     get_target_property(library_headers ${library} PUBLIC_HEADER)
     list(APPEND headers ${library_headers})
+  endforeach()
+  set(${variable} ${headers} PARENT_SCOPE)
+endfunction()
+
+# tarn_wrap_forms(<variable> <form>...)
+#
+# Generates ui_<form>.h from each form and sets the variable to the headers.
+function(tarn_wrap_forms variable)
+  get_target_property(uic Qt5::uic IMPORTED_LOCATION)
+  foreach(form IN LISTS ARGN)
+    get_filename_component(name "${form}" NAME_WE)
+    set(header "${CMAKE_CURRENT_BINARY_DIR}/ui_${name}.h")
+    set(form "${CMAKE_CURRENT_SOURCE_DIR}/${form}")
+    set(script "${PROJECT_SOURCE_DIR}/cmake/WrapForm.cmake")
+    add_custom_command(OUTPUT "${header}" COMMAND ${CMAKE_COMMAND} -DUIC=${uic} -DFORM=${form} -DHEADER=${header} -P
+                                                  ${script} DEPENDS "${form}" "${script}" VERBATIM)
+    list(APPEND headers "${header}")
   endforeach()
   set(${variable} ${headers} PARENT_SCOPE)
 endfunction()

@@ -5,7 +5,7 @@ set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/TarnGUICommon)
 configure_package_config_file(cmake/TarnGUICommonConfig.cmake.in "${PROJECT_BINARY_DIR}/TarnGUICommonConfig.cmake"
                               INSTALL_DESTINATION ${package_dir} PATH_VARS translations_dir)
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/TarnGUICommonConfigVersion.cmake"
-                                 COMPATIBILITY SameMajorVersion)
+                                 COMPATIBILITY ${TARN_COMPATIBILITY})
 install(EXPORT TarnGUICommonTargets NAMESPACE TarnGUICommon:: DESTINATION ${package_dir} COMPONENT development)
 install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommonConfig.cmake" "${PROJECT_BINARY_DIR}/TarnGUICommonConfigVersion.cmake"
         DESTINATION ${package_dir} COMPONENT development)

@@ -9,7 +9,7 @@ import re
 import subprocess
 import sys
 
-FREE_NAMES = {"CreateResultSetting", "CreateSolverSetting", "g_mapParaArrays"}
+FREE_NAMES = {"CreateResultSetting", "CreateSolverSetting", "TarnGUICommonVersion", "g_mapParaArrays"}
 UPDATE = "cmake --build --preset dev --target update_exported_symbols"
 STRING = "std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >"
 

@@ -2,6 +2,7 @@
 
 #include "KernelMessages.h"
 #include "MessageLevel.h"
+#include "TarnGUICommonVersion.h"
 
 #include <QFontDatabase>
 #include <QIcon>
@@ -49,7 +50,7 @@ HostApplication::HostApplication(int& argc, char** argv)
     RouteKernelMessages();
 
     setApplicationName(QStringLiteral("tarnhost"));
-    setApplicationVersion(QStringLiteral(TARN_VERSION));
+    setApplicationVersion(QStringLiteral(TarnGUICommon_VERSION));
     setWindowIcon(QIcon(QStringLiteral(":/images/TopTitle.png")));
 }
 

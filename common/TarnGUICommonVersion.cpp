@@ -1,0 +1,6 @@
+#include "TarnGUICommonVersion.h"
+
+const char* TarnGUICommonVersion()
+{
+    return TarnGUICommon_VERSION;
+}

@@ -1,0 +1,15 @@
+# A host with a form of the name of one of ours: including both headers is a compile error, one of them is not.
+include("${CMAKE_CURRENT_LIST_DIR}/Run.cmake")
+set(ENV{PKG_CONFIG_PATH} "${PREFIX}/${LIBDIR}/pkgconfig")
+run(pkg-config --cflags TarnGUICommon)
+separate_arguments(flags UNIX_COMMAND "${output}")
+file(REMOVE_RECURSE "${WORK_DIR}")
+file(WRITE "${WORK_DIR}/ui_MoveInput.h"
+     "#ifndef UI_MOVEINPUT_H\n#define UI_MOVEINPUT_H\nnamespace Ui {\nclass MoveInput {};\n}\n#endif\n")
+file(WRITE "${WORK_DIR}/ours.cpp" "#include <MoveInput.h>\n")
+file(WRITE "${WORK_DIR}/both.cpp" "#include \"ui_MoveInput.h\"\n#include <MoveInput.h>\n")
+set(compile ${CXX} -std=c++17 -fPIC -fsyntax-only ${flags})
+run(${compile} ${WORK_DIR}/ours.cpp)
+execute_process(COMMAND ${compile} ${WORK_DIR}/both.cpp RESULT_VARIABLE result ERROR_VARIABLE errors)
+expect(NOT result EQUAL 0)
+expect(errors MATCHES "redefinition of [^\n]*MoveInput")
