@@ -4,6 +4,7 @@
 #include "MainWindow.h"
 #include "Project.h"
 #include "Screenshots.h"
+#include "SolveChild.h"
 #include "SolveFolder.h"
 #include "SolveRunner.h"
 #include "StudyFolder.h"
@@ -193,6 +194,8 @@ int main(int argc, char** argv)
 {
     if (IsWorker(argc, argv))
         return RunWorker(argc, argv);
+    if (IsSolveChild(argc, argv))
+        return RunSolveChild(argc, argv);
     // Even before the application object says so: file names in the arguments are UTF-8.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     try {

@@ -2529,6 +2529,135 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>ResultTable</name>
+    <message>
+        <source>Nodes</source>
+        <translation>节点</translation>
+    </message>
+    <message>
+        <source>Elements</source>
+        <translation>单元</translation>
+    </message>
+    <message>
+        <source>Worst element</source>
+        <translation>最差单元</translation>
+    </message>
+    <message>
+        <source>Greatest displacement</source>
+        <translation>最大位移</translation>
+    </message>
+    <message>
+        <source>Greatest von Mises stress</source>
+        <translation>最大冯·米塞斯应力</translation>
+    </message>
+    <message>
+        <source>Force of the supports along x</source>
+        <translation>支座沿 x 的力</translation>
+    </message>
+    <message>
+        <source>Force of the supports along y</source>
+        <translation>支座沿 y 的力</translation>
+    </message>
+    <message>
+        <source>Force of the supports along z</source>
+        <translation>支座沿 z 的力</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模态</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>频率 (Hz)</translation>
+    </message>
+    <message>
+        <source>Mass x (kg)</source>
+        <translation>质量 x (kg)</translation>
+    </message>
+    <message>
+        <source>Mass y (kg)</source>
+        <translation>质量 y (kg)</translation>
+    </message>
+    <message>
+        <source>Mass z (kg)</source>
+        <translation>质量 z (kg)</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>量</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Place (mm)</source>
+        <translation>位置 (mm)</translation>
+    </message>
+    <message>
+        <source>Mesh: %1 nodes, %2 elements; the Jacobian of the worst element falls to %3 of its greatest value, near %4 mm</source>
+        <translation>网格：%1 个节点，%2 个单元；最差单元的雅可比降至其最大值的 %3 倍，位于 %4 mm 附近</translation>
+    </message>
+</context>
+<context>
+    <name>ResultsDock</name>
+    <message>
+        <source>Natural frequencies: none in the range of frequencies</source>
+        <translation>固有频率：频率范围内没有</translation>
+    </message>
+    <message>
+        <source>Natural frequencies</source>
+        <translation>固有频率</translation>
+    </message>
+    <message>
+        <source>Displacements and stresses under the loads</source>
+        <translation>载荷下的位移与应力</translation>
+    </message>
+    <message>
+        <source>Mesh</source>
+        <translation>网格</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>No results yet</source>
+        <translation>尚无结果</translation>
+    </message>
+    <message>
+        <source>Export table</source>
+        <translation>导出表格</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>表格 (*.csv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Exported to %1</source>
+        <translation>已导出到 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ResultsPanel</name>
+    <message>
+        <source>Old: the part or its set-up has changed since. Solve again.</source>
+        <translation>已过时：零件或其设置此后已更改。请重新求解。</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>&amp;Export table</source>
+        <translation>导出表格(&amp;E)</translation>
+    </message>
+</context>
+<context>
     <name>RigidMotions</name>
     <message>
         <source>%1 and %2</source>
@@ -2743,6 +2872,96 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>SolveActions</name>
+    <message>
+        <source>Mesh</source>
+        <translation>网格</translation>
+    </message>
+    <message>
+        <source>Vibration</source>
+        <translation>振动</translation>
+    </message>
+    <message>
+        <source>Static analysis</source>
+        <translation>静力分析</translation>
+    </message>
+    <message>
+        <source>There are no modes in the range of frequencies</source>
+        <translation>频率范围内没有模态</translation>
+    </message>
+    <message>
+        <source>Modes found: %1, the lowest at %2 Hz</source>
+        <translation>找到的模态：%1 个，最低为 %2 Hz</translation>
+    </message>
+    <message>
+        <source>Greatest displacement %1 mm, greatest von Mises stress %2 MPa</source>
+        <translation>最大位移 %1 mm，最大冯·米塞斯应力 %2 MPa</translation>
+    </message>
+    <message>
+        <source>The part was meshed: %1 elements</source>
+        <translation>零件已划分网格：%1 个单元</translation>
+    </message>
+    <message>
+        <source>Mes&amp;h</source>
+        <translation>划分网格(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Solve &amp;vibration</source>
+        <translation>求解振动(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Solve s&amp;tatic</source>
+        <translation>求解静力(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Cancel the analysis?</source>
+        <translation>取消分析？</translation>
+    </message>
+    <message>
+        <source>An analysis is running. Cancel it, and begin the new one?</source>
+        <translation>有分析正在运行。取消它并开始新的分析？</translation>
+    </message>
+</context>
+<context>
+    <name>SolveDock</name>
+    <message>
+        <source>Building the part</source>
+        <translation>正在构建零件</translation>
+    </message>
+    <message>
+        <source>Meshing</source>
+        <translation>正在划分网格</translation>
+    </message>
+    <message>
+        <source>Writing the decks</source>
+        <translation>正在写入求解文件</translation>
+    </message>
+    <message>
+        <source>Solving</source>
+        <translation>正在求解</translation>
+    </message>
+    <message>
+        <source>Reading the results</source>
+        <translation>正在读取结果</translation>
+    </message>
+    <message>
+        <source>Solve</source>
+        <translation>求解</translation>
+    </message>
+    <message>
+        <source>Starting</source>
+        <translation>正在启动</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation>%1 分 %2 秒</translation>
+    </message>
+</context>
+<context>
     <name>SolveJob</name>
     <message>
         <source>building the part</source>
@@ -2783,6 +3002,74 @@ Remove these as well?</source>
     <message>
         <source>There is not enough memory: choose a greater mesh size.</source>
         <translation>内存不足：请选择更大的网格尺寸。</translation>
+    </message>
+</context>
+<context>
+    <name>SolvePanel</name>
+    <message>
+        <source>No analysis yet</source>
+        <translation>尚无分析</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Progress of the analysis</source>
+        <translation>分析进度</translation>
+    </message>
+    <message>
+        <source>Log of the analysis</source>
+        <translation>分析日志</translation>
+    </message>
+</context>
+<context>
+    <name>SolveProcess</name>
+    <message>
+        <source>No folder for the analysis can be made: %1</source>
+        <translation>无法建立分析文件夹：%1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 无法写入。</translation>
+    </message>
+    <message>
+        <source>The process that solves has ended unexpectedly.</source>
+        <translation>求解进程意外结束。</translation>
+    </message>
+    <message>
+        <source>The analysis was cancelled.</source>
+        <translation>分析已取消。</translation>
+    </message>
+</context>
+<context>
+    <name>SolveReport</name>
+    <message>
+        <source>The file of the results is damaged.</source>
+        <translation>结果文件已损坏。</translation>
+    </message>
+</context>
+<context>
+    <name>SolveRunner</name>
+    <message>
+        <source>The decks cannot be written to the folder of the project: %1</source>
+        <translation>求解文件无法写入项目文件夹：%1</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>警告：%1</translation>
+    </message>
+    <message>
+        <source>greatest displacement %1 mm, greatest von Mises stress %2 MPa</source>
+        <translation>最大位移 %1 mm，最大冯·米塞斯应力 %2 MPa</translation>
+    </message>
+    <message>
+        <source>mode %1: %2 Hz</source>
+        <translation>模态 %1：%2 Hz</translation>
+    </message>
+    <message>
+        <source>no modes in the range of frequencies</source>
+        <translation>频率范围内没有模态</translation>
     </message>
 </context>
 <context>

@@ -23,9 +23,12 @@
 #include "Project.h"
 #include "ProjectActions.h"
 #include "ProjectSession.h"
+#include "ResultsDock.h"
 #include "RunBar.h"
 #include "SetupCheckDock.h"
 #include "ShapePicker.h"
+#include "SolveActions.h"
+#include "SolveDock.h"
 #include "SolverActions.h"
 #include "ViewActions.h"
 #include "WindowState.h"
@@ -101,6 +104,11 @@ void MainWindow::CreateDocks()
     addDockWidget(Qt::BottomDockWidgetArea, m_messages);
     tabifyDockWidget(m_messages, m_check);
     m_check->hide();
+    m_solve = new SolveActions(*m_session, *m_design, *m_part, this);
+    tabifyDockWidget(m_messages, &m_solve->Progress());
+    addDockWidget(Qt::RightDockWidgetArea, &m_solve->Results());
+    m_solve->Progress().hide();
+    m_solve->Results().hide();
     resizeDocks({m_features}, {400}, Qt::Horizontal);
     resizeDocks({m_features, m_fields}, {300, 240}, Qt::Vertical);
     resizeDocks({m_parameters, m_messages}, {820, 620}, Qt::Horizontal);
@@ -111,8 +119,9 @@ void MainWindow::CreateDocks()
 
 void MainWindow::StackDocks()
 {
-    for (QDockWidget* const dock : std::initializer_list<QDockWidget*>{
-             m_fields, m_position, m_parameters, m_messages, m_check})
+    for (QDockWidget* const dock :
+         std::initializer_list<QDockWidget*>{m_fields, m_position, m_parameters, m_messages,
+                                             m_check, &m_solve->Progress(), &m_solve->Results()})
         tabifyDockWidget(m_tree, dock);
     m_features->raise();
 }
@@ -134,7 +143,9 @@ void MainWindow::CreateMenus()
     auto* const targets = new AnalysisTargets(*m_analysis, *m_tree, *m_picker, this);
     connect(analysis, &AnalysisActions::EntryAdded, targets, &AnalysisTargets::Pick);
     m_marks = new AnalysisMarks(*m_analysis, *m_tree, *m_part, m_summary->View(), this);
-    analysis->FillMenu(*menuBar()->addMenu(tr("&Analysis")));
+    QMenu& analysisMenu = *menuBar()->addMenu(tr("&Analysis"));
+    analysis->FillMenu(analysisMenu);
+    m_solve->FillMenu(analysisMenu);
     auto* const solver = new SolverActions(this);
     solver->FillMenu(*menuBar()->addMenu(tr("&Solver")));
 
@@ -183,8 +194,10 @@ void MainWindow::CreateViewMenu()
     viewActions->FillMenu(view);
     view.addAction((new MeasureTool(*m_part, *m_picker, this))->Action());
     view.addSeparator();
-    const QList<QDockWidget*> docks = {m_features,   m_fields,   m_position, m_tree,
-                                       m_parameters, m_messages, m_check};
+    const QList<QDockWidget*> docks = {
+        m_features,         m_fields,   m_position, m_tree,
+        m_parameters,       m_messages, m_check,    &m_solve->Progress(),
+        &m_solve->Results()};
     for (const QDockWidget* const dock : docks)
         view.addAction(dock->toggleViewAction());
     QToolBar* const toolBar = addToolBar(tr("View"));
@@ -248,6 +261,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     event->setAccepted(m_projectActions->ConfirmDiscard());
     if (!event->isAccepted())
         return;
+    m_solve->Stop();
     m_projectActions->Close();
     WindowState::Store(*this);
 }

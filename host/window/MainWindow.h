@@ -20,6 +20,7 @@ class ProjectActions;
 class ProjectSession;
 class PartPanel;
 class SetupCheckDock;
+class SolveActions;
 
 /// The host's window: menus that run the dialogs, and views of the messages, the parameters, the
 /// features and the part that they build.
@@ -82,4 +83,5 @@ private:
     ProjectActions* m_projectActions = nullptr;
     DesignActions* m_designActions = nullptr;
     PartActions* m_partActions = nullptr;
+    SolveActions* m_solve = nullptr;
 };

@@ -6,7 +6,6 @@
 #include "ParameterEvaluator.h"
 #include "Project.h"
 #include "SolveFolder.h"
-#include "SolveJob.h"
 #include "SolveTables.h"
 
 #include <QDir>
@@ -14,12 +13,8 @@
 #include <QFileInfo>
 #include <QStringList>
 
-namespace {
-
-const QString ModesName = QStringLiteral("modes.csv");
-const QString StaticName = QStringLiteral("static.csv");
-
-} // namespace
+const QLatin1String SolveRunner::ModesName("modes.csv");
+const QLatin1String SolveRunner::StaticName("static.csv");
 
 SolveRunner::SolveRunner(const Project& project, Options options,
                          std::function<void(const QString&)> tell)
@@ -51,15 +46,16 @@ SolveResultPointer SolveRunner::Run()
         return result;
     }
     const SolveFolder files(folder);
-    for (const QString& name : {ModesName, StaticName})
+    for (const QLatin1String name : {ModesName, StaticName})
         QFile::remove(files.PathOf(name));
 
     KernelWorker worker;
     SolveJob job(worker);
+    QObject::connect(&job, &SolveJob::StageChanged, &job, m_options.enter);
     QObject::connect(&job, &SolveJob::Progressed, &job, m_tell);
     *result = *job.Run(input);
     for (const QString& warning : qAsConst(result->warnings))
-        m_tell(QStringLiteral("warning: %1").arg(warning));
+        m_tell(tr("warning: %1").arg(warning));
     if (result->outcome == SolveResult::Done && !m_options.isWithoutRun) {
         WriteTables(files, *result);
         TellResult(*result);
@@ -111,14 +107,14 @@ void SolveRunner::WriteTables(const SolveFolder& files, SolveResult& result) con
 void SolveRunner::TellResult(const SolveResult& result) const
 {
     if (m_options.isStatic) {
-        m_tell(QStringLiteral("greatest displacement %1 mm, greatest von Mises stress %2 MPa")
+        m_tell(tr("greatest displacement %1 mm, greatest von Mises stress %2 MPa")
                    .arg(ShortText(result.statics.maximumDisplacement),
                         ShortText(result.statics.maximumStress)));
         return;
     }
     int number = 0;
     for (const Mode& mode : result.modes)
-        m_tell(QStringLiteral("mode %1: %2 Hz").arg(++number).arg(ShortText(mode.frequency)));
+        m_tell(tr("mode %1: %2 Hz").arg(++number).arg(ShortText(mode.frequency)));
     if (result.modes.empty())
-        m_tell(QStringLiteral("no modes in the range of frequencies"));
+        m_tell(tr("no modes in the range of frequencies"));
 }

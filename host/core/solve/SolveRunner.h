@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SolveResult.h"
+#include "SolveJob.h"
 
 #include <QString>
 
@@ -14,6 +14,8 @@ class SolveFolder;
 /// Solves the analysis of a project without a user, and writes its tables.
 class SolveRunner
 {
+    Q_DECLARE_TR_FUNCTIONS(SolveRunner)
+
 public:
     struct Options
     {
@@ -22,6 +24,9 @@ public:
         bool isWithoutRun = false; ///< Whether only the decks are written.
         /// Values of parameters that replace those of the project.
         std::vector<std::pair<QString, double>> values;
+        /// Called when a stage begins.
+        std::function<void(SolveStage)> enter = [](SolveStage) {
+        };
     };
 
     /// Calls @p tell with each line of the progress.
@@ -31,6 +36,9 @@ public:
     /// Writes "modes.csv" or "static.csv". @throws HostError for whatever is wrong before the part
     /// is built
     SolveResultPointer Run();
+
+    static const QLatin1String ModesName; ///< Of the tables.
+    static const QLatin1String StaticName;
 
 private:
     void ChooseParameters() const;

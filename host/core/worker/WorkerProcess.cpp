@@ -2,6 +2,7 @@
 
 #include "BodyContacts.h"
 #include "BrepFile.h"
+#include "EndWithParent.h"
 #include "KernelSignals.h"
 #include "Language.h"
 #include "PartFaces.h"
@@ -26,14 +27,10 @@
 #include <array>
 #include <cerrno>
 #include <clocale>
-#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <new>
 #include <optional>
-#ifdef Q_OS_LINUX
-#include <sys/prctl.h>
-#endif
 
 namespace {
 
@@ -272,14 +269,6 @@ void LimitMemory(int megabytes)
     const rlim_t bytes = rlim_t(megabytes) * 1024 * 1024;
     const rlimit limit = {bytes, bytes};
     setrlimit(RLIMIT_AS, &limit);
-}
-
-// A program that is killed does not leave a worker behind that goes on building.
-void EndWithParent()
-{
-#ifdef Q_OS_LINUX
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-#endif
 }
 
 } // namespace

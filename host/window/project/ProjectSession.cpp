@@ -108,6 +108,21 @@ Project ProjectSession::Current() const
     return project;
 }
 
+Project ProjectSession::Shown() const
+{
+    Project project = Current();
+    if (!m_design.HoldsRun())
+        return project;
+    ParameterEntries entries = m_design.Stored();
+    // Their values are those of the run, whatever their expressions say.
+    for (ParameterEntry& entry : entries) {
+        entry.record.m_strExpression.clear();
+        entry.record.m_strExpressPara.clear();
+    }
+    project.SetParameters(entries);
+    return project;
+}
+
 ProjectSession::State ProjectSession::CurrentState() const
 {
     return {Current(), g_mapParaArrays, AnalysisStores::Current()};

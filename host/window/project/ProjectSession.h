@@ -35,6 +35,8 @@ public:
 
     /// The project as it is now, with the path that it was opened with.
     Project Current() const;
+    /// Current(), but with the values of a run of the experiments, if the part has these.
+    Project Shown() const;
     /// In kg/m3: of the material, or the project's own.
     double Density() const;
 

@@ -78,6 +78,9 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                                  "Analysis/Mesh size",
                                  "Analysis/Sub-shape mesh",
                                  "Analysis/Check Set-up",
+                                 "Analysis/Mesh",
+                                 "Analysis/Solve vibration",
+                                 "Analysis/Solve static",
                                  "Solver/Run Nastran",
                                  "Solver/Open results in HyperView",
                                  "Solver/Solver paths",
@@ -102,7 +105,9 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                                  "View/Analysis model",
                                  "View/Parameters",
                                  "View/Messages",
-                                 "View/Set-up check"}));
+                                 "View/Set-up check",
+                                 "View/Solve",
+                                 "View/Results"}));
 }
 
 void tst_MainWindow::TheDocksSurroundTheShape()

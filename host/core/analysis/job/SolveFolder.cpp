@@ -29,12 +29,17 @@ SolveFolder::SolveFolder(const QString& path)
 
 void SolveFolder::Clear() const
 {
-    QStringList names = {ShapeName, ScriptName, MeshName, MesherLog, SolverLog};
-    for (const char* const suffix :
-         {".inp", ".bdf", ".dat", ".frd", ".sta", ".cvg", ".12d", ".eig"})
-        names << InJob(suffix);
-    for (const QString& name : qAsConst(names))
+    ClearResults();
+    for (const QString& name : {QString(ShapeName), QString(ScriptName), QString(MeshName),
+                                QString(MesherLog), InJob(".inp"), InJob(".bdf")})
         QFile::remove(PathOf(name));
+}
+
+void SolveFolder::ClearResults() const
+{
+    for (const char* const suffix : {".dat", ".frd", ".sta", ".cvg", ".12d", ".eig"})
+        QFile::remove(PathOf(InJob(suffix)));
+    QFile::remove(PathOf(SolverLog));
 }
 
 QString SolveFolder::PathOf(const QString& name) const

@@ -27,6 +27,8 @@ public:
 
     /// Removes what an earlier analysis left, which must not be taken for results of this one.
     void Clear() const;
+    /// Removes the files of the solver alone.
+    void ClearResults() const;
 
     const QString& Path() const { return m_path; }
     /// Absolute.

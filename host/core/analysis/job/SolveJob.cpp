@@ -62,8 +62,6 @@ SolveJob::~SolveJob()
 {
     if (m_isBuilding)
         m_worker.Discard();
-    if (m_thread != nullptr)
-        m_thread->wait();
 }
 
 void SolveJob::Start(const SolveInput& input)
@@ -152,38 +150,35 @@ void SolveJob::CheckSize() const
 void SolveJob::MakeModel()
 {
     Enter(SolveStage::Modelling, tr("reading the mesh"));
-    RunAside(
-        [this] {
-            Mesh mesh = ReadMeshFile(m_folder.PathOf(SolveFolder::MeshName));
-            const MeshEstimate estimate =
-                mesh.IsSolid() ? MeshEstimate::OfSolids(0.0) : MeshEstimate::OfShells(0.0);
-            const QString problem = estimate.Problem(
-                m_plan.meshSize, m_input->tools.maximumFreedoms, double(mesh.FreedomCount()));
-            if (!problem.isEmpty())
-                throw HostError(problem);
-            m_result->quality = RepairMesh(mesh);
-            const Vector3& place = m_result->quality.worstPlace;
-            if (!m_result->quality.isUsable)
-                throw HostError(
-                    tr("The mesh has an element that is folded, near (%1, %2, %3) mm: "
-                       "choose another mesh size there.")
-                        .arg(ShortText(place[0]), ShortText(place[1]), ShortText(place[2])));
-            BuiltModel built = BuildModel(std::move(mesh), m_plan);
-            m_result->model = std::move(built.model);
-            m_result->warnings = built.warnings;
-            WriteDecks();
-        },
-        [this] {
-            const Mesh& mesh = m_result->model.mesh;
-            Q_EMIT Progressed(tr("%1 elements, %2 nodes, %3 degrees of freedom")
-                                  .arg(mesh.ElementCount())
-                                  .arg(mesh.nodes.size())
-                                  .arg(mesh.FreedomCount()));
-            if (m_input->isWithoutRun)
-                Finish();
-            else
-                Solve();
-        });
+    RunLater([this] {
+        Mesh mesh = ReadMeshFile(m_folder.PathOf(SolveFolder::MeshName));
+        const MeshEstimate estimate =
+            mesh.IsSolid() ? MeshEstimate::OfSolids(0.0) : MeshEstimate::OfShells(0.0);
+        const QString problem = estimate.Problem(m_plan.meshSize, m_input->tools.maximumFreedoms,
+                                                 double(mesh.FreedomCount()));
+        if (!problem.isEmpty())
+            throw HostError(problem);
+        m_result->quality = RepairMesh(mesh);
+        const Vector3& place = m_result->quality.worstPlace;
+        if (!m_result->quality.isUsable)
+            throw HostError(
+                tr("The mesh has an element that is folded, near (%1, %2, %3) mm: "
+                   "choose another mesh size there.")
+                    .arg(ShortText(place[0]), ShortText(place[1]), ShortText(place[2])));
+        BuiltModel built = BuildModel(std::move(mesh), m_plan);
+        m_result->model = std::move(built.model);
+        m_result->warnings = built.warnings;
+        WriteDecks();
+        const Mesh& made = m_result->model.mesh;
+        Q_EMIT Progressed(tr("%1 elements, %2 nodes, %3 degrees of freedom")
+                              .arg(made.ElementCount())
+                              .arg(made.nodes.size())
+                              .arg(made.FreedomCount()));
+        if (m_input->isWithoutRun)
+            Finish();
+        else
+            Solve();
+    });
 }
 
 void SolveJob::WriteDecks()
@@ -224,19 +219,19 @@ void SolveJob::Solve()
 void SolveJob::Read()
 {
     Enter(SolveStage::Reading, tr("reading the results"));
-    auto isDone = std::make_shared<bool>(true);
-    RunAside(
-        [this, isDone] {
-            if (m_input->isStatic)
-                return ReadStatic();
-            const ModesTable table = ReadModesTable(m_folder.ContentOf(SolveFolder::InJob(".dat")));
-            *isDone = m_search->Take(table);
-            if (*isDone)
-                ReadModes(table);
-            else
-                WriteSolverDeck();
-        },
-        [this, isDone] { *isDone ? Finish() : Solve(); });
+    RunLater([this] {
+        if (m_input->isStatic) {
+            ReadStatic();
+            return Finish();
+        }
+        const ModesTable table = ReadModesTable(m_folder.ContentOf(SolveFolder::InJob(".dat")));
+        if (m_search->Take(table)) {
+            ReadModes(table);
+            return Finish();
+        }
+        WriteSolverDeck();
+        Solve();
+    });
 }
 
 void SolveJob::ReadModes(const ModesTable& table)
@@ -272,27 +267,10 @@ void SolveJob::RunTool(const AnalysisTool& tool, const QStringList& arguments, c
                   m_input->tools.seconds});
 }
 
-void SolveJob::RunAside(std::function<void()> work, std::function<void()> then)
+void SolveJob::RunLater(std::function<void()> work)
 {
-    auto error = std::make_shared<std::exception_ptr>();
-    m_thread = QThread::create([work = std::move(work), error] {
-        try {
-            work();
-        } catch (...) {
-            *error = std::current_exception();
-        }
-    });
-    m_thread->setParent(this);
-    connect(m_thread, &QThread::finished, this, [this, error, then = std::move(then)] {
-        m_thread->deleteLater();
-        m_thread = nullptr;
-        Try([&] {
-            if (*error)
-                std::rethrow_exception(*error);
-            then();
-        });
-    });
-    m_thread->start();
+    QMetaObject::invokeMethod(
+        this, [this, work = std::move(work)] { Try(work); }, Qt::QueuedConnection);
 }
 
 void SolveJob::Try(const std::function<void()>& step)

@@ -9,7 +9,6 @@
 #include "ToolProcess.h"
 
 #include <QObject>
-#include <QThread>
 
 #include <functional>
 #include <memory>
@@ -38,8 +37,7 @@ enum class SolveStage
 /// Solves one analysis after the other: builds the part in a worker process, meshes it, writes
 /// "Model_Active.inp" and "Model_Active.bdf", runs the solver and reads its results.
 ///
-/// Nothing blocks: programs are processes of their own, and long work of the host's own is done in
-/// a thread.
+/// While its programs run, the event loop goes on; reading their files blocks it.
 class SolveJob : public QObject
 {
     Q_OBJECT
@@ -47,7 +45,7 @@ class SolveJob : public QObject
 public:
     /// @p worker builds the parts and outlives the job.
     explicit SolveJob(KernelWorker& worker, QObject* parent = nullptr);
-    /// Ends all processes; waits for the thread.
+    /// Ends all processes.
     ~SolveJob() override;
 
     /// Starts an analysis. The one before must have ended.
@@ -80,7 +78,8 @@ private:
     void CheckSize() const;
     void RunTool(const AnalysisTool& tool, const QStringList& arguments, const QString& log,
                  std::function<void(const ToolEnd&)> then);
-    void RunAside(std::function<void()> work, std::function<void()> then);
+    /// Lets the event loop show the stage, or cancel it, before it blocks.
+    void RunLater(std::function<void()> work);
     void Try(const std::function<void()>& step);
     void FailUnlessFolder(const QString& problem);
     void Fail(SolveResult::Outcome outcome, const QString& problem);
@@ -88,7 +87,6 @@ private:
 
     KernelWorker& m_worker;
     ToolProcess m_tool;
-    QThread* m_thread = nullptr; // Null while there is none.
     std::function<void(const ToolEnd&)> m_afterTool;
     bool m_isBuilding = false;
     bool m_isCancelled = false;

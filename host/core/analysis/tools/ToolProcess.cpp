@@ -1,12 +1,9 @@
 #include "ToolProcess.h"
 
+#include "EndWithParent.h"
+
 #include <QFileInfo>
 #include <QProcessEnvironment>
-
-#include <csignal>
-#ifdef Q_OS_LINUX
-#include <sys/prctl.h>
-#endif
 
 namespace {
 
@@ -19,12 +16,7 @@ public:
     using QProcess::QProcess;
 
 protected:
-    void setupChildProcess() override
-    {
-#ifdef Q_OS_LINUX
-        prctl(PR_SET_PDEATHSIG, SIGKILL);
-#endif
-    }
+    void setupChildProcess() override { EndWithParent(); }
 };
 
 QProcessEnvironment PlainEnvironment()

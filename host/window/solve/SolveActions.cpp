@@ -1,0 +1,138 @@
+#include "SolveActions.h"
+
+#include "DesignModel.h"
+#include "MenuActions.h"
+#include "MessageLevel.h"
+#include "NumberTexts.h"
+#include "PartModel.h"
+#include "ProjectSession.h"
+#include "ResultsDock.h"
+#include "SolveDock.h"
+
+#include <QDir>
+#include <QMenu>
+#include <QMessageBox>
+
+namespace {
+
+QString TitleOf(SolveKind kind)
+{
+    switch (kind) {
+    case SolveKind::Mesh:
+        return SolveActions::tr("Mesh");
+    case SolveKind::Vibration:
+        return SolveActions::tr("Vibration");
+    default:
+        return SolveActions::tr("Static analysis");
+    }
+}
+
+QString SuccessText(const SolveReport& report)
+{
+    switch (report.kind) {
+    case SolveKind::Vibration:
+        return report.modes.empty()
+                   ? SolveActions::tr("There are no modes in the range of frequencies")
+                   : SolveActions::tr("Modes found: %1, the lowest at %2 Hz")
+                         .arg(report.modes.size())
+                         .arg(ShortText(report.modes.front().frequency));
+    case SolveKind::Static:
+        return SolveActions::tr("Greatest displacement %1 mm, greatest von Mises stress %2 MPa")
+            .arg(ShortText(report.displacement.value), ShortText(report.stress.value));
+    default:
+        return SolveActions::tr("The part was meshed: %1 elements").arg(report.elements);
+    }
+}
+
+} // namespace
+
+bool SolveActions::Input::operator==(const Input& other) const
+{
+    return project.HasSameContent(other.project) && stores == other.stores;
+}
+
+SolveActions::SolveActions(ProjectSession& session, const DesignModel& design,
+                           const PartModel& part, QWidget* window)
+    : QObject(window)
+    , m_session(session)
+    , m_window(window)
+    , m_progress(new SolveDock(m_process, window))
+    , m_results(new ResultsDock(window))
+{
+    connect(&m_process, &SolveProcess::Finished, this, &SolveActions::TakeEnd);
+    connect(&session, &ProjectSession::Opened, this, &SolveActions::Forget);
+    connect(&session, &ProjectSession::StateChanged, this, &SolveActions::CompareWithResults);
+    connect(&design, &DesignModel::Changed, this, &SolveActions::CompareWithResults);
+    connect(&part, &PartModel::Changed, this, &SolveActions::CompareWithResults);
+}
+
+SolveActions::~SolveActions() = default;
+
+void SolveActions::FillMenu(QMenu& menu)
+{
+    menu.addSeparator();
+    menu.addActions(
+        {NewAction(tr("Mes&h"), "action_Mesh", this, &SolveActions::Mesh),
+         NewAction(tr("Solve &vibration"), "action_SolveVibration", this,
+                   &SolveActions::SolveVibration),
+         NewAction(tr("Solve s&tatic"), "action_SolveStatic", this, &SolveActions::SolveStatic)});
+}
+
+SolveActions::Input SolveActions::CurrentInput() const
+{
+    Input input{m_session.Shown(), AnalysisStores::Current()};
+    // Results do not depend on these.
+    input.project.SetTitle({});
+    input.project.SetStudy({});
+    input.project.SetSampleLists({});
+    return input;
+}
+
+void SolveActions::Start(SolveKind kind)
+{
+    if (!ConfirmReplacing())
+        return;
+    m_process.Cancel();
+    try {
+        m_running = CurrentInput();
+        m_process.Start(m_running.project, kind, QDir::currentPath());
+        m_progress->Begin(TitleOf(kind));
+    } catch (const HostError& error) {
+        PostMessageToChannel(ErrorLevel, error.Reason());
+    }
+}
+
+bool SolveActions::ConfirmReplacing()
+{
+    if (!m_process.IsBusy())
+        return true;
+    return QMessageBox::question(m_window, tr("Cancel the analysis?"),
+                                 tr("An analysis is running. Cancel it, and begin the new one?")) ==
+           QMessageBox::Yes;
+}
+
+void SolveActions::TakeEnd(SolveProcess::Outcome outcome, const QString& problem)
+{
+    if (m_process.Report() != nullptr) {
+        m_results->ShowReport(m_process.Report());
+        m_shown = m_running;
+        CompareWithResults();
+    }
+    if (outcome == SolveProcess::Done && m_process.Report() != nullptr)
+        PostMessageToChannel(InfoLevel, SuccessText(*m_process.Report()));
+    else
+        PostMessageToChannel(outcome == SolveProcess::Cancelled ? WarningLevel : ErrorLevel,
+                             problem);
+}
+
+void SolveActions::CompareWithResults()
+{
+    m_results->SetOld(m_shown && !(CurrentInput() == *m_shown));
+}
+
+void SolveActions::Forget()
+{
+    m_process.Cancel();
+    m_shown.reset();
+    m_results->Clear();
+}

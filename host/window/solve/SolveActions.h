@@ -1,0 +1,67 @@
+#pragma once
+
+#include "AnalysisStores.h"
+#include "Project.h"
+#include "SolveProcess.h"
+
+#include <QObject>
+
+#include <optional>
+
+class DesignModel;
+class PartModel;
+class ProjectSession;
+class QMenu;
+class QWidget;
+class ResultsDock;
+class SolveDock;
+
+/// The actions that mesh and solve the part; shows progress and results in their docks.
+class SolveActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p window is the parent of boxes and docks, and owns this object; the others must outlive
+    /// it.
+    SolveActions(ProjectSession& session, const DesignModel& design, const PartModel& part,
+                 QWidget* window);
+    ~SolveActions() override;
+
+    void FillMenu(QMenu& menu);
+
+    /// Belong to the window.
+    SolveDock& Progress() { return *m_progress; }
+    ResultsDock& Results() { return *m_results; }
+
+    /// Ends an analysis that is running.
+    void Stop() { m_process.Cancel(); }
+
+private:
+    /// What the results of an analysis depend on.
+    struct Input
+    {
+        Project project;
+        AnalysisStores stores;
+
+        bool operator==(const Input& other) const;
+    };
+
+    void Mesh() { Start(SolveKind::Mesh); }
+    void SolveVibration() { Start(SolveKind::Vibration); }
+    void SolveStatic() { Start(SolveKind::Static); }
+    void Start(SolveKind kind);
+    bool ConfirmReplacing();
+    void TakeEnd(SolveProcess::Outcome outcome, const QString& problem);
+    Input CurrentInput() const;
+    void CompareWithResults();
+    void Forget();
+
+    ProjectSession& m_session;
+    QWidget* m_window;
+    SolveProcess m_process;
+    SolveDock* m_progress;
+    ResultsDock* m_results;
+    Input m_running;
+    std::optional<Input> m_shown; // Of the results that are shown.
+};
