@@ -4,6 +4,7 @@
 #include "MainWindow.h"
 #include "Project.h"
 #include "Screenshots.h"
+#include "SlurmSubmission.h"
 #include "SolveChild.h"
 #include "SolveFolder.h"
 #include "SolveRunner.h"
@@ -48,16 +49,42 @@ void Tell(const QString& line)
     Print(stdout, line + QLatin1Char('\n'));
 }
 
-int RunStudy(const CommandLine& line)
+StudyRunner::Options StudyOptions(const CommandLine& line)
 {
-    const Project project = Project::Load(line.projectFile);
     StudyRunner::Options options;
     options.directory = line.outputDirectory;
     options.firstRun = line.firstRun;
     options.lastRun = line.lastRun;
-    options.jobs = line.jobs > 0 ? line.jobs : QThread::idealThreadCount();
+    options.jobs = line.jobs;
     options.seconds = line.seconds;
     options.hasSteps = line.hasSteps;
+    options.hasTable = line.hasTable;
+    return options;
+}
+
+int SubmitStudy(const CommandLine& line)
+{
+    const Project project = Project::Load(line.projectFile);
+    SlurmSubmission::Options options;
+    options.study = StudyOptions(line);
+    options.tasks = line.tasks;
+    options.partition = line.partition;
+    options.time = line.time;
+    options.memory = line.memory;
+    options.isWithoutRun = line.isWithoutRun;
+    const QString problem = SlurmSubmission(project, options, Tell).Run();
+    if (problem.isEmpty())
+        return DoneCode;
+    Refuse(problem);
+    return FailedCode;
+}
+
+int RunStudy(const CommandLine& line)
+{
+    const Project project = Project::Load(line.projectFile);
+    StudyRunner::Options options = StudyOptions(line);
+    if (options.jobs == 0)
+        options.jobs = QThread::idealThreadCount();
     const StudyRunner::Summary summary = StudyRunner(project, options, Tell).Run();
     constexpr int SignalCode = 128; // As shells report a signal.
     if (summary.signal != 0)
@@ -168,6 +195,8 @@ int Act(const CommandLine& line)
         return DoneCode;
     case CommandLine::RunStudy:
         return RunStudy(line);
+    case CommandLine::SubmitStudy:
+        return SubmitStudy(line);
     case CommandLine::Solve:
         return SolveProject(line);
     case CommandLine::MergeStudy:

@@ -45,7 +45,7 @@ class Structure(unittest.TestCase):
         self.assertEqual(missing, [], "write their tests, or list them in CONTRIBUTING.md")
 
     def test_TheListNamesTestsThatExist(self):
-        tests = {path.stem for path in TESTS.rglob("tst_*.cpp")}
+        tests = {path.stem for path in TESTS.rglob("tst_*") if path.suffix in (".cpp", ".py")}
         for row, covering in CoveredElsewhere().items():
             with self.subTest(row):
                 self.assertTrue(covering)

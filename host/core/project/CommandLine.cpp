@@ -44,6 +44,28 @@ struct Options
         QStringLiteral("step"),
         QStringLiteral("Write a STEP file for each run of the study: all or none."),
         QStringLiteral("which")};
+    QCommandLineOption noTable{QStringLiteral("no-table"),
+                               QStringLiteral("Leave results.csv of the study to --merge.")};
+    QCommandLineOption submit{
+        QStringLiteral("submit"),
+        QStringLiteral("Submit the study to the workload manager <name>, which is slurm, as a job "
+                       "array."),
+        QStringLiteral("name")};
+    QCommandLineOption tasks{
+        QStringLiteral("tasks"),
+        QStringLiteral("Divide the study that is submitted into <number> tasks; without, into as "
+                       "many as have work for 30 seconds."),
+        QStringLiteral("number")};
+    QCommandLineOption partition{QStringLiteral("partition"),
+                                 QStringLiteral("Submit the study to the partition <name>."),
+                                 QStringLiteral("name")};
+    QCommandLineOption time{
+        QStringLiteral("time"),
+        QStringLiteral("Limit the time of each task, such as 30 minutes or 2:00:00."),
+        QStringLiteral("limit")};
+    QCommandLineOption memory{QStringLiteral("memory"),
+                              QStringLiteral("Limit the memory of each task, such as 4G."),
+                              QStringLiteral("size")};
     QCommandLineOption merge{QStringLiteral("merge"),
                              QStringLiteral("Write results.csv of the study in the folder <dir>."),
                              QStringLiteral("dir")};
@@ -63,8 +85,10 @@ struct Options
         QStringLiteral("Give a parameter another value for this analysis: --set length=12.5. Can "
                        "be repeated."),
         QStringLiteral("name=value")};
-    QCommandLineOption noRun{QStringLiteral("no-run"),
-                             QStringLiteral("Write the solvers' decks, but do not solve.")};
+    QCommandLineOption noRun{
+        QStringLiteral("no-run"),
+        QStringLiteral("Write the solvers' decks, or the scripts of a study that "
+                       "would be submitted, but start nothing.")};
     QCommandLineOption screenshots{
         QStringLiteral("screenshots"),
         QStringLiteral("Write a picture of every window to the folder <dir>."),
@@ -85,8 +109,10 @@ struct Options
     {
         parser.setApplicationDescription(
             QStringLiteral("Reference host of the dialogs: a bolted flange and its study."));
-        parser.addOptions({study, out, runs, jobs, timeout, step, merge, status, solve, isStatic,
-                           set, noRun, screenshots, palette, lang, help, version});
+        parser.addOptions({study,       out,     runs,  jobs,      timeout, step,
+                           noTable,     submit,  tasks, partition, time,    memory,
+                           merge,       status,  solve, isStatic,  set,     noRun,
+                           screenshots, palette, lang,  help,      version});
         parser.addPositionalArgument(QStringLiteral("project"),
                                      QStringLiteral("The project file; without, a sample project."),
                                      QStringLiteral("[project]"));
@@ -128,6 +154,17 @@ bool ReadStep(const QString& text)
         Refuse(QStringLiteral("--step %1: STEP files are written for all or none")
                    .arg(text.simplified()));
     return hasSteps;
+}
+
+// What goes to the workload manager as it is. It stands in a line of a script.
+QString ReadSlurmText(const QCommandLineParser& parser, const QCommandLineOption& option)
+{
+    static const QRegularExpression pattern(QStringLiteral("^[-A-Za-z0-9_.,:+]+$"));
+    const QString text = parser.value(option);
+    if (!pattern.match(text).hasMatch())
+        Refuse(QStringLiteral("--%1 %2: Slurm has no such value")
+                   .arg(option.names().constFirst(), text.simplified()));
+    return text;
 }
 
 // The last "=" separates: a name may contain one, a number cannot.
@@ -172,10 +209,16 @@ void CheckCombination(const QCommandLineParser& parser, const Options& options)
         Refuse(QStringLiteral("--solve FILE needs --out DIR"));
     if (!solve && study != parser.isSet(options.out))
         Refuse(QStringLiteral("--study FILE and --out DIR need each other"));
-    for (const QCommandLineOption& option :
-         {options.runs, options.jobs, options.timeout, options.step}) {
+    for (const QCommandLineOption& option : {options.runs, options.jobs, options.timeout,
+                                             options.step, options.noTable, options.submit}) {
         if (parser.isSet(option) && !study)
             Refuse(QStringLiteral("--%1 needs --study FILE").arg(option.names().constFirst()));
+    }
+    const bool submit = parser.isSet(options.submit);
+    for (const QCommandLineOption& option :
+         {options.tasks, options.partition, options.time, options.memory}) {
+        if (parser.isSet(option) && !submit)
+            Refuse(QStringLiteral("--%1 needs --submit slurm").arg(option.names().constFirst()));
     }
     // These have the folder alone.
     for (const QCommandLineOption& option : {options.merge, options.status}) {
@@ -184,12 +227,31 @@ void CheckCombination(const QCommandLineParser& parser, const Options& options)
             Refuse(
                 QStringLiteral("--%1 DIR goes with nothing else").arg(option.names().constFirst()));
     }
-    for (const QCommandLineOption& option : {options.isStatic, options.set, options.noRun}) {
+    for (const QCommandLineOption& option : {options.isStatic, options.set}) {
         if (parser.isSet(option) && !solve)
             Refuse(QStringLiteral("--%1 needs --solve FILE").arg(option.names().constFirst()));
     }
+    if (parser.isSet(options.noRun) && !solve && !submit)
+        Refuse(QStringLiteral("--no-run needs --solve FILE or --submit slurm"));
     if (parser.isSet(options.palette) && !screenshots)
         Refuse(QStringLiteral("--palette needs --screenshots DIR"));
+}
+
+void ReadSubmission(const QCommandLineParser& parser, const Options& options, CommandLine& line)
+{
+    const QString name = parser.value(options.submit);
+    if (name != QLatin1String("slurm"))
+        Refuse(
+            QStringLiteral("--submit %1: studies are submitted to slurm").arg(name.simplified()));
+    line.action = CommandLine::SubmitStudy;
+    if (parser.isSet(options.tasks))
+        line.tasks = ReadNumber(parser, options.tasks, CommandLine::MaximumTasks);
+    if (parser.isSet(options.partition))
+        line.partition = ReadSlurmText(parser, options.partition);
+    if (parser.isSet(options.time))
+        line.time = ReadSlurmText(parser, options.time);
+    if (parser.isSet(options.memory))
+        line.memory = ReadSlurmText(parser, options.memory);
 }
 
 void ReadStudyOptions(const QCommandLineParser& parser, const Options& options, CommandLine& line)
@@ -202,6 +264,9 @@ void ReadStudyOptions(const QCommandLineParser& parser, const Options& options, 
         line.seconds = ReadNumber(parser, options.timeout, BuildLimits::MaximumSeconds);
     if (parser.isSet(options.step))
         line.hasSteps = ReadStep(parser.value(options.step));
+    line.hasTable = !parser.isSet(options.noTable);
+    if (parser.isSet(options.submit))
+        ReadSubmission(parser, options, line);
     for (const QCommandLineOption& option : {options.merge, options.status}) {
         if (!parser.isSet(option))
             continue;

@@ -63,21 +63,22 @@ StudyRunner::~StudyRunner() = default;
 
 StudyRunner::Summary StudyRunner::Run()
 {
-    Prepare();
+    const auto [first, last] = Prepare();
+    PrepareWorkers(first, last);
     Work();
     m_places.clear(); // Ends the workers.
     m_queue.reset();
     m_lines->Flush();
     if (m_error) {
         try {
-            m_folder->Merge();
+            Merge();
         } catch (const HostError&) {
             // What stops the study has to be said, and may be the reason for this, too.
         }
         std::rethrow_exception(m_error);
     }
     m_journal->Sync();
-    m_folder->Merge();
+    Merge();
     m_tell(QStringLiteral("%1 ok, %2 failed, %3 done before; see %4")
                .arg(m_summary.ok)
                .arg(m_summary.failed)
@@ -86,7 +87,14 @@ StudyRunner::Summary StudyRunner::Run()
     return m_summary;
 }
 
-void StudyRunner::Prepare()
+int StudyRunner::CreateFolder()
+{
+    Prepare();
+    return m_folder->Runs().Count();
+}
+
+// Returns the first and the last of the runs to do.
+std::pair<int, int> StudyRunner::Prepare()
 {
     m_study = std::make_unique<Study>(m_project);
     const RunList runs = PrepareRuns(*m_study);
@@ -98,11 +106,13 @@ void StudyRunner::Prepare()
         m_parameters << entry.first;
     m_folder = StudyFolder::Prepare(m_options.directory,
                                     StudyFingerprint(m_project, runs.Inputs(), m_density), runs);
-    const auto [first, last] = RequestedRuns(m_folder->Runs().Count());
+    return RequestedRuns(m_folder->Runs().Count());
+}
+
+void StudyRunner::PrepareWorkers(int first, int last)
+{
     // Before the first part is built: a folder that cannot be written is reported at once.
-    m_sinceSaved.start();
-    m_folder->Merge();
-    m_savePause = std::max(LeastSavePause, SavePauseFactor * m_sinceSaved.restart());
+    Merge();
     m_journal = std::make_unique<Journal>(m_options.directory);
 
     const int workers = std::max(1, std::min(m_options.jobs, last - first + 1));
@@ -317,7 +327,13 @@ void StudyRunner::Skip(int run, RunQueue::Settlement settlement)
 
 void StudyRunner::SaveSometimes()
 {
-    if (m_sinceSaved.elapsed() < m_savePause)
+    if (m_sinceSaved.elapsed() >= m_savePause)
+        Merge();
+}
+
+void StudyRunner::Merge()
+{
+    if (!m_options.hasTable)
         return;
     m_sinceSaved.start();
     m_folder->Merge();

@@ -34,6 +34,7 @@ public:
         int jobs = 1;         ///< How many runs are done at once, each in a process of its own.
         int seconds = 0;      ///< The time limit for building a run; 0 for the user's setting.
         bool hasSteps = true; ///< Whether each part is written to a STEP file.
+        bool hasTable = true; ///< Whether results.csv is written; others may do it with a merge.
     };
 
     /// The outcome of the requested runs.
@@ -54,6 +55,10 @@ public:
     /// or the folder is that of another study; FolderError if the folder cannot be written
     Summary Run();
 
+    /// Creates or extends the folder without doing a run, for programs that do the runs later.
+    /// Returns the number of runs in it. Throws like Run().
+    int CreateFolder();
+
 private:
     /// A run that is being done.
     struct Place
@@ -66,7 +71,9 @@ private:
 
     RunList PrepareRuns(const Study& study) const;
     std::pair<int, int> RequestedRuns(int runs) const;
-    void Prepare();
+    std::pair<int, int> Prepare();
+    void PrepareWorkers(int first, int last);
+    void Merge();
     void Work();
     void Try(const std::function<void()>& step);
     void FeedAll();

@@ -11,6 +11,7 @@ private Q_SLOTS:
     void AProjectCanBeNamed();
     void AStudyHasAProjectAFolderAndRuns();
     void AStudyHasWorkersALimitAndStepFiles();
+    void AStudyIsSubmittedWithLimits();
     void AStudyIsMergedOrReportedByItsFolder();
     void RunsAreARangeOrANumber_data();
     void RunsAreARangeOrANumber();
@@ -65,6 +66,26 @@ void tst_CommandLine::AStudyHasWorkersALimitAndStepFiles()
     QCOMPARE(line.seconds, 60);
     QVERIFY(!line.hasSteps);
     QVERIFY(Parse({"--study", "a", "--out", "o", "--step", "all"}).hasSteps);
+}
+
+void tst_CommandLine::AStudyIsSubmittedWithLimits()
+{
+    CommandLine line = Parse({"--study", "a", "--out", "o", "--submit", "slurm"});
+    QCOMPARE(line.action, CommandLine::SubmitStudy);
+    QCOMPARE(line.projectFile, QString("a"));
+    QCOMPARE(line.outputDirectory, QString("o"));
+    QCOMPARE(line.tasks, 0);
+    QVERIFY(!line.isWithoutRun);
+    QVERIFY(line.hasTable);
+    line =
+        Parse({"--study", "a", "--out", "o", "--submit", "slurm", "--tasks", "7", "--partition",
+               "long,short", "--time", "1-12:00:00", "--memory", "4G", "--no-run", "--no-table"});
+    QCOMPARE(line.tasks, 7);
+    QCOMPARE(line.partition, QString("long,short"));
+    QCOMPARE(line.time, QString("1-12:00:00"));
+    QCOMPARE(line.memory, QString("4G"));
+    QVERIFY(line.isWithoutRun);
+    QVERIFY(!line.hasTable);
 }
 
 void tst_CommandLine::AStudyIsMergedOrReportedByItsFolder()
@@ -178,7 +199,18 @@ void tst_CommandLine::BadArgumentsAreToldInOneLine_data()
     row("static without analysis", {"--static"}, "--static needs --solve FILE");
     row("value without analysis", {"--set", "a=1"}, "--set needs --solve FILE");
     row("no run without analysis", {"--study", "a", "--out", "o", "--no-run"},
-        "--no-run needs --solve FILE");
+        "--no-run needs --solve FILE or --submit slurm");
+    row("submission without study", {"--submit", "slurm"}, "--submit needs --study FILE");
+    row("tasks without submission", {"--study", "a", "--out", "o", "--tasks", "3"},
+        "--tasks needs --submit slurm");
+    row("unknown manager", {"--study", "a", "--out", "o", "--submit", "pbs"},
+        "--submit pbs: studies are submitted to slurm");
+    row("no tasks", {"--study", "a", "--out", "o", "--submit", "slurm", "--tasks", "0"},
+        "--tasks 0: has to be a whole number from 1 to 1000000");
+    row("partition of two words",
+        {"--study", "a", "--out", "o", "--submit", "slurm", "--partition", "a b"},
+        "--partition a b: Slurm has no such value");
+    row("no table without study", {"--no-table"}, "--no-table needs --study FILE");
     row("empty analysis", {"--solve", "", "--out", "o"}, "the name of a file or folder is empty");
     for (const char* value : {"a", "a=", "a=x", "a=1,5", "a=inf", "a=nan", "a=1e999", ""})
         row(qPrintable(QString("value \"%1\"").arg(value)),
