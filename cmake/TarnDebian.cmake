@@ -12,7 +12,7 @@ function(tarn_install_gzip file name component folder)
   # Without name and time, so that builds are reproducible.
   add_custom_command(OUTPUT "${zipped}" COMMAND sh -c "gzip -9nc \"$1\" >\"$2\"" gzip "${file}" "${zipped}"
                      DEPENDS "${file}" VERBATIM)
-  add_custom_target(gzip_${component}_${name} ALL DEPENDS "${zipped}")
+  add_custom_target(TarnGzip_${component}_${name} ALL DEPENDS "${zipped}")
   install(FILES "${zipped}" DESTINATION "${folder}" COMPONENT ${component})
 endfunction()
 
@@ -44,9 +44,7 @@ find_program(TARN_SHLIBDEPS dpkg-shlibdeps)
 mark_as_advanced(TARN_SHLIBDEPS)
 if(TARN_SHLIBDEPS)
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
-      "${PROJECT_BINARY_DIR}" "${PROJECT_BINARY_DIR}/model/TarnCoreGeometry" "${PROJECT_BINARY_DIR}/model/TarnDesign"
-      "${PROJECT_BINARY_DIR}/model/TarnFEMData")
+  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${TARN_BUILD_LIBDIR}")
 endif()
 # While the major version is 0, any version may change the interface, so require exactly this one.
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)

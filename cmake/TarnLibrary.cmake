@@ -11,6 +11,15 @@ if(PROJECT_VERSION_MAJOR EQUAL 0)
   set(TARN_COMPATIBILITY SameMinorVersion)
 endif()
 
+# The build tree has the layout of an installation, because the library finds its data relative to itself.
+set(TARN_DATA_DIR ${CMAKE_INSTALL_DATADIR}/TarnGUICommon-${TARN_INTERFACE_VERSION})
+set(TARN_BUILD_LIBDIR "${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}")
+set(TARN_BUILD_DATA_DIR "${PROJECT_BINARY_DIR}/${TARN_DATA_DIR}")
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_DATADIR}")
+  set(TARN_BUILD_LIBDIR "${PROJECT_BINARY_DIR}/lib")
+  set(TARN_BUILD_DATA_DIR "${PROJECT_BINARY_DIR}/share/TarnGUICommon")
+endif()
+
 # tarn_add_library(<target> [<source>...])
 #
 # Adds one of them with the common settings: export header, version, hidden symbols, no undefined symbols. A class of
@@ -33,8 +42,13 @@ function(tarn_add_library target)
     target_link_options(${target} PRIVATE -Wl,--no-undefined)
   endif()
   # The libraries find each other in their own folder, so that the package is relocatable.
-  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${TARN_INTERFACE_VERSION}
-                                             INSTALL_RPATH "$ORIGIN" LINK_DEPENDS "${symbols};${shared_data}")
+  set_target_properties(
+    ${target}
+    PROPERTIES VERSION ${PROJECT_VERSION}
+               SOVERSION ${TARN_INTERFACE_VERSION}
+               INSTALL_RPATH "$ORIGIN"
+               LIBRARY_OUTPUT_DIRECTORY "${TARN_BUILD_LIBDIR}"
+               LINK_DEPENDS "${symbols};${shared_data}")
 endfunction()
 
 # tarn_add_model_library(<target>)
@@ -73,6 +87,9 @@ endfunction()
 #
 # Installs the library and the public headers added so far.
 function(tarn_install_library target)
+  if(NOT TARN_INSTALL)
+    return()
+  endif()
   install(TARGETS ${target} EXPORT TarnGUICommonTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
                                                                 NAMELINK_COMPONENT development
           PUBLIC_HEADER DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon COMPONENT development)

@@ -21,5 +21,5 @@ run(${CMAKE_COMMAND}
     -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix
     -DCMAKE_CXX_COMPILER=${CXX}
     -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
-    "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror ${sanitize}")
+    "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror -DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII ${sanitize}")
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)

@@ -14,6 +14,7 @@ if(EVERY_HEADER)
   endforeach()
 endif()
 
+set(strict "-DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII")
 if(SANITIZE)
   set(sanitize -fsanitize=${SANITIZE})
 endif()
@@ -28,7 +29,7 @@ if(TOOL STREQUAL "cmake")
       -DCMAKE_PREFIX_PATH=${PREFIX}
       -DCMAKE_CXX_COMPILER=${CXX}
       -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
-      "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror ${sanitize}"
+      "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror ${strict} ${sanitize}"
       -DHEADERS_DIR=${WORK_DIR}/headers)
   run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
 else()
@@ -38,11 +39,17 @@ else()
   run(pkg-config --variable=translationsdir TarnGUICommon)
   string(STRIP "${output}" translations)
   expect(EXISTS "${translations}/TarnGUICommon_zh_CN.qm")
+  run(pkg-config --variable=datadir TarnGUICommon)
+  string(STRIP "${output}" data)
+  expect(EXISTS "${data}/SysMaterial.xml")
   run(pkg-config --cflags --libs TarnGUICommon)
   separate_arguments(flags UNIX_COMMAND "${output}")
   run(${CXX}
       -std=c++17
-      -fPIC
+      -Wall
+      -Wextra
+      -Wpedantic
+      -Werror
       ${sanitize}
       ${CONSUMER_DIR}/main.cpp
       -o

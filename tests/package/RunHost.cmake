@@ -7,7 +7,7 @@ run(${PREFIX}/bin/tarnhost --version)
 expect(output STREQUAL "tarnhost ${VERSION}\n")
 run(${PREFIX}/bin/tarnhost
     --study
-    ${PREFIX}/share/TarnGUICommon/samples/flange.json
+    ${PREFIX}/share/tarnhost/samples/flange.json
     --out
     ${WORK_DIR}
     --runs

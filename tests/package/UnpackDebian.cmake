@@ -70,8 +70,9 @@ foreach(
   file
   icons/hicolor/scalable/apps/tarnhost.svg
   man/man1/tarnhost.1.gz
-  TarnGUICommon/SysMaterial.xml
-  TarnGUICommon/samples/flange.json
+  TarnGUICommon-${INTERFACE}/SysMaterial.xml
+  TarnGUICommon-${INTERFACE}/images/TopTitle.png
+  tarnhost/samples/flange.json
   doc/libtarnguicommon-dev/examples/small_host/main.cpp
   doc/libtarnguicommon-dev/html/index.html
   doc/libtarnguicommon-dev/schemas/Materials.xsd)

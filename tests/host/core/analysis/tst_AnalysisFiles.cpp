@@ -56,7 +56,7 @@ void tst_AnalysisFiles::TheSystemLibraryIsThatOfTheSources()
 void tst_AnalysisFiles::AnInstalledLibraryIsPreferred()
 {
     const QDir program(QCoreApplication::applicationDirPath());
-    const QString directory = program.filePath("../share/TarnGUICommon");
+    const QString directory = program.filePath("../share/TarnGUICommon-" TARN_INTERFACE);
     QVERIFY(QDir().mkpath(directory));
     Put(directory + "/SysMaterial.xml", "installed");
     const QByteArray found = ContentOf(InstalledSystemMaterials());

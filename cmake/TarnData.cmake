@@ -1,0 +1,21 @@
+# The data of the library, which belong to it whatever is built. Target TarnData puts them into the build tree.
+function(tarn_add_data folder)
+  foreach(file IN LISTS ARGN)
+    get_filename_component(name "${file}" NAME)
+    set(copy "${TARN_BUILD_DATA_DIR}/${folder}/${name}")
+    add_custom_command(OUTPUT "${copy}" COMMAND ${CMAKE_COMMAND} -E copy "${file}" "${copy}" DEPENDS "${file}" VERBATIM)
+    list(APPEND copies "${copy}")
+    if(TARN_INSTALL)
+      install(FILES "${file}" DESTINATION ${TARN_DATA_DIR}/${folder} COMPONENT runtime)
+    endif()
+  endforeach()
+  set(TARN_DATA ${TARN_DATA} ${copies} PARENT_SCOPE)
+endfunction()
+
+tarn_add_data(. "${PROJECT_SOURCE_DIR}/model/TarnFEMData/SysMaterial.xml")
+tarn_add_data(images "${PROJECT_SOURCE_DIR}/common/images/TopTitle.png")
+tarn_add_data(translations "${PROJECT_BINARY_DIR}/translations/TarnGUICommon_en.qm"
+              "${PROJECT_BINARY_DIR}/translations/TarnGUICommon_zh_CN.qm")
+add_custom_target(TarnData ALL DEPENDS ${TARN_DATA})
+add_dependencies(TarnData TarnTranslations)
+add_dependencies(TarnGUICommon TarnData)
