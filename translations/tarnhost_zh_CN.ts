@@ -1532,6 +1532,10 @@ Remove these as well?</source>
         <source>Redo</source>
         <translation>重做</translation>
     </message>
+    <message>
+        <source>S&amp;tudy</source>
+        <translation>研究(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>MaterialError</name>
@@ -2494,6 +2498,25 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>ResponseTable</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>表达式</translation>
+    </message>
+    <message>
+        <source>Responses</source>
+        <translation>响应</translation>
+    </message>
+    <message>
+        <source>Remove a response</source>
+        <translation>删除响应</translation>
+    </message>
+</context>
+<context>
     <name>ResultError</name>
     <message>
         <source>The solver&apos;s table of modes is damaged.</source>
@@ -2685,6 +2708,57 @@ Remove these as well?</source>
     <message>
         <source>Back to the design</source>
         <translation>返回设计</translation>
+    </message>
+</context>
+<context>
+    <name>SampleTable</name>
+    <message>
+        <source>Parameter</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>从</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>到</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>步长</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>样本</translation>
+    </message>
+    <message>
+        <source>%1, %2 in the design</source>
+        <translation>%1，设计中为 %2</translation>
+    </message>
+    <message>
+        <source>Samples of %1</source>
+        <translation>%1 的样本</translation>
+    </message>
+    <message>
+        <source>Tick %1</source>
+        <translation>勾选 %1</translation>
+    </message>
+    <message>
+        <source>Untick %1</source>
+        <translation>取消勾选 %1</translation>
+    </message>
+    <message>
+        <source>%1 is not a list of samples: type numbers with commas between them, such as 60, 65.5, 70</source>
+        <translation>%1 不是样本列表：请输入以英文逗号分隔的数，例如 60, 65.5, 70</translation>
+    </message>
+    <message>
+        <source>%1 is not a number</source>
+        <translation>%1 不是数</translation>
+    </message>
+    <message>
+        <source>The range of %1 %2</source>
+        <translation>%1 的范围%2</translation>
     </message>
 </context>
 <context>
@@ -3191,6 +3265,403 @@ Remove these as well?</source>
     <message>
         <source>Export STEP</source>
         <translation>导出 STEP</translation>
+    </message>
+</context>
+<context>
+    <name>StudyActions</name>
+    <message>
+        <source>&amp;Start</source>
+        <translation>启动(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Pause or continue</source>
+        <translation>暂停或继续(&amp;P)</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>停止(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Show this &amp;run</source>
+        <translation>显示此运行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Make this the design</source>
+        <translation>设为设计(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Export CSV</source>
+        <translation>导出 CSV(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Open study folder</source>
+        <translation>打开研究文件夹(&amp;O)</translation>
+    </message>
+    <message>
+        <source>The study cannot be read: %1</source>
+        <translation>无法读取研究：%1</translation>
+    </message>
+    <message>
+        <source>Open study folder</source>
+        <translation>打开研究文件夹</translation>
+    </message>
+    <message>
+        <source>The study is done: %1</source>
+        <translation>研究已完成：%1</translation>
+    </message>
+    <message>
+        <source>The study has ended: %1</source>
+        <translation>研究已结束：%1</translation>
+    </message>
+    <message>
+        <source>it has no value of the parameter &quot;%1&quot;</source>
+        <translation>它没有参数“%1”的值</translation>
+    </message>
+    <message>
+        <source>The part is that of run %1</source>
+        <translation>零件是运行 %1 的零件</translation>
+    </message>
+    <message>
+        <source>Run %1 cannot be shown: %2</source>
+        <translation>无法显示运行 %1：%2</translation>
+    </message>
+    <message>
+        <source>there is no parameter &quot;%1&quot; in the project</source>
+        <translation>项目中没有参数“%1”</translation>
+    </message>
+    <message>
+        <source>Make run %1 the design</source>
+        <translation>将运行 %1 设为设计</translation>
+    </message>
+    <message>
+        <source>Run %1 cannot be made the design: %2</source>
+        <translation>无法将运行 %1 设为设计：%2</translation>
+    </message>
+    <message>
+        <source>Export the runs that are shown</source>
+        <translation>导出显示的运行</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>表格 (*.csv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Wrote %1</source>
+        <translation>已写入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>StudyPanel</name>
+    <message>
+        <source>Parameters</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Parameters of the study</source>
+        <translation>研究的参数</translation>
+    </message>
+    <message>
+        <source>Design</source>
+        <translation>设计</translation>
+    </message>
+    <message>
+        <source>Full factorial</source>
+        <translation>全因子</translation>
+    </message>
+    <message>
+        <source>Latin hypercube</source>
+        <translation>拉丁超立方</translation>
+    </message>
+    <message>
+        <source>Sobol sequence</source>
+        <translation>Sobol 序列</translation>
+    </message>
+    <message>
+        <source>Box-Behnken</source>
+        <translation>Box-Behnken</translation>
+    </message>
+    <message>
+        <source>Central composite</source>
+        <translation>中心复合</translation>
+    </message>
+    <message>
+        <source>One at a time</source>
+        <translation>逐个变化</translation>
+    </message>
+    <message>
+        <source>List from a file</source>
+        <translation>文件中的列表</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>运行数</translation>
+    </message>
+    <message>
+        <source>Seed</source>
+        <translation>种子</translation>
+    </message>
+    <message>
+        <source>A whole number. The same seed gives the same runs.</source>
+        <translation>整数。相同的种子得到相同的运行。</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>A CSV file whose header names parameters</source>
+        <translation>表头为参数名的 CSV 文件</translation>
+    </message>
+    <message>
+        <source>Choose the list</source>
+        <translation>选择列表</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Analyses</source>
+        <translation>分析</translation>
+    </message>
+    <message>
+        <source>Vibration</source>
+        <translation>振动</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>静力</translation>
+    </message>
+    <message>
+        <source>Responses</source>
+        <translation>响应</translation>
+    </message>
+    <message>
+        <source>Add a response</source>
+        <translation>添加响应</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Remove the selected response</source>
+        <translation>删除选中的响应</translation>
+    </message>
+    <message>
+        <source>−</source>
+        <translation>−</translation>
+    </message>
+    <message>
+        <source>Results in</source>
+        <translation>结果保存到</translation>
+    </message>
+    <message>
+        <source>The folder for the results, seen from the project</source>
+        <translation>结果文件夹，相对于项目</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the results</source>
+        <translation>选择结果文件夹</translation>
+    </message>
+    <message>
+        <source>Runs at once</source>
+        <translation>同时运行</translation>
+    </message>
+    <message>
+        <source>STEP files</source>
+        <translation>STEP 文件</translation>
+    </message>
+    <message>
+        <source>Write the part of each run to a STEP file</source>
+        <translation>将每次运行的零件写入 STEP 文件</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>启动</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Progress of the study</source>
+        <translation>研究的进度</translation>
+    </message>
+    <message>
+        <source>Study</source>
+        <translation>研究</translation>
+    </message>
+    <message>
+        <source>1 run</source>
+        <translation>1 次运行</translation>
+    </message>
+    <message>
+        <source>%1 runs</source>
+        <translation>%1 次运行</translation>
+    </message>
+    <message>
+        <source>; the first ones show how long their analyses take</source>
+        <translation>；分析所需时间由最先的运行得出</translation>
+    </message>
+    <message>
+        <source>, about %1</source>
+        <translation>，约 %1</translation>
+    </message>
+    <message>
+        <source>Design of the study</source>
+        <translation>研究的设计</translation>
+    </message>
+    <message>
+        <source>The seed is a whole number from 0 to %1</source>
+        <translation>种子是 0 到 %1 的整数</translation>
+    </message>
+    <message>
+        <source>Seed of the study</source>
+        <translation>研究的种子</translation>
+    </message>
+    <message>
+        <source>Analyses of the study</source>
+        <translation>研究的分析</translation>
+    </message>
+    <message>
+        <source>List of runs</source>
+        <translation>运行列表</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>表格 (*.csv);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Folder for the results of the study</source>
+        <translation>研究结果的文件夹</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Paused. Continue goes on with the project as it was at the start.</source>
+        <translation>已暂停。继续时使用启动时的项目。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 runs have ended</source>
+        <translation>%2 次运行中 %1 个已结束</translation>
+    </message>
+    <message>
+        <source>, %1 of them failed</source>
+        <translation>，其中 %1 个失败</translation>
+    </message>
+    <message>
+        <source>; %1 running</source>
+        <translation>；%1 个正在运行</translation>
+    </message>
+    <message>
+        <source>; %1 left</source>
+        <translation>；剩余 %1</translation>
+    </message>
+</context>
+<context>
+    <name>StudyPreview</name>
+    <message>
+        <source>Tick a parameter that has samples.</source>
+        <translation>请勾选一个有样本的参数。</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分钟</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 小时 %2 分钟</translation>
+    </message>
+</context>
+<context>
+    <name>StudyProcess</name>
+    <message>
+        <source>The study cannot be started: %1: %2</source>
+        <translation>无法启动研究：%1：%2</translation>
+    </message>
+    <message>
+        <source>the program that ran it crashed</source>
+        <translation>运行它的程序崩溃了</translation>
+    </message>
+</context>
+<context>
+    <name>StudyResults</name>
+    <message>
+        <source>Filter</source>
+        <translation>过滤</translation>
+    </message>
+    <message>
+        <source>Only runs for which this expression is true are shown</source>
+        <translation>只显示此表达式为真的运行</translation>
+    </message>
+    <message>
+        <source>for example mass_kg &lt; 2 &amp;&amp; volume_mm3 &gt; 1000</source>
+        <translation>例如 mass_kg &lt; 2 &amp;&amp; volume_mm3 &gt; 1000</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Study results</source>
+        <translation>研究结果</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>表格</translation>
+    </message>
+    <message>
+        <source>The filter cannot be used: %1</source>
+        <translation>无法使用过滤条件：%1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 runs</source>
+        <translation>%2 次运行中的 %1 个</translation>
+    </message>
+    <message>
+        <source>, %1 failed</source>
+        <translation>，%1 个失败</translation>
+    </message>
+    <message>
+        <source>, %1 selected</source>
+        <translation>，已选 %1 个</translation>
+    </message>
+</context>
+<context>
+    <name>StudyTable</name>
+    <message>
+        <source>ok</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>失败：%1</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>运行</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+</context>
+<context>
+    <name>StudyTableView</name>
+    <message>
+        <source>Results of the study</source>
+        <translation>研究的结果</translation>
     </message>
 </context>
 <context>

@@ -30,6 +30,9 @@
 #include "SolveActions.h"
 #include "SolveDock.h"
 #include "SolverActions.h"
+#include "StudyActions.h"
+#include "StudyPanel.h"
+#include "StudyResults.h"
 #include "ViewActions.h"
 #include "WindowState.h"
 
@@ -70,6 +73,8 @@ MainWindow::MainWindow(QWidget* parent)
 
 MainWindow::~MainWindow()
 {
+    // Before the docks, which it fills.
+    delete m_study;
     // Before the part: the steps on its undo stack are the session's.
     delete m_projectActions;
     delete m_session;
@@ -93,9 +98,12 @@ void MainWindow::CreateDocks()
     m_tree = new AnalysisTree(*m_analysis, this);
     m_check = new SetupCheckDock(this);
     m_parameters = new ParameterPanel(*m_design, this);
+    m_study = new StudyActions(*m_session, *m_design, *m_part, this);
     addDockWidget(Qt::LeftDockWidgetArea, m_features);
     addDockWidget(Qt::LeftDockWidgetArea, m_fields);
     tabifyDockWidget(m_features, m_tree);
+    addDockWidget(Qt::RightDockWidgetArea, m_study->Panel());
+    m_study->Panel()->hide();
     m_features->raise();
     // Empty until a feature is selected or the cursor is on the part.
     tabifyDockWidget(m_fields, m_position);
@@ -109,6 +117,8 @@ void MainWindow::CreateDocks()
     addDockWidget(Qt::RightDockWidgetArea, &m_solve->Results());
     m_solve->Progress().hide();
     m_solve->Results().hide();
+    tabifyDockWidget(m_parameters, m_study->Results());
+    m_study->Results()->hide();
     resizeDocks({m_features}, {400}, Qt::Horizontal);
     resizeDocks({m_features, m_fields}, {300, 240}, Qt::Vertical);
     resizeDocks({m_parameters, m_messages}, {820, 620}, Qt::Horizontal);
@@ -119,9 +129,9 @@ void MainWindow::CreateDocks()
 
 void MainWindow::StackDocks()
 {
-    for (QDockWidget* const dock :
-         std::initializer_list<QDockWidget*>{m_fields, m_position, m_parameters, m_messages,
-                                             m_check, &m_solve->Progress(), &m_solve->Results()})
+    for (QDockWidget* const dock : std::initializer_list<QDockWidget*>{
+             m_fields, m_position, m_parameters, m_messages, m_check, &m_solve->Progress(),
+             &m_solve->Results(), m_study->Panel(), m_study->Results()})
         tabifyDockWidget(m_tree, dock);
     m_features->raise();
 }
@@ -148,6 +158,7 @@ void MainWindow::CreateMenus()
     m_solve->FillMenu(analysisMenu);
     auto* const solver = new SolverActions(this);
     solver->FillMenu(*menuBar()->addMenu(tr("&Solver")));
+    m_study->FillMenu(*menuBar()->addMenu(tr("S&tudy")));
 
     // Dialogs write to the shared stores, which emit no signals: whatever an action has changed is
     // a step of its own.
@@ -195,9 +206,9 @@ void MainWindow::CreateViewMenu()
     view.addAction((new MeasureTool(*m_part, *m_picker, this))->Action());
     view.addSeparator();
     const QList<QDockWidget*> docks = {
-        m_features,         m_fields,   m_position, m_tree,
-        m_parameters,       m_messages, m_check,    &m_solve->Progress(),
-        &m_solve->Results()};
+        m_features,          m_fields,         m_position,        m_tree,
+        m_parameters,        m_messages,       m_check,           &m_solve->Progress(),
+        &m_solve->Results(), m_study->Panel(), m_study->Results()};
     for (const QDockWidget* const dock : docks)
         view.addAction(dock->toggleViewAction());
     QToolBar* const toolBar = addToolBar(tr("View"));

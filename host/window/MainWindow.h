@@ -21,6 +21,7 @@ class ProjectSession;
 class PartPanel;
 class SetupCheckDock;
 class SolveActions;
+class StudyActions;
 
 /// The host's window: menus that run the dialogs, and views of the messages, the parameters, the
 /// features and the part that they build.
@@ -84,4 +85,5 @@ private:
     DesignActions* m_designActions = nullptr;
     PartActions* m_partActions = nullptr;
     SolveActions* m_solve = nullptr;
+    StudyActions* m_study = nullptr;
 };

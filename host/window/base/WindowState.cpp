@@ -10,7 +10,7 @@ namespace {
 
 const QLatin1String GeometryKey("window/geometry");
 const QLatin1String LayoutKey("window/layout");
-constexpr int LayoutVersion = 2; // To be raised when docks are added or removed.
+constexpr int LayoutVersion = 3; // To be raised when docks are added or removed.
 constexpr QSize RoomySize(1440, 940);
 
 } // namespace

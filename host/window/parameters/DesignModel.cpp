@@ -112,6 +112,21 @@ int DesignModel::TakeRun(const QSet<QString>& ticked)
     return given;
 }
 
+void DesignModel::ShowRun(const QStringList& names, const std::vector<double>& values)
+{
+    ParameterEntries entries = Design();
+    for (int i = 0; i < names.size(); ++i) {
+        const int index = FindParameter(entries, names[i]);
+        if (index < 0)
+            throw ParameterError(tr("there is no parameter %1").arg(Quoted(names[i])));
+        entries[std::size_t(index)].SetNumber(values[std::size_t(i)]);
+    }
+    ExpectRuns();
+    for (const ParameterEntry& entry : entries)
+        GlobalParaMeterMgr::AddParameter(entry.Name(), entry.record);
+    TakeRun(QSet<QString>(names.begin(), names.end()));
+}
+
 void DesignModel::BackToDesign()
 {
     if (!m_holdsRun)

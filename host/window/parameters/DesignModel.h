@@ -7,6 +7,9 @@
 #include <QHash>
 #include <QObject>
 #include <QSet>
+#include <QStringList>
+
+#include <vector>
 
 /// The parameters of the open project: GlobalParaMeterMgr, which the dialogs share, with what it
 /// has no place for: units, and the design while the store holds a run of the experiments.
@@ -46,6 +49,9 @@ public:
     /// design, and settles the expressions of all that are not ticked. Returns how many got theirs
     /// back.
     int TakeRun(const QSet<QString>& ticked);
+    /// Puts a run with these @p values of the parameters @p names into the store. @throws
+    /// ParameterError if there is no such parameter
+    void ShowRun(const QStringList& names, const std::vector<double>& values);
     /// Ends a run.
     void BackToDesign();
 

@@ -171,6 +171,12 @@ void ProjectSession::SetProperties(const Project& project)
     m_part.Rebuild();
 }
 
+void ProjectSession::SetStudy(const StudyDefinition& study, const QString& text)
+{
+    m_values.SetStudy(study);
+    TakeChange(text);
+}
+
 void ProjectSession::TakeChange(const QString& text)
 {
     State now = CurrentState();

@@ -50,6 +50,8 @@ public:
 
     /// One step: title, density, material and conditions of @p project.
     void SetProperties(const Project& project);
+    /// One step, which @p text describes.
+    void SetStudy(const StudyDefinition& study, const QString& text);
 
 public Q_SLOTS:
     /// To be called after a change of the models or stores; makes it a step that @p text describes.

@@ -84,6 +84,15 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                                  "Solver/Run Nastran",
                                  "Solver/Open results in HyperView",
                                  "Solver/Solver paths",
+                                 "Study/Study",
+                                 "Study/Study results",
+                                 "Study/Start",
+                                 "Study/Pause or continue",
+                                 "Study/Stop",
+                                 "Study/Open study folder",
+                                 "Study/Show this run",
+                                 "Study/Make this the design",
+                                 "Study/Export CSV",
                                  "View/Fit",
                                  "View/Front",
                                  "View/Back",
@@ -107,7 +116,9 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                                  "View/Messages",
                                  "View/Set-up check",
                                  "View/Solve",
-                                 "View/Results"}));
+                                 "View/Results",
+                                 "View/Study",
+                                 "View/Study results"}));
 }
 
 void tst_MainWindow::TheDocksSurroundTheShape()

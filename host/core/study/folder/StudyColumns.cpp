@@ -11,8 +11,9 @@ namespace {
 
 constexpr double NoValue = std::numeric_limits<double>::quiet_NaN();
 
-// Why an expression can never have a value; empty if it may have one. Values that nobody chooses
-// rarely make a divisor 0, which would hide what follows.
+} // namespace
+
+// Values that nobody chooses rarely make a divisor 0, which would hide what follows.
 QString ExpressionFault(const QString& expression, const QStringList& names)
 {
     constexpr double Probe = 0.7390851332;
@@ -25,8 +26,6 @@ QString ExpressionFault(const QString& expression, const QStringList& names)
                                error.contains(QLatin1String("becomes too large"));
     return isOfTheValues ? QString() : error;
 }
-
-} // namespace
 
 StudyColumns::StudyColumns(const Project& project)
     : m_project(project)

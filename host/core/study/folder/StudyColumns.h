@@ -10,6 +10,9 @@
 
 class Project;
 
+/// Why an expression over the columns @p names can never have a value; empty if it may have one.
+QString ExpressionFault(const QString& expression, const QStringList& names);
+
 /// The columns of a study's results beyond the measures of the part: results of analyses, then
 /// responses.
 class StudyColumns

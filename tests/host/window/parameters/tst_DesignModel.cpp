@@ -15,6 +15,8 @@ private Q_SLOTS:
     void AnEditIsToldBeforeTheChange();
     void ReplacingIsNotAnEdit();
     void ARunLeavesTheDesign();
+    void ARunOfAStudyIsShown();
+    void ARunOfOtherParametersIsRefused();
     void AnEditLeavesTheRun();
     void ANewNameIsTold();
     void ABadNameIsRefused();
@@ -102,6 +104,36 @@ void tst_DesignModel::ARunLeavesTheDesign()
     model.BackToDesign();
     QVERIFY(!model.HoldsRun());
     QVERIFY(model.Stored() == design);
+}
+
+void tst_DesignModel::ARunOfAStudyIsShown()
+{
+    Store("a", "3");
+    Store("b", "2*a");
+    Store("c", "a*b");
+    DesignModel model;
+    model.Open({});
+    // Also one with an expression; the others are calculated.
+    model.ShowRun({"a", "b"}, {5.0, 7.0});
+    QVERIFY(model.HoldsRun());
+    QCOMPARE(Value("a"), 5.0);
+    QCOMPARE(Value("b"), 7.0);
+    QCOMPARE(Value("c"), 35.0);
+    model.ShowRun({"a"}, {1.0});
+    QCOMPARE(Value("b"), 2.0);
+    model.BackToDesign();
+    QCOMPARE(Value("a"), 3.0);
+    QCOMPARE(Value("c"), 18.0);
+}
+
+void tst_DesignModel::ARunOfOtherParametersIsRefused()
+{
+    Store("a", "3");
+    DesignModel model;
+    model.Open({});
+    QVERIFY_EXCEPTION_THROWN(model.ShowRun({"a", "gone"}, {5.0, 7.0}), ParameterError);
+    QVERIFY(!model.HoldsRun());
+    QCOMPARE(Value("a"), 3.0);
 }
 
 void tst_DesignModel::AnEditLeavesTheRun()

@@ -70,6 +70,11 @@ void tst_ProjectSession::EveryChangeIsUndoneAndRedone_data()
         entries[0].unit = "inch";
         open.design.Edit(entries, "unit");
     });
+    row("study", [](OpenSession& open) {
+        StudyDefinition study;
+        study.responses = {{"ratio", "mass_kg / volume_mm3"}};
+        open.session.SetStudy(study, "study");
+    });
     row("order", [](OpenSession& open) {
         ParameterEntries entries = open.design.Design();
         std::swap(entries[0], entries[1]);

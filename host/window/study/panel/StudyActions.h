@@ -1,0 +1,78 @@
+#pragma once
+
+#include "StudyFollower.h"
+
+#include <QObject>
+#include <QStringList>
+
+class DesignModel;
+class PartModel;
+class ProjectSession;
+class QAction;
+class QMenu;
+class QWidget;
+class StudyPanel;
+class StudyProcess;
+class StudyResults;
+class StudySelection;
+class StudyTable;
+class StudyWatch;
+
+/// Runs the study of the project, and opens studies that were run elsewhere: connects the panel,
+/// the child process, the folder and the results.
+class StudyActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The docks belong to @p window, which also owns this object; the models must outlive it.
+    StudyActions(ProjectSession& session, DesignModel& design, PartModel& part, QWidget* window);
+    /// Ends a study that is running.
+    ~StudyActions() override;
+
+    StudyPanel* Panel() const { return m_panel; }
+    StudyResults* Results() const { return m_results; }
+
+    void FillMenu(QMenu& menu);
+
+    /// Shows the study in the folder at @p path, and follows it while it runs.
+    void OpenFolder(const QString& path);
+
+private:
+    void CreateActions();
+    void Connect();
+    void Start();
+    void PauseOrContinue();
+    void ChooseFolder();
+    void Follow(const QString& path, bool isExpected);
+    void ShowResults();
+    void TakeNews(const StudyFollower::News& news);
+    void ShowEnd(const QString& problem);
+    void ShowProcessState();
+    void UpdateActions();
+    /// The parameters that the folder's runs give values to.
+    QStringList RunParameters() const;
+    std::vector<double> ValuesOf(int row, const QStringList& names) const;
+    void ShowRun();
+    void MakeDesign();
+    void ExportTable();
+
+    ProjectSession& m_session;
+    DesignModel& m_design;
+    QWidget* m_window;
+    StudySelection* m_selection;
+    StudyTable* m_table;
+    StudyProcess* m_process;
+    StudyWatch* m_watch;
+    StudyPanel* m_panel;
+    StudyResults* m_results;
+    QStringList m_inputs; // Of the folder that is followed; empty where unknown.
+    QString m_folder;
+
+    QAction* m_start = nullptr;
+    QAction* m_pause = nullptr;
+    QAction* m_stop = nullptr;
+    QAction* m_showRun = nullptr;
+    QAction* m_makeDesign = nullptr;
+    QAction* m_export = nullptr;
+};

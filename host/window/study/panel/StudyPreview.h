@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+class Project;
+
+/// What a study would do.
+struct StudyPreview
+{
+    int runs = 0;
+    QString problem; ///< Why it cannot be started; empty if it can.
+};
+
+/// Of the study of @p project. Leaves the parameter store as it is.
+StudyPreview PreviewOf(const Project& project);
+
+/// A time for users, with its unit: "0.4 s", "12 s", "5 min", "3 h 20 min".
+QString DurationText(double seconds);
