@@ -45,7 +45,7 @@ void ChooseRun(int run)
 {
     Store("bore_diameter", 60.0 + 2.0 * (run % 10));
     Store("thickness", 16.0 + run / 10 % 10);
-    EvaluateParameters();
+    ParameterEvaluator::Evaluate();
 }
 
 // As ours: every body, not only the part.

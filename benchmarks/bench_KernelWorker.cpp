@@ -26,7 +26,7 @@ void ChooseRun(int run)
     };
     store("bore_diameter", 60.0 + 2.0 * (run % 10));
     store("thickness", 16.0 + run / 10 % 10);
-    EvaluateParameters();
+    ParameterEvaluator::Evaluate();
 }
 
 // The sample flange, as the window wants it: with all shapes, and with triangles.

@@ -62,7 +62,7 @@ int main(int argc, char** argv)
     return RunBenchmarks(argc, argv, [] {
         const Project project = Project::Load(Project::SamplePath());
         project.FillParameterStore();
-        EvaluateParameters();
+        ParameterEvaluator::Evaluate();
         const auto add = [flange = FeatureBuilder::Build(project.Features()).shape](
                              const char* name, auto measuring) {
             const auto run = [flange, measuring](benchmark::State& state) {

@@ -33,7 +33,7 @@ int main(int argc, char** argv)
         Message::DefaultMessenger()->ChangePrinters().Clear();
         const Project project = Project::Load(Project::SamplePath());
         project.FillParameterStore();
-        EvaluateParameters();
+        ParameterEvaluator::Evaluate();
         const auto add = [](const char* name, auto write) {
             const auto run = [write](benchmark::State& state) {
                 Run(state, write);

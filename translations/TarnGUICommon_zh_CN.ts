@@ -1009,6 +1009,21 @@
     </message>
 </context>
 <context>
+    <name>ParameterEvaluator</name>
+    <message>
+        <source>Circular reference: %1</source>
+        <translation>表达式相互依赖：%1</translation>
+    </message>
+    <message>
+        <source>its expression uses &quot;%1&quot;, which is not a parameter</source>
+        <translation>其表达式使用了“%1”，它不是参数</translation>
+    </message>
+    <message>
+        <source>it uses &quot;%1&quot;, which has no value</source>
+        <translation>它使用的“%1”没有值</translation>
+    </message>
+</context>
+<context>
     <name>PolygonNumInputDlg</name>
     <message>
         <source>Input</source>

@@ -95,7 +95,7 @@ public:
     explicit TwinEditor(const Project& project)
     {
         project.FillParameterStore();
-        EvaluateParameters();
+        ParameterEvaluator::Evaluate();
         m_editor.m_Slot_RefreshGUI();
         FitTables(m_editor);
         m_editor.setAttribute(Qt::WA_DontShowOnScreen);

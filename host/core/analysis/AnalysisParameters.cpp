@@ -81,7 +81,7 @@ AnalysisDefinition WithRenamedParameter(AnalysisDefinition definition, const QSt
                                         const QString& after)
 {
     const auto follow = [&](QString& expression) {
-        expression = WithRenamed(expression, before, after);
+        expression = tarn::WithRenamed(expression, before, after);
     };
     follow(definition.meshSize);
     VisitRecords(definition.properties, follow);

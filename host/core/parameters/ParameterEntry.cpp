@@ -202,7 +202,7 @@ int FindParameter(const ParameterEntries& entries, const QString& name)
 
 void CheckParameterName(const QString& name)
 {
-    if (!IsExpressionName(name))
+    if (!tarn::IsExpressionName(name))
         throw ParameterError(ParameterError::tr("%1 is not a name: it has to begin with a letter, "
                                                 "and letters, digits and underscores may follow")
                                  .arg(Quoted(name)));
@@ -219,9 +219,9 @@ void RenameParameter(ParameterEntries& entries, int index, const QString& name)
         throw ParameterError(
             ParameterError::tr("there is already a parameter %1").arg(Quoted(name)));
     renamed.m_strName = name;
-    if (!IsExpressionName(before))
+    if (!tarn::IsExpressionName(before))
         return;
     for (ParameterEntry& entry : entries)
         entry.record.m_strExpression =
-            WithRenamed(entry.Expression(), before, name).toLocal8Bit().toStdString();
+            tarn::WithRenamed(entry.Expression(), before, name).toLocal8Bit().toStdString();
 }

@@ -31,7 +31,7 @@ void VisitExpressions(Feature& feature, const ExpressionVisitor& visit)
 
 bool UsesParameter(const QString& expression, const QSet<QString>& names)
 {
-    const QStringList used = NamesIn(expression);
+    const QStringList used = tarn::NamesIn(expression);
     return std::any_of(used.begin(), used.end(),
                        [&names](const QString& name) { return names.contains(name); });
 }
@@ -58,7 +58,7 @@ FeatureList WithRenamedParameter(FeatureList features, const QString& before, co
             continue;
         Feature feature = features.At(index);
         VisitExpressions(feature, [&](QString& expression) {
-            expression = WithRenamed(expression, before, after);
+            expression = tarn::WithRenamed(expression, before, after);
         });
         features.Replace(index, feature);
     }
@@ -69,6 +69,6 @@ std::vector<Condition> WithRenamedParameter(std::vector<Condition> conditions,
                                             const QString& before, const QString& after)
 {
     for (Condition& condition : conditions)
-        condition.expression = WithRenamed(condition.expression, before, after);
+        condition.expression = tarn::WithRenamed(condition.expression, before, after);
     return conditions;
 }

@@ -84,7 +84,7 @@ void SolveRunner::ChooseParameters() const
         record.m_varRawValue = value;
         record.m_strValue = ExactText(value);
     }
-    const std::vector<QString> problems = EvaluateParameters();
+    const std::vector<QString> problems = ParameterEvaluator::Evaluate().messages;
     if (!problems.empty())
         throw HostError(QStringLiteral("%1: %2").arg(
             m_project.Path(),

@@ -67,7 +67,7 @@ QString Joined(const std::vector<QString>& problems)
 // The values of the parameters @p names where nothing varies.
 std::vector<double> OwnValues(const Project& project, const QStringList& names)
 {
-    const QString problem = Joined(EvaluateParameters());
+    const QString problem = Joined(ParameterEvaluator::Evaluate().messages);
     if (!problem.isEmpty())
         Fail(project, problem);
     std::vector<double> values;
@@ -172,5 +172,5 @@ QString Study::Choose(const QStringList& names, const std::vector<double>& value
         record.m_varRawValue = record.m_dValue;
         record.m_strValue = ExactText(record.m_dValue);
     }
-    return Joined(EvaluateParameters(QSet<QString>(names.begin(), names.end())));
+    return Joined(ParameterEvaluator::Evaluate(QSet<QString>(names.begin(), names.end())).messages);
 }

@@ -1,5 +1,6 @@
 #include "DesignModel.h"
 
+#include "DesignRun.h"
 #include "GlobalParaMeterMgr.h"
 #include "JsonSection.h"
 #include "MessageLevel.h"
@@ -33,7 +34,7 @@ void DesignModel::Open(const QHash<QString, QString>& units)
     m_units = units;
     m_design.clear();
     m_holdsRun = false;
-    NoteUsedParameters();
+    ParameterEvaluator::NoteUsedParameters();
     Settle();
     Q_EMIT Changed();
 }
@@ -49,7 +50,7 @@ void DesignModel::Store(const ParameterEntries& entries)
     }
     m_design.clear();
     m_holdsRun = false;
-    NoteUsedParameters();
+    ParameterEvaluator::NoteUsedParameters();
     Settle();
 }
 
@@ -97,19 +98,14 @@ void DesignModel::ExpectRuns()
 
 int DesignModel::TakeRun(const QSet<QString>& ticked)
 {
-    int given = 0;
-    for (const ParameterEntry& entry : m_design) {
-        const auto stored = GlobalParaMeterMgr::m_nameMapParameters.find(entry.Name());
-        if (ticked.contains(entry.Name()) ||
-            stored == GlobalParaMeterMgr::m_nameMapParameters.end())
-            continue;
-        stored->second = entry.record;
-        ++given;
-    }
+    ParameterMap design;
+    for (const ParameterEntry& entry : m_design)
+        design[entry.Name()] = entry.record;
     m_holdsRun = true;
-    Settle(ticked);
+    const DesignRun::Completion run = DesignRun::Complete(design, ticked);
+    Take(run.faults);
     Q_EMIT Changed();
-    return given;
+    return run.restored;
 }
 
 void DesignModel::ShowRun(const QStringList& names, const std::vector<double>& values)
@@ -140,9 +136,14 @@ void DesignModel::BackToDesign()
     Q_EMIT Changed();
 }
 
-void DesignModel::Settle(const QSet<QString>& held)
+void DesignModel::Settle()
 {
-    m_faults = EvaluateStore(held);
+    Take(ParameterEvaluator::Evaluate());
+}
+
+void DesignModel::Take(const ParameterEvaluator::Faults& faults)
+{
+    m_faults = faults;
     for (const QString& problem : m_faults.messages)
         PostMessageToChannel(ErrorLevel, problem);
 }

@@ -65,10 +65,11 @@ Q_SIGNALS:
 
 private:
     void Store(const ParameterEntries& entries);
-    void Settle(const QSet<QString>& held = {});
+    void Settle();
+    void Take(const ParameterEvaluator::Faults& faults);
 
     ParameterEntries m_design; // Of a run, or before one.
     QHash<QString, QString> m_units;
-    EvaluationFaults m_faults;
+    ParameterEvaluator::Faults m_faults;
     bool m_holdsRun = false;
 };

@@ -135,7 +135,7 @@ void ParameterTable::ShowRow(int row, const ParameterEntry& entry)
 {
     QTableWidgetItem& name = Show(row, NameColumn, entry.Name());
     name.setData(CodeRole, entry.Name());
-    if (!IsExpressionName(entry.Name())) {
+    if (!tarn::IsExpressionName(entry.Name())) {
         name.setForeground(WrongColor);
         name.setToolTip(tr("No expression can use a parameter of this name"));
     }

@@ -196,7 +196,7 @@ void ProjectSession::FollowName(const QString& before, const QString& after)
     m_analysis.SetDefinition(WithRenamedParameter(m_analysis.Definition(), before, after));
     StudyDefinition study = m_values.Study();
     for (StudyResponse& response : study.responses)
-        response.expression = WithRenamed(response.expression, before, after);
+        response.expression = tarn::WithRenamed(response.expression, before, after);
     m_values.SetStudy(study);
 }
 

@@ -2,6 +2,7 @@
 
 #include "DOEDlg.h"
 #include "DesignModel.h"
+#include "DesignRun.h"
 #include "GlobalParaMeterMgr.h"
 #include "JsonSection.h"
 #include "MessageLevel.h"
@@ -23,16 +24,6 @@ enum Column
     ButtonColumn
 };
 
-QSet<QString> TickedParameters()
-{
-    QSet<QString> names;
-    for (const auto& [name, samples] : g_mapParaArrays) {
-        if (samples.bChecked != 0)
-            names.insert(name);
-    }
-    return names;
-}
-
 } // namespace
 
 DoeSession::DoeSession(DOEDlg& dialog, DesignModel& design, QObject* parent)
@@ -51,7 +42,7 @@ DoeSession::~DoeSession() = default;
 
 void DoeSession::ConnectRows(const QTableWidget& table)
 {
-    const QSet<QString> ticked = TickedParameters();
+    const QSet<QString> ticked = DesignRun::Ticked();
     for (int row = 0; row < table.rowCount(); ++row) {
         const QTableWidgetItem* const item = table.item(row, NameColumn);
         auto* const check = qobject_cast<QCheckBox*>(table.cellWidget(row, TickColumn));
@@ -80,7 +71,7 @@ void DoeSession::ConnectRows(const QTableWidget& table)
 
 void DoeSession::CompleteRun()
 {
-    const QSet<QString> ticked = TickedParameters();
+    const QSet<QString> ticked = DesignRun::Ticked();
     QStringList run;
     for (const auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters) {
         if (ticked.contains(name))

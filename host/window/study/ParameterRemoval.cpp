@@ -18,7 +18,7 @@ class Text
 
 bool UsesOneOf(const ParameterEntry& entry, const QSet<QString>& names)
 {
-    const QStringList used = NamesIn(entry.Expression());
+    const QStringList used = tarn::NamesIn(entry.Expression());
     return std::any_of(used.begin(), used.end(),
                        [&names](const QString& name) { return names.contains(name); });
 }

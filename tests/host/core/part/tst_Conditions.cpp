@@ -158,7 +158,7 @@ void tst_Conditions::TheSampleReportsImpossibleParameters()
     QFETCH(double, value);
     const Project project = Project::Load(Project::SamplePath());
     project.FillParameterStore();
-    EvaluateParameters();
+    ParameterEvaluator::Evaluate();
     Store(name, value);
     QTEST(Reason(project.Conditions()), "reason");
 }

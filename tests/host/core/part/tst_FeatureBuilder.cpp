@@ -65,7 +65,7 @@ void tst_FeatureBuilder::TheSampleFlangeHasTheVolumeOfItsFormula()
     project.FillParameterStore();
     StoreScalar("bolt_count", count);
     StoreScalar("fillet_radius", fillet);
-    QVERIFY(EvaluateParameters().empty());
+    QVERIFY(ParameterEvaluator::Evaluate().messages.empty());
     const TopoDS_Shape flange = FeatureBuilder::Build(project.Features()).shape;
     const double expected = FlangeVolume(70.0, count, fillet);
     const double built = MassOf(flange).volume;

@@ -42,7 +42,7 @@ private Q_SLOTS:
 static QString Everything(const Project& project)
 {
     project.FillParameterStore();
-    EvaluateParameters();
+    ParameterEvaluator::Evaluate();
     QStringList lines = {project.Title(), QString::number(project.Density(), 'g', 17)};
     for (const auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters)
         lines << name << QString::number(record.m_nType) << record.m_strValue

@@ -3,10 +3,8 @@
 #include "ExpressionEngine.h"
 #include "ExpressionNames.h"
 #include "GlobalParaMeterMgr.h"
-#include "NumberTexts.h"
+#include "NumberText.h"
 
-#include <QCoreApplication>
-#include <QHash>
 #include <QStringList>
 
 #include <algorithm>
@@ -18,12 +16,6 @@
 namespace {
 
 constexpr int NotVisited = -1;
-
-/// The context of the translations.
-class Text
-{
-    Q_DECLARE_TR_FUNCTIONS(ParameterEvaluator)
-};
 
 QString TextOf(const ParametersDef& record)
 {
@@ -42,7 +34,7 @@ void SetValue(ParametersDef& record, double value)
 {
     record.m_dValue = value;
     record.m_varRawValue = value;
-    record.m_strValue = ShortText(value);
+    record.m_strValue = tarn::NumberText(value);
 }
 
 /// A parameter with an expression, and the expressions that it depends on.
@@ -67,7 +59,7 @@ class Evaluator
 public:
     explicit Evaluator(const QSet<QString>& held) { CollectNodes(held); }
 
-    EvaluationFaults Run()
+    ParameterEvaluator::Faults Run()
     {
         for (int node = 0; node < int(m_nodes.size()); ++node) {
             if (m_nodes[std::size_t(node)].order == NotVisited)
@@ -90,7 +82,7 @@ private:
             Node node;
             node.name = name;
             node.record = &record;
-            node.uses = ParametersIn(TextOf(record), names);
+            node.uses = tarn::ParametersIn(TextOf(record), names);
             m_nodes.push_back(std::move(node));
         }
         for (Node& node : m_nodes) {
@@ -175,8 +167,8 @@ private:
             names << At(member).name;
         }
         names << At(node).name;
-        const QString message =
-            Text::tr("Circular reference: %1").arg(names.join(QStringLiteral(" -> ")));
+        const QString message = ParameterEvaluator::tr("Circular reference: %1")
+                                    .arg(names.join(QStringLiteral(" -> ")));
         m_faults.messages.push_back(message);
         for (const int member : component)
             Fail(At(member), message);
@@ -196,7 +188,8 @@ private:
         for (const QString& name : qAsConst(node.uses)) {
             if (store.count(name) == 0) {
                 const QString reason =
-                    Text::tr("its expression uses \"%1\", which is not a parameter").arg(name);
+                    ParameterEvaluator::tr("its expression uses \"%1\", which is not a parameter")
+                        .arg(name);
                 Fail(node, reason);
                 m_faults.messages.push_back(QStringLiteral("%1: %2").arg(node.name, reason));
                 return;
@@ -215,7 +208,8 @@ private:
         const auto bad = std::find_if(node.needs.begin(), node.needs.end(),
                                       [this](int needed) { return At(needed).isBad; });
         if (bad != node.needs.end()) {
-            Fail(node, Text::tr("it uses \"%1\", which has no value").arg(At(*bad).name));
+            Fail(node,
+                 ParameterEvaluator::tr("it uses \"%1\", which has no value").arg(At(*bad).name));
             return;
         }
         Fail(node, reason);
@@ -227,24 +221,19 @@ private:
     std::vector<int> m_path; // From the root of the search to the current node.
     std::vector<int> m_open; // The open nodes, in the order in which they were entered.
     int m_visited = 0;
-    EvaluationFaults m_faults;
+    ParameterEvaluator::Faults m_faults;
 };
 
 } // namespace
 
-EvaluationFaults EvaluateStore(const QSet<QString>& held)
+ParameterEvaluator::Faults ParameterEvaluator::Evaluate(const QSet<QString>& held)
 {
     return Evaluator(held).Run();
 }
 
-std::vector<QString> EvaluateParameters(const QSet<QString>& held)
-{
-    return EvaluateStore(held).messages;
-}
-
-void NoteUsedParameters()
+void ParameterEvaluator::NoteUsedParameters()
 {
     const QSet<QString> names = StoredNames();
     for (auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters)
-        record.m_strExpressPara = ParametersIn(TextOf(record), names).join(QLatin1Char(','));
+        record.m_strExpressPara = tarn::ParametersIn(TextOf(record), names).join(QLatin1Char(','));
 }

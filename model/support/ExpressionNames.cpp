@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <functional>
 
+namespace tarn {
+
 namespace {
 
 bool IsNameCharacter(QChar c)
@@ -114,3 +116,5 @@ QString WithRenamed(const QString& expression, const QString& before, const QStr
     });
     return renamed + expression.mid(done);
 }
+
+} // namespace tarn

@@ -7,6 +7,8 @@
 /// @file
 /// The names in an expression, as docs/expressions.md describes them. The expression may be wrong.
 
+namespace tarn {
+
 /// Whether @p text can be used as a name in an expression.
 bool IsExpressionName(const QString& text);
 
@@ -20,3 +22,5 @@ QStringList ParametersIn(const QString& expression, const QSet<QString>& paramet
 
 /// @p expression with @p after in place of each value named @p before.
 QString WithRenamed(const QString& expression, const QString& before, const QString& after);
+
+} // namespace tarn

@@ -57,7 +57,7 @@ static double Value(const char* name)
 static QStringList Messages(const QSet<QString>& held = {})
 {
     QStringList messages;
-    for (const QString& message : EvaluateParameters(held))
+    for (const QString& message : ParameterEvaluator::Evaluate(held).messages)
         messages << message;
     return messages;
 }
@@ -166,7 +166,7 @@ void tst_ParameterEvaluator::EachParameterWithoutValueHasAReason()
     Add("c", "d", "d");
     Add("d", "c", "c");
     Add("good", "2", "");
-    const QHash<QString, QString> reasons = EvaluateStore().reasons;
+    const QHash<QString, QString> reasons = ParameterEvaluator::Evaluate().reasons;
     QCOMPARE(reasons.size(), 4);
     QCOMPARE(reasons["a"], QString("its expression uses \"nobody\", which is not a parameter"));
     QCOMPARE(reasons["b"], QString("it uses \"a\", which has no value"));
@@ -270,7 +270,7 @@ void tst_ParameterEvaluator::UsedParametersAreNotedInTheRecords()
     Add("a", "", "", 1.0);
     Add("长度", "", "", 1.0);
     Add("b", "max(a, 长度) + a + pi + gone", "old");
-    NoteUsedParameters();
+    ParameterEvaluator::NoteUsedParameters();
     QCOMPARE(Record("b").m_strExpressPara, QString("a,长度,gone"));
     QCOMPARE(Record("a").m_strExpressPara, QString());
 }

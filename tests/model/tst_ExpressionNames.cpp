@@ -34,12 +34,12 @@ void tst_ExpressionNames::NamesOfValuesAreFound_data()
 void tst_ExpressionNames::NamesOfValuesAreFound()
 {
     QFETCH(QString, expression);
-    QTEST(NamesIn(expression), "names");
+    QTEST(tarn::NamesIn(expression), "names");
 }
 
 void tst_ExpressionNames::ConstantsAreParametersOnlyIfThereAreSuch()
 {
-    QCOMPARE(ParametersIn("e*pi*a", {"e"}), QStringList({"e", "a"}));
+    QCOMPARE(tarn::ParametersIn("e*pi*a", {"e"}), QStringList({"e", "a"}));
 }
 
 void tst_ExpressionNames::SomeTextsAreNames_data()
@@ -59,7 +59,7 @@ void tst_ExpressionNames::SomeTextsAreNames_data()
 void tst_ExpressionNames::SomeTextsAreNames()
 {
     QFETCH(QString, text);
-    QTEST(IsExpressionName(text), "isName");
+    QTEST(tarn::IsExpressionName(text), "isName");
 }
 
 void tst_ExpressionNames::RenamingChangesWholeNamesOnly_data()
@@ -76,7 +76,7 @@ void tst_ExpressionNames::RenamingChangesWholeNamesOnly_data()
 void tst_ExpressionNames::RenamingChangesWholeNamesOnly()
 {
     QFETCH(QString, expression);
-    QTEST(WithRenamed(expression, "a", "width"), "renamed");
+    QTEST(tarn::WithRenamed(expression, "a", "width"), "renamed");
 }
 
 TARN_TEST_MAIN(tst_ExpressionNames)
