@@ -87,7 +87,7 @@ std::vector<int> StudyTable::FilteredRows() const
         return rows;
     std::map<std::string, double> variables;
     std::vector<std::pair<double*, int>> places; // Of each variable: its column; -1 for the run.
-    const QStringList names = NamesIn(m_filter);
+    const QStringList names = tarn::NamesIn(m_filter);
     for (const QString& name : names) {
         const int column = m_columns.Names().indexOf(name);
         if (column >= 0 || name == RunName)
