@@ -2502,6 +2502,101 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>ResultDisplay</name>
+    <message>
+        <source>&amp;Show</source>
+        <translation>显示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Mesh &amp;lines</source>
+        <translation>网格线(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Deformation</source>
+        <translation>变形(&amp;D)</translation>
+    </message>
+    <message>
+        <source>The largest displacement as it is drawn, as a share of the size of the part</source>
+        <translation>绘制的最大位移占零件尺寸的比例</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>&amp;Animate</source>
+        <translation>动画(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Export &amp;picture</source>
+        <translation>导出图片(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>零件</translation>
+    </message>
+    <message>
+        <source>Mesh</source>
+        <translation>网格</translation>
+    </message>
+    <message>
+        <source>Displacement</source>
+        <translation>位移</translation>
+    </message>
+    <message>
+        <source>Von Mises stress</source>
+        <translation>冯·米塞斯应力</translation>
+    </message>
+    <message>
+        <source>von Mises (MPa)</source>
+        <translation>von Mises (MPa)</translation>
+    </message>
+    <message>
+        <source>Displacement (mm)</source>
+        <translation>位移 (mm)</translation>
+    </message>
+    <message>
+        <source>Relative displacement</source>
+        <translation>相对位移</translation>
+    </message>
+    <message>
+        <source>Results are not drawn: %1</source>
+        <translation>结果不绘制：%1</translation>
+    </message>
+    <message>
+        <source>This mode is not drawn: there are too many.</source>
+        <translation>此模态不绘制：模态过多。</translation>
+    </message>
+    <message>
+        <source>Mode %1 at %2 Hz. The scale of a mode is arbitrary.</source>
+        <translation>模态 %1，%2 Hz。模态的比例是任意的。</translation>
+    </message>
+    <message>
+        <source>Greatest stress %1 MPa</source>
+        <translation>最大应力 %1 MPa</translation>
+    </message>
+    <message>
+        <source>Greatest displacement %1 mm</source>
+        <translation>最大位移 %1 mm</translation>
+    </message>
+    <message>
+        <source>%1 near %2 mm, marked. Displacements are drawn %3 times as large.</source>
+        <translation>%1，位于 %2 mm 附近，已标记。位移放大 %3 倍绘制。</translation>
+    </message>
+    <message>
+        <source>Export picture</source>
+        <translation>导出图片</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png);;All files (*)</source>
+        <translation>图片 (*.png);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Exported to %1</source>
+        <translation>已导出到 %1</translation>
+    </message>
+</context>
+<context>
     <name>ResultError</name>
     <message>
         <source>The solver&apos;s table of modes is damaged.</source>
@@ -2559,36 +2654,12 @@ Remove these as well?</source>
         <translation>最大冯·米塞斯应力</translation>
     </message>
     <message>
-        <source>Force of the supports along x</source>
-        <translation>支座沿 x 的力</translation>
-    </message>
-    <message>
-        <source>Force of the supports along y</source>
-        <translation>支座沿 y 的力</translation>
-    </message>
-    <message>
-        <source>Force of the supports along z</source>
-        <translation>支座沿 z 的力</translation>
-    </message>
-    <message>
         <source>Mode</source>
         <translation>模态</translation>
     </message>
     <message>
         <source>Frequency (Hz)</source>
         <translation>频率 (Hz)</translation>
-    </message>
-    <message>
-        <source>Mass x (kg)</source>
-        <translation>质量 x (kg)</translation>
-    </message>
-    <message>
-        <source>Mass y (kg)</source>
-        <translation>质量 y (kg)</translation>
-    </message>
-    <message>
-        <source>Mass z (kg)</source>
-        <translation>质量 z (kg)</translation>
     </message>
     <message>
         <source>Quantity</source>
@@ -2599,16 +2670,40 @@ Remove these as well?</source>
         <translation>值</translation>
     </message>
     <message>
-        <source>Unit</source>
-        <translation>单位</translation>
-    </message>
-    <message>
         <source>Place (mm)</source>
         <translation>位置 (mm)</translation>
     </message>
     <message>
         <source>Mesh: %1 nodes, %2 elements; the Jacobian of the worst element falls to %3 of its greatest value, near %4 mm</source>
         <translation>网格：%1 个节点，%2 个单元；最差单元的雅可比降至其最大值的 %3 倍，位于 %4 mm 附近</translation>
+    </message>
+    <message>
+        <source>Support force along x</source>
+        <translation>沿 x 的支座力</translation>
+    </message>
+    <message>
+        <source>Support force along y</source>
+        <translation>沿 y 的支座力</translation>
+    </message>
+    <message>
+        <source>Support force along z</source>
+        <translation>沿 z 的支座力</translation>
+    </message>
+    <message>
+        <source>x (kg)</source>
+        <translation>x (kg)</translation>
+    </message>
+    <message>
+        <source>y (kg)</source>
+        <translation>y (kg)</translation>
+    </message>
+    <message>
+        <source>z (kg)</source>
+        <translation>z (kg)</translation>
+    </message>
+    <message>
+        <source>Effective mass in this direction</source>
+        <translation>此方向的有效质量</translation>
     </message>
 </context>
 <context>

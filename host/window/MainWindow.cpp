@@ -112,14 +112,14 @@ void MainWindow::CreateDocks()
     addDockWidget(Qt::BottomDockWidgetArea, m_messages);
     tabifyDockWidget(m_messages, m_check);
     m_check->hide();
-    m_solve = new SolveActions(*m_session, *m_design, *m_part, this);
+    m_solve = new SolveActions(*m_session, *m_design, *m_part, m_summary->View(), this);
     tabifyDockWidget(m_messages, &m_solve->Progress());
     addDockWidget(Qt::RightDockWidgetArea, &m_solve->Results());
     m_solve->Progress().hide();
     m_solve->Results().hide();
     tabifyDockWidget(m_parameters, m_study->Results());
     m_study->Results()->hide();
-    resizeDocks({m_features}, {400}, Qt::Horizontal);
+    resizeDocks({m_features, &m_solve->Results()}, {400, 380}, Qt::Horizontal);
     resizeDocks({m_features, m_fields}, {300, 240}, Qt::Vertical);
     resizeDocks({m_parameters, m_messages}, {820, 620}, Qt::Horizontal);
     resizeDocks({m_messages}, {230}, Qt::Vertical);

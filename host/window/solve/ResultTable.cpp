@@ -11,17 +11,12 @@
 namespace {
 
 constexpr double KilogramsPerTonne = 1000.0;
+constexpr int MassDecimals = 4;
 
 class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(ResultTable)
 };
-
-QString PlaceText(const Vector3& place)
-{
-    return QStringLiteral("(%1, %2, %3)")
-        .arg(ShortText(place[0]), ShortText(place[1]), ShortText(place[2]));
-}
 
 /// A row of a table without modes.
 struct Quantity
@@ -39,17 +34,25 @@ std::vector<Quantity> QuantitiesOf(const SolveReport& report)
         return {{Texts::tr("Nodes"), "nodes", double(report.nodes), "", {}},
                 {Texts::tr("Elements"), "elements", double(report.elements), "", {}},
                 {Texts::tr("Worst element"), "worst_element", report.worst, "", report.worstPlace}};
-    return {
-        {Texts::tr("Greatest displacement"), "max_displacement", report.displacement.value, "mm",
-         report.displacement.place},
-        {Texts::tr("Greatest von Mises stress"), "max_von_mises", report.stress.value, "MPa",
-         report.stress.place},
-        {Texts::tr("Force of the supports along x"), "reaction_x", report.reaction[0], "N", {}},
-        {Texts::tr("Force of the supports along y"), "reaction_y", report.reaction[1], "N", {}},
-        {Texts::tr("Force of the supports along z"), "reaction_z", report.reaction[2], "N", {}}};
+    return {{Texts::tr("Greatest displacement"), "max_displacement", report.displacement.value,
+             "mm", report.displacement.place},
+            {Texts::tr("Greatest von Mises stress"), "max_von_mises", report.stress.value, "MPa",
+             report.stress.place},
+            {Texts::tr("Support force along x"), "reaction_x", report.reaction[0], "N", {}},
+            {Texts::tr("Support force along y"), "reaction_y", report.reaction[1], "N", {}},
+            {Texts::tr("Support force along z"), "reaction_z", report.reaction[2], "N", {}}};
 }
 
 } // namespace
+
+QString PlaceText(const Vector3& place)
+{
+    constexpr int Digits = 4;
+    const auto text = [](double value) {
+        return QString::number(value, 'g', Digits);
+    };
+    return QStringLiteral("(%1, %2, %3)").arg(text(place[0]), text(place[1]), text(place[2]));
+}
 
 ResultTable::ResultTable(const SolveReport& report)
 {
@@ -61,8 +64,10 @@ ResultTable::ResultTable(const SolveReport& report)
 
 void ResultTable::AddModes(const SolveReport& report)
 {
-    headings = QStringList{Texts::tr("Mode"), Texts::tr("Frequency (Hz)"), Texts::tr("Mass x (kg)"),
-                           Texts::tr("Mass y (kg)"), Texts::tr("Mass z (kg)")};
+    headings = QStringList{Texts::tr("Mode"), Texts::tr("Frequency (Hz)"), Texts::tr("x (kg)"),
+                           Texts::tr("y (kg)"), Texts::tr("z (kg)")};
+    const QString mass = Texts::tr("Effective mass in this direction");
+    hints = QStringList{QString(), QString(), mass, mass, mass};
     csv = QStringLiteral("mode,frequency_hz,mass_x_kg,mass_y_kg,mass_z_kg\n");
     int number = 0;
     for (const Mode& mode : report.modes) {
@@ -70,9 +75,9 @@ void ResultTable::AddModes(const SolveReport& report)
         QStringList shown{first, ShortText(mode.frequency)};
         QStringList exact{first, ExactText(mode.frequency)};
         for (std::size_t axis = 0; axis < 3; ++axis) {
-            const double mass = mode.effectiveMass[axis] * KilogramsPerTonne;
-            shown << ShortText(mass);
-            exact << ExactText(mass);
+            const double kilograms = mode.effectiveMass[axis] * KilogramsPerTonne;
+            shown << QString::number(kilograms, 'f', MassDecimals);
+            exact << ExactText(kilograms);
         }
         rows.push_back(shown);
         csv += CsvLine(exact);
@@ -81,13 +86,13 @@ void ResultTable::AddModes(const SolveReport& report)
 
 void ResultTable::AddQuantities(const SolveReport& report)
 {
-    headings = QStringList{Texts::tr("Quantity"), Texts::tr("Value"), Texts::tr("Unit"),
-                           Texts::tr("Place (mm)")};
+    headings = QStringList{Texts::tr("Quantity"), Texts::tr("Value"), Texts::tr("Place (mm)")};
     csv = QStringLiteral("quantity,unit,value,x_mm,y_mm,z_mm\n");
     for (const Quantity& quantity : QuantitiesOf(report)) {
         const QString unit = QString::fromLatin1(quantity.unit);
         const std::optional<Vector3>& place = quantity.place;
-        rows.push_back({quantity.name, ShortText(quantity.value), unit,
+        rows.push_back({quantity.name,
+                        (ShortText(quantity.value) + QLatin1Char(' ') + unit).trimmed(),
                         place ? PlaceText(*place) : QString()});
         QStringList exact{QString::fromLatin1(quantity.key), unit, ExactText(quantity.value)};
         for (std::size_t axis = 0; axis < 3; ++axis)
@@ -102,5 +107,5 @@ QString MeshText(const SolveReport& report)
                      "of its greatest value, near %4 mm")
         .arg(report.nodes)
         .arg(report.elements)
-        .arg(ShortText(report.worst), PlaceText(report.worstPlace));
+        .arg(QString::number(report.worst, 'g', 3), PlaceText(report.worstPlace));
 }

@@ -4,6 +4,7 @@
 
 #include "CompactTable.h"
 #include "MessageLevel.h"
+#include "ResultDisplay.h"
 #include "ResultTable.h"
 #include "WholeFile.h"
 
@@ -31,7 +32,7 @@ QString TitleOf(const SolveReport& report)
 
 } // namespace
 
-ResultsDock::ResultsDock(QWidget* parent)
+ResultsDock::ResultsDock(PartView* view, QWidget* parent)
     : QDockWidget(tr("Results"), parent)
     , m_ui(std::make_unique<Ui::ResultsPanel>())
 {
@@ -39,7 +40,10 @@ ResultsDock::ResultsDock(QWidget* parent)
     auto* const content = new QWidget(this);
     m_ui->setupUi(content);
     setWidget(content);
+    m_display = new ResultDisplay(view, content);
+    m_ui->layout->insertWidget(m_ui->layout->indexOf(m_ui->meshLabel), m_display);
     MakeCompact(*m_ui->table);
+    connect(m_ui->table, &QTableWidget::itemSelectionChanged, this, &ResultsDock::ChooseMode);
     connect(m_ui->exportButton, &QPushButton::clicked, this, &ResultsDock::ExportTable);
     Clear();
 }
@@ -49,6 +53,7 @@ ResultsDock::~ResultsDock() = default;
 void ResultsDock::Clear()
 {
     m_report.reset();
+    m_display->SetReport({});
     m_ui->titleLabel->setText(tr("No results yet"));
     m_ui->meshLabel->clear();
     m_ui->oldLabel->hide();
@@ -67,6 +72,8 @@ void ResultsDock::ShowReport(const std::shared_ptr<const SolveReport>& report)
     const ResultTable table(*report);
     m_ui->table->setColumnCount(table.headings.size());
     m_ui->table->setHorizontalHeaderLabels(table.headings);
+    for (int column = 0; column < table.hints.size(); ++column)
+        m_ui->table->horizontalHeaderItem(column)->setToolTip(table.hints[column]);
     m_ui->table->setRowCount(int(table.rows.size()));
     for (std::size_t row = 0; row < table.rows.size(); ++row) {
         const QStringList& cells = table.rows[row];
@@ -74,13 +81,27 @@ void ResultsDock::ShowReport(const std::shared_ptr<const SolveReport>& report)
             m_ui->table->setItem(int(row), column, new QTableWidgetItem(cells[column]));
     }
     m_ui->table->resizeColumnsToContents();
+    m_display->SetReport(report);
+    if (report->kind == SolveKind::Vibration)
+        m_ui->table->selectRow(0);
     show();
     raise();
 }
 
 void ResultsDock::SetOld(bool isOld)
 {
-    m_ui->oldLabel->setVisible(isOld && m_report != nullptr);
+    if (m_report == nullptr || m_ui->oldLabel->isHidden() != isOld)
+        return;
+    m_ui->oldLabel->setVisible(isOld);
+    // Whoever changes the part wants to see it.
+    if (isOld)
+        m_display->ShowPart();
+}
+
+void ResultsDock::ChooseMode()
+{
+    if (m_report != nullptr && m_report->kind == SolveKind::Vibration)
+        m_display->SetMode(m_ui->table->currentRow());
 }
 
 void ResultsDock::ExportTable()

@@ -6,6 +6,9 @@
 
 #include <memory>
 
+class PartView;
+class ResultDisplay;
+
 namespace Ui {
 class ResultsPanel;
 }
@@ -16,7 +19,8 @@ class ResultsDock : public QDockWidget
     Q_OBJECT
 
 public:
-    explicit ResultsDock(QWidget* parent);
+    /// @p view may be null.
+    ResultsDock(PartView* view, QWidget* parent);
     ~ResultsDock() override;
 
     /// Replaces what is shown.
@@ -27,8 +31,10 @@ public:
     void SetOld(bool isOld);
 
 private:
+    void ChooseMode();
     void ExportTable();
 
     std::unique_ptr<Ui::ResultsPanel> m_ui;
+    ResultDisplay* m_display;
     std::shared_ptr<const SolveReport> m_report;
 };

@@ -52,12 +52,12 @@ bool SolveActions::Input::operator==(const Input& other) const
 }
 
 SolveActions::SolveActions(ProjectSession& session, const DesignModel& design,
-                           const PartModel& part, QWidget* window)
+                           const PartModel& part, PartView* view, QWidget* window)
     : QObject(window)
     , m_session(session)
     , m_window(window)
     , m_progress(new SolveDock(m_process, window))
-    , m_results(new ResultsDock(window))
+    , m_results(new ResultsDock(view, window))
 {
     connect(&m_process, &SolveProcess::Finished, this, &SolveActions::TakeEnd);
     connect(&session, &ProjectSession::Opened, this, &SolveActions::Forget);

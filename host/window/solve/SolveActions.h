@@ -10,6 +10,7 @@
 
 class DesignModel;
 class PartModel;
+class PartView;
 class ProjectSession;
 class QMenu;
 class QWidget;
@@ -22,10 +23,10 @@ class SolveActions : public QObject
     Q_OBJECT
 
 public:
-    /// @p window is the parent of boxes and docks, and owns this object; the others must outlive
-    /// it.
+    /// @p view may be null. @p window is the parent of boxes and docks, and owns this object; the
+    /// others must outlive it.
     SolveActions(ProjectSession& session, const DesignModel& design, const PartModel& part,
-                 QWidget* window);
+                 PartView* view, QWidget* window);
     ~SolveActions() override;
 
     void FillMenu(QMenu& menu);

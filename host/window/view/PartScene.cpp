@@ -138,7 +138,7 @@ void PartScene::Draw()
 }
 
 void PartScene::Replace(Handle(AIS_InteractiveObject) & shown,
-                        const Handle(AIS_InteractiveObject) & next, int mode, int selection)
+                        const Handle(AIS_InteractiveObject) & next, int selection)
 {
     if (!shown.IsNull())
         m_context->Remove(shown, false);
@@ -146,29 +146,39 @@ void PartScene::Replace(Handle(AIS_InteractiveObject) & shown,
     ResetPreviousMoveTo();
     Q_EMIT PictureChanged();
     if (!next.IsNull())
-        m_context->Display(next, mode, selection, false);
+        m_context->Display(next, std::max(0, next->DisplayMode()), selection, false);
 }
 
 void PartScene::ShowPart(const TopoDS_Shape& shape, bool isShaded)
 {
-    Replace(m_part, SceneStyle::NewPart(shape), isShaded ? AIS_Shaded : AIS_WireFrame,
-            FaceSelection);
-    if (!m_hasFaces || m_hasEdges)
-        SetPickable(m_hasFaces, m_hasEdges);
+    const Handle(AIS_InteractiveObject) part = SceneStyle::NewPart(shape);
+    if (!part.IsNull())
+        part->SetDisplayMode(isShaded ? AIS_Shaded : AIS_WireFrame);
+    Replace(m_part, part, FaceSelection);
+    UpdatePart();
 }
 
 void PartScene::SetPickable(bool hasFaces, bool hasEdges)
 {
     m_hasFaces = hasFaces;
     m_hasEdges = hasEdges;
+    UpdatePart();
+}
+
+void PartScene::UpdatePart()
+{
     if (m_part.IsNull())
         return;
+    if (!LayerIn(m_layers, SceneLayer::Result).IsNull())
+        return m_context->Erase(m_part, false);
+    if (!m_context->IsDisplayed(m_part))
+        m_context->Display(m_part, m_part->DisplayMode(), NoSelection, false);
     const auto set = [this](int selection, bool isActive) {
         m_context->SetSelectionModeActive(m_part, selection, isActive,
                                           AIS_SelectionModesConcurrency_Multiple, true);
     };
-    set(FaceSelection, hasFaces);
-    set(EdgeSelection, hasEdges);
+    set(FaceSelection, m_hasFaces);
+    set(EdgeSelection, m_hasEdges);
     ResetPreviousMoveTo();
 }
 
@@ -217,24 +227,17 @@ void PartScene::SetShaded(bool isShaded)
     Q_EMIT PictureChanged();
 }
 
-void PartScene::ShowHighlight(const TopoDS_Shape& shape)
+void PartScene::ShowLayer(SceneLayer layer, const Handle(AIS_InteractiveObject) & object)
 {
-    Replace(m_highlight, SceneStyle::NewHighlight(shape), AIS_Shaded, NoSelection);
+    Replace(LayerIn(m_layers, layer), object, NoSelection);
+    if (layer == SceneLayer::Result)
+        UpdatePart();
 }
 
-void PartScene::ShowSymbols(const std::vector<ViewSymbol>& symbols)
+void PartScene::UpdateLayer(SceneLayer layer)
 {
-    Replace(m_symbols, NewSymbols(symbols), 0, NoSelection);
-}
-
-void PartScene::ShowMark(const gp_Pnt& point)
-{
-    Replace(m_mark, SceneStyle::NewMark(point), 0, NoSelection);
-}
-
-void PartScene::HideMark()
-{
-    Replace(m_mark, Handle(AIS_InteractiveObject)(), 0, NoSelection);
+    m_context->Redisplay(LayerIn(m_layers, layer), false);
+    Q_EMIT PictureChanged();
 }
 
 void PartScene::FitAll()

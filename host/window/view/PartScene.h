@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ViewSymbol.h"
+#include "SceneLayers.h"
 
 #include <AIS_ViewController.hxx>
 #include <OpenGl_GraphicDriver.hxx>
@@ -10,7 +10,6 @@
 #include <V3d_TypeOfOrientation.hxx>
 
 #include <optional>
-#include <vector>
 
 class AIS_InteractiveContext;
 class AIS_InteractiveObject;
@@ -53,11 +52,11 @@ public:
     void SetSection(const gp_XYZ& normal);
     /// Whether any of the part's box is in the picture; true if there is no part.
     bool SeesPart() const;
-    void ShowHighlight(const TopoDS_Shape& shape);
-    /// Shows @p symbols instead of those before.
-    void ShowSymbols(const std::vector<ViewSymbol>& symbols);
-    void ShowMark(const gp_Pnt& point);
-    void HideMark();
+    /// Shows @p object instead of the one before; nothing if it is null. A result stands in for the
+    /// part.
+    void ShowLayer(SceneLayer layer, const Handle(AIS_InteractiveObject) & object);
+    /// The object of @p layer has changed.
+    void UpdateLayer(SceneLayer layer);
 
     void FitAll();
     void Turn(V3d_TypeOfOrientation orientation);
@@ -90,7 +89,9 @@ protected:
 
 private:
     void Replace(Handle(AIS_InteractiveObject) & shown, const Handle(AIS_InteractiveObject) & next,
-                 int mode, int selection);
+                 int selection);
+    /// Hides the part behind a result; otherwise lets the cursor find what it should.
+    void UpdatePart();
 
     QWindow m_surface;
     bool m_wasClicked = false;
@@ -101,9 +102,7 @@ private:
     Handle(AIS_InteractiveContext) m_context;
     Handle(AIS_ViewCube) m_cube;
     Handle(AIS_InteractiveObject) m_part;
-    Handle(AIS_InteractiveObject) m_highlight;
-    Handle(AIS_InteractiveObject) m_symbols;
-    Handle(AIS_InteractiveObject) m_mark;
+    SceneLayers m_layers;
     bool m_hasFaces = true; // That the cursor finds.
     bool m_hasEdges = false;
 };

@@ -3,6 +3,7 @@
 #include "MessageLevel.h"
 #include "OpenGlSupport.h"
 #include "PartScene.h"
+#include "SceneStyle.h"
 #include "ViewConversions.h"
 
 #include <QMouseEvent>
@@ -71,22 +72,33 @@ void PartView::ShowShape(const TopoDS_Shape& shape, bool fitFirstTime)
         FitAll();
 }
 
+void PartView::ShowLayer(SceneLayer layer, const Handle(AIS_InteractiveObject) & object)
+{
+    LayerIn(m_layers, layer) = object;
+    WithScene([&](PartScene& scene) { scene.ShowLayer(layer, object); });
+}
+
 void PartView::HighlightShape(const TopoDS_Shape& shape)
 {
-    m_highlight = shape;
-    WithScene([this](PartScene& scene) { scene.ShowHighlight(m_highlight); });
+    ShowLayer(SceneLayer::Highlight, SceneStyle::NewHighlight(shape));
 }
 
 void PartView::ShowPoint(const gp_Pnt& point)
 {
-    m_mark = point;
-    WithScene([this](PartScene& scene) { scene.ShowMark(*m_mark); });
+    ShowLayer(SceneLayer::Mark, SceneStyle::NewMark(point));
 }
 
-void PartView::HidePoint()
+void PartView::UpdateResult()
 {
-    m_mark.reset();
-    WithScene([](PartScene& scene) { scene.HideMark(); });
+    WithScene([](PartScene& scene) { scene.UpdateLayer(SceneLayer::Result); });
+}
+
+void PartView::HideResult()
+{
+    if (LayerIn(m_layers, SceneLayer::Result).IsNull())
+        return;
+    ShowLayer(SceneLayer::Result, {});
+    Q_EMIT ResultHidden();
 }
 
 void PartView::FitAll()
@@ -119,12 +131,6 @@ void PartView::ShowSection()
     WithScene([this](PartScene& scene) { scene.SetSection(SectionNormal(m_section)); });
 }
 
-void PartView::ShowSymbols(const std::vector<ViewSymbol>& symbols)
-{
-    m_symbols = symbols;
-    WithScene([this](PartScene& scene) { scene.ShowSymbols(m_symbols); });
-}
-
 void PartView::PickShapes(bool hasFaces, bool hasEdges)
 {
     WithScene([=](PartScene& scene) { scene.SetPickable(hasFaces, hasEdges); });
@@ -134,6 +140,7 @@ void PartView::PickShapes(bool hasFaces, bool hasEdges)
 
 void PartView::PickFace()
 {
+    HideResult();
     m_isPicking = true;
     m_escape->setEnabled(true);
     setCursor(Qt::CrossCursor);
@@ -180,11 +187,9 @@ void PartView::MakeScene()
         scene.Turn(Orientation(m_firstView));
         if (!m_camera.IsNull())
             scene.SetCamera(m_camera);
-        if (m_mark.has_value())
-            scene.ShowMark(*m_mark);
-        scene.ShowHighlight(m_highlight);
-        scene.ShowSymbols(m_symbols);
         scene.ShowPart(m_shape, m_mode == ShadedWithEdges);
+        for (std::size_t layer = 0; layer < m_layers.size(); ++layer)
+            scene.ShowLayer(SceneLayer(layer), m_layers[layer]);
     });
     ShowSection();
 }
@@ -245,11 +250,6 @@ void PartView::changeEvent(QEvent* event)
     QOpenGLWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         WithScene([this](PartScene& scene) { scene.SetPalette(palette()); });
-}
-
-QPoint PartView::DevicePosition(const QPointF& position) const
-{
-    return (position * devicePixelRatioF()).toPoint();
 }
 
 void PartView::mousePressEvent(QMouseEvent* event)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "SceneLayers.h"
 #include "ViewSymbol.h"
 
 #include <Graphic3d_Camera.hxx>
@@ -74,7 +75,7 @@ public:
 
     /// Marks a point instead of the one marked earlier.
     void ShowPoint(const gp_Pnt& point);
-    void HidePoint();
+    void HidePoint() { ShowLayer(SceneLayer::Mark, {}); }
 
     void FitAll();
     /// Turns to a standard view and fits the shape into it.
@@ -99,7 +100,20 @@ public:
     bool IsPicking() const { return m_isPicking; }
 
     /// Shows @p symbols instead of those before.
-    void ShowSymbols(const std::vector<ViewSymbol>& symbols);
+    void ShowSymbols(const std::vector<ViewSymbol>& symbols)
+    {
+        ShowLayer(SceneLayer::Symbols, NewSymbols(symbols));
+    }
+
+    /// Shows @p result in place of the part. Picking shows the part again.
+    void ShowResult(const Handle(AIS_InteractiveObject) & result)
+    {
+        ShowLayer(SceneLayer::Result, result);
+    }
+    /// The object of the result has changed.
+    void UpdateResult();
+    /// Shows the part again.
+    void HideResult();
 
     QSize sizeHint() const override { return {480, 360}; }
 
@@ -117,6 +131,9 @@ Q_SIGNALS:
     void PointMoved(const gp_Pnt& point);
     /// The cursor left the part.
     void PointLost();
+
+    /// The part is shown in place of a result.
+    void ResultHidden();
 
     /// The driver has failed; the reason is for the user.
     void Failed(const QString& reason);
@@ -137,6 +154,7 @@ protected:
 private:
     /// Runs @p act on the scene, if there is one, in its context; false if that failed.
     bool WithScene(const std::function<void(PartScene&)>& act);
+    void ShowLayer(SceneLayer layer, const Handle(AIS_InteractiveObject) & object);
     void MakeScene();
     void ShowSection();
     void DropScene();
@@ -148,14 +166,15 @@ private:
     void TakeClick(const TopoDS_Shape& shape, const gp_Pnt& point);
     void TellPoint(const std::optional<gp_Pnt>& point);
     /// The position in the device's pixels.
-    QPoint DevicePosition(const QPointF& position) const;
+    QPoint DevicePosition(const QPointF& position) const
+    {
+        return (position * devicePixelRatioF()).toPoint();
+    }
 
     std::unique_ptr<PartScene> m_scene; // Of the OpenGL context; null before there is one.
     // The content for a new scene.
     TopoDS_Shape m_shape;
-    TopoDS_Shape m_highlight;
-    std::vector<ViewSymbol> m_symbols;
-    std::optional<gp_Pnt> m_mark;
+    SceneLayers m_layers;
     Handle(Graphic3d_Camera) m_camera; // Null unless an earlier scene left it.
     StandardView m_firstView = IsometricView;
     bool m_isFitAwaited = false;

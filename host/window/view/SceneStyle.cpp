@@ -130,6 +130,7 @@ Handle(AIS_InteractiveObject) SceneStyle::NewHighlight(const TopoDS_Shape& shape
         return {};
     Handle(AIS_Shape) highlight = new AIS_Shape(shape);
     highlight->SetMaterial(Graphic3d_NameOfMaterial_Plastified);
+    highlight->SetDisplayMode(AIS_Shaded);
     highlight->SetColor(Colour(SelectionColour));
     // Above the part, which would hide a shape within it; opaque, with a depth of its own, so that
     // a body does not look hollow.

@@ -81,7 +81,7 @@ void tst_SolveActions::TheFlangeIsLoaded()
     Flange flange;
     flange.Solve("action_SolveStatic");
     QCOMPARE(flange.Table().rowCount(), 5);
-    QCOMPARE(flange.Table().item(4, 1)->text(), QString("10000"));
+    QCOMPARE(flange.Table().item(4, 1)->text(), QString("10000 N"));
     QVERIFY(QFile::exists("static.csv"));
 }
 
