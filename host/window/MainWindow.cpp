@@ -248,13 +248,24 @@ void MainWindow::ShowBuiltPart()
         m_summary->Clear();
     else
         m_summary->ShowShape(m_part->Shape(), m_part->Measures(), m_session->Density());
+    PastFailure();
     PostMessageToChannel(InfoLevel, tr("The part was built"));
+}
+
+// A message about a part that is built now, or fails elsewhere.
+void MainWindow::PastFailure()
+{
+    if (!m_failure.isEmpty())
+        m_messages->MarkPast(m_failure);
+    m_failure.clear();
 }
 
 void MainWindow::ShowFailure(const QString& reason)
 {
     m_summary->ShowFailure(reason);
-    PostMessageToChannel(ErrorLevel, tr("The part cannot be built: %1").arg(reason));
+    PastFailure();
+    m_failure = tr("The part cannot be built: %1").arg(reason);
+    PostMessageToChannel(ErrorLevel, m_failure);
 }
 
 void MainWindow::ShowSelectedFeature()

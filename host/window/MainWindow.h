@@ -63,6 +63,7 @@ private:
     void CreateViewMenu();
     void ShowBuiltPart();
     void ShowFailure(const QString& reason);
+    void PastFailure();
     void ShowSelectedFeature();
 
     AnalysisRecords* m_analysis;
@@ -72,6 +73,7 @@ private:
     PartPanel* m_summary;
 
     MessageDock* m_messages = nullptr;
+    QString m_failure; // The message about it, while it holds.
     ParameterPanel* m_parameters = nullptr;
     AnalysisTree* m_tree = nullptr;
     SetupCheckDock* m_check = nullptr;

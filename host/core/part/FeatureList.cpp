@@ -100,6 +100,18 @@ QStringList FeatureList::UsersOf(const QString& name) const
     return users;
 }
 
+QStringList FeatureList::ReferrersOf(const QString& name) const
+{
+    // Whatever a new name would change. No name has a line break.
+    const FeatureRename rename(Names(), name, name + QLatin1Char('\n'));
+    QStringList referrers;
+    for (const Feature& feature : m_features) {
+        if (feature.name != name && rename.Applied(feature) != feature)
+            referrers << feature.name;
+    }
+    return referrers;
+}
+
 QString FeatureList::UniqueName(const QString& stem) const
 {
     QString name = stem;
@@ -122,16 +134,8 @@ void FeatureList::Replace(int index, const Feature& feature)
     if (former == feature.name || Find(former) >= 0)
         return;
     const FeatureRename rename(names, former, feature.name);
-    for (Feature& user : m_features) {
-        for (QString& input : user.inputs) {
-            if (input == former)
-                input = feature.name;
-        }
-        for (EdgeReference& edge : user.edges)
-            edge = rename.Applied(edge);
-        if (user.face)
-            user.face = rename.Applied(*user.face);
-    }
+    for (Feature& user : m_features)
+        user = rename.Applied(user);
 }
 
 void FeatureList::Remove(int index)

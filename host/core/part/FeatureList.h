@@ -24,8 +24,10 @@ public:
     int Find(const QString& name) const;
     /// Of all features.
     QSet<QString> Names() const;
-    /// The names of the features that use @p name.
+    /// The names of the features that have @p name as an input.
     QStringList UsersOf(const QString& name) const;
+    /// The names of the features that have @p name as an input, or one of its faces as their place.
+    QStringList ReferrersOf(const QString& name) const;
     /// @p stem if no feature has this name, otherwise @p stem with the next free number.
     QString UniqueName(const QString& stem) const;
 

@@ -37,6 +37,19 @@ EdgeReference FeatureRename::Applied(EdgeReference reference) const
     return reference;
 }
 
+Feature FeatureRename::Applied(Feature user) const
+{
+    for (QString& input : user.inputs) {
+        if (input == m_former)
+            input = m_name;
+    }
+    for (EdgeReference& edge : user.edges)
+        edge = Applied(edge);
+    if (user.face)
+        user.face = Applied(*user.face);
+    return user;
+}
+
 // Into names of features, between slashes. The whole first: a name may contain slashes.
 bool FeatureRename::Split(const QString& path, QStringList& features) const
 {

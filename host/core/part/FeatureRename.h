@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Feature.h"
 #include "ShapeReference.h"
 
 #include <QSet>
@@ -18,6 +19,8 @@ public:
     QString Applied(const QString& faceName) const;
     FaceReference Applied(FaceReference reference) const;
     EdgeReference Applied(EdgeReference reference) const;
+    /// @p user with the new name in its inputs and references.
+    Feature Applied(Feature user) const;
 
 private:
     bool Split(const QString& path, QStringList& features) const;

@@ -52,7 +52,10 @@ MessageDock::MessageDock(QWidget* parent)
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setShowGrid(false);
     MakeCompact(*m_view);
-    m_view->horizontalHeader()->setStretchLastSection(true);
+    m_view->setWordWrap(true);
+    // A bar that comes with taller rows would make them taller still.
+    m_view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    m_view->horizontalHeader()->setSectionResizeMode(TextColumn, QHeaderView::Stretch);
     const int letter = m_view->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     m_view->setColumnWidth(TimeColumn, 11 * letter);
     m_view->setColumnWidth(LevelColumn, 12 * letter);
@@ -65,6 +68,9 @@ MessageDock::MessageDock(QWidget* parent)
         {copy, NewAction(tr("Clear"), "action_ClearMessages", this, &MessageDock::Clear)});
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
 
+    // Queued: the header reports a width before it has it.
+    connect(m_view->horizontalHeader(), &QHeaderView::sectionResized, m_view,
+            &QTableView::resizeRowsToContents, Qt::QueuedConnection);
     // The dock may be laid out only after the lines have come.
     QScrollBar* const bar = m_view->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int end) { bar->setValue(end); });
@@ -93,7 +99,6 @@ void MessageDock::AddMessage(int level, const QString& text)
         row[TimeColumn]->setData(level, CodeRole);
         row[LevelColumn]->setIcon(style()->standardIcon(LevelIcon(level)));
         row[CountColumn]->setTextAlignment(Qt::AlignCenter);
-        row[TextColumn]->setToolTip(text.toHtmlEscaped());
         m_timeItems.insert(message, row[TimeColumn]);
     }
 
@@ -102,7 +107,9 @@ void MessageDock::AddMessage(int level, const QString& text)
     row[TimeColumn]->setText(CurrentTime());
     if (times > 1)
         row[CountColumn]->setText(QString::number(times));
+    ShowPast(row, false);
     m_model.appendRow(row);
+    m_view->resizeRowToContents(m_model.rowCount() - 1);
 
     if (m_model.rowCount() > MaximumLines) {
         m_timeItems.remove({m_model.item(0, TimeColumn)->data(CodeRole).toInt(),
@@ -110,6 +117,26 @@ void MessageDock::AddMessage(int level, const QString& text)
         m_model.removeRow(0);
     }
     m_view->scrollToBottom();
+}
+
+void MessageDock::MarkPast(const QString& text)
+{
+    const QList<QStandardItem*> items = m_model.findItems(text, Qt::MatchExactly, TextColumn);
+    for (const QStandardItem* const item : items) {
+        QList<QStandardItem*> row;
+        for (int column = TimeColumn; column <= TextColumn; ++column)
+            row << m_model.item(item->row(), column);
+        ShowPast(row, true);
+    }
+}
+
+void MessageDock::ShowPast(const QList<QStandardItem*>& row, bool isPast)
+{
+    const QBrush brush = isPast ? palette().brush(QPalette::Disabled, QPalette::Text) : QBrush();
+    for (QStandardItem* const item : row)
+        item->setForeground(brush);
+    const QString text = row[TextColumn]->text().toHtmlEscaped();
+    row[TextColumn]->setToolTip(isPast ? tr("No longer so: %1").arg(text) : text);
 }
 
 void MessageDock::CopySelection() const

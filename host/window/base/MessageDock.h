@@ -10,8 +10,8 @@ class QTableView;
 /// Shows the messages of the message channel: time, level, count and text.
 ///
 /// The newest line is at the end and in view. A repeated message moves to the end with the new time
-/// and a higher count. Beyond MaximumLines the oldest lines are removed. Selected lines can be
-/// copied.
+/// and a higher count. Long texts wrap. Beyond MaximumLines the oldest lines are removed. Selected
+/// lines can be copied.
 class MessageDock : public QDockWidget
 {
     Q_OBJECT
@@ -30,11 +30,15 @@ public:
     explicit MessageDock(QWidget* parent);
     ~MessageDock() override;
 
+    /// Dims the lines with this text: what they say was so, but is no longer.
+    void MarkPast(const QString& text);
+
     /// This host's word for @p level; see MessageLevel.
     static QString LevelWord(int level);
 
 private:
     void AddMessage(int level, const QString& text);
+    void ShowPast(const QList<QStandardItem*>& row, bool isPast);
     void CopySelection() const;
     void Clear();
 

@@ -1,6 +1,7 @@
 #include "PartActions.h"
 
 #include "BuildLimitsDialog.h"
+#include "FeatureCopy.h"
 #include "FeatureDialog.h"
 #include "FeatureFields.h"
 #include "FeatureKinds.h"
@@ -13,13 +14,11 @@
 #include "StepFileDialogs.h"
 
 #include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QMenu>
 
 #include <algorithm>
-
-namespace {
-
-} // namespace
 
 PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fields,
                          FeaturePlacing& placing, QWidget* window)
@@ -42,10 +41,14 @@ PartActions::PartActions(PartModel& model, FeatureTree& tree, FeatureFields& fie
                            QKeySequence(QStringLiteral("Ctrl+U"))))
     , m_delete(NewAction(tr("&Delete feature"), "action_DeleteFeature", this,
                          &PartActions::DeleteSelected, QKeySequence::Delete))
+    , m_copy(NewAction(tr("&Copy features"), "action_CopyFeatures", this,
+                       &PartActions::CopySelected, QKeySequence::Copy))
+    , m_paste(NewAction(tr("&Paste features"), "action_PasteFeatures", this, &PartActions::Paste,
+                        QKeySequence::Paste))
     , m_export(NewAction(tr("E&xport STEP"), "action_ExportStep", this, &PartActions::ExportStep))
 {
     m_suppress->setCheckable(true);
-    tree.OfferActions({m_edit, m_up, m_down, m_suppress, m_delete});
+    tree.OfferActions({m_edit, m_up, m_down, m_suppress, m_delete, m_copy, m_paste});
 
     connect(&tree, &FeatureTree::SelectionChanged, this, &PartActions::UpdateActions);
     connect(&tree, &FeatureTree::EditWanted, this, &PartActions::Edit);
@@ -72,7 +75,7 @@ void PartActions::FillMenu(QMenu& menu)
     OfferKinds(transforms, FeatureGroup::Array);
     OfferKinds(*menu.addMenu(tr("&Combine")), FeatureGroup::Combination);
     menu.addSeparator();
-    menu.addActions({m_edit, m_up, m_down, m_suppress, m_delete});
+    menu.addActions({m_edit, m_up, m_down, m_suppress, m_delete, m_copy, m_paste});
     menu.addSeparator();
     QAction* const undo = m_model.UndoStack().createUndoAction(this, tr("&Undo"));
     undo->setObjectName(QStringLiteral("action_Undo"));
@@ -124,6 +127,7 @@ void PartActions::UpdateActions()
         return features.At(features.Find(name)).suppressed;
     }));
     m_delete->setEnabled(!selected.isEmpty());
+    m_copy->setEnabled(!selected.isEmpty());
 }
 
 void PartActions::Try(const std::function<void()>& change)
@@ -245,6 +249,20 @@ void PartActions::SuppressSelected()
 void PartActions::DeleteSelected()
 {
     Try([this] { m_model.Remove(m_tree.Selected()); });
+}
+
+void PartActions::CopySelected()
+{
+    QGuiApplication::clipboard()->setText(CopiedFeatures(m_model.Features(), m_tree.Selected()));
+}
+
+void PartActions::Paste()
+{
+    Try([this] {
+        const QStringList names = m_model.Paste(QGuiApplication::clipboard()->text());
+        if (!names.isEmpty())
+            m_tree.Select(names.last());
+    });
 }
 
 void PartActions::ExportStep()

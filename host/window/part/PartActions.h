@@ -54,6 +54,8 @@ private:
     void MoveSelected(int steps);
     void SuppressSelected();
     void DeleteSelected();
+    void CopySelected();
+    void Paste();
 
     void ExportStep();
     void AskForLimits();
@@ -70,5 +72,7 @@ private:
     QAction* m_down;
     QAction* m_suppress;
     QAction* m_delete;
+    QAction* m_copy;
+    QAction* m_paste;
     QAction* m_export;
 };

@@ -1,6 +1,7 @@
 #include "PartModel.h"
 
 #include "BuildError.h"
+#include "FeatureCopy.h"
 #include "FeatureKind.h"
 #include "JsonSection.h"
 
@@ -238,6 +239,18 @@ void PartModel::Add(const Feature& feature)
     Push(features, tr("Add %1 %2").arg(feature.kind->Title(), Quoted(feature.name)));
 }
 
+QStringList PartModel::Paste(const QString& text)
+{
+    QStringList names;
+    try {
+        const FeatureList features = WithPastedFeatures(m_features, text, names);
+        Push(features, tr("Paste %1").arg(QuotedNames(names)));
+    } catch (const JsonError& error) {
+        throw ModellingError(error.Reason());
+    }
+    return names;
+}
+
 void PartModel::Change(const QString& name, const Feature& feature)
 {
     if (feature.name != name)
@@ -277,7 +290,7 @@ void PartModel::Remove(const QStringList& names)
     FeatureList features = m_features;
     for (const QString& name : names) {
         QStringList users;
-        const QStringList all = m_features.UsersOf(name);
+        const QStringList all = m_features.ReferrersOf(name);
         for (const QString& user : all) {
             if (!names.contains(user))
                 users << user;

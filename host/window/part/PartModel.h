@@ -73,12 +73,14 @@ public:
     /// If a change is rejected, it throws a ModellingError and changes nothing. Fields may have any
     /// text; a text without a value fails the build.
     void Add(const Feature& feature);
+    /// Adds the features of a text of the clipboard. Returns their names.
+    QStringList Paste(const QString& text);
     /// Replaces the feature called @p name; a new name is also replaced in the inputs of others.
     void Change(const QString& name, const Feature& feature);
     /// By @p steps; -1 is one up.
     void Move(const QString& name, int steps);
     void SetSuppressed(const QStringList& names, bool suppressed);
-    /// Rejected if another feature uses one of them.
+    /// Rejected if another feature uses one of them, or its faces.
     void Remove(const QStringList& names);
 
     /// What later builds may use.

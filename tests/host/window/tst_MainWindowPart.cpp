@@ -1,7 +1,9 @@
 #include "HostApplication.h"
 #include "HostTestMain.h"
+#include "MessageDock.h"
 #include "OpenWindow.h"
 
+#include <QTableView>
 #include <QTableWidget>
 #include <QTreeWidget>
 
@@ -110,7 +112,12 @@ void tst_MainWindowPart::AFailedRebuildMarksTheFeatureAndKeepsTheShape()
     QCOMPARE(open.Shown("label_Mass"), mass);
     const auto& tree = Find<QTreeWidget>(open.window, "featureTree");
     QVERIFY(!tree.selectedItems()[0]->icon(0).isNull());
+    const QAbstractItemModel& lines = *Find<QTableView>(open.window, "messageView").model();
+    const int line = lines.rowCount() - 1;
+    QCOMPARE(lines.index(line, MessageDock::TextColumn).data().toString(), errors[0]);
+    QVERIFY(!lines.index(line, 0).data(Qt::ForegroundRole).isValid());
     open.Trigger("action_Undo");
+    QVERIFY(lines.index(line, 0).data(Qt::ForegroundRole).isValid()); // No longer so.
     QVERIFY(tree.selectedItems()[0]->icon(0).isNull());
     QVERIFY(open.Shown("label_Status").startsWith("Built at "));
 }

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void AnInvalidListNamesTheFeature_data();
     void AnInvalidListNamesTheFeature();
     void FeaturesAreFoundByName();
+    void FeaturesAtFacesReferToTheirMakers();
     void NewNamesAreUnique();
     void ARenamedFeatureKeepsItsUsers();
     void FeaturesAreMovedUpAndDown();
@@ -253,6 +254,18 @@ void tst_FeatureList::FeaturesAreFoundByName()
     QCOMPARE(list.Find("D"), -1);
     QCOMPARE(list.UsersOf("b"), QStringList("c"));
     QCOMPARE(list.UsersOf("d"), QStringList());
+}
+
+void tst_FeatureList::FeaturesAtFacesReferToTheirMakers()
+{
+    FeatureList list = FourFeatures();
+    Feature image = NewFeature("image", "mirrorFace", {"d"});
+    image.face = FaceReference{"a.xmax", {}};
+    list.Append(image);
+    QCOMPARE(list.UsersOf("a").contains("image"), false);
+    QCOMPARE(list.ReferrersOf("a").contains("image"), true);
+    QCOMPARE(list.ReferrersOf("d"), QStringList("image"));
+    QCOMPARE(list.ReferrersOf("image"), QStringList());
 }
 
 void tst_FeatureList::NewNamesAreUnique()

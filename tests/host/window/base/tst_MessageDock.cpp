@@ -30,6 +30,8 @@ private Q_SLOTS:
     void ClearRemovesAllLines();
     void ATextIsShownUnchanged();
     void LinesCannotBeEdited();
+    void ALongTextWraps();
+    void APastMessageIsDimmedUntilItComesAgain();
 
 private:
     static QString Cell(const MessageDock& dock, int row, int column)
@@ -45,6 +47,43 @@ private:
         PostMessageToChannel(MessageLevel(level), text);
     }
 };
+
+void tst_MessageDock::ALongTextWraps()
+{
+    MessageDock dock(nullptr);
+    dock.resize(400, 300);
+    dock.show();
+    Post(InfoLevel, "short");
+    Post(InfoLevel, QString("a long text ").repeated(30));
+    const auto& view = Find<QTableView>(dock, "messageView");
+    QTRY_VERIFY(view.rowHeight(1) > 2 * view.rowHeight(0));
+    const int tall = view.rowHeight(1);
+    dock.resize(1200, 300);
+    QTRY_VERIFY(view.rowHeight(1) < tall);
+}
+
+void tst_MessageDock::APastMessageIsDimmedUntilItComesAgain()
+{
+    MessageDock dock(nullptr);
+    Post(ErrorLevel, "a <b>");
+    Post(ErrorLevel, "other");
+    const QAbstractItemModel& model = *Find<QTableView>(dock, "messageView").model();
+    const auto isDimmed = [&](int row) {
+        return model.index(row, MessageDock::TextColumn).data(Qt::ForegroundRole).isValid() &&
+               model.index(row, MessageDock::TextColumn)
+                   .data(Qt::ToolTipRole)
+                   .toString()
+                   .startsWith("No longer so: ");
+    };
+    dock.MarkPast("a <b>");
+    QVERIFY(isDimmed(0));
+    QVERIFY(!isDimmed(1));
+    QCOMPARE(model.index(0, MessageDock::TextColumn).data(Qt::ToolTipRole).toString(),
+             QString("No longer so: a &lt;b&gt;"));
+    Post(ErrorLevel, "a <b>");
+    QCOMPARE(Cell(dock, 1, MessageDock::TextColumn), QString("a <b>"));
+    QVERIFY(!isDimmed(1));
+}
 
 void tst_MessageDock::TheLevelIsShownAsAWord_data()
 {

@@ -3,6 +3,8 @@
 #include "Modelling.h"
 #include "ShapeMeasures.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QTableWidget>
 
 class tst_PartActions : public TestCase
@@ -28,6 +30,9 @@ private Q_SLOTS:
     void SuppressToggles();
     void DeletingAUsedFeatureIsRefusedWithAMessage();
     void SeveralAreDeletedAtOnce();
+    void DeletingTheMakerOfAFaceInUseIsRefused();
+    void CopiedFeaturesArePastedBehind();
+    void PastingOtherTextIsRefusedWithAMessage();
     void UndoAndRedoNameTheChange();
     void TheSelectionEnablesActions();
 };
@@ -235,6 +240,51 @@ void tst_PartActions::SeveralAreDeletedAtOnce()
     modelling.Trigger("action_DeleteFeature");
     QCOMPARE(modelling.Names(), QStringList("plate"));
     QCOMPARE(modelling.posted.count(), 0);
+}
+
+void tst_PartActions::DeletingTheMakerOfAFaceInUseIsRefused()
+{
+    Modelling modelling;
+    modelling.AddSamples();
+    modelling.model.Add(NewFeature("plain", "box"));
+    Feature image = NewFeature("image", "mirrorFace", {"body"});
+    image.face = FaceReference{"plain.xmax", {}};
+    modelling.model.Add(image);
+    modelling.model.WaitUntilIdle();
+    modelling.posted.clear();
+    modelling.Select({"plain"});
+    modelling.Trigger("action_DeleteFeature");
+    modelling.CheckRefused("Cannot delete \"plain\": it is used by \"image\"");
+}
+
+void tst_PartActions::CopiedFeaturesArePastedBehind()
+{
+    Modelling modelling;
+    modelling.AddSamples();
+    QVERIFY(!modelling.Action("action_CopyFeatures").isEnabled());
+    modelling.Select({"plate", "pin", "body"});
+    QWidget& tree = Find<QTreeWidget>(modelling.window, "featureTree");
+    tree.setFocus();
+    QTest::keyClick(&tree, Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(&tree, Qt::Key_V, Qt::ControlModifier);
+    modelling.model.WaitUntilIdle();
+    QCOMPARE(modelling.Names(),
+             QStringList({"plate", "pin", "body", "plate_2", "pin_2", "body_2"}));
+    QCOMPARE(modelling.Last().inputs, QStringList({"plate_2", "pin_2"}));
+    QCOMPARE(modelling.tree->Selected(), QStringList("body_2"));
+    modelling.Trigger("action_Undo"); // One step for all of them.
+    QCOMPARE(modelling.Names(), QStringList({"plate", "pin", "body"}));
+}
+
+void tst_PartActions::PastingOtherTextIsRefusedWithAMessage()
+{
+    Modelling modelling;
+    modelling.AddSamples();
+    modelling.posted.clear();
+    QGuiApplication::clipboard()->setText("a sentence");
+    modelling.Trigger("action_PasteFeatures");
+    modelling.CheckRefused("There are no copied features on the clipboard.");
+    QCOMPARE(modelling.Names().size(), 3);
 }
 
 void tst_PartActions::UndoAndRedoNameTheChange()
