@@ -1427,6 +1427,14 @@ Remove these as well?</source>
         <source>%1 its &quot;%2&quot;</source>
         <translation>%1 的“%2”</translation>
     </message>
+    <message>
+        <source>There are no copied features on the clipboard.</source>
+        <translation>剪贴板上没有复制的特征。</translation>
+    </message>
+    <message>
+        <source>the clipboard</source>
+        <translation>剪贴板</translation>
+    </message>
 </context>
 <context>
     <name>KernelMessages</name>
@@ -1650,6 +1658,10 @@ Remove these as well?</source>
     <message>
         <source>Error</source>
         <translation>错误</translation>
+    </message>
+    <message>
+        <source>No longer so: %1</source>
+        <translation>已不再如此：%1</translation>
     </message>
 </context>
 <context>
@@ -2076,6 +2088,14 @@ Remove these as well?</source>
         <source>&amp;Limits of building</source>
         <translation>构建限制(&amp;L)</translation>
     </message>
+    <message>
+        <source>&amp;Copy features</source>
+        <translation>复制特征(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste features</source>
+        <translation>粘贴特征(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>PartModel</name>
@@ -2154,6 +2174,10 @@ Remove these as well?</source>
     <message>
         <source>The export failed: %1</source>
         <translation>导出失败：%1</translation>
+    </message>
+    <message>
+        <source>Paste %1</source>
+        <translation>粘贴 %1</translation>
     </message>
 </context>
 <context>

@@ -132,9 +132,10 @@ void MessageDock::MarkPast(const QString& text)
 
 void MessageDock::ShowPast(const QList<QStandardItem*>& row, bool isPast)
 {
-    const QBrush brush = isPast ? palette().brush(QPalette::Disabled, QPalette::Text) : QBrush();
+    const QVariant brush =
+        isPast ? QVariant(palette().brush(QPalette::Disabled, QPalette::Text)) : QVariant();
     for (QStandardItem* const item : row)
-        item->setForeground(brush);
+        item->setData(brush, Qt::ForegroundRole);
     const QString text = row[TextColumn]->text().toHtmlEscaped();
     row[TextColumn]->setToolTip(isPast ? tr("No longer so: %1").arg(text) : text);
 }
