@@ -4,6 +4,12 @@ set(debian_runtime libtarnguicommon${TARN_INTERFACE_VERSION})
 set(debian_development libtarnguicommon-dev)
 set(debian_host tarnhost)
 
+set(CPACK_PACKAGE_CONTACT "TarnGUICommon project <packages@tarnguicommon.invalid>")
+set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://tarnguicommon.invalid)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1tarn1) # Not a version that Debian would use.
+set(debian_version ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
+configure_file("${PROJECT_SOURCE_DIR}/cmake/debian/changelog.in" "${PROJECT_BINARY_DIR}/changelog.Debian" @ONLY)
+
 # tarn_install_gzip(<file> <installed name> <component> <folder>)
 function(tarn_install_gzip file name component folder)
   set(zipped "${PROJECT_BINARY_DIR}/gzip/${component}/${name}.gz")
@@ -16,6 +22,14 @@ function(tarn_install_gzip file name component folder)
   install(FILES "${zipped}" DESTINATION "${folder}" COMPONENT ${component})
 endfunction()
 
+# The debugging information goes into packages of its own, if there is any. A build with tests does without: they would
+# take most of the time of its packages.
+set(debian_has_debug_information OFF)
+set(debian_strips ON)
+if(CMAKE_BUILD_TYPE MATCHES "Deb" AND NOT TARN_TESTS)
+  set(debian_has_debug_information ON)
+  set(debian_strips OFF)
+endif()
 set(CPACK_COMPONENTS_ALL runtime development)
 if(TARN_HOST)
   list(APPEND CPACK_COMPONENTS_ALL host)
@@ -25,16 +39,18 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   set(folder ${CMAKE_INSTALL_DATADIR}/doc/${debian_${component}})
   install(FILES "${PROJECT_SOURCE_DIR}/cmake/debian/copyright" DESTINATION ${folder} COMPONENT ${component})
   tarn_install_gzip("${PROJECT_SOURCE_DIR}/CHANGELOG.md" changelog ${component} ${folder})
+  tarn_install_gzip("${PROJECT_BINARY_DIR}/changelog.Debian" changelog.Debian ${component} ${folder})
   string(TOUPPER ${component} upper)
   set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${debian_${component}})
+  set(CPACK_DEBIAN_${upper}_DEBUGINFO_PACKAGE ${debian_has_debug_information})
 endforeach()
 
 set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_CONTACT "TarnGUICommon project <packages@tarnguicommon.invalid>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # It would precede the summary of each package.
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
+set(CPACK_STRIP_FILES ${debian_strips})
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/debian/RemoveRunPath.cmake")
+set(CPACK_POST_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/debian/Finish.cmake")
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
@@ -46,12 +62,10 @@ if(TARN_SHLIBDEPS)
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${TARN_BUILD_LIBDIR}")
 endif()
-# While the major version is 0, any version may change the interface, so require exactly this one.
+# A program works with every later library of the same package name; the development files need theirs.
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY "=")
-set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
-set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
-set(CPACK_COMPONENT_HOST_DEPENDS runtime)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+set(CPACK_DEBIAN_HOST_PACKAGE_DEPENDS "${debian_runtime} (>= ${PROJECT_VERSION})")
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_SOURCE_DIR}/cmake/debian/triggers")
@@ -63,7 +77,8 @@ the dialogs share with the application.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 # The packages that our CMake package and headers use.
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
-    "qtbase5-dev (>= 5.15), libocct-foundation-dev, libocct-modeling-data-dev, libtbb-dev")
+    "${debian_runtime} (= ${debian_version}), qtbase5-dev (>= 5.15), libocct-foundation-dev, libocct-modeling-data-dev, libtbb-dev"
+)
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
     "dialog library of a desktop CAD/CAE application - development files
 Headers, CMake package, pkg-config file and documentation for applications that
@@ -75,5 +90,8 @@ set(CPACK_COMPONENT_HOST_DESCRIPTION
 Edits the parameters of a part, runs design studies with or without a window,
 and shows every dialog of the library. Includes a sample project and the system
 library of materials.")
+
+install(FILES "${PROJECT_SOURCE_DIR}/cmake/debian/development.overrides"
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME ${debian_development} COMPONENT development)
 
 include(CPack)

@@ -23,6 +23,11 @@ foreach(dir libdir includedir datadir)
     string(PREPEND pc_${dir} "\${prefix}/")
   endif()
 endforeach()
+# The linker searches the folders of the system anyway.
+set(pc_kernel "-L${OpenCASCADE_LIBRARY_DIR} ")
+if(OpenCASCADE_LIBRARY_DIR IN_LIST CMAKE_CXX_IMPLICIT_LINK_DIRECTORIES)
+  set(pc_kernel "")
+endif()
 configure_file(cmake/TarnGUICommon.pc.in "${PROJECT_BINARY_DIR}/TarnGUICommon.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/TarnGUICommon.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
         COMPONENT development)

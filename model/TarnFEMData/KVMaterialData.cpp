@@ -27,30 +27,42 @@ enum Field
     FIELD_NAME,
     FIELD_ELASTIC_MODULUS,
     FIELD_POISSON,
-    FIELD_DENSITY
+    FIELD_DENSITY,
+    FIELD_LIB_ELASTIC_MODULUS,
+    FIELD_LIB_POISSON,
+    FIELD_LIB_DENSITY
 };
 
 const tarn::XmlFormat& Format()
 {
-    static const tarn::XmlFormat format = {QStringLiteral("Materials"),
-                                           QStringLiteral("SI"),
-                                           QStringLiteral("Material"),
-                                           {QStringLiteral("name"),
-                                            QStringLiteral("elasticModulus"),
-                                            QStringLiteral("poisson"), QStringLiteral("density")}};
+    static const tarn::XmlFormat format = {
+        QStringLiteral("Materials"),
+        QStringLiteral("SI"),
+        QStringLiteral("Material"),
+        {QStringLiteral("name"), QStringLiteral("elasticModulus"), QStringLiteral("poisson"),
+         QStringLiteral("density")},
+        {QStringLiteral("libElasticModulus"), QStringLiteral("libPoisson"),
+         QStringLiteral("libDensity")}};
     return format;
 }
 
 std::unique_ptr<KVMaterialInfo> MakeRecord(std::vector<QString>& texts, MATERIAL_TYPE type)
 {
     auto record = std::make_unique<KVMaterialInfo>();
-    const bool isSystem = type == MATERIAL_SYSTEM;
     record->m_nType = type;
     record->m_strName.swap(texts[FIELD_NAME]);
-    (isSystem ? record->m_strLibElasticModulus : record->m_strElasticModulus)
-        .swap(texts[FIELD_ELASTIC_MODULUS]);
-    (isSystem ? record->m_strLibPoisson : record->m_strPoisson).swap(texts[FIELD_POISSON]);
-    (isSystem ? record->m_strLibDensity : record->m_strDensity).swap(texts[FIELD_DENSITY]);
+    if (type == MATERIAL_SYSTEM) {
+        record->m_strLibElasticModulus.swap(texts[FIELD_ELASTIC_MODULUS]);
+        record->m_strLibPoisson.swap(texts[FIELD_POISSON]);
+        record->m_strLibDensity.swap(texts[FIELD_DENSITY]);
+        return record;
+    }
+    record->m_strElasticModulus.swap(texts[FIELD_ELASTIC_MODULUS]);
+    record->m_strPoisson.swap(texts[FIELD_POISSON]);
+    record->m_strDensity.swap(texts[FIELD_DENSITY]);
+    record->m_strLibElasticModulus.swap(texts[FIELD_LIB_ELASTIC_MODULUS]);
+    record->m_strLibPoisson.swap(texts[FIELD_LIB_POISSON]);
+    record->m_strLibDensity.swap(texts[FIELD_LIB_DENSITY]);
     return record;
 }
 
@@ -251,6 +263,9 @@ int KVMaterialData::WriteXML(const std::string& path)
         texts[FIELD_ELASTIC_MODULUS] = entry->record->m_strElasticModulus;
         texts[FIELD_POISSON] = entry->record->m_strPoisson;
         texts[FIELD_DENSITY] = entry->record->m_strDensity;
+        texts[FIELD_LIB_ELASTIC_MODULUS] = entry->record->m_strLibElasticModulus;
+        texts[FIELD_LIB_POISSON] = entry->record->m_strLibPoisson;
+        texts[FIELD_LIB_DENSITY] = entry->record->m_strLibDensity;
         ++entry;
         return true;
     };

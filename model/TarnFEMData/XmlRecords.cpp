@@ -156,9 +156,10 @@ class RecordReader
 public:
     RecordReader(const XmlFormat& format, const QByteArray& content)
         : m_format(format)
+        , m_fields(format.fields + format.optional)
         , m_input(content)
         , m_xml(&m_input)
-        , m_texts(std::size_t(format.fields.size()))
+        , m_texts(std::size_t(m_fields.size()))
         , m_last(m_texts)
     {
         // Our files have no entities, so there is nothing to expand.
@@ -174,6 +175,7 @@ private:
     bool ReadRecord(const std::function<bool(std::vector<QString>&)>& take);
 
     const XmlFormat& m_format;
+    const QVector<QString> m_fields;
     BoundedInput m_input;
     QXmlStreamReader m_xml;
     std::vector<QString> m_texts;
@@ -186,10 +188,10 @@ private:
 /// The field called @p name, or -1; it is usually the one at @p likely.
 int RecordReader::FieldOf(const QStringRef& name, int likely) const
 {
-    if (likely < m_format.fields.size() && m_format.fields[likely] == name)
+    if (likely < m_fields.size() && m_fields[likely] == name)
         return likely;
-    for (int i = 0; i < m_format.fields.size(); ++i) {
-        if (m_format.fields[i] == name)
+    for (int i = 0; i < m_fields.size(); ++i) {
+        if (m_fields[i] == name)
             return i;
     }
     return -1;
@@ -302,12 +304,15 @@ bool WriteRecords(const XmlFormat& format, QByteArray& content,
     xml.writeAttribute(QLatin1String(VersionAttribute), QString::number(FormatVersion));
     xml.writeAttribute(QLatin1String(UnitsAttribute), format.units);
 
-    std::vector<QString> texts(std::size_t(format.fields.size()));
+    const QVector<QString> fields = format.fields + format.optional;
+    std::vector<QString> texts(std::size_t(fields.size()));
     for (int records = 0; next(texts); ++records) {
         const int before = content.size();
         xml.writeEmptyElement(format.record);
-        for (int i = 0; i < format.fields.size(); ++i)
-            xml.writeAttribute(format.fields[i], Escaped(texts[std::size_t(i)]));
+        for (int i = 0; i < fields.size(); ++i) {
+            if (i < format.fields.size() || !texts[std::size_t(i)].isEmpty())
+                xml.writeAttribute(fields[i], Escaped(texts[std::size_t(i)]));
+        }
         if (records == MaximumRecords || content.size() - before > MaximumRecordSize ||
             content.size() > WholeFile::MaximumSize)
             return false;

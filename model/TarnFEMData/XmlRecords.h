@@ -17,6 +17,8 @@ struct XmlFormat
     QString units;
     QString record;
     QVector<QString> fields; ///< The first one is the name, which every record must have.
+    /// Further fields, which are only written if they have a text. They follow those above.
+    QVector<QString> optional = {};
 };
 
 enum class XmlReading

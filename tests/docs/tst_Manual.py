@@ -97,6 +97,13 @@ class MarkdownPages(unittest.TestCase):
     def test_EveryPageIsReachableFromTheFirst(self):
         self.assertEqual(set(MANUAL.glob("*.md")) - ReachableFrom(MANUAL / "README.md"), set())
 
+    def test_TheManPageHasEveryOptionOfTheProgram(self):
+        told = subprocess.run([os.environ["TARN_HOST_PROGRAM"], "--help"], check=True, capture_output=True, text=True).stdout
+        page = (SOURCE / "host" / "desktop" / "tarnhost.1").read_text().replace("\\-", "-")
+        options = re.findall(r"^  (?:-\w, )?(--[\w-]+)", told, flags=re.M)
+        self.assertIn("--study", options)
+        self.assertEqual([option for option in options if not re.search(rf"^\.\w+ .*{option}\b", page, flags=re.M)], [])
+
     def test_ThePageShowsTheSmallHostThatIsBuilt(self):
         page = (MANUAL / "host-programmers.md").read_text()
         for name, language in (("CMakeLists.txt", "cmake"), ("main.cpp", "cpp")):

@@ -11,6 +11,8 @@ class tst_KVMaterialDataFiles : public MaterialStoreTest
 private Q_SLOTS:
     void AUserFileFillsTheFirstTriple();
     void ASystemFileFillsTheSecondTriple();
+    void BothTriplesOfAUserMaterialAreKept();
+    void AFileWithBothTriplesIsNotCopied();
     void AWrittenFileCanBeReadAsASystemFile();
     void AUserMaterialIsNotLostToTheSystemLibrary();
     void ReadingAgainChangesTheRecordsInPlace();
@@ -49,6 +51,32 @@ void tst_KVMaterialDataFiles::AUserFileFillsTheFirstTriple()
     QCOMPARE(record.m_strLibElasticModulus, QString());
     QCOMPARE(record.m_strLibPoisson, QString());
     QCOMPARE(record.m_strLibDensity, QString());
+}
+
+void tst_KVMaterialDataFiles::BothTriplesOfAUserMaterialAreKept()
+{
+    auto* const record = Record("a");
+    record->m_strLibElasticModulus = "l\n1";
+    record->m_strLibDensity = "l3";
+    Store().AddMaterialInfo(record);
+    QCOMPARE(Store().WriteXML(UserFile), 0);
+    Store().ClearInfo();
+    QCOMPARE(Store().ReadXML(UserFile, MATERIAL_USER), 0);
+    const KVMaterialInfo& read = *Store().GetMaterialInfo("a");
+    QCOMPARE(read.m_strElasticModulus, QString("1"));
+    QCOMPARE(read.m_strLibElasticModulus, QString("l\n1"));
+    QCOMPARE(read.m_strLibPoisson, QString());
+    QCOMPARE(read.m_strLibDensity, QString("l3"));
+    QCOMPARE(Complaints("UserMaterial.xml", "Materials.xsd"), QString());
+}
+
+void tst_KVMaterialDataFiles::AFileWithBothTriplesIsNotCopied()
+{
+    Put("UserMaterial.xml", File("<Material name=\"a\" elasticModulus=\"1\" libPoisson=\"2\"/>"));
+    QCOMPARE(Store().ReadXML(UserFile, MATERIAL_USER), 0);
+    QCOMPARE(Store().WriteXML(UserFile), 0);
+    QCOMPARE(QDir().entryList({"*.bak"}), QStringList());
+    QVERIFY(ContentOf("UserMaterial.xml").contains("libPoisson=\"2\""));
 }
 
 void tst_KVMaterialDataFiles::ASystemFileFillsTheSecondTriple()

@@ -8,16 +8,21 @@ run(${CPACK} --config ${BUILD_DIR}/CPackConfig.cmake -B ${WORK_DIR}/packages)
 set(sections_libtarnguicommon${INTERFACE} libs)
 set(sections_libtarnguicommon-dev libdevel)
 set(sections_tarnhost science)
+set(multi_arch_libtarnguicommon${INTERFACE} same)
+set(multi_arch_libtarnguicommon-dev same)
+set(multi_arch_tarnhost foreign)
 set(names libtarnguicommon${INTERFACE} libtarnguicommon-dev tarnhost)
 file(GLOB packages "${WORK_DIR}/packages/*.deb")
 list(LENGTH packages count)
 expect(count EQUAL 3)
 foreach(name IN LISTS names)
-  file(GLOB package "${WORK_DIR}/packages/${name}_${VERSION}_*.deb")
+  file(GLOB package "${WORK_DIR}/packages/${name}_${VERSION}-1tarn1_*.deb")
   expect(EXISTS "${package}")
-  run(dpkg-deb --show "--showformat=\${Package} \${Version} \${Section} \${Maintainer}" ${package})
+  run(dpkg-deb --show "--showformat=\${Package} \${Version} \${Section} \${Maintainer} \${Multi-Arch} \${Homepage}"
+      ${package})
   expect(output STREQUAL
-         "${name} ${VERSION} ${sections_${name}} TarnGUICommon project <packages@tarnguicommon.invalid>")
+         "${name} ${VERSION}-1tarn1 ${sections_${name}} TarnGUICommon project <packages@tarnguicommon.invalid> \
+${multi_arch_${name}} https://tarnguicommon.invalid")
   run(dpkg-deb --show "--showformat=\${Description}" ${package})
   expect(output MATCHES "^[a-z][^\n]+\n [A-Z]")
   run(dpkg-deb --show "--showformat=, \${Depends}," ${package})
@@ -27,11 +32,11 @@ foreach(name IN LISTS names)
   expect(EXISTS "${root}/usr/share/doc/${name}/changelog.gz")
 endforeach()
 
-# The headers and the host need exactly this version; dpkg-shlibdeps finds the host's other dependencies.
-foreach(name libtarnguicommon-dev tarnhost)
-  string(FIND "${depends_${name}}" ", libtarnguicommon${INTERFACE} (= ${VERSION})," position)
-  expect(NOT position EQUAL -1)
-endforeach()
+# The headers need exactly this version, the host at least this one; dpkg-shlibdeps finds its other dependencies.
+string(FIND "${depends_libtarnguicommon-dev}" ", libtarnguicommon${INTERFACE} (= ${VERSION}-1tarn1)," position)
+expect(NOT position EQUAL -1)
+string(FIND "${depends_tarnhost}" ", libtarnguicommon${INTERFACE} (>= ${VERSION})," position)
+expect(NOT position EQUAL -1)
 foreach(name libtarnguicommon${INTERFACE} tarnhost)
   expect(depends_${name} MATCHES ", libqt5widgets5 [^,]+,")
   expect(depends_${name} MATCHES ", libocct-foundation-[^,]+,")
@@ -40,6 +45,17 @@ expect(depends_libtarnguicommon${INTERFACE} MATCHES ", libmuparser[^,]+,")
 file(GLOB package "${WORK_DIR}/packages/libtarnguicommon${INTERFACE}_*.deb")
 run(dpkg-deb --info ${package} triggers)
 expect(output MATCHES "^activate-noawait ldconfig\n$")
+run(dpkg-deb --info ${package} shlibs)
+expect(output MATCHES "libTarnDesign ${INTERFACE} libtarnguicommon${INTERFACE} .>= ${VERSION}")
+run(dpkg-deb --info ${package} symbols)
+expect(output MATCHES "libTarnDesign.so.${INTERFACE} libtarnguicommon${INTERFACE} #MINVER#\n _Z")
+
+# Nothing to complain about. Without the folders of a Debian system, they are in unusual places.
+if(NOT LIBDIR MATCHES "/")
+  set(unusual --suppress-tags
+              pkg-config-unavailable-for-cross-compilation,arch-dependent-file-not-in-arch-specific-directory)
+endif()
+run(lintian --allow-root --fail-on error,warning ${unusual} ${packages})
 
 # Every library has the version of its interface, and none searches for the others in the build folder.
 foreach(library TarnCoreGeometry TarnDesign TarnFEMData TarnGUICommon)
@@ -64,12 +80,16 @@ endforeach()
 set(entry "${root}/usr/share/applications/tarnhost.desktop")
 run(desktop-file-validate ${entry})
 expect(NOT output)
+run(appstreamcli validate --no-net ${root}/usr/share/metainfo/invalid.tarnguicommon.tarnhost.metainfo.xml)
+run(xmllint --noout ${root}/usr/share/mime/packages/tarnhost.xml)
 file(STRINGS "${entry}" icon REGEX "^Icon=tarnhost$")
 expect(icon)
 foreach(
   file
   icons/hicolor/scalable/apps/tarnhost.svg
   man/man1/tarnhost.1.gz
+  metainfo/invalid.tarnguicommon.tarnhost.metainfo.xml
+  mime/packages/tarnhost.xml
   TarnGUICommon-${INTERFACE}/SysMaterial.xml
   TarnGUICommon-${INTERFACE}/images/TopTitle.png
   tarnhost/samples/flange.json
