@@ -3264,6 +3264,10 @@ Remove these as well?</source>
         <source>Solver &amp;paths</source>
         <translation>求解器路径(&amp;P)</translation>
     </message>
+    <message>
+        <source>The path %1 has blanks: &quot;Run&quot; starts only what is before the first one. Pick a link to the solver whose path has none.</source>
+        <translation>路径 %1 含有空格：“运行”只会启动第一个空格之前的部分。请选择路径中没有空格的求解器链接。</translation>
+    </message>
 </context>
 <context>
     <name>StepError</name>

@@ -3,10 +3,19 @@
 #include "ExternalSolver.h"
 #include "ExternalSolverOption.h"
 #include "MenuActions.h"
+#include "MessageLevel.h"
+#include "UserSettings.h"
 
+#include <QLineEdit>
 #include <QMenu>
 
 #include <memory>
+
+namespace {
+
+const QLatin1String SolverKey("solver/lastPath");
+
+}
 
 SolverActions::SolverActions(QWidget* window)
     : QObject(window)
@@ -29,8 +38,17 @@ void SolverActions::FillMenu(QMenu& menu)
 
 void SolverActions::RunSolver()
 {
+    const QString last = UserSettings().value(SolverKey).toString();
+    if (last.contains(QLatin1Char(' ')))
+        PostMessageToChannel(WarningLevel,
+                             tr("The path %1 has blanks: \"Run\" starts only what is before the "
+                                "first one. Pick a link to the solver whose path has none.")
+                                 .arg(last));
     const std::unique_ptr<QDialog> dialog(CreateSolverSetting(m_window));
     dialog->exec();
+    const auto* const path = dialog->findChild<QLineEdit*>(QStringLiteral("lineEdit_Path"));
+    if (path != nullptr && !path->text().isEmpty())
+        UserSettings().setValue(SolverKey, path->text());
 }
 
 void SolverActions::ShowResults()
