@@ -622,6 +622,36 @@
     </message>
 </context>
 <context>
+    <name>ColumnPicker</name>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+</context>
+<context>
+    <name>ConvergencePlot</name>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Least so far</source>
+        <translation>迄今最小值</translation>
+    </message>
+    <message>
+        <source>Greatest so far</source>
+        <translation>迄今最大值</translation>
+    </message>
+    <message>
+        <source>Mean so far</source>
+        <translation>迄今平均值</translation>
+    </message>
+    <message>
+        <source>Runs that have ended</source>
+        <translation>已结束的运行</translation>
+    </message>
+</context>
+<context>
     <name>DesignActions</name>
     <message>
         <source>&amp;Parameters</source>
@@ -1471,6 +1501,17 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>MainEffectsPlot</name>
+    <message>
+        <source>Effects on</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>Mean of %1</source>
+        <translation>%1 的平均值</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Tarn host</source>
@@ -1800,6 +1841,17 @@ Remove these as well?</source>
     <message>
         <source>the system does not provide OpenGL</source>
         <translation>系统不提供 OpenGL</translation>
+    </message>
+</context>
+<context>
+    <name>ParallelPlot</name>
+    <message>
+        <source>Drag along an axis to select a range; click on it to take that back</source>
+        <translation>沿坐标轴拖动以选择范围；单击坐标轴则取消</translation>
+    </message>
+    <message>
+        <source>Choose two columns or more.</source>
+        <translation>请选择两列或更多列。</translation>
     </message>
 </context>
 <context>
@@ -2866,6 +2918,52 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>ScatterMatrix</name>
+    <message>
+        <source>No column varies yet.</source>
+        <translation>尚无变化的列。</translation>
+    </message>
+</context>
+<context>
+    <name>ScatterPlot</name>
+    <message>
+        <source>Across</source>
+        <translation>横轴</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>纵轴</translation>
+    </message>
+    <message>
+        <source>Pareto front</source>
+        <translation>帕累托前沿</translation>
+    </message>
+    <message>
+        <source>Aim across</source>
+        <translation>横轴目标</translation>
+    </message>
+    <message>
+        <source>least across</source>
+        <translation>横轴最小</translation>
+    </message>
+    <message>
+        <source>greatest across</source>
+        <translation>横轴最大</translation>
+    </message>
+    <message>
+        <source>Aim upwards</source>
+        <translation>纵轴目标</translation>
+    </message>
+    <message>
+        <source>least upwards</source>
+        <translation>纵轴最小</translation>
+    </message>
+    <message>
+        <source>greatest upwards</source>
+        <translation>纵轴最大</translation>
+    </message>
+</context>
+<context>
     <name>SetupCheck</name>
     <message>
         <source>Boundary condition &quot;%1&quot; fixes no degree of freedom</source>
@@ -3270,6 +3368,85 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>StatisticsPage</name>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Calculate</source>
+        <translation>计算</translation>
+    </message>
+    <message>
+        <source>Effects of the parameters</source>
+        <translation>参数的影响</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Correlation</source>
+        <translation>相关系数</translation>
+    </message>
+    <message>
+        <source>Rank correlation</source>
+        <translation>秩相关系数</translation>
+    </message>
+    <message>
+        <source>Share of the variance</source>
+        <translation>方差占比</translation>
+    </message>
+    <message>
+        <source>Share with others</source>
+        <translation>含交互的占比</translation>
+    </message>
+    <message>
+        <source>Summary of the columns</source>
+        <translation>各列摘要</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>运行数</translation>
+    </message>
+    <message>
+        <source>Without</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均值</translation>
+    </message>
+    <message>
+        <source>Deviation</source>
+        <translation>标准差</translation>
+    </message>
+    <message>
+        <source>Least</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>中位数</translation>
+    </message>
+    <message>
+        <source>Greatest</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>Calculate shows the statistics of these runs.</source>
+        <translation>单击“计算”显示这些运行的统计。</translation>
+    </message>
+    <message>
+        <source>A quadratic surface over %1 runs explains %2 of the variance, and %3 of runs that it has not seen; its error there is %4.</source>
+        <translation>基于 %1 次运行的二次响应面解释了方差的 %2，对未参与拟合的运行为 %3；其误差为 %4。</translation>
+    </message>
+</context>
+<context>
     <name>StepError</name>
     <message>
         <source>is not a STEP file</source>
@@ -3456,6 +3633,22 @@ Remove these as well?</source>
     <message>
         <source>Wrote %1</source>
         <translation>已写入 %1</translation>
+    </message>
+    <message>
+        <source>Export p&amp;icture</source>
+        <translation>导出图片(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy picture</source>
+        <translation>复制图片(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Export the plot</source>
+        <translation>导出图</translation>
+    </message>
+    <message>
+        <source>PNG pictures (*.png);;SVG drawings (*.svg)</source>
+        <translation>PNG 图片 (*.png);;SVG 图形 (*.svg)</translation>
     </message>
 </context>
 <context>
@@ -3744,6 +3937,30 @@ Remove these as well?</source>
     <message>
         <source>, %1 selected</source>
         <translation>，已选 %1 个</translation>
+    </message>
+    <message>
+        <source>Scatter</source>
+        <translation>散点图</translation>
+    </message>
+    <message>
+        <source>Matrix</source>
+        <translation>散点矩阵</translation>
+    </message>
+    <message>
+        <source>Parallel</source>
+        <translation>平行坐标</translation>
+    </message>
+    <message>
+        <source>Main effects</source>
+        <translation>主效应</translation>
+    </message>
+    <message>
+        <source>Convergence</source>
+        <translation>收敛</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>统计</translation>
     </message>
 </context>
 <context>

@@ -1,23 +1,28 @@
+#include "FileChoice.h"
 #include "FlangeStudy.h"
 #include "HostApplication.h"
 #include "HostTestMain.h"
 #include "OpenWindow.h"
 #include "ResponseTable.h"
 #include "SampleTable.h"
+#include "StudyPlot.h"
 #include "StudyProcess.h"
 #include "StudyTable.h"
 #include "StudyTableView.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QDockWidget>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTabWidget>
 
 // A study in the window, from the set-up to a run that becomes the design.
 
@@ -27,6 +32,8 @@ class tst_MainWindowStudy : public TestCase
 
 private Q_SLOTS:
     void AStudyIsRunAndUsed();
+    void PlotsAndTableShareTheSelection();
+    void PlotsAreExported();
     void AStudyIsPausedAndContinued();
     void AStudyIsStoppedAndStartedAgain();
     void TheFolderOfAnotherProgramIsOpened();
@@ -137,6 +144,54 @@ void tst_MainWindowStudy::AStudyIsRunAndUsed()
     QCOMPARE(Stored("bore_diameter"), 70.0);
     QCOMPARE(posted.At(ErrorLevel), QStringList());
     QCOMPARE(QDir().entryList({"*.study"}, QDir::Files | QDir::Hidden), QStringList());
+}
+
+void tst_MainWindowStudy::PlotsAndTableShareTheSelection()
+{
+    StudyWindow open(EnterTemporaryDirectory());
+    open.RunToTheEnd();
+    QTRY_COMPARE_WITH_TIMEOUT(open.Count(), 4, Patience);
+    auto& tabs = Find<QTabWidget>(open.window, "tabWidget");
+    tabs.setCurrentIndex(1);
+    DeliverEvents();
+    auto& plot = *open.window.findChild<StudyPlot*>("scatterPlot");
+    QWidget& canvas = *plot.findChild<QWidget*>("QwtPlotCanvas");
+    // All of it.
+    QTest::mousePress(&canvas, Qt::LeftButton, {}, QPoint(1, 1));
+    QTest::mouseMove(&canvas, canvas.rect().bottomRight());
+    QTest::mouseRelease(&canvas, Qt::LeftButton, {}, canvas.rect().bottomRight());
+    QCOMPARE(open.Shown("label_Count"), QString("4 of 4 runs, 4 selected"));
+    QVERIFY(open.View().model()->index(3, 0).data(Qt::BackgroundRole).isValid());
+    tabs.setCurrentIndex(0);
+    open.ClickCell(2, 0);
+    QCOMPARE(open.Shown("label_Count"), QString("4 of 4 runs, 1 selected"));
+}
+
+void tst_MainWindowStudy::PlotsAreExported()
+{
+    const QString folder = EnterTemporaryDirectory();
+    StudyWindow open(folder);
+    open.RunToTheEnd();
+    QTRY_COMPARE_WITH_TIMEOUT(open.Count(), 4, Patience);
+    auto& tabs = Find<QTabWidget>(open.window, "tabWidget");
+    QVERIFY(!FindAction(open.window, "action_ExportPlot").isEnabled()); // Of the table.
+    for (int tab = 1; tab < tabs.count(); ++tab) {
+        tabs.setCurrentIndex(tab);
+        DeliverEvents();
+        const QString path = QDir(folder).filePath(QString("plot%1").arg(tab));
+        ChooseFile(open.user, path + ".svg");
+        open.Trigger("action_ExportPlot");
+        QVERIFY(ContentOf(path + ".svg").contains("<svg"));
+        ChooseFile(open.user, path + ".png");
+        open.Trigger("action_ExportPlot");
+        QVERIFY(!QImage(path + ".png").isNull());
+        open.Trigger("action_CopyPlot");
+        QCOMPARE(QGuiApplication::clipboard()->image().size(), QImage(path + ".png").size());
+    }
+    ChooseFile(open.user, QDir(folder).filePath("runs.csv"));
+    open.Trigger("action_ExportStudy");
+    QCOMPARE(ContentOf("runs.csv").count('\n'), 5);
+    QVERIFY(open.user.IsDone());
 }
 
 void tst_MainWindowStudy::AStudyIsPausedAndContinued()

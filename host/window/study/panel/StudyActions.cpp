@@ -9,6 +9,7 @@
 #include "ProjectSession.h"
 #include "ResultsTable.h"
 #include "StudyPanel.h"
+#include "StudyPlot.h"
 #include "StudyProcess.h"
 #include "StudyResults.h"
 #include "StudySelection.h"
@@ -16,8 +17,11 @@
 #include "StudyWatch.h"
 #include "WholeFile.h"
 
+#include <QBuffer>
+#include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QMainWindow>
 #include <QMenu>
 
@@ -53,7 +57,11 @@ void StudyActions::CreateActions()
     m_makeDesign = NewAction(tr("&Make this the design"), "action_MakeRunTheDesign", this,
                              &StudyActions::MakeDesign);
     m_export = NewAction(tr("&Export CSV"), "action_ExportStudy", this, &StudyActions::ExportTable);
-    m_results->SetActions({m_showRun, m_makeDesign, m_export});
+    m_exportPicture =
+        NewAction(tr("Export p&icture"), "action_ExportPlot", this, &StudyActions::ExportPicture);
+    m_copyPicture =
+        NewAction(tr("&Copy picture"), "action_CopyPlot", this, &StudyActions::CopyPicture);
+    m_results->SetActions({m_showRun, m_makeDesign, m_export, m_exportPicture, m_copyPicture});
 }
 
 void StudyActions::FillMenu(QMenu& menu)
@@ -65,7 +73,7 @@ void StudyActions::FillMenu(QMenu& menu)
     menu.addAction(
         NewAction(tr("&Open study folder"), "action_OpenStudy", this, &StudyActions::ChooseFolder));
     menu.addSeparator();
-    menu.addActions({m_showRun, m_makeDesign, m_export});
+    menu.addActions({m_showRun, m_makeDesign, m_export, m_exportPicture, m_copyPicture});
 }
 
 void StudyActions::Connect()
@@ -81,6 +89,7 @@ void StudyActions::Connect()
     });
     connect(m_selection, &StudySelection::Changed, this, &StudyActions::UpdateActions);
     connect(m_table, &StudyTable::RowsChanged, this, &StudyActions::UpdateActions);
+    connect(m_results, &StudyResults::CurrentPlotChanged, this, &StudyActions::UpdateActions);
 }
 
 void StudyActions::Start()
@@ -180,6 +189,8 @@ void StudyActions::UpdateActions()
     m_showRun->setEnabled(isOne);
     m_makeDesign->setEnabled(isOne);
     m_export->setEnabled(!m_table->Rows().empty());
+    m_exportPicture->setEnabled(m_results->CurrentPlot() != nullptr);
+    m_copyPicture->setEnabled(m_results->CurrentPlot() != nullptr);
 }
 
 QStringList StudyActions::RunParameters() const
@@ -257,9 +268,41 @@ void StudyActions::ExportTable()
     dialog.setDefaultSuffix(QStringLiteral("csv"));
     if (dialog.exec() != QDialog::Accepted)
         return;
+    WriteExport(dialog.selectedFiles().value(0), m_table->ToCsv());
+}
+
+void StudyActions::ExportPicture()
+{
+    QFileDialog dialog(m_window, tr("Export the plot"), QString(),
+                       tr("PNG pictures (*.png);;SVG drawings (*.svg)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("png"));
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
+        dialog.setDefaultSuffix(filter.contains(QLatin1String("svg")) ? QStringLiteral("svg")
+                                                                      : QStringLiteral("png"));
+    });
+    StudyPlot* const plot = m_results->CurrentPlot();
+    if (plot == nullptr || dialog.exec() != QDialog::Accepted)
+        return;
     const QString path = dialog.selectedFiles().value(0);
+    if (path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive))
+        return WriteExport(path, plot->Svg());
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    plot->Picture().save(&buffer, "PNG");
+    WriteExport(path, bytes);
+}
+
+void StudyActions::CopyPicture()
+{
+    if (StudyPlot* const plot = m_results->CurrentPlot())
+        QGuiApplication::clipboard()->setImage(plot->Picture());
+}
+
+void StudyActions::WriteExport(const QString& path, const QByteArray& content) const
+{
     tarn::WholeFile file(path, ResultsTable::MaximumFileSize);
-    if (file.Write(m_table->ToCsv()))
+    if (file.Write(content))
         PostMessageToChannel(InfoLevel, tr("Wrote %1").arg(QDir::toNativeSeparators(path)));
     else
         PostMessageToChannel(ErrorLevel, QStringLiteral("%1: %2").arg(path, file.Error()));

@@ -56,6 +56,9 @@ private:
     void ShowRun();
     void MakeDesign();
     void ExportTable();
+    void ExportPicture();
+    void CopyPicture();
+    void WriteExport(const QString& path, const QByteArray& content) const;
 
     ProjectSession& m_session;
     DesignModel& m_design;
@@ -75,4 +78,6 @@ private:
     QAction* m_showRun = nullptr;
     QAction* m_makeDesign = nullptr;
     QAction* m_export = nullptr;
+    QAction* m_exportPicture = nullptr;
+    QAction* m_copyPicture = nullptr;
 };

@@ -2,6 +2,12 @@
 
 #include "ui_StudyResults.h"
 
+#include "ConvergencePlot.h"
+#include "MainEffectsPlot.h"
+#include "ParallelPlot.h"
+#include "ScatterMatrix.h"
+#include "ScatterPlot.h"
+#include "StatisticsPage.h"
 #include "StudySelection.h"
 #include "StudyTable.h"
 #include "StudyTableView.h"
@@ -21,6 +27,9 @@ StudyResults::StudyResults(StudyTable& table, StudySelection& selection, QWidget
     setWidget(content);
     m_form->label_Problem->hide();
     m_form->tabWidget->addTab(m_view, tr("Table"));
+    AddPlots();
+    connect(m_form->tabWidget, &QTabWidget::currentChanged, this,
+            &StudyResults::CurrentPlotChanged);
     connect(m_form->lineEdit_Filter, &QLineEdit::editingFinished, this, &StudyResults::ApplyFilter);
     connect(m_form->lineEdit_Filter, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (text.isEmpty())
@@ -43,6 +52,24 @@ void StudyResults::SetActions(const QList<QAction*>& actions)
     auto* const menu = new QMenu(this);
     menu->addActions(actions);
     m_form->toolButton_Actions->setMenu(menu);
+}
+
+void StudyResults::AddPlots()
+{
+    const auto add = [this](QWidget* plot, const QString& title) {
+        m_form->tabWidget->addTab(plot, title);
+    };
+    add(new ScatterPlot(m_table, m_selection, this), tr("Scatter"));
+    add(new ScatterMatrix(m_table, m_selection, this), tr("Matrix"));
+    add(new ParallelPlot(m_table, m_selection, this), tr("Parallel"));
+    add(new MainEffectsPlot(m_table, m_selection, this), tr("Main effects"));
+    add(new ConvergencePlot(m_table, m_selection, this), tr("Convergence"));
+    add(new StatisticsPage(m_table, m_selection, this), tr("Statistics"));
+}
+
+StudyPlot* StudyResults::CurrentPlot() const
+{
+    return qobject_cast<StudyPlot*>(m_form->tabWidget->currentWidget());
 }
 
 void StudyResults::ApplyFilter()

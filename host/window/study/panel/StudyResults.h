@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class StudyPlot;
 class StudySelection;
 class StudyTable;
 class StudyTableView;
@@ -25,8 +26,14 @@ public:
 
     /// Of the menus of the table and of the dock.
     void SetActions(const QList<QAction*>& actions);
+    /// The plot whose tab is open; null for the table.
+    StudyPlot* CurrentPlot() const;
+
+Q_SIGNALS:
+    void CurrentPlotChanged();
 
 private:
+    void AddPlots();
     void ApplyFilter();
     void ShowCount();
 
