@@ -120,7 +120,7 @@ void MainWindow::CreateDocks()
     tabifyDockWidget(m_parameters, m_study->Results());
     m_study->Results()->hide();
     resizeDocks({m_features, &m_solve->Results()}, {400, 380}, Qt::Horizontal);
-    resizeDocks({m_features, m_fields}, {300, 240}, Qt::Vertical);
+    resizeDocks({m_features, m_fields}, {250, 320}, Qt::Vertical);
     resizeDocks({m_parameters, m_messages}, {820, 620}, Qt::Horizontal);
     resizeDocks({m_messages}, {230}, Qt::Vertical);
     if (QGuiApplication::primaryScreen()->availableSize().height() < LowScreen)
