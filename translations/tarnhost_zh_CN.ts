@@ -652,6 +652,21 @@
     </message>
 </context>
 <context>
+    <name>DeckRun</name>
+    <message>
+        <source>%1 is missing: let the host mesh or solve the part, which writes it.</source>
+        <translation>缺少 %1：请让主程序对零件划分网格或求解，以写入该文件。</translation>
+    </message>
+    <message>
+        <source>%1: the deck cannot be linked</source>
+        <translation>%1：无法链接求解文件</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 无法写入</translation>
+    </message>
+</context>
+<context>
     <name>DesignActions</name>
     <message>
         <source>&amp;Parameters</source>
@@ -1165,6 +1180,33 @@ Remove these as well?</source>
     <message>
         <source>An unknown error occurred</source>
         <translation>发生未知错误</translation>
+    </message>
+</context>
+<context>
+    <name>HostPrograms</name>
+    <message>
+        <source>Programs of this host</source>
+        <translation>本主程序的程序</translation>
+    </message>
+    <message>
+        <source>&amp;Mesher gmsh</source>
+        <translation>网格程序 gmsh(&amp;M)</translation>
+    </message>
+    <message>
+        <source>the one in PATH</source>
+        <translation>PATH 中的程序</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>浏览</translation>
+    </message>
+    <message>
+        <source>&amp;Solver CalculiX</source>
+        <translation>求解器 CalculiX(&amp;S)</translation>
+    </message>
+    <message>
+        <source>ccx in PATH</source>
+        <translation>PATH 中的 ccx</translation>
     </message>
 </context>
 <context>
@@ -3197,6 +3239,18 @@ Remove these as well?</source>
         <source>An analysis is running. Cancel it, and begin the new one?</source>
         <translation>有分析正在运行。取消它并开始新的分析？</translation>
     </message>
+    <message>
+        <source>Read results of a s&amp;olver</source>
+        <translation>读取求解器的结果(&amp;O)</translation>
+    </message>
+    <message>
+        <source>No solver has left results in the folder of the project.</source>
+        <translation>项目文件夹中没有求解器留下的结果。</translation>
+    </message>
+    <message>
+        <source>A solver has left results in the folder of the project</source>
+        <translation>求解器已在项目文件夹中留下结果</translation>
+    </message>
 </context>
 <context>
     <name>SolveDock</name>
@@ -3279,6 +3333,10 @@ Remove these as well?</source>
         <source>There is not enough memory: choose a greater mesh size.</source>
         <translation>内存不足：请选择更大的网格尺寸。</translation>
     </message>
+    <message>
+        <source>The results in the folder are not those of the part and its set-up as they are now: solve again.</source>
+        <translation>文件夹中的结果不属于零件及其设置的当前状态：请重新求解。</translation>
+    </message>
 </context>
 <context>
     <name>SolvePanel</name>
@@ -3297,6 +3355,10 @@ Remove these as well?</source>
     <message>
         <source>Log of the analysis</source>
         <translation>分析日志</translation>
+    </message>
+    <message>
+        <source>Show the results that a solver has left in the folder of the project</source>
+        <translation>显示求解器在项目文件夹中留下的结果</translation>
     </message>
 </context>
 <context>

@@ -26,6 +26,7 @@ enum Argument
     ProjectArgument,
     FolderArgument,
     TargetArgument,
+    HasResultsArgument,
     LanguageArgument,
     ArgumentCount
 };
@@ -49,6 +50,7 @@ SolveOrder OrderFrom(char** argv)
     order.projectFile = QFile::decodeName(argv[ProjectArgument]);
     order.folder = QFile::decodeName(argv[FolderArgument]);
     order.target = QFile::decodeName(argv[TargetArgument]);
+    order.hasResults = std::atoi(argv[HasResultsArgument]) != 0;
     order.language = QString::fromLatin1(argv[LanguageArgument]);
     return order;
 }
@@ -82,6 +84,8 @@ bool Solve(const SolveOrder& order)
     options.directory = order.folder;
     options.isStatic = order.kind == SolveKind::Static;
     options.isWithoutRun = order.kind == SolveKind::Mesh;
+    if (order.hasResults)
+        options.resultsFolder = order.target;
     options.enter = [](SolveStage stage) {
         Say({SolveMessage::Stage, stage, {}});
     };
@@ -92,7 +96,8 @@ bool Solve(const SolveOrder& order)
     if (!result->model.mesh.nodes.empty()) {
         SolveFolder(order.folder)
             .Write(SolveOrder::ReportName, ToBytes(ReportOf(*result, order.kind)));
-        Deliver(order);
+        if (!order.hasResults)
+            Deliver(order);
     }
     if (result->outcome != SolveResult::Done)
         Say(SolveMessage::Problem, result->problem);
@@ -110,6 +115,7 @@ QStringList SolveOrder::Arguments() const
             projectFile,
             folder,
             target,
+            QString::number(int(hasResults)),
             language};
 }
 

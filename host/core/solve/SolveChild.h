@@ -20,6 +20,8 @@ struct SolveOrder
     QString folder; ///< For all files of the analysis.
     /// Decks and tables go here as well, once they are complete.
     QString target;
+    /// Whether the target has the results already.
+    bool hasResults = false;
     QString language; ///< Of the lines.
 
     /// Of the child.

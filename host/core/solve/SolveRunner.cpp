@@ -37,7 +37,8 @@ SolveResultPointer SolveRunner::Run()
                            folder,
                            m_options.isStatic,
                            m_options.isWithoutRun,
-                           AnalysisTools::Stored()};
+                           AnalysisTools::Stored(),
+                           m_options.resultsFolder};
 
     auto result = std::make_shared<SolveResult>();
     if (!QDir().mkpath(folder)) {

@@ -22,6 +22,7 @@ public:
         QString directory; ///< For all files; created if it does not exist.
         bool isStatic = false;
         bool isWithoutRun = false; ///< Whether only the decks are written.
+        QString resultsFolder;     ///< See SolveInput.
         /// Values of parameters that replace those of the project.
         std::vector<std::pair<QString, double>> values;
         /// Called when a stage begins.

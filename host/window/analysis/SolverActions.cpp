@@ -1,11 +1,12 @@
 #include "SolverActions.h"
 
 #include "ExternalSolver.h"
-#include "ExternalSolverOption.h"
 #include "MenuActions.h"
 #include "MessageLevel.h"
+#include "SolverPaths.h"
 #include "UserSettings.h"
 
+#include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
 
@@ -59,6 +60,5 @@ void SolverActions::ShowResults()
 
 void SolverActions::ListSolvers()
 {
-    ExternalSolverOption dialog(m_window);
-    dialog.exec();
+    EditSolverPaths(m_window);
 }

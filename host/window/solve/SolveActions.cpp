@@ -10,6 +10,7 @@
 #include "SolveDock.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
 
@@ -60,6 +61,8 @@ SolveActions::SolveActions(ProjectSession& session, const DesignModel& design,
     , m_results(new ResultsDock(view, window))
 {
     connect(&m_process, &SolveProcess::Finished, this, &SolveActions::TakeEnd);
+    connect(&m_watch, &ResultWatch::Appeared, this, &SolveActions::OfferResults);
+    connect(m_progress, &SolveDock::ResultsWanted, this, &SolveActions::ReadResults);
     connect(&session, &ProjectSession::Opened, this, &SolveActions::Forget);
     connect(&session, &ProjectSession::StateChanged, this, &SolveActions::CompareWithResults);
     connect(&design, &DesignModel::Changed, this, &SolveActions::CompareWithResults);
@@ -75,7 +78,9 @@ void SolveActions::FillMenu(QMenu& menu)
         {NewAction(tr("Mes&h"), "action_Mesh", this, &SolveActions::Mesh),
          NewAction(tr("Solve &vibration"), "action_SolveVibration", this,
                    &SolveActions::SolveVibration),
-         NewAction(tr("Solve s&tatic"), "action_SolveStatic", this, &SolveActions::SolveStatic)});
+         NewAction(tr("Solve s&tatic"), "action_SolveStatic", this, &SolveActions::SolveStatic),
+         NewAction(tr("Read results of a s&olver"), "action_ReadResults", this,
+                   &SolveActions::ReadResults)});
 }
 
 SolveActions::Input SolveActions::CurrentInput() const
@@ -88,14 +93,33 @@ SolveActions::Input SolveActions::CurrentInput() const
     return input;
 }
 
-void SolveActions::Start(SolveKind kind)
+void SolveActions::ReadResults()
+{
+    try {
+        const SolveFolder folder(QDir::currentPath());
+        if (!QFileInfo::exists(folder.PathOf(SolveFolder::InJob(".frd"))))
+            throw HostError(tr("No solver has left results in the folder of the project."));
+        const QByteArray deck = folder.ContentOf(SolveFolder::InJob(".inp"));
+        Start(deck.contains("*STATIC") ? SolveKind::Static : SolveKind::Vibration, true);
+    } catch (const HostError& error) {
+        PostMessageToChannel(ErrorLevel, error.Reason());
+    }
+}
+
+void SolveActions::OfferResults()
+{
+    m_progress->OfferResults();
+    PostMessageToChannel(InfoLevel, tr("A solver has left results in the folder of the project"));
+}
+
+void SolveActions::Start(SolveKind kind, bool hasResults)
 {
     if (!ConfirmReplacing())
         return;
     m_process.Cancel();
     try {
         m_running = CurrentInput();
-        m_process.Start(m_running.project, kind, QDir::currentPath());
+        m_process.Start(m_running.project, kind, QDir::currentPath(), hasResults);
         m_progress->Begin(TitleOf(kind));
     } catch (const HostError& error) {
         PostMessageToChannel(ErrorLevel, error.Reason());
@@ -127,12 +151,15 @@ void SolveActions::TakeEnd(SolveProcess::Outcome outcome, const QString& problem
 
 void SolveActions::CompareWithResults()
 {
+    // A project may be saved in another folder.
+    m_watch.Follow(QDir::currentPath());
     m_results->SetOld(m_shown && !(CurrentInput() == *m_shown));
 }
 
 void SolveActions::Forget()
 {
     m_process.Cancel();
+    m_watch.Follow(QDir::currentPath());
     m_shown.reset();
     m_results->Clear();
 }

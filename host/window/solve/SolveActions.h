@@ -2,6 +2,7 @@
 
 #include "AnalysisStores.h"
 #include "Project.h"
+#include "ResultWatch.h"
 #include "SolveProcess.h"
 
 #include <QObject>
@@ -51,7 +52,9 @@ private:
     void Mesh() { Start(SolveKind::Mesh); }
     void SolveVibration() { Start(SolveKind::Vibration); }
     void SolveStatic() { Start(SolveKind::Static); }
-    void Start(SolveKind kind);
+    void ReadResults();
+    void Start(SolveKind kind, bool hasResults = false);
+    void OfferResults();
     bool ConfirmReplacing();
     void TakeEnd(SolveProcess::Outcome outcome, const QString& problem);
     Input CurrentInput() const;
@@ -61,6 +64,7 @@ private:
     ProjectSession& m_session;
     QWidget* m_window;
     SolveProcess m_process;
+    ResultWatch m_watch; // Of the project's folder.
     SolveDock* m_progress;
     ResultsDock* m_results;
     Input m_running;

@@ -38,6 +38,8 @@ SolveDock::SolveDock(SolveProcess& process, QWidget* parent)
     m_ui->stageBar->setRange(0, StageCount);
     m_clock.setInterval(Second);
     connect(&m_clock, &QTimer::timeout, this, &SolveDock::ShowTime);
+    m_ui->offerButton->hide();
+    connect(m_ui->offerButton, &QPushButton::clicked, this, &SolveDock::ResultsWanted);
     connect(m_ui->cancelButton, &QPushButton::clicked, &process, &SolveProcess::Cancel);
     connect(&process, &SolveProcess::Told, this, &SolveDock::Take);
     connect(&process, &SolveProcess::Finished, this, &SolveDock::End);
@@ -51,10 +53,18 @@ void SolveDock::Begin(const QString& title)
     m_ui->stageLabel->setText(tr("Starting"));
     m_ui->stageBar->setValue(0);
     m_ui->log->clear();
+    m_ui->offerButton->hide();
     m_ui->cancelButton->setEnabled(true);
     m_since.start();
     m_clock.start();
     ShowTime();
+    show();
+    raise();
+}
+
+void SolveDock::OfferResults()
+{
+    m_ui->offerButton->show();
     show();
     raise();
 }

@@ -25,6 +25,13 @@ public:
     /// An analysis begins, which @p title names.
     void Begin(const QString& title);
 
+    /// Results of another solver can be shown, until the next analysis begins.
+    void OfferResults();
+
+Q_SIGNALS:
+    /// The user wants to see the results that were offered.
+    void ResultsWanted();
+
 private:
     void Take(const SolveMessage& message);
     void End(SolveProcess::Outcome outcome, const QString& problem);

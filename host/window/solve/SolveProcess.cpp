@@ -35,7 +35,7 @@ QString SolveProcess::PathOf(const QString& name) const
     return m_folder->filePath(name);
 }
 
-void SolveProcess::Start(Project project, SolveKind kind, const QString& target)
+void SolveProcess::Start(Project project, SolveKind kind, const QString& target, bool hasResults)
 {
     m_report.reset();
     m_problem.clear();
@@ -55,6 +55,7 @@ void SolveProcess::Start(Project project, SolveKind kind, const QString& target)
     order.projectFile = PathOf(ProjectName);
     order.folder = m_folder->path();
     order.target = target;
+    order.hasResults = hasResults;
     order.language = Language::Current();
     m_process = new QProcess(this);
     m_process->setProgram(QCoreApplication::applicationFilePath());

@@ -33,9 +33,9 @@ public:
     ~SolveProcess() override;
 
     /// Starts to solve @p project with the user's materials of the store. Decks and tables go to
-    /// @p target as well. The analysis before must have ended. @throws HostError if the project
-    /// cannot be handed over
-    void Start(Project project, SolveKind kind, const QString& target);
+    /// @p target as well, unless it has the results already, which are read then. The analysis
+    /// before must have ended. @throws HostError if the project cannot be handed over
+    void Start(Project project, SolveKind kind, const QString& target, bool hasResults = false);
     /// Ends the child. Finished() was emitted when this returns.
     void Cancel();
     bool IsBusy() const { return m_process != nullptr; }

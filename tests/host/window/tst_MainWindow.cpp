@@ -83,6 +83,7 @@ void tst_MainWindow::TheMenusOfferTheDialogs()
                                  "Analysis/Mesh",
                                  "Analysis/Solve vibration",
                                  "Analysis/Solve static",
+                                 "Analysis/Read results of a solver",
                                  "Solver/Run Nastran",
                                  "Solver/Open results in HyperView",
                                  "Solver/Solver paths",

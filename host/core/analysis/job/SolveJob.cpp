@@ -205,6 +205,8 @@ void SolveJob::WriteSolverDeck() const
 
 void SolveJob::Solve()
 {
+    if (!m_input->resultsFolder.isEmpty())
+        return TakeResults();
     Enter(SolveStage::Solving, tr("solving"));
     RunTool(m_input->tools.solver, {SolveFolder::JobName}, SolveFolder::SolverLog,
             [this](const ToolEnd& end) {
@@ -214,6 +216,21 @@ void SolveJob::Solve()
                     throw HostError(problem);
                 Read();
             });
+}
+
+void SolveJob::TakeResults()
+{
+    const SolveFolder from(m_input->resultsFolder);
+    const QString deck = SolveFolder::InJob(".inp");
+    if (from.ContentOf(deck) != m_folder.ContentOf(deck))
+        throw HostError(tr("The results in the folder are not those of the part and its set-up as "
+                           "they are now: solve again."));
+    const QString problem = SolverProblem({}, from.ContentOf(SolveFolder::SolverLog));
+    if (!problem.isEmpty())
+        throw HostError(problem);
+    for (const QString& name : {SolveFolder::InJob(".dat"), SolveFolder::InJob(".frd")})
+        m_folder.Write(name, from.ContentOf(name));
+    Read();
 }
 
 void SolveJob::Read()

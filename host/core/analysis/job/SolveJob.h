@@ -22,6 +22,8 @@ struct SolveInput
     bool isStatic = false;    ///< Otherwise it is an analysis of vibration.
     bool isWithoutRun = false; ///< The job ends when the decks are written.
     AnalysisTools tools = AnalysisTools::Stored();
+    /// Where the solver has already left results of this deck, which are taken then; or empty.
+    QString resultsFolder = {};
 };
 
 /// What a job is doing.
@@ -70,6 +72,7 @@ private:
     void MakeMesh();
     void MakeModel();
     void Solve();
+    void TakeResults();
     void Read();
     void ReadModes(const ModesTable& table);
     void ReadStatic();

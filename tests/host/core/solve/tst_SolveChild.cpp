@@ -1,3 +1,4 @@
+#include "DeckRun.h"
 #include "HostTestMain.h"
 #include "PathWithoutSolver.h"
 #include "SolveChild.h"
@@ -17,6 +18,7 @@ private Q_SLOTS:
     void AnOrderIsDoneAndDelivered();
     void AMeshIsDeliveredWithoutResults();
     void WithoutResultsTheDecksAreDelivered();
+    void ResultsInTheTargetAreTaken();
     void AWrongProjectIsReported();
 };
 
@@ -24,11 +26,12 @@ namespace {
 
 struct Run
 {
-    explicit Run(const QByteArray& json, SolveKind kind = SolveKind::Vibration)
+    explicit Run(const QByteArray& json, SolveKind kind = SolveKind::Vibration,
+                 bool hasResults = false)
     {
         Put("p.json", json);
         QDir().mkpath("target");
-        const SolveOrder order{kind, "p.json", "out", "target", "en"};
+        const SolveOrder order{kind, "p.json", "out", "target", hasResults, "en"};
         QProcess process;
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         process.start(QCoreApplication::applicationFilePath(), order.Arguments());
@@ -95,7 +98,7 @@ void tst_SolveChild::OnlyACompleteOrderIsOne()
             pointers.push_back(text.data());
         return IsSolveChild(int(pointers.size()), pointers.data());
     };
-    const QStringList order = SolveOrder{SolveKind::Mesh, "p", "o", "t", "en"}.Arguments();
+    const QStringList order = SolveOrder{SolveKind::Mesh, "p", "o", "t", false, "en"}.Arguments();
     QVERIFY(isChild(order));
     QVERIFY(!isChild(order.mid(0, 3)));
     QVERIFY(!isChild({"--solve", "a", "--out", "b", "--set", "c=1"}));
@@ -138,6 +141,24 @@ void tst_SolveChild::WithoutResultsTheDecksAreDelivered()
                          "set the path of the program."));
     QCOMPARE(Delivered(), QStringList({"Model_Active.bdf", "Model_Active.inp"}));
     QVERIFY(ReportFromBytes(ContentOf("out/report.bin")).kind == SolveKind::Mesh);
+}
+
+void tst_SolveChild::ResultsInTheTargetAreTaken()
+{
+    QCOMPARE(Run(BeamProject, SolveKind::Mesh).status, 0);
+    DeckRun("target/Model_Active.bdf", {}).Run();
+    {
+        // The solver is not needed any more.
+        const PathWithoutSolver path;
+        const Run run(BeamProject, SolveKind::Vibration, true);
+        QCOMPARE(run.Texts(SolveMessage::Problem), QStringList());
+        QCOMPARE(ReportFromBytes(ContentOf("out/report.bin")).modes.size(), std::size_t(3));
+        QVERIFY(QFile::exists("target/Model_Active.frd"));
+    }
+    const Run other(Beam(R"("l / 10")", R"("l / 8")"), SolveKind::Vibration, true);
+    QCOMPARE(other.Texts(SolveMessage::Problem),
+             QStringList("The results in the folder are not those of the part and its set-up as "
+                         "they are now: solve again."));
 }
 
 void tst_SolveChild::AWrongProjectIsReported()

@@ -1,4 +1,5 @@
 #include "AnalysisRecords.h"
+#include "FileChoice.h"
 #include "HostTestMain.h"
 #include "OpenWindow.h"
 #include "PathWithoutSolver.h"
@@ -20,6 +21,8 @@ private Q_SLOTS:
     void ASecondStartAsksAboutTheFirst();
     void ClosingTheWindowEndsThePrograms();
     void AnotherProjectForgetsTheResults();
+    void ResultsOfAnotherSolverAreOffered();
+    void WithoutResultsThereIsNothingToRead();
 };
 
 namespace {
@@ -157,6 +160,40 @@ void tst_SolveActions::AnotherProjectForgetsTheResults()
     QVERIFY(flange.Table().rowCount() > 0);
     flange.OpenProject(Project::SamplePath());
     QCOMPARE(flange.Table().rowCount(), 0);
+}
+
+void tst_SolveActions::ResultsOfAnotherSolverAreOffered()
+{
+    Flange flange;
+    flange.Solve("action_Mesh");
+    const auto& offer = Find<QWidget>(flange.window, "offerButton");
+    QVERIFY(!offer.isVisible());
+    // As the dialog runs it, which is closed when the solver has ended.
+    flange.user.Then([&flange](QDialog& dialog) {
+        ChooseFile(flange.user, TARN_CCX_PROGRAM);
+        Click(dialog, "pushButton_Browse");
+        flange.user.Answer(QMessageBox::Ok);
+        Click(dialog, "pushButton_Run");
+        dialog.reject();
+    });
+    flange.Trigger("action_RunSolver");
+    QVERIFY(flange.user.IsDone());
+    QTRY_VERIFY(offer.isVisible());
+    Click(flange.window, "offerButton");
+    flange.WaitForEnd();
+    QCOMPARE(flange.Table().rowCount(), 5);
+    QVERIFY(flange.Table().item(0, 1)->text().toDouble() > 4000.0);
+    QVERIFY(!offer.isVisible());
+    QVERIFY(QFile::exists("Model_Active.frd"));
+}
+
+void tst_SolveActions::WithoutResultsThereIsNothingToRead()
+{
+    Flange flange;
+    const PostedMessages posted;
+    flange.Trigger("action_ReadResults");
+    QCOMPARE(posted.At(ErrorLevel),
+             QStringList("No solver has left results in the folder of the project."));
 }
 
 TARN_HOST_TEST_MAIN(tst_SolveActions)
