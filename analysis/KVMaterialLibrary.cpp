@@ -60,7 +60,7 @@ void FillRow(QTableWidget& table, int row, const RowTexts& texts)
 QString CloneName(const QString& name, int count)
 {
     const QString digits = QString::number(count);
-    int position = name.size();
+    int position = int(name.size());
     if (count > 10)
         position -= 2;
     else if (count > 0)
@@ -308,7 +308,7 @@ void KVMaterialLibrary::UserName()
 
 int KVMaterialLibrary::ItemRow(QString name) const
 {
-    return KVMaterialData::GetInstance()->GetMaterialNameList().indexOf(name);
+    return int(KVMaterialData::GetInstance()->GetMaterialNameList().indexOf(name));
 }
 
 // Shows a notice if there is no current row.

@@ -8,9 +8,10 @@ target_compile_definitions(TarnGUICommonObjects PRIVATE TarnGUICommon_EXPORTS)
 target_include_directories(TarnGUICommonObjects PUBLIC "${PROJECT_BINARY_DIR}/exports"
                                                        "${PROJECT_SOURCE_DIR}/model/support")
 set(TARN_DIALOG_LIBRARIES
-    Qt5::Core
-    Qt5::Gui
-    Qt5::Widgets
+    Qt${TARN_QT}::Core
+    Qt${TARN_QT}::Gui
+    Qt${TARN_QT}::Widgets
+    ${TARN_QT_TEXT_CODEC}
     TarnDesign
     TarnFEMData
     TarnCoreGeometry

@@ -56,8 +56,8 @@ endfunction()
 # Adds a model library: it uses QtCore and no widgets.
 function(tarn_add_model_library target)
   tarn_add_library(${target})
-  target_link_libraries(${target} PUBLIC Qt5::Core PRIVATE $<BUILD_INTERFACE:TarnStrict>
-                                                           $<BUILD_INTERFACE:TarnModelSupport>)
+  target_link_libraries(${target} PUBLIC Qt${TARN_QT}::Core ${TARN_QT_TEXT_CODEC}
+                        PRIVATE $<BUILD_INTERFACE:TarnStrict> $<BUILD_INTERFACE:TarnModelSupport>)
   target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>")
 endfunction()
 
@@ -110,7 +110,7 @@ endfunction()
 #
 # Generates ui_<form>.h from each form and sets the variable to the headers.
 function(tarn_wrap_forms variable)
-  get_target_property(uic Qt5::uic IMPORTED_LOCATION)
+  get_target_property(uic Qt${TARN_QT}::uic IMPORTED_LOCATION)
   foreach(form IN LISTS ARGN)
     get_filename_component(name "${form}" NAME_WE)
     set(header "${CMAKE_CURRENT_BINARY_DIR}/ui_${name}.h")

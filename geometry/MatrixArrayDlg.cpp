@@ -1,6 +1,15 @@
 #include "MatrixArrayDlg.h"
 
+#include <QtGlobal>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QRegExpValidator>
+using Pattern = QRegExp;
+using PatternValidator = QRegExpValidator;
+#else
+#include <QRegularExpressionValidator>
+using Pattern = QRegularExpression;
+using PatternValidator = QRegularExpressionValidator;
+#endif
 
 MatrixArrayDlg::MatrixArrayDlg(QDialog* parent)
     : QDialog(parent)
@@ -10,7 +19,7 @@ MatrixArrayDlg::MatrixArrayDlg(QDialog* parent)
     connect(m_ui.pushButtonCancel, SIGNAL(clicked()), this, SLOT(close()));
     connect(m_ui.pushButtonCancel, SIGNAL(clicked()), this, SLOT(m_slot_CancelPushed()));
     auto* const count =
-        new QRegExpValidator(QRegExp(QStringLiteral("[0-9]{1,4}")), m_ui.lineEdit_XNum);
+        new PatternValidator(Pattern(QStringLiteral("[0-9]{1,4}")), m_ui.lineEdit_XNum);
     m_ui.lineEdit_XNum->setValidator(count);
     m_ui.lineEdit_YNum->setValidator(count);
     connect(m_ui.pushButtonOK, SIGNAL(clicked()), this, SLOT(m_slot_OkPushed()));

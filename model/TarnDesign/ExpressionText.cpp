@@ -24,9 +24,12 @@ ExpressionText::ExpressionText(const QByteArray& bytes)
         m_text = QString::fromLatin1(bytes.constData(), bytes.size());
     for (const QChar character : qAsConst(m_text))
         m_ascii += character < QChar(0x80) ? character.toLatin1() : '_';
-    if (m_text.toUcs4().size() > MaxCharacters)
-        Refuse({End, QString::fromUcs4(m_text.toUcs4().constData(), MaxCharacters).size(), "", ""},
+    const auto characters = m_text.toUcs4();
+    if (characters.size() > MaxCharacters) {
+        const auto* const first = reinterpret_cast<const char32_t*>(characters.constData());
+        Refuse({End, int(QString::fromUcs4(first, MaxCharacters).size()), "", ""},
                tr("the expression has more than %1 characters").arg(MaxCharacters));
+    }
     if (Read().kind == End)
         Refuse({}, tr("the expression is empty"));
 }
@@ -127,6 +130,6 @@ void ExpressionText::Refuse(const Token& token, QString reason) const
     if (token.text.size() == 1 && !part.at(0).isPrint())
         shown = tr("the character with code %1").arg(part.at(0).unicode());
     reason.replace(QLatin1String("%1"), shown);
-    const int position = m_text.leftRef(token.begin).toUcs4().size() + 1;
+    const int position = int(QStringView(m_text).left(token.begin).toUcs4().size()) + 1;
     throw std::runtime_error(tr("Position %1: %2").arg(position).arg(reason).toStdString());
 }

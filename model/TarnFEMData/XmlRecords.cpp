@@ -84,21 +84,22 @@ QString Escaped(const QString& text)
 /// Reverses Escaped(). A backslash that does not begin an escape is kept.
 QString Unescaped(const QString& text)
 {
-    int i = text.indexOf(QLatin1Char('\\'));
+    int i = int(text.indexOf(QLatin1Char('\\')));
     if (i < 0)
         return text;
 
     QString plain = text.left(i);
     while (i < text.size()) {
         bool isEscape = false;
-        if (text.midRef(i, 2) == QLatin1String("\\u") && i + EscapeLength <= text.size()) {
+        if (QStringView(text).mid(i, 2) == QLatin1String("\\u") &&
+            i + EscapeLength <= text.size()) {
             const auto isDigit = [](QChar c) {
                 return c < QChar(0x80) && std::isxdigit(c.toLatin1()) != 0;
             };
             isEscape = std::all_of(text.begin() + i + 2, text.begin() + i + EscapeLength, isDigit);
         }
         if (isEscape) {
-            plain += QChar(text.midRef(i + 2, EscapeDigits).toUShort(nullptr, Hexadecimal));
+            plain += QChar(text.mid(i + 2, EscapeDigits).toUShort(nullptr, Hexadecimal));
             i += EscapeLength;
         } else {
             plain += text[i];
@@ -169,7 +170,7 @@ public:
     XmlReading Read(const std::function<bool(std::vector<QString>&)>& take);
 
 private:
-    int FieldOf(const QStringRef& name, int likely) const;
+    int FieldOf(QStringView name, int likely) const;
     bool IsBounded();
     bool ReadRoot();
     bool ReadRecord(const std::function<bool(std::vector<QString>&)>& take);
@@ -186,7 +187,7 @@ private:
 };
 
 /// The field called @p name, or -1; it is usually the one at @p likely.
-int RecordReader::FieldOf(const QStringRef& name, int likely) const
+int RecordReader::FieldOf(QStringView name, int likely) const
 {
     if (likely < m_fields.size() && m_fields[likely] == name)
         return likely;
@@ -244,7 +245,7 @@ XmlReading RecordReader::Read(const std::function<bool(std::vector<QString>&)>& 
 /// False if the start tag has more attributes or namespaces than any of ours.
 bool RecordReader::IsBounded()
 {
-    m_namespaces += m_xml.namespaceDeclarations().size();
+    m_namespaces += int(m_xml.namespaceDeclarations().size());
     return m_namespaces <= MaximumNamespaces && m_xml.attributes().size() <= MaximumAttributes;
 }
 
@@ -274,7 +275,7 @@ bool RecordReader::ReadRecord(const std::function<bool(std::vector<QString>&)>& 
             continue;
         }
         // Records often have the same text as the previous one; they then share it.
-        const QStringRef value = attributes[i].value();
+        const auto value = attributes[i].value();
         QString& last = m_last[std::size_t(field)];
         if (last.isNull() || value != last)
             last = value.toString();
@@ -307,7 +308,7 @@ bool WriteRecords(const XmlFormat& format, QByteArray& content,
     const QVector<QString> fields = format.fields + format.optional;
     std::vector<QString> texts(std::size_t(fields.size()));
     for (int records = 0; next(texts); ++records) {
-        const int before = content.size();
+        const auto before = content.size();
         xml.writeEmptyElement(format.record);
         for (int i = 0; i < fields.size(); ++i) {
             if (i < format.fields.size() || !texts[std::size_t(i)].isEmpty())

@@ -108,9 +108,9 @@ QString WithRenamed(const QString& expression, const QString& before, const QStr
     QString renamed;
     int done = 0;
     VisitNames(expression, [&](int begin, int length) {
-        if (expression.midRef(begin, length) != before)
+        if (QStringView(expression).mid(begin, length) != before)
             return;
-        renamed += expression.midRef(done, begin - done);
+        renamed += expression.mid(done, begin - done);
         renamed += after;
         done = begin + length;
     });
