@@ -5,7 +5,6 @@
 #include "FeatureKind.h"
 #include "FieldValues.h"
 #include "MessageLevel.h"
-#include "NumberTexts.h"
 #include "PartModel.h"
 
 #include <QHeaderView>
@@ -38,8 +37,9 @@ FieldValue ValueOf(const FieldDefinition& field, const QString& text, FieldValue
     if (std::isnan(value))
         return {FeatureFields::tr("no value"), ExpressionEngine::LastError()};
     if (!field.rule.Allows(value))
-        return {ShortText(value), FeatureFields::tr("Has to be %1").arg(field.rule.Text())};
-    return {ShortText(value), QString()};
+        return {field.rule.ValueText(value),
+                FeatureFields::tr("Has to be %1").arg(field.rule.Text())};
+    return {field.rule.ValueText(value), QString()};
 }
 
 QTableWidgetItem& Cell(QTableWidget& table, int row, int column)

@@ -7,6 +7,7 @@
 #include "PosInputDlg.h"
 
 #include <QLineEdit>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -27,9 +28,14 @@ PositionDock::PositionDock(PartView* view, QWidget* parent)
     , m_view(view)
 {
     setObjectName(QStringLiteral("positionDock"));
-    auto* const input = new PosInputDlg(this);
-    input->setMaximumHeight(input->sizeHint().height());
-    setWidget(input);
+    // The form takes its height at the top; docks in tabs beside it may be higher.
+    auto* const centre = new QWidget(this);
+    auto* const layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* const input = new PosInputDlg(centre);
+    layout->addWidget(input);
+    layout->addStretch();
+    setWidget(centre);
 
     m_fields = {input->ui.lineEdit, input->ui.lineEdit_2, input->ui.lineEdit_3};
     for (QLineEdit* const field : m_fields)

@@ -37,13 +37,13 @@ void tst_MainWindowPart::ASelectedFeatureShowsItsFields()
     const auto& fields = Find<QTableWidget>(open.window, "fieldTable");
     QCOMPARE(fields.item(0, 1)->text(), QString("plate"));
     QCOMPARE(fields.item(2, 1)->text(), QString("outer_diameter / 2"));
-    QCOMPARE(fields.item(2, 2)->text(), QString("100"));
+    QCOMPARE(fields.item(2, 2)->text(), QString("100 mm"));
     open.user.Then([](QDialog& editor) {
         TypeValue(editor, "outer_diameter", "240");
         Click(editor, "pushButton_OK");
     });
     open.Trigger("action_Parameters");
-    QCOMPARE(fields.item(2, 2)->text(), QString("120"));
+    QCOMPARE(fields.item(2, 2)->text(), QString("120 mm"));
 }
 
 void tst_MainWindowPart::UndoAndRedoHaveShortcuts()

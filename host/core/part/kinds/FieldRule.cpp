@@ -16,6 +16,14 @@ bool FieldRule::Allows(double value) const
            (exclusiveMaximum ? value < maximum : value <= maximum);
 }
 
+QString FieldRule::ValueText(double value) const
+{
+    const QString text = ShortText(value);
+    if (unit == Millimetres)
+        return QStringLiteral("%1 mm").arg(text);
+    return unit == Degrees ? text + QChar(0xb0) : text;
+}
+
 QString FieldRule::Text() const
 {
     const auto plain = [](double limit) {

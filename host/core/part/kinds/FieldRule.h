@@ -24,6 +24,8 @@ struct FieldRule
     bool Allows(double value) const;
     /// "from 1 to 10000", "above 0 and at most 360 degrees": what follows "has to be".
     QString Text() const;
+    /// A value with its unit, such as "12.5 mm"; with six digits.
+    QString ValueText(double value) const;
 
     Q_DECLARE_TR_FUNCTIONS(FieldRule)
 };

@@ -145,9 +145,10 @@ void tst_FeatureFields::NameInputsAndFieldsHaveARowEach()
             cells << shown.Table().item(row, column)->text();
         rows << cells.join('|');
     }
-    QCOMPARE(rows, QStringList({"Name|plate|", "Inputs||", "Size x|4 * 5|20", "Size y|10|10",
-                                "Size z|10|10", "Move x|0|0", "Move y|0|0", "Move z|0|0",
-                                "Turn about x|0|0", "Turn about y|0|0", "Turn about z|0|0"}));
+    QCOMPARE(rows,
+             QStringList({"Name|plate|", "Inputs||", "Size x|4 * 5|20 mm", "Size y|10|10 mm",
+                          "Size z|10|10 mm", "Move x|0|0 mm", "Move y|0|0 mm", "Move z|0|0 mm",
+                          "Turn about x|0|0°", "Turn about y|0|0°", "Turn about z|0|0°"}));
     shown.dock.ShowFeature("body");
     QCOMPARE(shown.Table().rowCount(), 2);
     QCOMPARE(shown.Text("Inputs"), QString("plate, pin"));
@@ -177,7 +178,7 @@ void tst_FeatureFields::ATypedTextChangesTheFeature()
     shown.Type("Height", " 3 * 7 ");
     QCOMPARE(FieldText(shown.Stored("pin"), "height"), QString("3 * 7"));
     QCOMPARE(shown.Text("Height"), QString("3 * 7"));
-    QCOMPARE(shown.Value("Height"), QString("21"));
+    QCOMPARE(shown.Value("Height"), QString("21 mm"));
     QCOMPARE(shown.model.UndoStack().undoText(), QString("Change \"pin\""));
     shown.Type("Height", "3 * 7");
     QCOMPARE(shown.model.UndoStack().count(), 1);
@@ -199,7 +200,7 @@ void tst_FeatureFields::ATextWithoutAUsableValueIsKeptAndShowsTheReason_data()
                            << "no value"
                            << "";
     QTest::newRow("out of range") << "-3"
-                                  << "-3"
+                                  << "-3 mm"
                                   << "Has to be from 0.0001 to 1000000 mm";
     QTest::newRow("infinite") << "1 / 0"
                               << "no value"
@@ -234,10 +235,10 @@ void tst_FeatureFields::ValuesFollowTheParameters()
     SetParameter("size", 4.0);
     shown.dock.ShowFeature("pin");
     shown.Type("Height", "size + 1");
-    QCOMPARE(shown.Value("Height"), QString("5"));
+    QCOMPARE(shown.Value("Height"), QString("5 mm"));
     SetParameter("size", 6.0);
     shown.model.Rebuild();
-    QCOMPARE(shown.Value("Height"), QString("7"));
+    QCOMPARE(shown.Value("Height"), QString("7 mm"));
     QCOMPARE(shown.Text("Height"), QString("size + 1"));
 }
 
@@ -312,7 +313,7 @@ void tst_FeatureFields::UndoIsShown()
     shown.Type("Height", "33");
     shown.model.UndoStack().undo();
     QCOMPARE(shown.Text("Height"), QString("10"));
-    QCOMPARE(shown.Value("Height"), QString("10"));
+    QCOMPARE(shown.Value("Height"), QString("10 mm"));
 }
 
 void tst_FeatureFields::AnImportShowsItsFile()

@@ -90,7 +90,7 @@ public:
 void tst_PositionDock::TheDockHoldsTheLibrarysStrip()
 {
     const ShownDock shown;
-    const auto* const strip = qobject_cast<PosInputDlg*>(shown.dock->widget());
+    const auto* const strip = shown.dock->findChild<PosInputDlg*>();
     QVERIFY(strip != nullptr);
     QVERIFY(strip->isVisible() && !strip->isWindow());
     QVERIFY(strip != PosInputDlg::GetInstance());

@@ -11,6 +11,7 @@ class tst_FieldRule : public TestCase
 private Q_SLOTS:
     void ARuleAllowsItsRange_data();
     void ARuleAllowsItsRange();
+    void ValuesHaveTheirUnits();
 };
 
 void tst_FieldRule::ARuleAllowsItsRange_data()
@@ -57,6 +58,14 @@ void tst_FieldRule::ARuleAllowsItsRange()
     for (const double value : std::as_const(refused))
         QVERIFY2(!rule.Allows(value), QByteArray::number(value));
     QTEST(rule.Text(), "text");
+}
+
+void tst_FieldRule::ValuesHaveTheirUnits()
+{
+    QCOMPARE((FieldRule{0, 1, FieldRule::Millimetres}.ValueText(12.5)), QString("12.5 mm"));
+    QCOMPARE((FieldRule{0, 1, FieldRule::Degrees}.ValueText(-90)), QString("-90°"));
+    QCOMPARE((FieldRule{0, 1, FieldRule::Number}.ValueText(1e-7)), QString("1e-07"));
+    QCOMPARE((FieldRule{0, 1, FieldRule::WholeNumber}.ValueText(8)), QString("8"));
 }
 
 TARN_TEST_MAIN(tst_FieldRule)
