@@ -2713,6 +2713,10 @@ Remove these as well?</source>
         <source>Exported to %1</source>
         <translation>已导出到 %1</translation>
     </message>
+    <message>
+        <source>Results are not drawn: there is no 3D view.</source>
+        <translation>结果不绘制：没有三维视图。</translation>
+    </message>
 </context>
 <context>
     <name>ResultError</name>
@@ -2870,12 +2874,12 @@ Remove these as well?</source>
         <translation>已过时：零件或其设置此后已更改。请重新求解。</translation>
     </message>
     <message>
-        <source>Results</source>
-        <translation>结果</translation>
-    </message>
-    <message>
         <source>&amp;Export table</source>
         <translation>导出表格(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Results of the analysis</source>
+        <translation>分析结果</translation>
     </message>
 </context>
 <context>

@@ -15,8 +15,12 @@
 #include "ParameterEditor.h"
 #include "PartModel.h"
 #include "Project.h"
+#include "ResultsDock.h"
 #include "SampleAnalysis.h"
 #include "SampleRecords.h"
+#include "SampleResults.h"
+#include "SolveActions.h"
+#include "SolveDock.h"
 #include "WholeFile.h"
 
 #include <QApplication>
@@ -24,6 +28,7 @@
 #include <QDir>
 #include <QFont>
 #include <QLabel>
+#include <QMainWindow>
 #include <QPixmap>
 #include <QTimer>
 
@@ -31,8 +36,9 @@
 
 namespace {
 
-constexpr int PointSize = 9;             // The default of a system without a desktop is unusual.
-constexpr QSize WindowSize(1440, 940);   // Whatever the screen and the last session.
+constexpr int PointSize = 9;           // The default of a system without a desktop is unusual.
+constexpr QSize WindowSize(1440, 940); // Whatever the screen and the last session.
+constexpr QSize DockSize(460, 480);
 constexpr QSize RoomySampling(360, 460); // The form's own size shows one sample.
 
 class PictureFont
@@ -99,6 +105,34 @@ std::unique_ptr<QWidget> PictureOfMaterialEditor()
     return picture;
 }
 
+/// A dock in a window of its own.
+class DockWindow : public QMainWindow
+{
+public:
+    explicit DockWindow(QDockWidget& dock)
+    {
+        addDockWidget(Qt::RightDockWidgetArea, &dock);
+        resize(DockSize);
+    }
+};
+
+void VisitDocks(const std::function<void(const QString& name, QWidget& window)>& visit)
+{
+    auto* const results = new ResultsDock(nullptr, nullptr);
+    DockWindow resultsWindow(*results);
+    results->ShowReport(SampleResults());
+    visit(QStringLiteral("ResultsDock"), resultsWindow);
+
+    SolveProcess process;
+    auto* const progress = new SolveDock(process, nullptr);
+    DockWindow progressWindow(*progress);
+    progress->Begin(SolveActions::tr("Vibration"));
+    Q_EMIT process.Told({SolveMessage::Stage, SolveStage::Solving, {}});
+    for (const QString& line : {SolveJob::tr("building the part"), SolveJob::tr("solving")})
+        Q_EMIT process.Told({SolveMessage::Line, {}, line});
+    visit(QStringLiteral("SolveDock"), progressWindow);
+}
+
 QByteArray PictureOf(QWidget& window)
 {
     window.show();
@@ -139,6 +173,7 @@ void VisitWindows(const Project& project,
         Prepare(*dialog);
         visit(QString::fromLatin1(entry.name), *dialog);
     }
+    VisitDocks(visit);
     visit(QStringLiteral("MaterialEditer"), *PictureOfMaterialEditor());
 }
 

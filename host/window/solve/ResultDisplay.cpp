@@ -216,8 +216,11 @@ double ResultDisplay::Scale() const
 
 QString ResultDisplay::ValueText(Content content) const
 {
+    const QString reason = PartView::UnavailableReason();
+    if (m_view == nullptr && reason.isEmpty())
+        return tr("Results are not drawn: there is no 3D view.");
     if (m_view == nullptr)
-        return tr("Results are not drawn: %1").arg(PartView::UnavailableReason());
+        return tr("Results are not drawn: %1").arg(reason);
     if (m_report == nullptr || content == Part || content == Mesh)
         return {};
     if (m_report->kind != SolveKind::Static) {

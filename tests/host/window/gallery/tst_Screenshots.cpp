@@ -32,7 +32,7 @@ namespace {
 
 QStringList WindowNames()
 {
-    QStringList names = {"MainWindow", "MaterialEditer"};
+    QStringList names = {"MainWindow", "MaterialEditer", "ResultsDock", "SolveDock"};
     for (const CatalogueEntry& entry : DialogCatalogue())
         names << entry.name;
     names.sort();
