@@ -1,12 +1,11 @@
 #include "FlangeStudy.h"
+#include "StudyProgram.h"
 #include "TestCase.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QRegularExpression>
 
 #include <csignal>
-#include <memory>
 #include <vector>
 
 // Programs that work on the folder of a study one after the other, at once, or until they are
@@ -31,42 +30,6 @@ private Q_SLOTS:
     void TheFolderReportsItsRuns();
     void TheTableIsDerived();
 };
-
-using Arguments = QStringList;
-
-static const Arguments Study = {"--study", "p.json", "--out", "out"};
-
-static std::unique_ptr<QProcess> Started(const Arguments& arguments)
-{
-    auto process = std::make_unique<QProcess>();
-    process->start(TARN_HOST_PROGRAM, arguments);
-    return process;
-}
-
-static int CodeOf(QProcess& process)
-{
-    constexpr int Patience = 120000; // ms
-    return process.waitForFinished(Patience) && process.exitStatus() == QProcess::NormalExit
-               ? process.exitCode()
-               : -1;
-}
-
-static int Run(const Arguments& arguments, QString* output = nullptr)
-{
-    const std::unique_ptr<QProcess> process = Started(arguments);
-    const int code = CodeOf(*process);
-    if (output != nullptr)
-        *output = QString::fromUtf8(process->readAllStandardOutput());
-    return code;
-}
-
-// Of the study in the folder "out" that nothing disturbed.
-static QByteArray Undisturbed()
-{
-    if (Run({"--study", "p.json", "--out", "whole", "--jobs", "1"}) < 0)
-        return {};
-    return ContentOf("whole/results.csv");
-}
 
 static QByteArray SixRuns()
 {
