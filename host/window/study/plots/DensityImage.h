@@ -22,12 +22,9 @@ public:
     QImage Image(const QColor& color) const;
 
 private:
-    void Add(int x, int y)
-    {
-        if (x >= 0 && y >= 0 && x < m_size.width() && y < m_size.height())
-            ++m_counts[std::size_t(y) * std::size_t(m_size.width()) + std::size_t(x)];
-    }
+    /// A column of pixels, from @p begin to before @p end, of which a part may be outside.
+    void AddColumn(int x, int begin, int end);
 
     QSize m_size;
-    std::vector<int> m_counts;
+    std::vector<int> m_counts; // Column by column: lines pass through neighbours.
 };

@@ -74,16 +74,15 @@ QImage ParallelPlot::Lines(const QSize& size, double scale, bool isOfSelected) c
 {
     DensityImage image(size);
     const QRectF plot = PlotArea(QRectF(QPointF(), QSizeF(size) / scale));
-    for (const int row : Rows()) {
-        if (isOfSelected && !IsSelected(row))
-            continue;
-        QPointF before;
-        for (std::size_t axis = 0; axis < m_chosen.size(); ++axis) {
-            const double share = m_ranges[axis].ShareOf(Columns().Value(m_chosen[axis], row));
-            const QPointF place(XOf(plot, int(axis)), plot.bottom() - share * plot.height());
-            if (axis > 0)
-                image.AddLine(before * scale, place * scale);
-            before = place;
+    const auto placeOf = [&](std::size_t axis, int row) {
+        const double share = m_ranges[axis].ShareOf(Columns().Value(m_chosen[axis], row));
+        return QPointF(XOf(plot, int(axis)), plot.bottom() - share * plot.height()) * scale;
+    };
+    // Axis by axis, which is faster: neighbouring pixels stay in the processor's cache.
+    for (std::size_t axis = 1; axis < m_chosen.size(); ++axis) {
+        for (const int row : Rows()) {
+            if (!isOfSelected || IsSelected(row))
+                image.AddLine(placeOf(axis - 1, row), placeOf(axis, row));
         }
     }
     return image.Image(isOfSelected ? SelectedColor() : PointColor());

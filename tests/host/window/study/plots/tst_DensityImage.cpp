@@ -42,7 +42,7 @@ void tst_DensityImage::LinesAreWhole_data()
     QTest::addColumn<int>("pixels");
     NewRow("level", QPointF(0, 5), QPointF(19.5, 5), 20);
     NewRow("from right to left", QPointF(19.5, 5), QPointF(0, 5), 20);
-    NewRow("upright", QPointF(5, 0), QPointF(5, 9), 9);
+    NewRow("upright", QPointF(5, 0), QPointF(5, 9), 10);
     NewRow("a diagonal", QPointF(0, 0), QPointF(9.5, 9.5), 10);
     NewRow("steep", QPointF(4, 0), QPointF(6, 10), 10);
     NewRow("through the picture", QPointF(-1e9, 5), QPointF(1e9, 5), 20);
