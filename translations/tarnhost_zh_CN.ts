@@ -631,10 +631,6 @@
 <context>
     <name>ConvergencePlot</name>
     <message>
-        <source>Result</source>
-        <translation>结果</translation>
-    </message>
-    <message>
         <source>Least so far</source>
         <translation>迄今最小值</translation>
     </message>
@@ -649,6 +645,10 @@
     <message>
         <source>Runs that have ended</source>
         <translation>已结束的运行</translation>
+    </message>
+    <message>
+        <source>Course of</source>
+        <translation>过程对象</translation>
     </message>
 </context>
 <context>
@@ -3436,10 +3436,6 @@ Remove these as well?</source>
 <context>
     <name>StatisticsPage</name>
     <message>
-        <source>Result</source>
-        <translation>结果</translation>
-    </message>
-    <message>
         <source>Calculate</source>
         <translation>计算</translation>
     </message>
@@ -3510,6 +3506,10 @@ Remove these as well?</source>
     <message>
         <source>A quadratic surface over %1 runs explains %2 of the variance, and %3 of runs that it has not seen; its error there is %4.</source>
         <translation>基于 %1 次运行的二次响应面解释了方差的 %2，对未参与拟合的运行为 %3；其误差为 %4。</translation>
+    </message>
+    <message>
+        <source>Statistics of</source>
+        <translation>统计对象</translation>
     </message>
 </context>
 <context>

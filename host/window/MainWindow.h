@@ -45,6 +45,8 @@ public:
     FeatureTree& Features() { return *m_features; }
     /// The open project; the window owns it.
     ProjectSession& Session() { return *m_session; }
+    /// The study in the window; the window owns it.
+    StudyActions& Study() { return *m_study; }
     /// The parameters; the window owns them.
     DesignModel& Design() { return *m_design; }
 

@@ -13,7 +13,8 @@ SOURCE = Path(os.environ["TARN_SOURCE_DIR"]).resolve()
 MANUAL = SOURCE / "docs" / "manual"
 IMAGES = SOURCE / "docs" / "images"
 EXAMPLE = SOURCE / "docs" / "examples" / "small_host"
-OWN_WINDOWS = {"MainWindow", "ResultsDock", "SolveDock"}  # Pictures that do not show a dialog.
+# Pictures that do not show a dialog.
+OWN_WINDOWS = {"MainWindow", "ResultsDock", "SolveDock", "StudyPanel", "StudyResults"}
 ELSEWHERE = re.compile(r"^(https?|mailto|javascript):")
 
 

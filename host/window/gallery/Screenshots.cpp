@@ -19,8 +19,12 @@
 #include "SampleAnalysis.h"
 #include "SampleRecords.h"
 #include "SampleResults.h"
+#include "SampleStudy.h"
 #include "SolveActions.h"
 #include "SolveDock.h"
+#include "StudyActions.h"
+#include "StudyPanel.h"
+#include "StudyResults.h"
 #include "WholeFile.h"
 
 #include <QApplication>
@@ -33,12 +37,16 @@
 #include <QTimer>
 
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace {
 
 constexpr int PointSize = 9;           // The default of a system without a desktop is unusual.
 constexpr QSize WindowSize(1440, 940); // Whatever the screen and the last session.
 constexpr QSize DockSize(460, 480);
+constexpr QSize StudyPanelSize(400, 720);
+constexpr QSize StudyResultsSize(900, 560);
 constexpr QSize RoomySampling(360, 460); // The form's own size shows one sample.
 
 class PictureFont
@@ -84,6 +92,28 @@ void Prepare(QWidget& dialog)
     } else if (qobject_cast<OneParameterDlg*>(&dialog) != nullptr) {
         dialog.resize(RoomySampling);
     }
+}
+
+// What the docks of a study hold, as windows of their own. Destroys the window.
+void VisitStudy(std::unique_ptr<MainWindow> window,
+                const std::function<void(const QString& name, QWidget& window)>& visit)
+{
+    FillSampleStudy(window->Study().Table());
+    window->Study().Results()->OpenTab(QStringLiteral("scatterMatrix"));
+    const std::initializer_list<std::pair<QDockWidget*, QSize>> docks = {
+        {window->Study().Panel(), StudyPanelSize}, {window->Study().Results(), StudyResultsSize}};
+    // They outlive the docks, which use them.
+    std::vector<std::unique_ptr<QWidget>> contents;
+    for (const auto& [dock, size] : docks) {
+        contents.emplace_back(dock->widget());
+        QWidget& content = *contents.back();
+        content.setParent(nullptr);
+        content.setWindowTitle(dock->windowTitle());
+        content.resize(size);
+        visit(QString::fromLatin1(dock->metaObject()->className()), content);
+        content.hide();
+    }
+    window.reset();
 }
 
 // Only the library can run this dialog, so the picture is taken during a run.
@@ -165,7 +195,9 @@ void VisitWindows(const Project& project,
     const NoticeWatcher notices;
     const SampleAnalysisFiles files;
     // First: it fills the stores.
-    visit(QStringLiteral("MainWindow"), *NewMainWindow(project));
+    std::unique_ptr<MainWindow> window = NewMainWindow(project);
+    visit(QStringLiteral("MainWindow"), *window);
+    VisitStudy(std::move(window), visit);
     for (const CatalogueEntry& entry : DialogCatalogue()) {
         const std::unique_ptr<QWidget> dialog = entry.make();
         if (entry.fill != nullptr)

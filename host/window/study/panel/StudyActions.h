@@ -32,6 +32,8 @@ public:
 
     StudyPanel* Panel() const { return m_panel; }
     StudyResults* Results() const { return m_results; }
+    /// The runs that are shown.
+    StudyTable& Table() { return *m_table; }
 
     void FillMenu(QMenu& menu);
 

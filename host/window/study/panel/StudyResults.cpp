@@ -67,6 +67,12 @@ void StudyResults::AddPlots()
     add(new StatisticsPage(m_table, m_selection, this), tr("Statistics"));
 }
 
+void StudyResults::OpenTab(const QString& name)
+{
+    if (auto* const plot = findChild<StudyPlot*>(name))
+        m_form->tabWidget->setCurrentWidget(plot);
+}
+
 StudyPlot* StudyResults::CurrentPlot() const
 {
     return qobject_cast<StudyPlot*>(m_form->tabWidget->currentWidget());

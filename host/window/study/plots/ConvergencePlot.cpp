@@ -22,7 +22,7 @@ constexpr int SelectedSize = 7;
 
 ConvergencePlot::ConvergencePlot(StudyTable& table, StudySelection& selection, QWidget* parent)
     : StudyPlot(table, selection, parent)
-    , m_response(AddColumnBox(tr("Result"), "comboBox_Response"))
+    , m_response(AddColumnBox(tr("Course of"), "comboBox_Response"))
     , m_plot(NewQwtPlot(this))
     , m_points(AddPoints(*m_plot, PointColor().lighter(), PointSize))
     , m_selected(AddPoints(*m_plot, SelectedColor(), SelectedSize))

@@ -19,8 +19,7 @@ constexpr int UsualColumns = 6;
 constexpr int Gap = 4;   // Between fields, in pixels.
 constexpr int Inset = 3; // Of the points in a field.
 constexpr int Bins = 20; // Of a histogram.
-constexpr int PointSize = 2;
-constexpr int SelectedSize = 3;
+constexpr std::size_t FewRuns = 2000;
 
 } // namespace
 
@@ -76,6 +75,8 @@ QPointF ScatterMatrix::PlaceOf(const QRectF& field, int x, int y, int row) const
 QImage ScatterMatrix::Points(const QSize& size, bool isOfSelected) const
 {
     DensityImage image(size);
+    // Few points have room to be seen.
+    const int pointSize = (Rows().size() < FewRuns ? 4 : 2) + (isOfSelected ? 1 : 0);
     const int columns = int(m_chosen.size());
     for (int x = 0; x < columns; ++x) {
         for (int y = 0; y < columns; ++y) {
@@ -87,7 +88,7 @@ QImage ScatterMatrix::Points(const QSize& size, bool isOfSelected) const
                     continue;
                 const QPointF place = PlaceOf(field, x, y, row);
                 if (std::isfinite(place.x()) && std::isfinite(place.y()))
-                    image.AddPoint(place.toPoint(), isOfSelected ? SelectedSize : PointSize);
+                    image.AddPoint(place.toPoint(), pointSize);
             }
         }
     }

@@ -43,7 +43,7 @@ QString NumberText(double value)
 
 StatisticsPage::StatisticsPage(StudyTable& table, StudySelection& selection, QWidget* parent)
     : StudyPlot(table, selection, parent)
-    , m_response(AddColumnBox(tr("Result"), "comboBox_Response"))
+    , m_response(AddColumnBox(tr("Statistics of"), "comboBox_Response"))
     , m_content(new QWidget(this))
     , m_surface(new QLabel(m_content))
 {

@@ -32,7 +32,8 @@ namespace {
 
 QStringList WindowNames()
 {
-    QStringList names = {"MainWindow", "MaterialEditer", "ResultsDock", "SolveDock"};
+    QStringList names = {"MainWindow", "MaterialEditer", "ResultsDock",
+                         "SolveDock",  "StudyPanel",     "StudyResults"};
     for (const CatalogueEntry& entry : DialogCatalogue())
         names << entry.name;
     names.sort();
