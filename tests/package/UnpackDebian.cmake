@@ -48,7 +48,11 @@ expect(output MATCHES "^activate-noawait ldconfig\n$")
 run(dpkg-deb --info ${package} shlibs)
 expect(output MATCHES "libTarnDesign ${INTERFACE} libtarnguicommon${INTERFACE} .>= ${VERSION}")
 run(dpkg-deb --info ${package} symbols)
-expect(output MATCHES "libTarnDesign.so.${INTERFACE} libtarnguicommon${INTERFACE} #MINVER#\n _Z")
+expect(
+  output
+  MATCHES
+  "libTarnDesign.so.${INTERFACE} libtarnguicommon${INTERFACE} #MINVER#\n[*] Build-Depends-Package: libtarnguicommon-dev\n _Z"
+)
 
 # Nothing to complain about. Without the folders of a Debian system, they are in unusual places.
 if(NOT LIBDIR MATCHES "/")
