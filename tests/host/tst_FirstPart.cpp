@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QPushButton>
 #include <QTreeWidget>
 
@@ -313,6 +314,11 @@ void tst_FirstPart::AFlangeFromNothing()
         QCOMPARE(desk.window.windowTitle(), QString("First part - first.json[*] - Tarn host"));
         QVERIFY(desk.window.close());
     }
+    QProcess validator;
+    validator.start("python3", {"-m", "jsonschema", "-i", path,
+                                SourcePath("docs/schemas/Project.schema.json")});
+    QVERIFY(validator.waitForFinished());
+    QVERIFY2(validator.exitCode() == 0, validator.readAllStandardError().constData());
     const QJsonObject saved = Content(path);
     QCOMPARE(saved["parameters"].toArray().size(), 6);
     QCOMPARE(saved["features"].toArray().size(), 6);
