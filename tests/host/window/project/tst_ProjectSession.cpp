@@ -3,6 +3,7 @@
 #include "KVPropertyData.h"
 #include "NewFeature.h"
 #include "OpenSession.h"
+#include "ParameterEvaluator.h"
 #include "TestFiles.h"
 
 #include <QSignalSpy>
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void WhatIsPutBackIsNoChange();
     void ARenamedParameterIsOneStep();
     void ARunIsNoChange();
+    void ARunIsSolvedAsItIsShown();
     void UndoLeavesARun();
     void TheMaterialGivesTheDensity();
     void AnotherProjectShowsNothingOfTheFormer();
@@ -216,6 +218,26 @@ void tst_ProjectSession::ARunIsNoChange()
     open.session.TakeChange("run");
     QVERIFY(open.session.Current().HasSameContent(before));
     QCOMPARE(open.part.UndoStack().count(), 0);
+}
+
+void tst_ProjectSession::ARunIsSolvedAsItIsShown()
+{
+    EnterTemporaryDirectory();
+    OpenSession open;
+    open.session.Open(Project::Load(Project::SamplePath()));
+    QVERIFY(open.session.Shown().HasSameContent(open.session.Current()));
+    // The second one has an expression in the design.
+    open.design.ShowRun({"thickness", "hub_diameter"}, {24.0, 130.0});
+    Project shown = open.session.Shown();
+    shown.Save("run.json");
+    Project::Load("run.json").FillParameterStore();
+    QVERIFY(ParameterEvaluator::Evaluate().messages.empty());
+    const auto value = [](const char* name) {
+        return GlobalParaMeterMgr::GetParameterRawValue(name).toDouble();
+    };
+    QCOMPARE(value("thickness"), 24.0);
+    QCOMPARE(value("hub_diameter"), 130.0);
+    QCOMPARE(value("outer_diameter"), 200.0);
 }
 
 void tst_ProjectSession::UndoLeavesARun()
