@@ -201,7 +201,8 @@ QStringList StudyActions::RunParameters() const
     QStringList names;
     const ResultColumns& columns = m_table->Columns();
     const ParameterEntries entries = m_design.Design();
-    for (const QString& name : columns.Names().mid(0, columns.ParameterCount())) {
+    const QStringList parameters = columns.Names().mid(0, columns.ParameterCount());
+    for (const QString& name : parameters) {
         const int index = FindParameter(entries, name);
         if (index < 0 || entries[std::size_t(index)].Expression().isEmpty())
             names << name;

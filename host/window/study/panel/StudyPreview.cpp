@@ -9,6 +9,8 @@
 #include <QCoreApplication>
 #include <QScopedValueRollback>
 
+#include <cmath>
+
 namespace {
 
 class Text
@@ -58,7 +60,7 @@ QString DurationText(double seconds)
         return Text::tr("%1 s").arg(qRound(seconds));
     if (seconds < 2.0 * Hour)
         return Text::tr("%1 min").arg(qRound(seconds / Minute));
-    const auto minutes = qint64(seconds / Minute + 0.5);
+    const qint64 minutes = std::llround(seconds / Minute);
     constexpr int MinutesPerHour = 60;
     return Text::tr("%1 h %2 min").arg(minutes / MinutesPerHour).arg(minutes % MinutesPerHour);
 }

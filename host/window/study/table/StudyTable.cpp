@@ -68,7 +68,7 @@ QString StudyTable::SetFilter(const QString& expression)
 {
     const QString filter = expression.trimmed();
     if (!filter.isEmpty()) {
-        const QString fault = ExpressionFault(filter, m_columns.Names() + QStringList(RunName));
+        QString fault = ExpressionFault(filter, m_columns.Names() + QStringList(RunName));
         if (!fault.isEmpty())
             return fault;
     }
