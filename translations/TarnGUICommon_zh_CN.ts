@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>CQLTConstrainEditor: Duplicated Attribute Name</source>
-        <translation>CQLTConstrainEditor：属性名称重复</translation>
+        <translation>CQLTConstrainEditor：名称已被占用</translation>
     </message>
 </context>
 <context>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Duplicated Attribute Name</source>
-        <translation>属性名称重复</translation>
+        <translation>名称已被占用</translation>
     </message>
 </context>
 <context>
@@ -220,7 +220,7 @@
     </message>
     <message>
         <source>Set Array</source>
-        <translation>设置数组</translation>
+        <translation>设置取值</translation>
     </message>
     <message>
         <source>Notify</source>
@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>Too many runs</source>
-        <translation>运行次数过多</translation>
+        <translation>试验次数过多</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -373,7 +373,7 @@
     </message>
     <message>
         <source>the number is too large or too small</source>
-        <translation>数字过大或过小</translation>
+        <translation>数值过大或过小</translation>
     </message>
     <message>
         <source>%1 is not allowed here</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>more than one value; &apos;,&apos; is only used between the values of a function, and the decimal sign is the full stop</source>
-        <translation>有多个值；&apos;,&apos; 只能用在函数的各个值之间，小数点为句点</translation>
+        <translation>有多个值；&apos;,&apos; 只能用在函数的各个值之间，小数点须用英文句点“.”</translation>
     </message>
     <message>
         <source>&apos;)&apos; without a matching &apos;(&apos;</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>Show Project definition</source>
-        <translation>显示项目定义</translation>
+        <translation>显示用户材料</translation>
     </message>
     <message>
         <source>show all libraries</source>
@@ -573,7 +573,7 @@
     </message>
     <message>
         <source>Remove Material</source>
-        <translation>移除材料</translation>
+        <translation>删除材料</translation>
     </message>
     <message>
         <source>OK</source>
@@ -593,7 +593,7 @@
     </message>
     <message>
         <source>Too many add</source>
-        <translation>添加次数过多</translation>
+        <translation>复制次数已达上限</translation>
     </message>
     <message>
         <source>Confirm to delete current material?</source>
@@ -715,11 +715,11 @@
     <name>MirrorDialog</name>
     <message>
         <source>Input</source>
-        <translation>输入</translation>
+        <translation>镜像参数输入</translation>
     </message>
     <message>
         <source>Mirror By Point</source>
-        <translation>按点镜像</translation>
+        <translation>关于点镜像</translation>
     </message>
     <message>
         <source>Point x</source>
@@ -740,7 +740,7 @@
     </message>
     <message>
         <source>Mirror By Axis</source>
-        <translation>按轴镜像</translation>
+        <translation>关于轴镜像</translation>
     </message>
     <message>
         <source>Direction</source>
@@ -949,7 +949,7 @@
     </message>
     <message>
         <source>Expression Para</source>
-        <translation>表达式参数</translation>
+        <translation>引用的参数</translation>
     </message>
     <message>
         <source>Desciption</source>
@@ -997,7 +997,7 @@
     </message>
     <message>
         <source>Please Input a digital number</source>
-        <translation>请输入数字</translation>
+        <translation>请输入数值</translation>
     </message>
     <message>
         <source>Error</source>
@@ -1005,7 +1005,7 @@
     </message>
     <message>
         <source>invalid coordinate type</source>
-        <translation>坐标类型无效</translation>
+        <translation>矢量格式无效，应为 x,y,z</translation>
     </message>
 </context>
 <context>
@@ -1027,7 +1027,7 @@
     <name>PolygonNumInputDlg</name>
     <message>
         <source>Input</source>
-        <translation>输入</translation>
+        <translation>多边形参数输入</translation>
     </message>
     <message>
         <source>Polygon Number:</source>
@@ -1065,7 +1065,7 @@
     <name>QLTConstrainEditor</name>
     <message>
         <source>Boundary Condition Editor_Fixed</source>
-        <translation>边界条件编辑器_固定</translation>
+        <translation>固定约束</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1078,7 +1078,7 @@
     </message>
     <message>
         <source>Displacement</source>
-        <translation>平移</translation>
+        <translation>位移</translation>
     </message>
     <message>
         <source>X_D</source>
@@ -1219,7 +1219,7 @@
     </message>
     <message>
         <source>Option</source>
-        <translation>选项</translation>
+        <translation>加载方式</translation>
     </message>
     <message>
         <source>Component</source>
@@ -1227,11 +1227,11 @@
     </message>
     <message>
         <source>Normal to surface</source>
-        <translation>垂直于表面</translation>
+        <translation>沿面法向</translation>
     </message>
     <message>
         <source>Force Value</source>
-        <translation>力值</translation>
+        <translation>载荷分量</translation>
     </message>
     <message>
         <source>FX</source>
@@ -1322,7 +1322,7 @@
     <name>SubShapeMeshParameterDlg</name>
     <message>
         <source>SubShapeMeshParameterDlg</source>
-        <translation>子形状网格参数</translation>
+        <translation>局部网格参数</translation>
     </message>
     <message>
         <source>Mesh Size</source>
@@ -1330,7 +1330,7 @@
     </message>
     <message>
         <source>Mesh number</source>
-        <translation>网格数量</translation>
+        <translation>单元数</translation>
     </message>
     <message>
         <source>确定</source>
@@ -1345,7 +1345,7 @@
     <name>TruncatedConeInputDlg</name>
     <message>
         <source>Input</source>
-        <translation>输入</translation>
+        <translation>圆台参数输入</translation>
     </message>
     <message>
         <source>Height:</source>
@@ -1486,7 +1486,7 @@
     </message>
     <message>
         <source>Min Frequency:</source>
-        <translation>最小频率：</translation>
+        <translation>频率下限：</translation>
     </message>
     <message>
         <source>1.0</source>
@@ -1495,7 +1495,7 @@
     </message>
     <message>
         <source>Max Frequency:</source>
-        <translation>最大频率：</translation>
+        <translation>频率上限：</translation>
     </message>
     <message>
         <source>1000000.0</source>
@@ -1532,7 +1532,7 @@
     <name>rotateInputDlg</name>
     <message>
         <source>Input</source>
-        <translation>输入</translation>
+        <translation>旋转参数输入</translation>
     </message>
     <message>
         <source>Rotation Axis</source>
@@ -1606,7 +1606,7 @@
     <name>sphereParaInputdlg</name>
     <message>
         <source>Input</source>
-        <translation>输入</translation>
+        <translation>球体参数输入</translation>
     </message>
     <message>
         <source>Angle1</source>
@@ -1660,11 +1660,11 @@
     <name>torusParaInputDlg</name>
     <message>
         <source>Input</source>
-        <translation>输入</translation>
+        <translation>圆环参数输入</translation>
     </message>
     <message>
         <source>Sweep Radius</source>
-        <translation>扫掠半径</translation>
+        <translation>截面半径（管半径）</translation>
     </message>
     <message>
         <source>3</source>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>S&amp;ub-shape mesh</source>
-        <translation>子形状网格(&amp;U)</translation>
+        <translation>局部网格(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Check Set-up</source>
@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>A local mesh has either a size in mm or a number of elements along each edge; leave the other field empty</source>
-        <translation>局部网格要么有以 mm 为单位的尺寸，要么有每条边的单元数；另一字段请留空</translation>
+        <translation>局部网格要么有以 mm 为单位的尺寸，要么有每条边的单元数；另一栏请留空</translation>
     </message>
     <message>
         <source>The size</source>
@@ -324,11 +324,11 @@
     </message>
     <message>
         <source>The bodies %1 and %2 of the part overlap; fuse them before the analysis.</source>
-        <translation>零件的实体 %1 和 %2 重叠；请在分析前将其合并。</translation>
+        <translation>零件的实体 %1 和 %2 重叠；请在分析前用“求和”合并。</translation>
     </message>
     <message>
         <source>The bodies of the part could not all be compared for overlaps; fuse them before the analysis.</source>
-        <translation>无法检查零件的所有实体是否重叠；请在分析前将其合并。</translation>
+        <translation>无法检查零件的所有实体是否重叠；请在分析前用“求和”合并。</translation>
     </message>
 </context>
 <context>
@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>a feature of kind &quot;%1&quot; needs %2 fields, but has %3.</source>
-        <translation>类型为“%1”的特征需要 %2 个字段，但现有 %3 个。</translation>
+        <translation>类型为“%1”的特征需要 %2 个参数，但现有 %3 个。</translation>
     </message>
     <message>
         <source>there is no file to import.</source>
@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>the sweep radius (%1) has to be below the radius (%2).</source>
-        <translation>扫掠半径（%1）必须小于半径（%2）。</translation>
+        <translation>截面半径（%1）必须小于半径（%2）。</translation>
     </message>
     <message>
         <source>%1 min (%2) has to be below %1 max (%3).</source>
@@ -487,7 +487,7 @@
     </message>
     <message>
         <source>too many bodies to combine: %1 (maximum %2).</source>
-        <translation>要组合的实体过多：%1 个（最多 %2 个）。</translation>
+        <translation>参与布尔运算的实体过多：%1 个（最多 %2 个）。</translation>
     </message>
     <message>
         <source>this feature would exceed the limit of %1 bodies.</source>
@@ -644,7 +644,7 @@
     </message>
     <message>
         <source>Runs that have ended</source>
-        <translation>已结束的运行</translation>
+        <translation>已结束的试验</translation>
     </message>
     <message>
         <source>Course of</source>
@@ -716,7 +716,7 @@ Remove these as well?</source>
     <name>DialogText</name>
     <message>
         <source>%1: %2 is neither a number nor an expression with a value: %3</source>
-        <translation>%1：%2 既不是数字，也不是有值的表达式：%3</translation>
+        <translation>%1：%2 既不是数值，也不是有值的表达式：%3</translation>
     </message>
 </context>
 <context>
@@ -761,7 +761,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>%1: %2 is neither a number nor an expression with a value</source>
-        <translation>%1：%2 既不是数字，也不是有值的表达式</translation>
+        <translation>%1：%2 既不是数值，也不是有值的表达式</translation>
     </message>
 </context>
 <context>
@@ -776,11 +776,11 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Fields of the feature</source>
-        <translation>特征字段</translation>
+        <translation>特征参数</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation>字段</translation>
+        <translation>参数</translation>
     </message>
     <message>
         <source>Number or expression</source>
@@ -883,7 +883,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Sweep radius</source>
-        <translation>扫掠半径</translation>
+        <translation>截面半径（管半径）</translation>
     </message>
     <message>
         <source>Truncated cone</source>
@@ -959,7 +959,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Mirror at a point</source>
-        <translation>按点镜像</translation>
+        <translation>关于点镜像</translation>
     </message>
     <message>
         <source>Point x</source>
@@ -975,11 +975,11 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Mirror at an axis</source>
-        <translation>按轴镜像</translation>
+        <translation>关于轴镜像</translation>
     </message>
     <message>
         <source>Mirror at a face</source>
-        <translation>按面镜像</translation>
+        <translation>关于面镜像</translation>
     </message>
     <message>
         <source>Point on face x</source>
@@ -1023,11 +1023,11 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Fuse</source>
-        <translation>合并</translation>
+        <translation>求和</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation>切除</translation>
+        <translation>求差</translation>
     </message>
     <message>
         <source>Fillet</source>
@@ -1417,7 +1417,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>a list of three numbers or expressions</source>
-        <translation>由三个数字或表达式组成的列表</translation>
+        <translation>由三个数值或表达式组成的列表</translation>
     </message>
     <message>
         <source>%1 entry %2 of &quot;%3&quot;</source>
@@ -1453,11 +1453,11 @@ Remove these as well?</source>
     </message>
     <message>
         <source>needs &quot;runs&quot;, the number of runs of its design</source>
-        <translation>需要“runs”，即试验设计的运行数</translation>
+        <translation>需要“runs”，即试验设计的试验次数</translation>
     </message>
     <message>
         <source>needs &quot;file&quot;, the CSV file with its list of runs</source>
-        <translation>需要“file”，即列出运行的 CSV 文件</translation>
+        <translation>需要“file”，即列出试验的 CSV 文件</translation>
     </message>
     <message>
         <source>has the unknown analysis %1</source>
@@ -1636,7 +1636,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Material &quot;%1&quot;: the %2 &quot;%3&quot; is not a number.</source>
-        <translation>材料“%1”：%2“%3”不是数字。</translation>
+        <translation>材料“%1”：%2“%3”不是数值。</translation>
     </message>
     <message>
         <source>Material &quot;%1&quot;: the %2 %3 must be greater than 0.</source>
@@ -1875,7 +1875,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>The bodies touch without being joined: %1 and %2. Fuse them, or leave a gap.</source>
-        <translation>实体相互接触但未连接：%1 与 %2。请将它们合并，或留出间隙。</translation>
+        <translation>实体相互接触但未连接：%1 与 %2。请用“求和”将它们合并，或留出间隙。</translation>
     </message>
 </context>
 <context>
@@ -2140,7 +2140,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>&amp;Combine</source>
-        <translation>组合(&amp;C)</translation>
+        <translation>布尔运算(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -2168,7 +2168,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>There is no 3D view to pick a face in: type a point on the face into the fields of %1</source>
-        <translation>没有可选取面的三维视图：请在 %1 的字段中输入面上一点</translation>
+        <translation>没有可选取面的三维视图：请在 %1 的参数中输入面上一点</translation>
     </message>
     <message>
         <source>There is no shape to export</source>
@@ -2298,7 +2298,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>From, to</source>
-        <translation>起点，终点</translation>
+        <translation>最小角点，最大角点</translation>
     </message>
     <message>
         <source>%1 cm³</source>
@@ -2348,7 +2348,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>The part is shown as a line drawing: %1</source>
-        <translation>零件以线框图显示：%1</translation>
+        <translation>零件以线条图显示：%1</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2585,11 +2585,11 @@ Remove these as well?</source>
     <name>ResponseSurface</name>
     <message>
         <source>a quadratic surface over these parameters needs at least %1 runs with a result; there are %2</source>
-        <translation>这些参数上的二次响应面至少需要 %1 次有结果的运行；现有 %2 次</translation>
+        <translation>这些参数上的二次响应面至少需要 %1 次有结果的试验；现有 %2 次</translation>
     </message>
     <message>
         <source>a quadratic surface over so many parameters and runs is too large; choose fewer parameters</source>
-        <translation>参数和运行这么多，二次响应面过大；请少选一些参数</translation>
+        <translation>参数和试验这么多，二次响应面过大；请少选一些参数</translation>
     </message>
     <message>
         <source>a quadratic surface needs at least three different values of &quot;%1&quot;</source>
@@ -2597,7 +2597,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>the runs do not determine a quadratic surface; some parameters change only together</source>
-        <translation>这些运行不能确定二次响应面；有些参数总是一起变化</translation>
+        <translation>这些试验不能确定二次响应面；有些参数总是一起变化</translation>
     </message>
 </context>
 <context>
@@ -3017,7 +3017,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Frequency range: %1 to %2 are not numbers</source>
-        <translation>频率范围：%1 至 %2 不是数字</translation>
+        <translation>频率范围：%1 至 %2 不是数值</translation>
     </message>
     <message>
         <source>%1 (&quot;%2&quot;) has no value: %3</source>
@@ -3473,7 +3473,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Runs</source>
-        <translation>运行数</translation>
+        <translation>试验次数</translation>
     </message>
     <message>
         <source>Without</source>
@@ -3501,11 +3501,11 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Calculate shows the statistics of these runs.</source>
-        <translation>单击“计算”显示这些运行的统计。</translation>
+        <translation>单击“计算”显示这些试验的统计。</translation>
     </message>
     <message>
         <source>A quadratic surface over %1 runs explains %2 of the variance, and %3 of runs that it has not seen; its error there is %4.</source>
-        <translation>基于 %1 次运行的二次响应面解释了方差的 %2，对未参与拟合的运行为 %3；其误差为 %4。</translation>
+        <translation>基于 %1 次试验的二次响应面解释了方差的 %2，对未参与拟合的试验为 %3；其误差为 %4。</translation>
     </message>
     <message>
         <source>Statistics of</source>
@@ -3634,7 +3634,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Show this &amp;run</source>
-        <translation>显示此运行(&amp;R)</translation>
+        <translation>显示此次试验(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Make this the design</source>
@@ -3670,11 +3670,11 @@ Remove these as well?</source>
     </message>
     <message>
         <source>The part is that of run %1</source>
-        <translation>零件是运行 %1 的零件</translation>
+        <translation>零件是第 %1 次试验的零件</translation>
     </message>
     <message>
         <source>Run %1 cannot be shown: %2</source>
-        <translation>无法显示运行 %1：%2</translation>
+        <translation>无法显示第 %1 次试验：%2</translation>
     </message>
     <message>
         <source>there is no parameter &quot;%1&quot; in the project</source>
@@ -3682,15 +3682,15 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Make run %1 the design</source>
-        <translation>将运行 %1 设为设计</translation>
+        <translation>将第 %1 次试验设为设计</translation>
     </message>
     <message>
         <source>Run %1 cannot be made the design: %2</source>
-        <translation>无法将运行 %1 设为设计：%2</translation>
+        <translation>无法将第 %1 次试验设为设计：%2</translation>
     </message>
     <message>
         <source>Export the runs that are shown</source>
-        <translation>导出显示的运行</translation>
+        <translation>导出显示的试验</translation>
     </message>
     <message>
         <source>Tables (*.csv);;All files (*)</source>
@@ -3761,7 +3761,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Runs</source>
-        <translation>运行数</translation>
+        <translation>试验次数</translation>
     </message>
     <message>
         <source>Seed</source>
@@ -3769,7 +3769,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>A whole number. The same seed gives the same runs.</source>
-        <translation>整数。相同的种子得到相同的运行。</translation>
+        <translation>整数。相同的种子得到相同的试验。</translation>
     </message>
     <message>
         <source>List</source>
@@ -3833,7 +3833,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Runs at once</source>
-        <translation>同时运行</translation>
+        <translation>同时试验数</translation>
     </message>
     <message>
         <source>STEP files</source>
@@ -3841,7 +3841,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Write the part of each run to a STEP file</source>
-        <translation>将每次运行的零件写入 STEP 文件</translation>
+        <translation>将每次试验的零件写入 STEP 文件</translation>
     </message>
     <message>
         <source>Start</source>
@@ -3865,15 +3865,15 @@ Remove these as well?</source>
     </message>
     <message>
         <source>1 run</source>
-        <translation>1 次运行</translation>
+        <translation>1 次试验</translation>
     </message>
     <message>
         <source>%1 runs</source>
-        <translation>%1 次运行</translation>
+        <translation>%1 次试验</translation>
     </message>
     <message>
         <source>; the first ones show how long their analyses take</source>
-        <translation>；分析所需时间由最先的运行得出</translation>
+        <translation>；分析所需时间由最先的试验得出</translation>
     </message>
     <message>
         <source>, about %1</source>
@@ -3897,7 +3897,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>List of runs</source>
-        <translation>运行列表</translation>
+        <translation>试验列表</translation>
     </message>
     <message>
         <source>Tables (*.csv);;All files (*)</source>
@@ -3917,7 +3917,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>%1 of %2 runs have ended</source>
-        <translation>%2 次运行中 %1 个已结束</translation>
+        <translation>%2 次试验中 %1 个已结束</translation>
     </message>
     <message>
         <source>, %1 of them failed</source>
@@ -3970,7 +3970,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Only runs for which this expression is true are shown</source>
-        <translation>只显示此表达式为真的运行</translation>
+        <translation>只显示此表达式为真的试验</translation>
     </message>
     <message>
         <source>for example mass_kg &lt; 2 &amp;&amp; volume_mm3 &gt; 1000</source>
@@ -3994,7 +3994,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>%1 of %2 runs</source>
-        <translation>%2 次运行中的 %1 个</translation>
+        <translation>%2 次试验中的 %1 个</translation>
     </message>
     <message>
         <source>, %1 failed</source>
@@ -4041,7 +4041,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Run</source>
-        <translation>运行</translation>
+        <translation>试验</translation>
     </message>
     <message>
         <source>Status</source>
