@@ -116,6 +116,13 @@ class MarkdownPages(unittest.TestCase):
                 shown = f"`{name}`:\n\n```{language}\n{(EXAMPLE / name).read_text()}```\n" in page
                 self.assertTrue(shown, "copy the example into the page")
 
+    def test_TheChecklistShowsTheFunctionsThatAreTested(self):
+        page = (MANUAL / "host-programmers.md").read_text()
+        checklist = re.search(r"^## Checklist$(.*?)^## ", page, flags=re.M | re.S).group(1)
+        shown = "\n".join(re.findall(r"^```cpp\n(.*?)^```$", checklist, flags=re.M | re.S))
+        header = (SOURCE / "docs" / "examples" / "checklist" / "Checklist.h").read_text()
+        self.assertEqual(shown, header[header.index("inline "):])
+
 
 class GeneratedPages(unittest.TestCase):
     @classmethod
