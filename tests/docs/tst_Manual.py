@@ -70,6 +70,9 @@ class BuiltPage(HTMLParser):
 
 
 class MarkdownPages(unittest.TestCase):
+    # The sections of the page of a dialog.
+    SECTIONS = ["What it asks", "What the host gets back", "What surprises users", "What surprises programmers"]
+
     @classmethod
     def setUpClass(cls):
         with tempfile.TemporaryDirectory() as folder:
@@ -97,7 +100,7 @@ class MarkdownPages(unittest.TestCase):
                 self.assertIn(f"../images/{dialog}.png", Links(page))
                 self.assertRegex(page.read_text(), rf"^# .*\b{dialog}\n")
                 chapters = re.findall(r"^## (.*)$", page.read_text(), flags=re.M)
-                self.assertEqual(chapters, ["What it asks", "What the host gets back", "Good to know"])
+                self.assertEqual(chapters, self.SECTIONS)
 
     def test_EveryPageIsReachableFromTheFirst(self):
         self.assertEqual(set(MANUAL.glob("*.md")) - ReachableFrom(MANUAL / "README.md"), set())
