@@ -34,7 +34,7 @@ public:
 
 public Q_SLOTS:
     /// Refuses a name that is taken. Otherwise stores name and kind, and for kind 1 the components
-    /// (non-numeric text counts as 0), and accepts.
+    /// ("nan", "inf" and "1e999" are accepted, other non-numeric text counts as 0), and accepts.
     void on_okButton_clicked(); // clazy:exclude=connect-by-name
 
 private:

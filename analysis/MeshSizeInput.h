@@ -25,6 +25,7 @@ public:
     ~MeshSizeInput() override;
 
     /// The number in the field when called, even after Cancel; 0 if the text is not a number.
+    /// "nan", "inf" and "1e999" are accepted.
     double GetMeshSize();
 
 private:

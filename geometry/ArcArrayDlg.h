@@ -13,9 +13,10 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         CopyAround(dialog.GetArrayParameter());
 ///
-/// Ranges are not checked; non-numeric text counts as 0. With a zero direction, OK lets the
-/// kernel's Standard_ConstructionError propagate out of exec(), and the dialog stays open. Angle
-/// and number are then those entered, but the axis is unchanged.
+/// Ranges are not checked; "nan", "inf" and "1e999" are accepted, other non-numeric text counts as
+/// 0. With a zero direction, OK lets the kernel's Standard_ConstructionError propagate out of
+/// exec(), and the dialog stays open. Angle and number are then those entered, but the axis is
+/// unchanged.
 class TARNGUICOMMON_EXPORT ArcArrayDlg : public QDialog
 {
     Q_OBJECT

@@ -13,9 +13,9 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         Extrude(dialog.GetExtrudeDirection(), dialog.GetHeightValue());
 ///
-/// Non-numeric text counts as 0. With a zero direction, OK lets the kernel's
-/// Standard_ConstructionError propagate out of exec(), and the dialog stays open. The length is
-/// then the one entered, but the direction is unchanged.
+/// "nan", "inf" and "1e999" are accepted; other non-numeric text counts as 0. With a zero
+/// direction, OK lets the kernel's Standard_ConstructionError propagate out of exec(), and the
+/// dialog stays open. The length is then the one entered, but the direction is unchanged.
 class TARNGUICOMMON_EXPORT ExtrudInputDlg : public QDialog
 {
     Q_OBJECT

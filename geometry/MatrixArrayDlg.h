@@ -13,8 +13,8 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         CopyAlong(dialog.GetArrayParameter());
 ///
-/// The number fields accept up to four digits. An empty number and a non-numeric distance count as
-/// 0.
+/// The number fields accept up to four digits. An empty number counts as 0. In the distances,
+/// "nan", "inf" and "1e999" are accepted; other non-numeric text counts as 0.
 class TARNGUICOMMON_EXPORT MatrixArrayDlg : public QDialog
 {
     Q_OBJECT

@@ -13,7 +13,7 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         dialog.GetMoveData(dx, dy, dz);
 ///
-/// Nothing is checked; non-numeric text counts as 0.
+/// Nothing is checked; "nan", "inf" and "1e999" are accepted, other non-numeric text counts as 0.
 class TARNGUICOMMON_EXPORT MoveInput : public QDialog
 {
     Q_OBJECT

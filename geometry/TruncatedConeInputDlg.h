@@ -13,7 +13,8 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         MakeCone(dialog.GetTopRadius(), dialog.GetHeightValue(), dialog.GetAngle());
 ///
-/// Ranges are not checked; non-numeric text counts as 0.
+/// Ranges are not checked; "nan", "inf" and "1e999" are accepted, other non-numeric text counts as
+/// 0.
 class TARNGUICOMMON_EXPORT TruncatedConeInputDlg : public QDialog
 {
     Q_OBJECT

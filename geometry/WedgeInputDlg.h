@@ -13,7 +13,8 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         dialog.GetWedgeParameter(height, xMin, xMax, zMin, zMax);
 ///
-/// Ranges are not checked; non-numeric text counts as 0.
+/// Ranges are not checked; "nan", "inf" and "1e999" are accepted, other non-numeric text counts as
+/// 0.
 class TARNGUICOMMON_EXPORT WedgeInputDlg : public QDialog
 {
     Q_OBJECT

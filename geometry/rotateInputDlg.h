@@ -15,9 +15,10 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         rotation.SetRotation(dialog.GetRotateAxis(), dialog.GetAngle());
 ///
-/// Non-numeric text counts as 0. With a zero direction, OK lets the kernel's
-/// Standard_ConstructionError propagate out of exec(), and the dialog stays open. Angle and base
-/// point are then those entered, but direction and axis are unchanged.
+/// "nan", "inf" and "1e999" are accepted; other non-numeric text counts as 0. With a zero
+/// direction, OK lets the kernel's Standard_ConstructionError propagate out of exec(), and the
+/// dialog stays open. Angle and base point are then those entered, but direction and axis are
+/// unchanged.
 class TARNGUICOMMON_EXPORT rotateInputDlg : public QDialog
 {
     Q_OBJECT

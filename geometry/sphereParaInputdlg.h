@@ -13,7 +13,8 @@
 ///         MakeSphere(dialog.GetAngle1(), dialog.GetAngle2(), dialog.GetAngle3());
 ///
 /// The ranges beside the fields are only labels: the host must check them. Only the first field has
-/// a validator. Non-numeric text counts as 0.
+/// a validator. In the other two, "nan", "inf" and "1e999" are accepted. Other non-numeric text
+/// counts as 0.
 class TARNGUICOMMON_EXPORT sphereParaInputdlg : public QDialog
 {
     Q_OBJECT

@@ -13,8 +13,8 @@
 ///     if (dialog.exec() == QDialog::Accepted)
 ///         MakeTorus(dialog.GetSweepRadius(), dialog.GetAngle1(), ...);
 ///
-/// The ranges beside the fields are only labels: the host must check them. Non-numeric text counts
-/// as 0.
+/// The ranges beside the fields are only labels: the host must check them. "nan", "inf" and "1e999"
+/// are accepted; other non-numeric text counts as 0.
 class TARNGUICOMMON_EXPORT torusParaInputDlg : public QDialog
 {
     Q_OBJECT
