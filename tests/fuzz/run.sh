@@ -7,7 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 seconds=${1:-60}
 
 cmake --preset fuzz >/dev/null
-for class in KVMaterialData KVPropertyData MeshFile ModesTable ResultFile; do
+for class in KVMaterialData KVPropertyData MeshFile ModesTable Project ResultFile; do
   dictionary=()
   [[ $class != KV* ]] || dictionary=(-dict=tests/fuzz/xml.dict)
   cmake --build --preset fuzz --target "fuzz_$class"
