@@ -55,7 +55,7 @@ void tst_ShapePicker::ANewSupportIsPickedAtOnce()
     open.AddSupport();
     QVERIFY(open.view->IsPicking());
     QVERIFY(Find<QWidget>(open.window, "ShapePicker").isVisible());
-    QCOMPARE(Find<QLabel>(open.window, "titleLabel").text(),
+    QCOMPARE(Find<QLabel>(Find<QWidget>(open.window, "ShapePicker"), "titleLabel").text(),
              QString("Pick faces or edges for defaultBC:"));
     open.ClickInTheMiddle();
     QCOMPARE(Find<QLabel>(open.window, "choiceLabel").text(), QString("cube.xmax"));
@@ -125,7 +125,7 @@ void tst_ShapePicker::EscapeAndCancelKeepTheTargets()
     if (isEscape)
         QTest::keyClick(open.view, Qt::Key_Escape);
     else
-        Click(open.window, "cancelButton");
+        Click(Find<QWidget>(open.window, "ShapePicker"), "cancelButton");
     QVERIFY(!open.view->IsPicking());
     QVERIFY(!Find<QWidget>(open.window, "ShapePicker").isVisible());
     QVERIFY(FirstConstraint(open).faces.empty());
