@@ -160,7 +160,7 @@ bool ReadStep(const QString& text)
 QString ReadSlurmText(const QCommandLineParser& parser, const QCommandLineOption& option)
 {
     static const QRegularExpression pattern(QStringLiteral("^[-A-Za-z0-9_.,:+]+$"));
-    const QString text = parser.value(option);
+    QString text = parser.value(option);
     if (!pattern.match(text).hasMatch())
         Refuse(QStringLiteral("--%1 %2: Slurm has no such value")
                    .arg(option.names().constFirst(), text.simplified()));
