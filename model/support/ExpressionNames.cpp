@@ -110,7 +110,7 @@ QString WithRenamed(const QString& expression, const QString& before, const QStr
     VisitNames(expression, [&](int begin, int length) {
         if (QStringView(expression).mid(begin, length) != before)
             return;
-        renamed += expression.mid(done, begin - done);
+        renamed.append(expression.constData() + done, begin - done);
         renamed += after;
         done = begin + length;
     });
