@@ -91,7 +91,7 @@ private:
         tools.mesher.path = m_own.mesherEdit->text().trimmed();
         tools.solver.path = m_own.solverEdit->text().trimmed();
         try {
-            // An empty path is no error: the program may be installed later.
+            // An empty path is allowed: the program may be installed later.
             for (const AnalysisTool& tool : {tools.mesher, tools.solver}) {
                 if (!tool.path.isEmpty())
                     tool.Executable();

@@ -30,7 +30,7 @@ public:
     explicit MessageDock(QWidget* parent);
     ~MessageDock() override;
 
-    /// Dims the lines with this text: what they say was so, but is no longer.
+    /// Dims the lines with this text, because it does not hold any longer.
     void MarkPast(const QString& text);
 
     /// This host's word for @p level; see MessageLevel.

@@ -50,7 +50,7 @@ public:
     /// back.
     int TakeRun(const QSet<QString>& ticked);
     /// Puts a run with these @p values of the parameters @p names into the store. @throws
-    /// ParameterError if there is no such parameter
+    /// ParameterError if the parameter does not exist
     void ShowRun(const QStringList& names, const std::vector<double>& values);
     /// Ends a run.
     void BackToDesign();

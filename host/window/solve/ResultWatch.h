@@ -27,7 +27,7 @@ private:
     void Check();
 
     QString m_folder;
-    QDateTime m_known; // Null if there is no such file.
+    QDateTime m_known; // Null while the file does not exist.
     QFileSystemWatcher m_watcher;
     QTimer m_delay;
 };
