@@ -21,7 +21,7 @@ namespace {
 constexpr int LookPause = 100;        // ms, between two looks at the runs on trial.
 constexpr int TrialTime = 3000;       // ms, enough for several quick runs.
 constexpr int SubmitPatience = 60000; // ms
-constexpr int MillisecondsPerSecond = 1000;
+constexpr qint64 MillisecondsPerSecond = 1000;
 
 // How many runs of the study in a folder have ended, however.
 int EndedRuns(const QString& folder)
@@ -115,7 +115,7 @@ int SlurmSubmission::FittingTasks(int first, int last) const
     if (!trial.waitForFinished(TrialTime))
         trial.kill();
     trial.waitForFinished();
-    const double work = double(spent) / std::max(1, ended) * runs / MillisecondsPerSecond;
+    const double work = double(spent) / std::max(1, ended) * runs / double(MillisecondsPerSecond);
     const double wanted = std::floor(work / LeastTaskSeconds / std::max(1, m_options.study.jobs));
     return int(std::clamp(wanted, 1.0, double(std::min(runs, MostTasks))));
 }
