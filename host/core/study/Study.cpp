@@ -131,19 +131,19 @@ void Study::MakeRuns(const Project& project)
     const DesignRanges ranges = RangesOf(m_samples);
     switch (definition.design) {
     case StudyDefinition::LatinHypercube:
-        m_runs = LatinHypercube(ranges, definition.runs, definition.seed.value_or(0));
+        m_runs = LatinHypercubeRuns(ranges, definition.runs, definition.seed.value_or(0));
         break;
     case StudyDefinition::Sobol:
         m_runs = SobolPoints(ranges, definition.runs, definition.seed);
         break;
     case StudyDefinition::BoxBehnken:
-        m_runs = BoxBehnken(ranges);
+        m_runs = BoxBehnkenRuns(ranges);
         break;
     case StudyDefinition::CentralComposite:
-        m_runs = CentralComposite(ranges);
+        m_runs = CentralCompositeRuns(ranges);
         break;
     case StudyDefinition::OneAtATime:
-        m_runs = OneAtATime(OwnValues(project, m_names), m_samples);
+        m_runs = OneAtATimeRuns(OwnValues(project, m_names), m_samples);
         break;
     default:
         m_factorial = FullFactorial(m_samples);

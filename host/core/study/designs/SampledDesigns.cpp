@@ -84,7 +84,7 @@ Blocks BoxBehnkenBlocks(std::size_t ranges)
 
 } // namespace
 
-DesignRuns LatinHypercube(const DesignRanges& ranges, int runs, std::uint32_t seed)
+DesignRuns LatinHypercubeRuns(const DesignRanges& ranges, int runs, std::uint32_t seed)
 {
     Generator generator(seed);
     DesignRuns design(std::size_t(runs), std::vector<double>(ranges.size()));
@@ -126,7 +126,7 @@ DesignRuns SobolPoints(const DesignRanges& ranges, int runs, std::optional<std::
     return design;
 }
 
-DesignRuns BoxBehnken(const DesignRanges& ranges)
+DesignRuns BoxBehnkenRuns(const DesignRanges& ranges)
 {
     DesignRuns design;
     for (const std::vector<std::size_t>& block : BoxBehnkenBlocks(ranges.size()))
@@ -135,7 +135,7 @@ DesignRuns BoxBehnken(const DesignRanges& ranges)
     return design;
 }
 
-DesignRuns CentralComposite(const DesignRanges& ranges)
+DesignRuns CentralCompositeRuns(const DesignRanges& ranges)
 {
     DesignRuns design;
     std::vector<std::size_t> all(ranges.size());
@@ -152,8 +152,8 @@ DesignRuns CentralComposite(const DesignRanges& ranges)
     return design;
 }
 
-DesignRuns OneAtATime(const std::vector<double>& own,
-                      const std::vector<std::vector<double>>& samples)
+DesignRuns OneAtATimeRuns(const std::vector<double>& own,
+                          const std::vector<std::vector<double>>& samples)
 {
     DesignRuns design = {own};
     for (std::size_t column = 0; column < own.size(); ++column) {

@@ -20,7 +20,7 @@ using DesignRuns = std::vector<std::vector<double>>;
 
 /// @p runs points of which each has an interval of its own in every coordinate, out of @p runs
 /// equal ones, and lies at random in it. McKay, Beckman and Conover (1979), Technometrics 21.
-DesignRuns LatinHypercube(const DesignRanges& ranges, int runs, std::uint32_t seed);
+DesignRuns LatinHypercubeRuns(const DesignRanges& ranges, int runs, std::uint32_t seed);
 
 /// The first points of the SobolSequence after the origin. With a seed, the points with the origin,
 /// after a random digital shift: the random bits of each coordinate are added without carry. There
@@ -29,15 +29,15 @@ DesignRuns SobolPoints(const DesignRanges& ranges, int runs, std::optional<std::
 
 /// The blocks of Box and Behnken (1960), Technometrics 2, for 3 to 7 ranges, and all pairs of
 /// ranges beyond; then the centre, once.
-DesignRuns BoxBehnken(const DesignRanges& ranges);
+DesignRuns BoxBehnkenRuns(const DesignRanges& ranges);
 constexpr int MinimumBoxBehnkenRanges = 3;
 
 /// The corners of the cube, the last range turning fastest; the centres of its faces; the centre,
 /// once. There are at most MaximumCentralCompositeRanges.
-DesignRuns CentralComposite(const DesignRanges& ranges);
+DesignRuns CentralCompositeRuns(const DesignRanges& ranges);
 constexpr int MaximumCentralCompositeRanges = 19;
 
 /// The values @p own, then each sample of each parameter, the others at their own values. A sample
 /// that is equal to the own value is left out.
-DesignRuns OneAtATime(const std::vector<double>& own,
-                      const std::vector<std::vector<double>>& samples);
+DesignRuns OneAtATimeRuns(const std::vector<double>& own,
+                          const std::vector<std::vector<double>>& samples);

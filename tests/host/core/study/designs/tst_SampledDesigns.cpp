@@ -47,7 +47,7 @@ void tst_SampledDesigns::ALatinHypercubeHasOnePointInEveryInterval_data()
 void tst_SampledDesigns::ALatinHypercubeHasOnePointInEveryInterval()
 {
     QFETCH(int, runs);
-    const DesignRuns design = LatinHypercube({{0, 1}, {10, 30}, {-5, 5}}, runs, 3);
+    const DesignRuns design = LatinHypercubeRuns({{0, 1}, {10, 30}, {-5, 5}}, runs, 3);
     QCOMPARE(design.size(), std::size_t(runs));
     const DesignRanges ranges = {{0, 1}, {10, 30}, {-5, 5}};
     for (std::size_t column = 0; column < ranges.size(); ++column) {
@@ -64,8 +64,8 @@ void tst_SampledDesigns::ALatinHypercubeHasOnePointInEveryInterval()
 
 void tst_SampledDesigns::ALatinHypercubeFollowsItsSeed()
 {
-    QCOMPARE(LatinHypercube(Cube(3), 20, 1), LatinHypercube(Cube(3), 20, 1));
-    QVERIFY(LatinHypercube(Cube(3), 20, 1) != LatinHypercube(Cube(3), 20, 2));
+    QCOMPARE(LatinHypercubeRuns(Cube(3), 20, 1), LatinHypercubeRuns(Cube(3), 20, 1));
+    QVERIFY(LatinHypercubeRuns(Cube(3), 20, 1) != LatinHypercubeRuns(Cube(3), 20, 2));
 }
 
 void tst_SampledDesigns::ALatinHypercubeIsTheSameOnEveryMachine()
@@ -73,7 +73,7 @@ void tst_SampledDesigns::ALatinHypercubeIsTheSameOnEveryMachine()
     const DesignRuns expected = {{0.24010816309601068, 33.30135051316272},
                                  {0.9775191204001507, 71.55852975168577},
                                  {0.33337146036016446, 41.20296587546666}};
-    QCOMPARE(LatinHypercube({{0, 1}, {0, 100}}, 3, 1), expected);
+    QCOMPARE(LatinHypercubeRuns({{0, 1}, {0, 100}}, 3, 1), expected);
 }
 
 void tst_SampledDesigns::SobolPointsBeginAfterTheOrigin()
@@ -111,7 +111,7 @@ void tst_SampledDesigns::BoxBehnkenHasThePublishedNumberOfRuns_data()
 void tst_SampledDesigns::BoxBehnkenHasThePublishedNumberOfRuns()
 {
     QFETCH(int, ranges);
-    const DesignRuns design = BoxBehnken(Cube(ranges));
+    const DesignRuns design = BoxBehnkenRuns(Cube(ranges));
     QTEST(int(design.size()), "runs");
     QVERIFY(AreDistinct(design));
     QCOMPARE(design.back(), std::vector<double>(std::size_t(ranges), 0.0));
@@ -129,7 +129,7 @@ void tst_SampledDesigns::BoxBehnkenIsBalanced_data()
 void tst_SampledDesigns::BoxBehnkenIsBalanced()
 {
     QFETCH(int, ranges);
-    const DesignRuns design = BoxBehnken(Cube(ranges));
+    const DesignRuns design = BoxBehnkenRuns(Cube(ranges));
     const auto count = std::size_t(ranges);
     std::vector<double> squares(count, 0.0);
     for (std::size_t i = 0; i < count; ++i) {
@@ -155,7 +155,7 @@ void tst_SampledDesigns::BoxBehnkenIsBalanced()
 
 void tst_SampledDesigns::CentralCompositeHasCornersFacesAndCentre()
 {
-    const DesignRuns design = CentralComposite(Cube(3));
+    const DesignRuns design = CentralCompositeRuns(Cube(3));
     QCOMPARE(design.size(), std::size_t(15));
     QVERIFY(AreDistinct(design));
     QCOMPARE(design[0], std::vector<double>({-1, -1, -1}));
@@ -168,7 +168,7 @@ void tst_SampledDesigns::CentralCompositeHasCornersFacesAndCentre()
 
 void tst_SampledDesigns::TwoCentralRangesMakeAGrid()
 {
-    const DesignRuns design = CentralComposite({{0, 2}, {10, 30}});
+    const DesignRuns design = CentralCompositeRuns({{0, 2}, {10, 30}});
     QCOMPARE(design.size(), std::size_t(9));
     std::set<std::vector<double>> grid;
     for (const double x : {0, 1, 2}) {
@@ -181,15 +181,15 @@ void tst_SampledDesigns::TwoCentralRangesMakeAGrid()
 void tst_SampledDesigns::OneAtATimeMovesOneValue()
 {
     const DesignRuns expected = {{1, 5}, {0, 5}, {2, 5}, {1, 6}};
-    QCOMPARE(OneAtATime({1, 5}, {{0, 1, 2}, {5, 6}}), expected);
+    QCOMPARE(OneAtATimeRuns({1, 5}, {{0, 1, 2}, {5, 6}}), expected);
 }
 
 void tst_SampledDesigns::EveryRunStaysInItsRanges()
 {
     const DesignRanges ranges = {{0.1, 0.3}, {-1e300, 1e300}, {5, 5}, {1e-300, 2e-300}};
     for (const DesignRuns& design :
-         {LatinHypercube(ranges, 1000, 1), SobolPoints(ranges, 1000, std::nullopt),
-          SobolPoints(ranges, 1000, 1), BoxBehnken(ranges), CentralComposite(ranges)}) {
+         {LatinHypercubeRuns(ranges, 1000, 1), SobolPoints(ranges, 1000, std::nullopt),
+          SobolPoints(ranges, 1000, 1), BoxBehnkenRuns(ranges), CentralCompositeRuns(ranges)}) {
         for (const std::vector<double>& run : design) {
             for (std::size_t column = 0; column < ranges.size(); ++column)
                 QVERIFY(run[column] >= ranges[column].least &&
