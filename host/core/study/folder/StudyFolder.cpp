@@ -42,7 +42,7 @@ std::unique_ptr<StudyFolder>
 StudyFolder::Prepare(const QString& path, const QJsonObject& fingerprint, const RunList& runs)
 {
     if (!QDir(path).mkpath(QStringLiteral(".")))
-        throw HostError(QStringLiteral("%1: cannot create the folder").arg(path));
+        throw FolderError(QStringLiteral("%1: cannot create the folder").arg(path));
     std::unique_ptr<StudyFolder> folder(new StudyFolder(path));
     const QString file = folder->PathOf(FingerprintName);
     const bool isNew = !QFileInfo::exists(file);

@@ -32,7 +32,8 @@ public:
     /// Opens a folder that exists, to read it. @throws HostError if it is not that of a study
     static std::unique_ptr<StudyFolder> Open(const QString& path);
     /// Opens or creates a folder for a study with the @p fingerprint, and adds those of @p runs
-    /// that are not there. @throws HostError, also if the folder is that of another study
+    /// that are not there. @throws HostError, also if the folder is that of another study;
+    /// FolderError if it cannot be written
     static std::unique_ptr<StudyFolder> Prepare(const QString& path, const QJsonObject& fingerprint,
                                                 const RunList& runs);
 
