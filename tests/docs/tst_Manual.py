@@ -89,7 +89,7 @@ class MarkdownPages(unittest.TestCase):
         self.assertEqual(self.pictured - {picture.stem for picture in IMAGES.iterdir()}, set())
 
     def test_EveryOtherPictureIsOnAPage(self):
-        shown = {Path(link).stem for page in MarkdownFiles() for link in Links(page) if link.endswith(".png")}
+        shown = {Path(link).stem for page in MarkdownFiles() for link in Links(page) if link.endswith((".png", ".svg"))}
         self.assertEqual({picture.stem for picture in IMAGES.iterdir()} - self.pictured - shown, set())
 
     def test_EveryDialogHasAPageWithItsPictureAndTheSameSections(self):

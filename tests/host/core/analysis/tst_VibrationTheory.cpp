@@ -1,4 +1,5 @@
 #include "DeckModels.h"
+#include "ErrorPlot.h"
 #include "MeshRepair.h"
 #include "ModeSearch.h"
 #include "Solved.h"
@@ -6,6 +7,9 @@
 #include "Verification.h"
 
 #include <BRepAlgoAPI_Cut.hxx>
+#include <QFileInfo>
+
+#include <functional>
 
 /// Natural frequencies against formulas; docs/verification.md names their sources.
 class tst_VibrationTheory : public TestCase
@@ -22,6 +26,7 @@ private Q_SLOTS:
     void ACantileverBeam();
     void AFreeBeam_data();
     void AFreeBeam();
+    void ErrorsFallWithTheSize();
 };
 
 namespace {
@@ -76,6 +81,36 @@ FiniteElementModel Meshed(const TopoDS_Shape& shape, double size, AnalysisPlan p
     return BuildModel(std::move(mesh), plan).model;
 }
 
+FiniteElementModel CantileverPlate(bool isSolid, double thickness, double size)
+{
+    const TopoDS_Shape shape = BRepPrimAPI_MakeBox(100.0, 100.0, thickness).Shape();
+    AnalysisPlan plan;
+    if (isSolid) {
+        plan.properties = {SteelSolid()};
+        plan.constraints = {OnFaces("clamp", Displacements, {FaceAt(shape, 0, 50, thickness / 2)})};
+    } else {
+        plan.properties = {SteelShell("plate", thickness, {FaceAt(shape, 50, 50, 0)})};
+        plan.constraints = {OnEdges("clamp", AllFreedoms, {EdgeAt(shape, 0, 50, 0)})};
+    }
+    return Meshed(shape, size, plan);
+}
+
+FiniteElementModel AnnularPlate(bool isSolid, double size)
+{
+    const TopoDS_Shape shape = BRepAlgoAPI_Cut(BRepPrimAPI_MakeCylinder(100.0, 2.0).Shape(),
+                                               BRepPrimAPI_MakeCylinder(30.0, 2.0).Shape())
+                                   .Shape();
+    AnalysisPlan plan;
+    if (isSolid) {
+        plan.properties = {SteelSolid()};
+        plan.constraints = {OnFaces("bore", Displacements, {FaceAt(shape, 0, 30, 1)})};
+    } else {
+        plan.properties = {SteelShell("plate", 2.0, {FaceAt(shape, 0, 60, 0)})};
+        plan.constraints = {OnEdges("bore", AllFreedoms, {EdgeAt(shape, 0, 30, 0)})};
+    }
+    return Meshed(shape, size, plan);
+}
+
 void Compare(const QString& name, const std::vector<double>& theory,
              const std::vector<double>& computed, double allowed)
 {
@@ -115,18 +150,9 @@ void tst_VibrationTheory::ACantileverPlate()
     QFETCH(bool, isSolid);
     QFETCH(double, thickness);
     QFETCH(double, allowed);
-    const TopoDS_Shape shape = BRepPrimAPI_MakeBox(100.0, 100.0, thickness).Shape();
-    AnalysisPlan plan;
-    if (isSolid) {
-        plan.properties = {SteelSolid()};
-        plan.constraints = {OnFaces("clamp", Displacements, {FaceAt(shape, 0, 50, thickness / 2)})};
-    } else {
-        plan.properties = {SteelShell("plate", thickness, {FaceAt(shape, 50, 50, 0)})};
-        plan.constraints = {OnEdges("clamp", AllFreedoms, {EdgeAt(shape, 0, 50, 0)})};
-    }
     Compare(isSolid ? "Cantilever plate, solids, size 10" : "Cantilever plate, shells, size 10",
             OfPlate({3.492, 8.525, 21.43, 27.33, 31.11, 54.44}, 100.0, thickness),
-            Frequencies(Meshed(shape, 10, plan), Lowest(6)), allowed);
+            Frequencies(CantileverPlate(isSolid, thickness, 10), Lowest(6)), allowed);
 }
 
 void tst_VibrationTheory::ASimplySupportedPlate()
@@ -162,17 +188,6 @@ void tst_VibrationTheory::AnAnnularPlateClampedAtTheBore()
     QFETCH(bool, isSolid);
     QFETCH(double, size);
     QFETCH(double, allowed);
-    const TopoDS_Shape shape = BRepAlgoAPI_Cut(BRepPrimAPI_MakeCylinder(100.0, 2.0).Shape(),
-                                               BRepPrimAPI_MakeCylinder(30.0, 2.0).Shape())
-                                   .Shape();
-    AnalysisPlan plan;
-    if (isSolid) {
-        plan.properties = {SteelSolid()};
-        plan.constraints = {OnFaces("bore", Displacements, {FaceAt(shape, 0, 30, 1)})};
-    } else {
-        plan.properties = {SteelShell("plate", 2.0, {FaceAt(shape, 0, 60, 0)})};
-        plan.constraints = {OnEdges("bore", AllFreedoms, {EdgeAt(shape, 0, 30, 0)})};
-    }
     const QString name =
         isSolid ? "Annular plate, solids, size 8" : "Annular plate, shells, size 5";
     // Modes with nodal diameters come in pairs.
@@ -180,7 +195,7 @@ void tst_VibrationTheory::AnAnnularPlateClampedAtTheBore()
             OfPlate({6.552314, 6.552314, 6.660367, 7.956487, 7.956487, 13.275733, 13.275733,
                      22.073777, 22.073777},
                     100.0, 2.0),
-            Frequencies(Meshed(shape, size, plan), Lowest(9)), allowed);
+            Frequencies(AnnularPlate(isSolid, size), Lowest(9)), allowed);
 }
 
 void tst_VibrationTheory::ACantileverBeam()
@@ -220,6 +235,53 @@ void tst_VibrationTheory::AFreeBeam()
                        : "Free beam with its rigid-body modes, solids, size 4",
             {OfBeam(4.730041, 200, 5), OfBeam(4.730041, 200, 8), OfBeam(7.853205, 200, 5)}, found,
             0.015);
+}
+
+// Further sizes for the plot, which is written beside the table of Verify().
+void tst_VibrationTheory::ErrorsFallWithTheSize()
+{
+    const QString table = qEnvironmentVariable("TARN_VERIFICATION_TABLE");
+    std::vector<double> sizes = {20.0, 14.0, 10.0};
+    if (!table.isEmpty())
+        sizes.insert(sizes.end(), {7.0, 5.0, 3.5});
+    struct Case
+    {
+        const char* name;
+        std::size_t mode;
+        double theory;
+        std::function<FiniteElementModel(double)> model;
+    };
+    const Case cases[] = {
+        {"cantilever plate, solids, f6", 6, OfPlate(54.44, 100.0, 2.0),
+         [](double size) {
+             return CantileverPlate(true, 2.0, size);
+         }},
+        {"cantilever plate, shells, f3", 3, OfPlate(21.43, 100.0, 1.0),
+         [](double size) {
+             return CantileverPlate(false, 1.0, size);
+         }},
+        {"annular plate, solids, f1", 1, OfPlate(6.552314, 100.0, 2.0),
+         [](double size) {
+             return AnnularPlate(true, size);
+         }},
+        {"annular plate, shells, f1", 1, OfPlate(6.552314, 100.0, 2.0), [](double size) {
+             return AnnularPlate(false, size);
+         }}};
+    ErrorPlot plot(3.0, 25.0, -2, 16);
+    for (const double size : sizes)
+        plot.AddSize(size);
+    for (const Case& verified : cases) {
+        std::vector<double> errors;
+        for (const double size : sizes) {
+            const std::vector<double> found =
+                Frequencies(verified.model(size), Lowest(int(verified.mode)));
+            errors.push_back(100.0 * (found.at(verified.mode - 1) / verified.theory - 1.0));
+        }
+        plot.AddCurve(verified.name, sizes, errors);
+        QVERIFY2(errors.back() < errors.front(), verified.name);
+    }
+    if (!table.isEmpty())
+        Put(QFileInfo(table).dir().filePath("convergence.svg"), plot.Svg());
 }
 
 TARN_TEST_MAIN(tst_VibrationTheory)
