@@ -1886,6 +1886,116 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>OptimumPage</name>
+    <message>
+        <source>Optimum of</source>
+        <translation>优化目标</translation>
+    </message>
+    <message>
+        <source>Aim</source>
+        <translation>目标方向</translation>
+    </message>
+    <message>
+        <source>as small as possible</source>
+        <translation>尽可能小</translation>
+    </message>
+    <message>
+        <source>as large as possible</source>
+        <translation>尽可能大</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>寻优</translation>
+    </message>
+    <message>
+        <source>Verify by a run</source>
+        <translation>用一次试验验证</translation>
+    </message>
+    <message>
+        <source>Make this the design</source>
+        <translation>设为设计</translation>
+    </message>
+    <message>
+        <source>Type limits, and press Find. An optimum is predicted by quadratic surfaces over the runs that are shown; a run verifies it.</source>
+        <translation>输入限制并单击“寻优”。最优点由所示试验的二次响应面预测，再由一次试验验证。</translation>
+    </message>
+    <message>
+        <source>An optimum cannot be found: %1</source>
+        <translation>无法找到最优点：%1</translation>
+    </message>
+    <message>
+        <source>no parameter varies</source>
+        <translation>没有变化的参数</translation>
+    </message>
+    <message>
+        <source>the runs have no value of the parameter &quot;%1&quot;</source>
+        <translation>试验中没有参数“%1”的值</translation>
+    </message>
+    <message>
+        <source>Predicted by quadratic surfaces over %1 runs.</source>
+        <translation>由 %1 次试验的二次响应面预测。</translation>
+    </message>
+    <message>
+        <source>Run %1 verifies it: compare the last columns.</source>
+        <translation>试验 %1 对它作了验证：请比较最后几列。</translation>
+    </message>
+    <message>
+        <source>Run %1 failed: %2</source>
+        <translation>试验 %1 失败：%2</translation>
+    </message>
+</context>
+<context>
+    <name>OptimumTable</name>
+    <message>
+        <source>Limits and optimum</source>
+        <translation>限制与最优点</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>At least</source>
+        <translation>不小于</translation>
+    </message>
+    <message>
+        <source>At most</source>
+        <translation>不大于</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>Predicted</source>
+        <translation>预测值</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>误差</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>试验</translation>
+    </message>
+    <message>
+        <source>Whole numbers only</source>
+        <translation>只取整数</translation>
+    </message>
+    <message>
+        <source>The usual error of predictions for runs that the surface has not seen</source>
+        <translation>对响应面未用过的试验，预测的通常误差</translation>
+    </message>
+    <message>
+        <source>the limit %1 of %2 is not a number; type a number or nothing</source>
+        <translation>%2 的限制 %1 不是数；请输入一个数或留空</translation>
+    </message>
+    <message>
+        <source>Run %1</source>
+        <translation>试验 %1</translation>
+    </message>
+</context>
+<context>
     <name>ParallelPlot</name>
     <message>
         <source>Drag along an axis to select a range; click on it to take that back</source>
@@ -3641,10 +3751,6 @@ Remove these as well?</source>
         <translation>设为设计(&amp;M)</translation>
     </message>
     <message>
-        <source>&amp;Export CSV</source>
-        <translation>导出 CSV(&amp;E)</translation>
-    </message>
-    <message>
         <source>&amp;Open study folder</source>
         <translation>打开研究文件夹(&amp;O)</translation>
     </message>
@@ -3689,16 +3795,19 @@ Remove these as well?</source>
         <translation>无法将第 %1 次试验设为设计：%2</translation>
     </message>
     <message>
-        <source>Export the runs that are shown</source>
-        <translation>导出显示的试验</translation>
+        <source>Make the optimum the design</source>
+        <translation>将最优点设为设计</translation>
     </message>
     <message>
-        <source>Tables (*.csv);;All files (*)</source>
-        <translation>表格 (*.csv);;所有文件 (*)</translation>
+        <source>The optimum cannot be made the design: %1</source>
+        <translation>无法将最优点设为设计：%1</translation>
     </message>
+</context>
+<context>
+    <name>StudyExport</name>
     <message>
-        <source>Wrote %1</source>
-        <translation>已写入 %1</translation>
+        <source>&amp;Export CSV</source>
+        <translation>导出 CSV(&amp;E)</translation>
     </message>
     <message>
         <source>Export p&amp;icture</source>
@@ -3709,12 +3818,24 @@ Remove these as well?</source>
         <translation>复制图片(&amp;C)</translation>
     </message>
     <message>
+        <source>Export the runs that are shown</source>
+        <translation>导出显示的试验</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>表格 (*.csv);;所有文件 (*)</translation>
+    </message>
+    <message>
         <source>Export the plot</source>
         <translation>导出图</translation>
     </message>
     <message>
         <source>PNG pictures (*.png);;SVG drawings (*.svg)</source>
-        <translation>PNG 图片 (*.png);;SVG 图形 (*.svg)</translation>
+        <translation>PNG 图片 (*.png);;SVG 矢量图 (*.svg)</translation>
+    </message>
+    <message>
+        <source>Wrote %1</source>
+        <translation>已写入 %1</translation>
     </message>
 </context>
 <context>
@@ -4028,6 +4149,10 @@ Remove these as well?</source>
         <source>Statistics</source>
         <translation>统计</translation>
     </message>
+    <message>
+        <source>Optimum</source>
+        <translation>最优点</translation>
+    </message>
 </context>
 <context>
     <name>StudyTable</name>
@@ -4060,6 +4185,10 @@ Remove these as well?</source>
     <message>
         <source>no point within the ranges of the parameters keeps all limits; widen a limit or a range</source>
         <translation>在参数范围内没有满足所有限制的点；请放宽限制或范围</translation>
+    </message>
+    <message>
+        <source>too many whole numbers would have to be tried; narrow the range of a parameter</source>
+        <translation>要试的整数太多；请缩小某个参数的范围</translation>
     </message>
 </context>
 <context>

@@ -1,26 +1,21 @@
 #include "FileChoice.h"
-#include "FlangeStudy.h"
 #include "HostApplication.h"
 #include "HostTestMain.h"
-#include "OpenWindow.h"
 #include "ResponseTable.h"
 #include "SampleTable.h"
 #include "StudyPlot.h"
 #include "StudyProcess.h"
-#include "StudyTable.h"
-#include "StudyTableView.h"
+#include "StudyWindow.h"
 
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDir>
-#include <QDockWidget>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QProcess>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
 
@@ -47,52 +42,6 @@ protected:
 };
 
 namespace {
-
-constexpr int Patience = 120000; // ms
-
-/// A window with a project of its own, and the study's panel.
-struct StudyWindow : OpenWindow
-{
-    explicit StudyWindow(const QString& folder, const QByteArray& bores = "[60, 70]")
-    {
-        const QString path = QDir(folder).filePath("p.json");
-        Put(path, Flange(bores));
-        OpenProject(path);
-        window.findChild<QDockWidget*>("studyDock")->show();
-        DeliverEvents();
-    }
-
-    StudyTableView& View() const { return Find<StudyTableView>(window, "studyTableView"); }
-    const StudyTable& Table() const { return static_cast<StudyTable&>(*View().model()); }
-    QPushButton& Start() const { return Find<QPushButton>(window, "pushButton_Start"); }
-    int Count() const { return Table().Columns().Count(); }
-
-    void ClickCell(int row, int column) const
-    {
-        View().scrollTo(View().model()->index(row, column));
-        QTest::mouseClick(View().viewport(), Qt::LeftButton, {},
-                          View().visualRect(View().model()->index(row, column)).center());
-    }
-    QString Cell(int row, int column) const
-    {
-        return View().model()->index(row, column).data().toString();
-    }
-    void RunToTheEnd() const
-    {
-        Click(window, "pushButton_Start");
-        QVERIFY(!Start().isEnabled());
-        QTRY_VERIFY_WITH_TIMEOUT(Start().isEnabled(), Patience);
-    }
-};
-
-int ColumnOf(const StudyTable& table, const QString& name)
-{
-    for (int column = 0; column < table.columnCount(); ++column) {
-        if (table.headerData(column, Qt::Horizontal).toString() == name)
-            return column;
-    }
-    return -1;
-}
 
 // In another program, to the end.
 void RunElsewhere()

@@ -4,24 +4,20 @@
 #include "HostError.h"
 #include "MenuActions.h"
 #include "MessageLevel.h"
+#include "OptimumPage.h"
 #include "PartModel.h"
 #include "Project.h"
 #include "ProjectSession.h"
-#include "ResultsTable.h"
+#include "StudyExport.h"
 #include "StudyPanel.h"
-#include "StudyPlot.h"
 #include "StudyProcess.h"
 #include "StudyResults.h"
 #include "StudySelection.h"
 #include "StudyTable.h"
 #include "StudyWatch.h"
-#include "WholeFile.h"
 
-#include <QBuffer>
-#include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
-#include <QGuiApplication>
 #include <QMainWindow>
 #include <QMenu>
 
@@ -39,6 +35,7 @@ StudyActions::StudyActions(ProjectSession& session, DesignModel& design, PartMod
     , m_watch(new StudyWatch(this))
     , m_panel(new StudyPanel(session, design, part, window))
     , m_results(new StudyResults(*m_table, *m_selection, window))
+    , m_export(new StudyExport(*m_table, *m_results, window, this))
 {
     CreateActions();
     Connect();
@@ -55,13 +52,8 @@ void StudyActions::CreateActions()
     m_stop = NewAction(tr("S&top"), "action_StopStudy", m_process, &StudyProcess::Stop);
     m_showRun = NewAction(tr("Show this &run"), "action_ShowRun", this, &StudyActions::ShowRun);
     m_makeDesign = NewAction(tr("&Make this the design"), "action_MakeRunTheDesign", this,
-                             &StudyActions::MakeDesign);
-    m_export = NewAction(tr("&Export CSV"), "action_ExportStudy", this, &StudyActions::ExportTable);
-    m_exportPicture =
-        NewAction(tr("Export p&icture"), "action_ExportPlot", this, &StudyActions::ExportPicture);
-    m_copyPicture =
-        NewAction(tr("&Copy picture"), "action_CopyPlot", this, &StudyActions::CopyPicture);
-    m_results->SetActions({m_showRun, m_makeDesign, m_export, m_exportPicture, m_copyPicture});
+                             &StudyActions::MakeRunDesign);
+    m_results->SetActions(QList<QAction*>{m_showRun, m_makeDesign} + m_export->Actions());
 }
 
 void StudyActions::FillMenu(QMenu& menu)
@@ -73,7 +65,7 @@ void StudyActions::FillMenu(QMenu& menu)
     menu.addAction(
         NewAction(tr("&Open study folder"), "action_OpenStudy", this, &StudyActions::ChooseFolder));
     menu.addSeparator();
-    menu.addActions({m_showRun, m_makeDesign, m_export, m_exportPicture, m_copyPicture});
+    menu.addActions(QList<QAction*>{m_showRun, m_makeDesign} + m_export->Actions());
 }
 
 void StudyActions::Connect()
@@ -88,8 +80,9 @@ void StudyActions::Connect()
         PostMessageToChannel(ErrorLevel, tr("The study cannot be read: %1").arg(reason));
     });
     connect(m_selection, &StudySelection::Changed, this, &StudyActions::UpdateActions);
-    connect(m_table, &StudyTable::RowsChanged, this, &StudyActions::UpdateActions);
-    connect(m_results, &StudyResults::CurrentPlotChanged, this, &StudyActions::UpdateActions);
+    connect(&m_results->Optimum(), &OptimumPage::VerifyWanted, this, &StudyActions::VerifyOptimum);
+    connect(&m_results->Optimum(), &OptimumPage::DesignWanted, this,
+            &StudyActions::MakeOptimumDesign);
 }
 
 void StudyActions::Start()
@@ -133,7 +126,6 @@ void StudyActions::OpenFolder(const QString& path)
 void StudyActions::Follow(const QString& path, bool isExpected)
 {
     m_folder = path;
-    m_inputs.clear();
     m_table->Clear();
     m_panel->ShowProgressText(QDir::toNativeSeparators(path));
     ShowResults();
@@ -154,9 +146,9 @@ void StudyActions::ShowResults()
 
 void StudyActions::TakeNews(const StudyFollower::News& news)
 {
-    m_inputs = news.inputs;
     if (!news.columns.Names().isEmpty())
         m_table->Take(news.columns);
+    m_table->SetInputs(news.inputs.isEmpty() ? PlainParameters() : news.inputs);
     const int ended = m_table->Columns().Count();
     m_panel->ShowProgress(news.runs > 0 ? news.runs : ended, ended, m_table->FailedCount(),
                           news.running);
@@ -188,16 +180,12 @@ void StudyActions::UpdateActions()
     const bool isOne = m_selection->Rows().size() == 1;
     m_showRun->setEnabled(isOne);
     m_makeDesign->setEnabled(isOne);
-    m_export->setEnabled(!m_table->Rows().empty());
-    m_exportPicture->setEnabled(m_results->CurrentPlot() != nullptr);
-    m_copyPicture->setEnabled(m_results->CurrentPlot() != nullptr);
+    m_results->Optimum().AllowRun(state == StudyProcess::Idle);
 }
 
-QStringList StudyActions::RunParameters() const
+// A table alone does not say which of its parameters are calculated.
+QStringList StudyActions::PlainParameters() const
 {
-    if (!m_inputs.isEmpty())
-        return m_inputs;
-    // A table alone does not say which of its parameters are calculated.
     QStringList names;
     const ResultColumns& columns = m_table->Columns();
     const ParameterEntries entries = m_design.Design();
@@ -210,9 +198,10 @@ QStringList StudyActions::RunParameters() const
     return names;
 }
 
-std::vector<double> StudyActions::ValuesOf(int row, const QStringList& names) const
+std::vector<double> StudyActions::ValuesOf(int row) const
 {
     std::vector<double> values;
+    const QStringList names = m_table->Inputs();
     const ResultColumns& columns = m_table->Columns();
     for (const QString& name : names) {
         const int column = columns.Names().indexOf(name);
@@ -229,8 +218,7 @@ void StudyActions::ShowRun()
     const int row = m_selection->Rows().front();
     const int run = m_table->Columns().Run(row);
     try {
-        const QStringList names = RunParameters();
-        m_design.ShowRun(names, ValuesOf(row, names));
+        m_design.ShowRun(m_table->Inputs(), ValuesOf(row));
         PostMessageToChannel(InfoLevel, tr("The part is that of run %1").arg(run));
     } catch (const HostError& error) {
         PostMessageToChannel(ErrorLevel,
@@ -238,73 +226,60 @@ void StudyActions::ShowRun()
     }
 }
 
-void StudyActions::MakeDesign()
+void StudyActions::MakeRunDesign()
 {
     const int row = m_selection->Rows().front();
     const int run = m_table->Columns().Run(row);
     try {
-        const QStringList names = RunParameters();
-        const std::vector<double> values = ValuesOf(row, names);
-        ParameterEntries entries = m_design.Design();
-        for (int i = 0; i < names.size(); ++i) {
-            const int index = FindParameter(entries, names[i]);
-            if (index < 0)
-                throw HostError(tr("there is no parameter \"%1\" in the project").arg(names[i]));
-            ParameterEntry& entry = entries[std::size_t(index)];
-            if (!entry.Expression().isEmpty() || entry.Number() != values[std::size_t(i)])
-                entry.SetNumber(values[std::size_t(i)]);
-        }
-        m_design.Edit(entries, tr("Make run %1 the design").arg(run));
+        m_design.Edit(DesignAt(ValuesOf(row)), tr("Make run %1 the design").arg(run));
     } catch (const HostError& error) {
         PostMessageToChannel(
             ErrorLevel, tr("Run %1 cannot be made the design: %2").arg(run).arg(error.Reason()));
     }
 }
 
-void StudyActions::ExportTable()
+// The design, with these values of the inputs.
+ParameterEntries StudyActions::DesignAt(const std::vector<double>& point) const
 {
-    QFileDialog dialog(m_window, tr("Export the runs that are shown"), QString(),
-                       tr("Tables (*.csv);;All files (*)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("csv"));
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    WriteExport(dialog.selectedFiles().value(0), m_table->ToCsv());
+    ParameterEntries entries = m_design.Design();
+    const QStringList names = m_table->Inputs();
+    for (int i = 0; i < names.size(); ++i) {
+        const int index = FindParameter(entries, names[i]);
+        if (index < 0)
+            throw HostError(tr("there is no parameter \"%1\" in the project").arg(names[i]));
+        ParameterEntry& entry = entries[std::size_t(index)];
+        if (!entry.Expression().isEmpty() || entry.Number() != point[std::size_t(i)])
+            entry.SetNumber(point[std::size_t(i)]);
+    }
+    return entries;
 }
 
-void StudyActions::ExportPicture()
+void StudyActions::MakeOptimumDesign()
 {
-    QFileDialog dialog(m_window, tr("Export the plot"), QString(),
-                       tr("PNG pictures (*.png);;SVG drawings (*.svg)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("png"));
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
-        dialog.setDefaultSuffix(filter.contains(QLatin1String("svg")) ? QStringLiteral("svg")
-                                                                      : QStringLiteral("png"));
-    });
-    StudyPlot* const plot = m_results->CurrentPlot();
-    if (plot == nullptr || dialog.exec() != QDialog::Accepted)
-        return;
-    const QString path = dialog.selectedFiles().value(0);
-    if (path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive))
-        return WriteExport(path, plot->Svg());
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    plot->Picture().save(&buffer, "PNG");
-    WriteExport(path, bytes);
+    try {
+        m_design.Edit(DesignAt(m_results->Optimum().Point()), tr("Make the optimum the design"));
+    } catch (const HostError& error) {
+        PostMessageToChannel(ErrorLevel,
+                             tr("The optimum cannot be made the design: %1").arg(error.Reason()));
+    }
 }
 
-void StudyActions::CopyPicture()
+// A run more in the folder that is shown.
+void StudyActions::VerifyOptimum()
 {
-    if (StudyPlot* const plot = m_results->CurrentPlot())
-        QGuiApplication::clipboard()->setImage(plot->Picture());
-}
-
-void StudyActions::WriteExport(const QString& path, const QByteArray& content) const
-{
-    tarn::WholeFile file(path, ResultsTable::MaximumFileSize);
-    if (file.Write(content))
-        PostMessageToChannel(InfoLevel, tr("Wrote %1").arg(QDir::toNativeSeparators(path)));
-    else
-        PostMessageToChannel(ErrorLevel, QStringLiteral("%1: %2").arg(path, file.Error()));
+    StudyProcess::Options options = m_panel->Options();
+    options.directory = m_folder;
+    options.jobs = 1;
+    try {
+        Project project = m_session.Current();
+        project.SetParameters(DesignAt(m_results->Optimum().Point()));
+        project.SetSampleLists({m_results->Optimum().Samples()});
+        StudyDefinition study = project.Study();
+        study.design = StudyDefinition::FullFactorial;
+        project.SetStudy(study);
+        m_session.SaveStores();
+        m_process->Start(project, options);
+    } catch (const HostError& error) {
+        PostMessageToChannel(ErrorLevel, error.Reason());
+    }
 }

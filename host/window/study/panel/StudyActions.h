@@ -1,9 +1,12 @@
 #pragma once
 
+#include "ParameterEntry.h"
 #include "StudyFollower.h"
 
 #include <QObject>
 #include <QStringList>
+
+#include <vector>
 
 class DesignModel;
 class PartModel;
@@ -11,6 +14,7 @@ class ProjectSession;
 class QAction;
 class QMenu;
 class QWidget;
+class StudyExport;
 class StudyPanel;
 class StudyProcess;
 class StudyResults;
@@ -52,15 +56,13 @@ private:
     void ShowEnd(const QString& problem);
     void ShowProcessState();
     void UpdateActions();
-    /// The parameters that the folder's runs give values to.
-    QStringList RunParameters() const;
-    std::vector<double> ValuesOf(int row, const QStringList& names) const;
+    QStringList PlainParameters() const;
+    std::vector<double> ValuesOf(int row) const;
+    ParameterEntries DesignAt(const std::vector<double>& point) const;
     void ShowRun();
-    void MakeDesign();
-    void ExportTable();
-    void ExportPicture();
-    void CopyPicture();
-    void WriteExport(const QString& path, const QByteArray& content) const;
+    void MakeRunDesign();
+    void MakeOptimumDesign();
+    void VerifyOptimum();
 
     ProjectSession& m_session;
     DesignModel& m_design;
@@ -71,15 +73,12 @@ private:
     StudyWatch* m_watch;
     StudyPanel* m_panel;
     StudyResults* m_results;
-    QStringList m_inputs; // Of the folder that is followed; empty where unknown.
-    QString m_folder;
+    StudyExport* m_export;
+    QString m_folder; // That is followed.
 
     QAction* m_start = nullptr;
     QAction* m_pause = nullptr;
     QAction* m_stop = nullptr;
     QAction* m_showRun = nullptr;
     QAction* m_makeDesign = nullptr;
-    QAction* m_export = nullptr;
-    QAction* m_exportPicture = nullptr;
-    QAction* m_copyPicture = nullptr;
 };

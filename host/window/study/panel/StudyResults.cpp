@@ -4,6 +4,7 @@
 
 #include "ConvergencePlot.h"
 #include "MainEffectsPlot.h"
+#include "OptimumPage.h"
 #include "ParallelPlot.h"
 #include "ScatterMatrix.h"
 #include "ScatterPlot.h"
@@ -20,6 +21,7 @@ StudyResults::StudyResults(StudyTable& table, StudySelection& selection, QWidget
     , m_selection(selection)
     , m_form(std::make_unique<Ui::StudyResults>())
     , m_view(new StudyTableView(table, selection, this))
+    , m_optimum(new OptimumPage(table, selection, this))
 {
     setObjectName(QStringLiteral("studyResultsDock"));
     auto* const content = new QWidget(this);
@@ -65,6 +67,7 @@ void StudyResults::AddPlots()
     add(new MainEffectsPlot(m_table, m_selection, this), tr("Main effects"));
     add(new ConvergencePlot(m_table, m_selection, this), tr("Convergence"));
     add(new StatisticsPage(m_table, m_selection, this), tr("Statistics"));
+    add(m_optimum, tr("Optimum"));
 }
 
 void StudyResults::OpenTab(const QString& name)

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class OptimumPage;
 class StudyPlot;
 class StudySelection;
 class StudyTable;
@@ -30,6 +31,7 @@ public:
     void OpenTab(const QString& name);
     /// The plot whose tab is open; null for the table.
     StudyPlot* CurrentPlot() const;
+    OptimumPage& Optimum() { return *m_optimum; }
 
 Q_SIGNALS:
     void CurrentPlotChanged();
@@ -43,4 +45,5 @@ private:
     StudySelection& m_selection;
     std::unique_ptr<Ui::StudyResults> m_form;
     StudyTableView* m_view;
+    OptimumPage* m_optimum;
 };

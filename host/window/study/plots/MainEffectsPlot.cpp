@@ -68,11 +68,9 @@ void MainEffectsPlot::ShowRows()
     m_curves.clear();
     m_parameters.clear();
     if (m_response.Column() >= 0) {
-        Column response;
-        for (const int row : Rows())
-            response.push_back(columns.Value(m_response.Column(), row));
-        for (const int column : VaryingColumns(columns)) {
-            if (column < columns.ParameterCount() && column != m_response.Column())
+        const Column response = Shown(m_response.Column());
+        for (const int column : VaryingInputs()) {
+            if (column != m_response.Column())
                 AddEffect(column, response);
         }
     }
@@ -89,10 +87,7 @@ void MainEffectsPlot::ShowRows()
 
 void MainEffectsPlot::AddEffect(int column, const std::vector<double>& response)
 {
-    Column parameter;
-    for (const int row : Rows())
-        parameter.push_back(Columns().Value(column, row));
-    const std::vector<LevelMean> means = MainEffect(parameter, response);
+    const std::vector<LevelMean> means = MainEffect(Shown(column), response);
     if (means.size() < 2)
         return;
     const double first = means.front().level;

@@ -101,12 +101,8 @@ void ScatterPlot::ShowFront()
     m_front.clear();
     QVector<QPointF> corners;
     if (m_hasFront->isChecked() && m_x.Column() >= 0 && m_y.Column() >= 0) {
-        Column x;
-        Column y;
-        for (const int row : Rows()) {
-            x.push_back(Columns().Value(m_x.Column(), row));
-            y.push_back(Columns().Value(m_y.Column(), row));
-        }
+        const Column x = Shown(m_x.Column());
+        const Column y = Shown(m_y.Column());
         const std::vector<int> front =
             ParetoFront(x, Aim(m_xAim->currentIndex()), y, Aim(m_yAim->currentIndex()));
         for (const int place : front) {

@@ -106,15 +106,6 @@ void StatisticsPage::Calculate()
         table->resizeColumnsToContents();
 }
 
-std::vector<double> StatisticsPage::Shown(int column) const
-{
-    Column values;
-    values.reserve(Rows().size());
-    for (const int row : Rows())
-        values.push_back(Columns().Value(column, row));
-    return values;
-}
-
 void StatisticsPage::ShowSummary()
 {
     const QStringList& names = Columns().Names();
@@ -139,8 +130,8 @@ void StatisticsPage::ShowEffects()
         return;
     QStringList names;
     ::Columns parameters;
-    for (const int column : VaryingColumns(Columns())) {
-        if (column >= Columns().ParameterCount() || column == m_response.Column())
+    for (const int column : VaryingInputs()) {
+        if (column == m_response.Column())
             continue;
         names << Columns().Names()[column];
         parameters.push_back(Shown(column));

@@ -30,7 +30,6 @@ private:
     void Calculate();
     void ShowSummary();
     void ShowEffects();
-    std::vector<double> Shown(int column) const;
 
     ColumnBox& m_response;
     QWidget* m_content;

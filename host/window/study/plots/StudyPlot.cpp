@@ -11,6 +11,7 @@
 #include <QSvgGenerator>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 StudyPlot::StudyPlot(StudyTable& table, StudySelection& selection, QWidget* parent)
@@ -45,6 +46,31 @@ const ResultColumns& StudyPlot::Columns() const
 const std::vector<int>& StudyPlot::Rows() const
 {
     return m_table.Rows();
+}
+
+QStringList StudyPlot::Inputs() const
+{
+    return m_table.Inputs();
+}
+
+std::vector<int> StudyPlot::VaryingInputs() const
+{
+    const QStringList inputs = Inputs();
+    std::vector<int> columns = VaryingColumns(Columns());
+    const auto isOther = [&](int column) {
+        return column >= Columns().ParameterCount() || !inputs.contains(Columns().Names()[column]);
+    };
+    columns.erase(std::remove_if(columns.begin(), columns.end(), isOther), columns.end());
+    return columns;
+}
+
+std::vector<double> StudyPlot::Shown(int column) const
+{
+    std::vector<double> values;
+    values.reserve(Rows().size());
+    for (const int row : Rows())
+        values.push_back(Columns().Value(column, row));
+    return values;
 }
 
 bool StudyPlot::IsSelected(int row) const

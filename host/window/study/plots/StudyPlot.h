@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QImage>
+#include <QStringList>
 #include <QTimer>
 #include <QWidget>
 
@@ -46,6 +47,12 @@ protected:
 
     const ResultColumns& Columns() const;
     const std::vector<int>& Rows() const;
+    /// The parameters that the runs give values to.
+    QStringList Inputs() const;
+    /// The columns of those that vary.
+    std::vector<int> VaryingInputs() const;
+    /// The values of a column in Rows().
+    std::vector<double> Shown(int column) const;
     bool IsSelected(int row) const;
     /// Replaces the shared selection, or adds to it while Shift or Ctrl is pressed.
     void Select(std::vector<int> rows);

@@ -38,6 +38,7 @@ void StudyTable::Clear()
     m_selection.Clear();
     beginResetModel();
     m_columns = ResultColumns();
+    m_inputs.clear();
     m_rows.clear();
     m_filter.clear();
     m_sortColumn = 0;
@@ -62,6 +63,21 @@ void StudyTable::Take(const ResultColumns& news)
     std::vector<int> rows = FilteredRows();
     SortRows(rows);
     Show(std::move(rows));
+}
+
+void StudyTable::SetInputs(const QStringList& names)
+{
+    if (names == m_inputs)
+        return;
+    m_inputs = names;
+    Q_EMIT RowsChanged();
+}
+
+QStringList StudyTable::Inputs() const
+{
+    if (!m_inputs.isEmpty())
+        return m_inputs;
+    return m_columns.Names().mid(0, m_columns.ParameterCount());
 }
 
 QString StudyTable::SetFilter(const QString& expression)

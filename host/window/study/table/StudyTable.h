@@ -27,6 +27,10 @@ public:
     void Take(const ResultColumns& news);
 
     const ResultColumns& Columns() const { return m_columns; }
+    /// Which parameters the runs give values to; the others are calculated from them.
+    void SetInputs(const QStringList& names);
+    /// All parameters until SetInputs() is called.
+    QStringList Inputs() const;
     /// The rows that are shown, in the order of the table.
     const std::vector<int>& Rows() const { return m_rows; }
     int FailedCount() const { return m_failed; }
@@ -59,6 +63,7 @@ private:
 
     StudySelection& m_selection;
     ResultColumns m_columns;
+    QStringList m_inputs;
     std::vector<int> m_rows;
     QString m_filter;
     int m_sortColumn = 0;

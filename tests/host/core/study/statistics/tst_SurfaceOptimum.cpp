@@ -16,6 +16,10 @@ private Q_SLOTS:
     void AnOptimumMayLieInACorner();
     void LimitsThatNothingKeepsAreRefused();
     void ASurfaceThatDoesNotVaryHasAnOptimumAnywhere();
+    void TheChoiceOfAParameterMayBeNarrower();
+    void WholeNumbersAreExact_data();
+    void WholeNumbersAreExact();
+    void LimitsThatNoWholeNumberKeepsAreRefused();
 };
 
 using Point = std::vector<double>;
@@ -144,6 +148,68 @@ void tst_SurfaceOptimum::ASurfaceThatDoesNotVaryHasAnOptimumAnywhere()
         FindOptimum(SurfaceOf(1, [](const Point&) { return 5.0; }), Aim::Least, {});
     QVERIFY(std::abs(optimum.value - 5.0) < 1e-12);
     QVERIFY(optimum.point[0] >= -3.0 && optimum.point[0] <= 3.0);
+}
+
+void tst_SurfaceOptimum::TheChoiceOfAParameterMayBeNarrower()
+{
+    const ResponseSurface goal = SurfaceOf(2, [](const Point& x) { return x[0] + x[1]; });
+    ParameterChoice first;
+    first.least = -1.25;
+    QCOMPARE(FindOptimum(goal, Aim::Least, {}, {first, {}}).point, Point({-1.25, -3.0}));
+    first.least = 3.5; // Outside the runs.
+    QVERIFY_EXCEPTION_THROWN(FindOptimum(goal, Aim::Least, {}, {first, {}}), HostError);
+}
+
+void tst_SurfaceOptimum::WholeNumbersAreExact_data()
+{
+    QTest::addColumn<double>("centre");
+    QTest::newRow("between two") << 0.4;
+    QTest::newRow("on one") << -2.0;
+    QTest::newRow("outside the range") << 7.3;
+}
+
+// Compared with each of the whole points: a bowl whose axes are not those of the parameters.
+void tst_SurfaceOptimum::WholeNumbersAreExact()
+{
+    QFETCH(double, centre);
+    const auto bowl = [centre](const Point& x) {
+        const double a = x[0] - centre;
+        const double b = x[1] + 0.6;
+        return a * a + 8.0 * b * b + 5.0 * a * b;
+    };
+    SurfaceLimit limit{SurfaceOf(2, [](const Point& x) { return x[0] + x[1]; })};
+    limit.least = -1.5;
+    double least = 1e9;
+    Point expected;
+    for (int a = -3; a <= 3; ++a) {
+        for (int b = -3; b <= 3; ++b) {
+            const Point point = {double(a), double(b)};
+            if (a + b >= -1.5 && bowl(point) < least) {
+                least = bowl(point);
+                expected = point;
+            }
+        }
+    }
+    ParameterChoice whole;
+    whole.isWhole = true;
+    const SurfaceOptimum optimum =
+        FindOptimum(SurfaceOf(2, bowl), Aim::Least, {limit}, {whole, whole});
+    QCOMPARE(optimum.point, expected);
+    QVERIFY(std::abs(optimum.value - least) < 1e-9);
+    // One of them alone cannot be worse.
+    QVERIFY(FindOptimum(SurfaceOf(2, bowl), Aim::Least, {limit}, {whole, {}}).value <=
+            least + 1e-9);
+}
+
+void tst_SurfaceOptimum::LimitsThatNoWholeNumberKeepsAreRefused()
+{
+    const ResponseSurface goal = SurfaceOf(1, [](const Point& x) { return x[0]; });
+    SurfaceLimit limit{SurfaceOf(1, [](const Point& x) { return x[0]; })};
+    limit.least = 0.4;
+    limit.greatest = 0.6;
+    ParameterChoice whole;
+    whole.isWhole = true;
+    QVERIFY_EXCEPTION_THROWN(FindOptimum(goal, Aim::Least, {limit}, {whole}), HostError);
 }
 
 QTEST_GUILESS_MAIN(tst_SurfaceOptimum)
