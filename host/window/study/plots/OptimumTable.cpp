@@ -116,6 +116,7 @@ void OptimumTable::ShowRun(int run, const std::vector<double>& values)
     for (int row = 0; row < rowCount(); ++row)
         Put(row, RunColumn,
             std::size_t(row) < values.size() ? values[std::size_t(row)] : std::nan(""));
+    resizeColumnToContents(RunColumn);
 }
 
 void OptimumTable::Forget()
