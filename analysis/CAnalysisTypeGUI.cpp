@@ -1,6 +1,7 @@
 #include "CAnalysisTypeGUI.h"
 
 #include "AnalysisType.h"
+#include "ElidedTexts.h"
 
 using namespace AnalysisType;
 
@@ -8,6 +9,7 @@ CAnalysisTypeGUI::CAnalysisTypeGUI(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.ok_push_button, SIGNAL(clicked()), this, SLOT(OnOKButtonPush()));
     connect(m_ui.cancael_push_button, SIGNAL(clicked()), this, SLOT(OnCloseButtonPush()));

@@ -1,6 +1,7 @@
 #include "CQLTConstrainEditor.h"
 
 #include "AttributeCommonMgr.h"
+#include "ElidedTexts.h"
 #include "LocalText.h"
 #include "Notice.h"
 
@@ -10,6 +11,7 @@ CQLTConstrainEditor::CQLTConstrainEditor(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.okButton, SIGNAL(clicked()), this, SLOT(m_OK_ButtonPushed()));
 }

@@ -1,6 +1,7 @@
 #include "CQLTElePropertyEditor.h"
 
 #include "CQLTElemPropDef.h"
+#include "ElidedTexts.h"
 #include "KVMaterialLibrary.h"
 #include "Notice.h"
 #include "NumberText.h"
@@ -26,6 +27,7 @@ CQLTElePropertyEditor::CQLTElePropertyEditor(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.pshbuton_Material, SIGNAL(clicked()), this, SLOT(on_getMat_brower()));
     connect(m_ui.pubut_Cancel, SIGNAL(clicked()), this, SLOT(on_CancelButton_clicked()));
@@ -33,11 +35,12 @@ CQLTElePropertyEditor::CQLTElePropertyEditor(QWidget* parent)
     connect(m_ui.element_buttonGroup, SIGNAL(buttonClicked(QAbstractButton*)), this,
             SLOT(onButtonClicked(QAbstractButton*)));
 
-    m_mapTypePages = {{QStringLiteral("Bar"), BarPage},
-                      {QStringLiteral("Beam"), BeamPage},
-                      {QStringLiteral("Shell"), ShellPage},
-                      {QStringLiteral("Membrane"), MembranePage},
-                      {QStringLiteral("Solid"), SolidPage}};
+    // The types by the words that the form shows in the language of the user.
+    m_mapTypePages = {{m_ui.rad_Bar->text(), BarPage},
+                      {m_ui.rad_Beam->text(), BeamPage},
+                      {m_ui.rad_Shell->text(), ShellPage},
+                      {m_ui.radioButton_7->text(), MembranePage},
+                      {m_ui.radb_Solid->text(), SolidPage}};
     m_ui.rad_Shell->setChecked(true);
 }
 

@@ -1,6 +1,7 @@
 #include "CQLTLoadForceEditor.h"
 
 #include "AttributeCommonMgr.h"
+#include "ElidedTexts.h"
 #include "LocalText.h"
 #include "Notice.h"
 #include "NumberText.h"
@@ -12,6 +13,7 @@ CQLTLoadForceEditor::CQLTLoadForceEditor(QWidget* parent)
 {
     // The form connects okButton by the name of on_okButton_clicked().
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 }
 
 CQLTLoadForceEditor::~CQLTLoadForceEditor() = default;

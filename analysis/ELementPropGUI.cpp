@@ -3,6 +3,7 @@
 #include "CQLTElePropertyEditor.h"
 #include "CQLTElemPropDef.h"
 #include "ChildDialog.h"
+#include "ElidedTexts.h"
 #include "KVPropertyData.h"
 #include "Notice.h"
 #include "TableSelection.h"
@@ -28,6 +29,7 @@ ELementPropGUI::ELementPropGUI(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
     LoadBuildinProperty();
     ShowProperty();
 

@@ -1,6 +1,7 @@
 #include "KVMaterialLibrary.h"
 
 #include "ChildDialog.h"
+#include "ElidedTexts.h"
 #include "KVMaterialData.h"
 #include "MaterialEditer.h"
 #include "Notice.h"
@@ -76,6 +77,7 @@ KVMaterialLibrary::KVMaterialLibrary(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     SetLayerTablePropertyConductors();
     if (KVMaterialData::GetInstance()->ReadXML(SystemFile, MATERIAL_SYSTEM) == 0)

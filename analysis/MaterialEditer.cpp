@@ -1,5 +1,6 @@
 #include "MaterialEditer.h"
 
+#include "ElidedTexts.h"
 #include "KVMaterialData.h"
 #include "Notice.h"
 
@@ -30,6 +31,7 @@ MaterialEditer::MaterialEditer(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     m_ui.frame_2->setFrameStyle(int(QFrame::WinPanel) | int(QFrame::Sunken));
     m_ui.frame_2->setLineWidth(2);

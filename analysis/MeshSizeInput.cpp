@@ -1,11 +1,13 @@
 #include "MeshSizeInput.h"
 
+#include "ElidedTexts.h"
 #include "NumberText.h"
 
 MeshSizeInput::MeshSizeInput(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 }
 
 MeshSizeInput::MeshSizeInput(double meshSize, QWidget* parent)
@@ -13,6 +15,7 @@ MeshSizeInput::MeshSizeInput(double meshSize, QWidget* parent)
     , m_dMeshSize(meshSize)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     m_ui.lineEdit_MeshSize->setText(tarn::NumberText(m_dMeshSize));
 }

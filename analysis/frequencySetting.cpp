@@ -1,5 +1,6 @@
 #include "frequencySetting.h"
 
+#include "ElidedTexts.h"
 #include "FrequencyPref.h"
 #include "Notice.h"
 #include "NumberText.h"
@@ -14,6 +15,7 @@ frequencySetting::frequencySetting(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.pushButton_OK, SIGNAL(clicked()), this, SLOT(m_Slot_OK()));
 

@@ -1,6 +1,7 @@
 #include "DOEDlg.h"
 
 #include "ChildDialog.h"
+#include "ElidedTexts.h"
 #include "FullFactorial.h"
 #include "GlobalParaMeterMgr.h"
 #include "Notice.h"
@@ -90,6 +91,7 @@ DOEDlg::DOEDlg(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
     InitGUI();
     InitGUIData();
     CollectAllRecord();

@@ -1,5 +1,6 @@
 #include "OneParameterDlg.h"
 
+#include "ElidedTexts.h"
 #include "Notice.h"
 #include "NumberItem.h"
 #include "NumberText.h"
@@ -48,6 +49,7 @@ OneParameterDlg::OneParameterDlg(QWidget* parent, QString name)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
     if (name.isEmpty()) {
         tarn::ShowNotice(tr("Error"), tr("No parameter input"));
         return;

@@ -1,5 +1,6 @@
 #include "ParameterEditor.h"
 
+#include "ElidedTexts.h"
 #include "ExpressionEngine.h"
 #include "GlobalParaMeterMgr.h"
 #include "LocalText.h"
@@ -124,6 +125,7 @@ ParameterEditor::ParameterEditor(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
     m_ui.tableWidget->setItemDelegate(new CellDelegate(m_ui.tableWidget));
 
     connect(m_ui.pushButton_Apply, SIGNAL(clicked()), this, SLOT(m_Slot_Apply()));

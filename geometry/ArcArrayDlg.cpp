@@ -1,6 +1,7 @@
 #include "ArcArrayDlg.h"
 
 #include "CoordinateInput.h"
+#include "ElidedTexts.h"
 #include "ModalLoop.h"
 
 #include <gp_Dir.hxx>
@@ -11,6 +12,7 @@ ArcArrayDlg::ArcArrayDlg(QDialog* parent)
 {
     m_data.m_axis = gp_Ax1(gp_Pnt(0.0, 0.0, 0.0), gp_Dir(0.0, 0.0, 1.0));
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.pushButton_Cancel, SIGNAL(clicked()), this, SLOT(close()));
     connect(m_ui.pushButtonOK, SIGNAL(clicked()), this, SLOT(m_slot_OkPushed()));

@@ -1,6 +1,7 @@
 #include "ExtrudInputDlg.h"
 
 #include "CoordinateInput.h"
+#include "ElidedTexts.h"
 #include "ModalLoop.h"
 
 ExtrudInputDlg::ExtrudInputDlg(QWidget* parent)
@@ -8,6 +9,7 @@ ExtrudInputDlg::ExtrudInputDlg(QWidget* parent)
     , m_direction(1.0, 0.0, 0.0)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.pushButton_OK, SIGNAL(clicked()), this, SLOT(m_Slot_OK_Pushed()));
 }

@@ -1,5 +1,7 @@
 #include "MatrixArrayDlg.h"
 
+#include "ElidedTexts.h"
+
 #include <QtGlobal>
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QRegExpValidator>
@@ -15,6 +17,7 @@ MatrixArrayDlg::MatrixArrayDlg(QDialog* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.pushButtonCancel, SIGNAL(clicked()), this, SLOT(close()));
     connect(m_ui.pushButtonCancel, SIGNAL(clicked()), this, SLOT(m_slot_CancelPushed()));

@@ -1,6 +1,7 @@
 #include "MirrorDialog.h"
 
 #include "CoordinateInput.h"
+#include "ElidedTexts.h"
 #include "ModalLoop.h"
 
 #include <GC_MakeMirror.hxx>
@@ -12,6 +13,7 @@ MirrorDialog::MirrorDialog(QDialog* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.pushButton_OK, SIGNAL(clicked()), this, SLOT(m_Slot_OK_Pushed()));
 }

@@ -1,5 +1,7 @@
 #include "PosInputDlg.h"
 
+#include "ElidedTexts.h"
+
 PosInputDlg* PosInputDlg::m_Instance = nullptr;
 
 PosInputDlg* PosInputDlg::GetInstance()
@@ -13,6 +15,7 @@ PosInputDlg::PosInputDlg(QWidget* parent)
     : QWidget(parent)
 {
     ui.setupUi(this);
+    tarn::ElideTexts(*this);
 }
 
 PosInputDlg::~PosInputDlg() = default;

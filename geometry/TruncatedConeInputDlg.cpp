@@ -1,9 +1,12 @@
 #include "TruncatedConeInputDlg.h"
 
+#include "ElidedTexts.h"
+
 TruncatedConeInputDlg::TruncatedConeInputDlg(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.pushButton_OK, SIGNAL(clicked()), this, SLOT(m_Slot_OK()));
 }

@@ -2,6 +2,7 @@
 
 #include "Angles.h"
 #include "CoordinateInput.h"
+#include "ElidedTexts.h"
 #include "ModalLoop.h"
 
 rotateInputDlg::rotateInputDlg(QWidget* parent)
@@ -11,6 +12,7 @@ rotateInputDlg::rotateInputDlg(QWidget* parent)
     , m_basePoint(0.0, 0.0, 0.0)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.pushButton_OK, SIGNAL(clicked()), this, SLOT(m_Slot_OK()));
 }

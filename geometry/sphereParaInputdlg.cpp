@@ -1,11 +1,14 @@
 #include "sphereParaInputdlg.h"
 
+#include "ElidedTexts.h"
+
 #include <QDoubleValidator>
 
 sphereParaInputdlg::sphereParaInputdlg(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
     auto* const latitude = new QDoubleValidator(-90.0, 0.0, 2, m_ui.lineEdit_Angle1);
     latitude->setNotation(QDoubleValidator::StandardNotation);
     // With a decimal comma it would accept numbers that later read as 0.

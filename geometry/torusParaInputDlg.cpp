@@ -1,9 +1,12 @@
 #include "torusParaInputDlg.h"
 
+#include "ElidedTexts.h"
+
 torusParaInputDlg::torusParaInputDlg(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.pushButton_OK, SIGNAL(clicked()), this, SLOT(m_OK_Pushed()));
 }

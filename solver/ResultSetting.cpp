@@ -1,5 +1,6 @@
 #include "ResultSetting.h"
 
+#include "ElidedTexts.h"
 #include "SolverRun.h"
 
 #include <QPointer>
@@ -8,6 +9,7 @@ ResultSetting::ResultSetting(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.pushButton_Browse, SIGNAL(clicked()), this, SLOT(SelectExecuteHyper()));
     connect(m_ui.pushButton_Run, SIGNAL(clicked()), this, SLOT(RunCommand()));

@@ -1,5 +1,6 @@
 #include "SolverSetting.h"
 
+#include "ElidedTexts.h"
 #include "Notice.h"
 #include "SolverRun.h"
 
@@ -9,6 +10,7 @@ SolverSetting::SolverSetting(QWidget* parent)
     : QDialog(parent)
 {
     m_ui.setupUi(this);
+    tarn::ElideTexts(*this);
 
     connect(m_ui.pushButton_Browse, SIGNAL(clicked()), this, SLOT(SelectExecuteNas()));
     connect(m_ui.pushButton_Run, SIGNAL(clicked()), this, SLOT(RunCommand()));

@@ -1145,13 +1145,11 @@
     </message>
     <message>
         <source>Shell</source>
-        <translatorcomment>The program looks up and stores this word: leave it unchanged in every language.</translatorcomment>
-        <translation>Shell</translation>
+        <translation>壳</translation>
     </message>
     <message>
         <source>Membrane</source>
-        <translatorcomment>The program looks up and stores this word: leave it unchanged in every language.</translatorcomment>
-        <translation>Membrane</translation>
+        <translation>膜</translation>
     </message>
     <message>
         <source>1D Element</source>
@@ -1159,13 +1157,11 @@
     </message>
     <message>
         <source>Bar</source>
-        <translatorcomment>The program looks up and stores this word: leave it unchanged in every language.</translatorcomment>
-        <translation>Bar</translation>
+        <translation>杆</translation>
     </message>
     <message>
         <source>Beam</source>
-        <translatorcomment>The program looks up and stores this word: leave it unchanged in every language.</translatorcomment>
-        <translation>Beam</translation>
+        <translation>梁</translation>
     </message>
     <message>
         <source>3D Element</source>
@@ -1173,8 +1169,7 @@
     </message>
     <message>
         <source>Solid</source>
-        <translatorcomment>The program looks up and stores this word: leave it unchanged in every language.</translatorcomment>
-        <translation>Solid</translation>
+        <translation>实体</translation>
     </message>
     <message>
         <source>Element Property Parameter</source>

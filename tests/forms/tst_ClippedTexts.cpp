@@ -24,6 +24,8 @@ private Q_SLOTS:
     void ATextWithoutRoomIsFound();
     void TextsThatFitInEnglishFitInEveryLanguage_data();
     void TextsThatFitInEnglishFitInEveryLanguage();
+    void AToolTipShowsACutTextInFull_data();
+    void AToolTipShowsACutTextInFull();
 };
 
 namespace {
@@ -157,6 +159,40 @@ void tst_ClippedTexts::TextsThatFitInEnglishFitInEveryLanguage()
              qPrintable("Too wide or too high for its widget; make the text shorter or "
                         "the widget larger in its form:\n" +
                         cut.join('\n')));
+}
+
+void tst_ClippedTexts::AToolTipShowsACutTextInFull_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("points");
+    const QStringList languages = Language::Known();
+    for (const QString& language : languages) {
+        for (const int points : {9, 10, 11, 12})
+            QTest::addRow("%s, %d points", qPrintable(language), points) << language << points;
+    }
+}
+
+void tst_ClippedTexts::AToolTipShowsACutTextInFull()
+{
+    QFETCH(QString, language);
+    QFETCH(int, points);
+    const FontSize font(points);
+    const Language spoken(language);
+    const EmptyDesignStores stores;
+    QStringList unexplained;
+    int clipped = 0;
+    VisitWindows(Project::Load(Project::SamplePath()), [&](const QString& name, QWidget& window) {
+        if (name == "MainWindow")
+            return; // users widen its columns
+        Show(window);
+        clipped += ClippedTexts(window).size();
+        const Places texts = TextsWithoutToolTip(window);
+        for (auto place = texts.begin(); place != texts.end(); ++place)
+            unexplained << QString("%1: %2 \"%3\"").arg(name, place.key(), place.value());
+    });
+    QVERIFY(clipped > 0);
+    QVERIFY2(unexplained.isEmpty(),
+             qPrintable("These texts are cut and have no tool tip:\n" + unexplained.join('\n')));
 }
 
 TARN_TEST_MAIN(tst_ClippedTexts, HostApplication)
