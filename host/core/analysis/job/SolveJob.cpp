@@ -222,7 +222,12 @@ void SolveJob::TakeResults()
 {
     const SolveFolder from(m_input->resultsFolder);
     const QString deck = SolveFolder::InJob(".inp");
-    if (from.ContentOf(deck) != m_folder.ContentOf(deck))
+    const QByteArray solved = from.ContentOf(deck);
+    if (m_search) {
+        m_search->GoOnFrom(ModesAskedBy(solved));
+        WriteSolverDeck();
+    }
+    if (solved != m_folder.ContentOf(deck))
         throw HostError(tr("The results in the folder are not those of the part and its set-up as "
                            "they are now: solve again."));
     const QString problem = SolverProblem({}, from.ContentOf(SolveFolder::SolverLog));
@@ -230,6 +235,8 @@ void SolveJob::TakeResults()
         throw HostError(problem);
     for (const QString& name : {SolveFolder::InJob(".dat"), SolveFolder::InJob(".frd")})
         m_folder.Write(name, from.ContentOf(name));
+    // If the search goes on, the results for its next deck are not there yet.
+    m_input->resultsFolder.clear();
     Read();
 }
 
@@ -281,7 +288,7 @@ void SolveJob::RunTool(const AnalysisTool& tool, const QStringList& arguments, c
 {
     m_afterTool = std::move(then);
     m_tool.Start({tool.Executable(), arguments, m_folder.Path(), m_folder.PathOf(log),
-                  m_input->tools.seconds});
+                  m_input->tools.seconds, m_input->tools.megabytes});
 }
 
 void SolveJob::RunLater(std::function<void()> work)

@@ -32,6 +32,11 @@ ModeSearch::ModeSearch(const FiniteElementModel& model, const FrequencyRange& ra
         throw ModelError(ModelError::tr("The mesh has too few nodes for a mode: make it finer."));
 }
 
+void ModeSearch::GoOnFrom(int number)
+{
+    m_asked = std::clamp(number, m_asked, m_most);
+}
+
 bool ModeSearch::Take(const ModesTable& table)
 {
     if (int(table.modes.size()) != m_asked)

@@ -17,6 +17,8 @@ public:
 
     /// How many of the lowest modes the solver is to compute.
     int Asked() const { return m_asked; }
+    /// Goes on where an earlier search asked for @p number modes, if it had come further.
+    void GoOnFrom(int number);
 
     /// Takes what the solver found. Returns whether the search is over; otherwise Asked() has
     /// grown. @throws ResultError if these are not as many modes as asked for

@@ -5,6 +5,8 @@
 
 namespace {
 
+const QByteArray FrequencyCard("*FREQUENCY\n");
+
 // The solver reads as many characters of a number, and silently leaves out the rest.
 constexpr int NumberWidth = 20;
 
@@ -142,7 +144,7 @@ private:
             m_text += "*NODE FILE\nU\n*EL FILE\nS\n";
         } else {
             // Without a range: the solver counts the modes before it leaves some out.
-            m_text += "*FREQUENCY\n" + QByteArray::number(step.modes) + '\n';
+            m_text += FrequencyCard + QByteArray::number(step.modes) + '\n';
             m_text += m_model.mesh.IsSolid() ? "*NODE FILE\nU\n" : "*NODE FILE,OUTPUT=2D\nU\n";
         }
         m_text += "*END STEP\n";
@@ -175,4 +177,13 @@ private:
 QByteArray SolverDeck(const FiniteElementModel& model, const DeckStep& step)
 {
     return Writer(model).Write(step);
+}
+
+int ModesAskedBy(const QByteArray& deck)
+{
+    const int card = deck.lastIndexOf(FrequencyCard);
+    if (card < 0)
+        return 0;
+    const int begin = card + FrequencyCard.size();
+    return deck.mid(begin, deck.indexOf('\n', begin) - begin).toInt();
 }

@@ -13,3 +13,6 @@ struct DeckStep
 
 /// The deck of CalculiX. All names in it are generated.
 QByteArray SolverDeck(const FiniteElementModel& model, const DeckStep& step);
+
+/// How many modes a deck asks for; 0 if it is not one of vibration.
+int ModesAskedBy(const QByteArray& deck);

@@ -3,6 +3,7 @@
 #include "PathWithoutSolver.h"
 #include "SolveChild.h"
 #include "SolvedProject.h"
+#include "SolverDeck.h"
 
 #include <QProcess>
 
@@ -19,6 +20,8 @@ private Q_SLOTS:
     void AMeshIsDeliveredWithoutResults();
     void WithoutResultsTheDecksAreDelivered();
     void ResultsInTheTargetAreTaken();
+    void ResultsOfALongerSearchAreTaken();
+    void ASearchGoesOnAfterTheResultsInTheTarget();
     void AWrongProjectIsReported();
 };
 
@@ -55,6 +58,12 @@ struct Run
     int status = -1;
     std::vector<SolveMessage> messages;
 };
+
+/// The beam with a range of frequencies that its lowest two modes do not reach.
+QByteArray HighModes()
+{
+    return Beam(R"({"number": 3})", R"({"min": 5000, "number": 2})");
+}
 
 QStringList Delivered()
 {
@@ -159,6 +168,27 @@ void tst_SolveChild::ResultsInTheTargetAreTaken()
     QCOMPARE(other.Texts(SolveMessage::Problem),
              QStringList("The results in the folder are not those of the part and its set-up as "
                          "they are now: solve again."));
+}
+
+void tst_SolveChild::ResultsOfALongerSearchAreTaken()
+{
+    QCOMPARE(Run(HighModes()).status, 0);
+    QVERIFY(ModesAskedBy(ContentOf("target/Model_Active.inp")) > 2);
+    DeckRun("target/Model_Active.bdf", {}).Run();
+    const PathWithoutSolver path;
+    const Run run(HighModes(), SolveKind::Vibration, true);
+    QCOMPARE(run.Texts(SolveMessage::Problem), QStringList());
+    QCOMPARE(ReportFromBytes(ContentOf("out/report.bin")).modes.size(), std::size_t(2));
+}
+
+void tst_SolveChild::ASearchGoesOnAfterTheResultsInTheTarget()
+{
+    QCOMPARE(Run(HighModes(), SolveKind::Mesh).status, 0);
+    QCOMPARE(ModesAskedBy(ContentOf("target/Model_Active.inp")), 2);
+    DeckRun("target/Model_Active.bdf", {}).Run();
+    const Run run(HighModes(), SolveKind::Vibration, true);
+    QCOMPARE(run.Texts(SolveMessage::Problem), QStringList());
+    QCOMPARE(ReportFromBytes(ContentOf("out/report.bin")).modes.size(), std::size_t(2));
 }
 
 void tst_SolveChild::AWrongProjectIsReported()
