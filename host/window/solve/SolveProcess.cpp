@@ -5,12 +5,12 @@
 #include "Project.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QProcess>
 
 namespace {
 
+const QLatin1String FolderName("tarnhost-solve");
 const QLatin1String ProjectName("project.json");
 const QLatin1String MaterialsName("UserMaterial.xml");
 
@@ -19,6 +19,7 @@ const QLatin1String MaterialsName("UserMaterial.xml");
 SolveProcess::SolveProcess(QObject* parent)
     : QObject(parent)
 {
+    OwnedFolder::RemoveAbandoned(FolderName);
 }
 
 SolveProcess::~SolveProcess()
@@ -32,7 +33,7 @@ SolveProcess::~SolveProcess()
 
 QString SolveProcess::PathOf(const QString& name) const
 {
-    return m_folder->filePath(name);
+    return m_folder->PathOf(name);
 }
 
 void SolveProcess::Start(Project project, SolveKind kind, const QString& target, bool hasResults)
@@ -40,11 +41,7 @@ void SolveProcess::Start(Project project, SolveKind kind, const QString& target,
     m_report.reset();
     m_problem.clear();
     m_isCancelled = false;
-    m_folder = std::make_unique<QTemporaryDir>(
-        QDir::temp().filePath(QStringLiteral("tarnhost-solve-XXXXXX")));
-    if (!m_folder->isValid())
-        throw HostError(
-            tr("No folder for the analysis can be made: %1").arg(m_folder->errorString()));
+    m_folder = std::make_unique<OwnedFolder>(FolderName);
     project.Save(PathOf(ProjectName));
     const QString materials = PathOf(MaterialsName);
     if (KVMaterialData::GetInstance()->WriteXML(QFile::encodeName(materials).toStdString()) != 0)
@@ -53,7 +50,7 @@ void SolveProcess::Start(Project project, SolveKind kind, const QString& target,
     SolveOrder order;
     order.kind = kind;
     order.projectFile = PathOf(ProjectName);
-    order.folder = m_folder->path();
+    order.folder = m_folder->Path();
     order.target = target;
     order.hasResults = hasResults;
     order.language = Language::Current();
@@ -130,5 +127,5 @@ void SolveProcess::ReadReport()
 {
     if (QFile::exists(PathOf(SolveOrder::ReportName)))
         m_report = std::make_shared<SolveReport>(
-            ReportFromBytes(SolveFolder(m_folder->path()).ContentOf(SolveOrder::ReportName)));
+            ReportFromBytes(SolveFolder(m_folder->Path()).ContentOf(SolveOrder::ReportName)));
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "OwnedFolder.h"
 #include "SolveChild.h"
 
 #include <QObject>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -14,7 +14,7 @@ class QProcess;
 /// child ends all of its programs.
 ///
 /// The files of an analysis are in a temporary folder until the next one begins or this object
-/// ends.
+/// ends. Folders that a killed program has left are removed.
 class SolveProcess : public QObject
 {
     Q_OBJECT
@@ -54,7 +54,7 @@ private:
     void ReadReport();
     QString PathOf(const QString& name) const;
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<OwnedFolder> m_folder;
     QProcess* m_process = nullptr; // Null while there is none.
     bool m_isCancelled = false;
     QString m_problem;
