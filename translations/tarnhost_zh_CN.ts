@@ -3478,10 +3478,6 @@ Remove these as well?</source>
 <context>
     <name>SolveProcess</name>
     <message>
-        <source>No folder for the analysis can be made: %1</source>
-        <translation>无法建立分析文件夹：%1</translation>
-    </message>
-    <message>
         <source>%1 cannot be written.</source>
         <translation>%1 无法写入。</translation>
     </message>
@@ -4212,6 +4208,10 @@ Remove these as well?</source>
     <message>
         <source>%1 ended with exit status %2.</source>
         <translation>%1 以退出状态 %2 结束。</translation>
+    </message>
+    <message>
+        <source>%1 ran out of memory; its limit is %2 MB. Choose a greater mesh size, or a greater limit in &quot;Limits of building&quot;.</source>
+        <translation>%1 内存不足；其内存上限为 %2 MB。请选择更大的网格尺寸，或在“构建限制”中设置更大的上限。</translation>
     </message>
 </context>
 <context>

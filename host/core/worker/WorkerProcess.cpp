@@ -5,6 +5,7 @@
 #include "EndWithParent.h"
 #include "KernelSignals.h"
 #include "Language.h"
+#include "MemoryLimit.h"
 #include "PartFaces.h"
 #include "StepFile.h"
 #include "Triangles.h"
@@ -21,7 +22,6 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include <array>
@@ -262,15 +262,6 @@ private:
     int m_step = 0;
 };
 
-void LimitMemory(int megabytes)
-{
-    if (!LimitsMemory)
-        return;
-    const rlim_t bytes = rlim_t(megabytes) * 1024 * 1024;
-    const rlimit limit = {bytes, bytes};
-    setrlimit(RLIMIT_AS, &limit);
-}
-
 } // namespace
 
 bool IsWorker(int argc, char** argv)
@@ -284,7 +275,8 @@ int RunWorker(int argc, char** argv)
     InstallKernelSignalHandlers();
     Channel channel;
     const int megabytes = std::atoi(argv[3]);
-    LimitMemory(megabytes);
+    if (LimitsMemory)
+        LimitMemory(megabytes);
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     QCoreApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");

@@ -46,8 +46,12 @@ void DeckRun::Run() const
         end = ended;
         loop.quit();
     });
-    process.Start(
-        {program, {m_name}, own.path(), work.PathOf(SolveFolder::SolverLog), m_tools.seconds});
+    process.Start({program,
+                   {m_name},
+                   own.path(),
+                   work.PathOf(SolveFolder::SolverLog),
+                   m_tools.seconds,
+                   m_tools.megabytes});
     loop.exec();
     const QByteArray log = work.ContentOf(SolveFolder::SolverLog);
     Move(work, SolveFolder::SolverLog);

@@ -42,6 +42,7 @@ AnalysisTools AnalysisTools::Stored()
     tools.seconds = qBound(1, settings.value(SecondsKey, tools.seconds).toInt(), MaximumSeconds);
     tools.maximumFreedoms = qBound(
         LeastFreedoms, settings.value(FreedomsKey, tools.maximumFreedoms).toInt(), MostFreedoms);
+    tools.megabytes = BuildLimits::Stored().megabytes;
     return tools;
 }
 

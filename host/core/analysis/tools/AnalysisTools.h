@@ -1,5 +1,7 @@
 #pragma once
 
+#include "BuildLimits.h"
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -27,8 +29,11 @@ struct AnalysisTools
     AnalysisTool solver{QStringLiteral("ccx"), QStringLiteral("calculix-ccx"), {}};
     int seconds = 4 * 3600;        ///< For each run of a program.
     int maximumFreedoms = 2000000; ///< Degrees of freedom of a model.
+    /// Of the address space of a program; a setting of BuildLimits.
+    int megabytes = BuildLimits().megabytes;
 
     /// The user's settings. Values out of range are brought into it.
     static AnalysisTools Stored();
+    /// Stores all but the memory.
     void Store() const;
 };

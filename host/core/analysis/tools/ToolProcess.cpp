@@ -1,7 +1,9 @@
 #include "ToolProcess.h"
 
 #include "EndWithParent.h"
+#include "MemoryLimit.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QProcessEnvironment>
 
@@ -9,14 +11,26 @@ namespace {
 
 constexpr int MillisecondsPerSecond = 1000;
 
-/// A process that ends with this one, even if this one is killed.
+/// A process that ends with this one, even if this one is killed, and whose memory may be limited.
 class BoundProcess : public QProcess
 {
 public:
-    using QProcess::QProcess;
+    BoundProcess(int megabytes, QObject* parent)
+        : QProcess(parent)
+        , m_megabytes(megabytes)
+    {
+    }
 
 protected:
-    void setupChildProcess() override { EndWithParent(); }
+    void setupChildProcess() override
+    {
+        EndWithParent();
+        if (m_megabytes > 0)
+            LimitMemory(m_megabytes);
+    }
+
+private:
+    int m_megabytes;
 };
 
 QProcessEnvironment PlainEnvironment()
@@ -54,7 +68,7 @@ void ToolProcess::Start(const ToolCall& call)
 {
     m_call = call;
     m_kind = ToolEnd::Exited;
-    m_process = new BoundProcess(this);
+    m_process = new BoundProcess(call.megabytes, this);
     m_process->setProgram(call.program);
     m_process->setArguments(call.arguments);
     m_process->setWorkingDirectory(call.folder);
@@ -99,6 +113,22 @@ void ToolProcess::HandleEnd()
     Q_EMIT Finished(end);
 }
 
+// No program has an exit status for it, but all say it at the end.
+bool ToolProcess::IsOutOfMemory() const
+{
+    constexpr qint64 Tail = 65536;
+    QFile log(m_call.logFile);
+    if (!log.open(QIODevice::ReadOnly))
+        return false;
+    log.seek(qMax(qint64(0), log.size() - Tail));
+    const QByteArray text = log.read(Tail);
+    const auto contains = [&text](const char* mark) {
+        return text.contains(mark);
+    };
+    return contains("bad_alloc") || contains("ALLOCATE failure") ||
+           contains("error allocating memory");
+}
+
 ToolEnd ToolProcess::End() const
 {
     const QString name = QFileInfo(m_call.program).fileName();
@@ -119,6 +149,14 @@ ToolEnd ToolProcess::End() const
         end.exitCode = m_process->exitCode();
         if (end.exitCode != 0)
             end.problem = tr("%1 ended with exit status %2.").arg(name).arg(end.exitCode);
+    }
+    const bool hasFailedByItself = end.kind == ToolEnd::Crashed || end.exitCode != 0;
+    if (hasFailedByItself && m_call.megabytes > 0 && IsOutOfMemory()) {
+        end.kind = ToolEnd::OutOfMemory;
+        end.problem = tr("%1 ran out of memory; its limit is %2 MB. Choose a greater mesh size, or "
+                         "a greater limit in \"Limits of building\".")
+                          .arg(name)
+                          .arg(m_call.megabytes);
     }
     return end;
 }

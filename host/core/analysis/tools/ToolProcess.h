@@ -11,9 +11,10 @@ struct ToolCall
 {
     QString program; ///< The path of the executable file.
     QStringList arguments;
-    QString folder;  ///< The working directory; it exists.
-    QString logFile; ///< Both outputs of the program; replaced.
-    int seconds = 0; ///< The time limit.
+    QString folder;    ///< The working directory; it exists.
+    QString logFile;   ///< Both outputs of the program; replaced.
+    int seconds = 0;   ///< The time limit.
+    int megabytes = 0; ///< The limit of the address space; 0 for none.
 };
 
 /// How a program ended.
@@ -25,6 +26,7 @@ struct ToolEnd
         NotStarted,
         Crashed, ///< It was ended by a signal.
         OutOfTime,
+        OutOfMemory,
         Cancelled
     };
 
@@ -61,6 +63,7 @@ private:
     void Kill(ToolEnd::Kind kind);
     void HandleEnd();
     ToolEnd End() const;
+    bool IsOutOfMemory() const;
 
     QProcess* m_process = nullptr; // Null while there is none.
     ToolCall m_call;

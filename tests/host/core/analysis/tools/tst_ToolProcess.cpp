@@ -20,11 +20,15 @@ private Q_SLOTS:
     void AProgramThatCannotBeStartedIsReported();
     void AProgramThatIsKilledIsReported();
     void TheTimeLimitEndsAProgram();
+    void AProgramWithoutMemoryIsReported_data();
+    void AProgramWithoutMemoryIsReported();
+    void MemoryIsLimited();
     void CancelEndsAProgram();
     void TheProgramEndsWithItsOwner();
 
 private:
-    ToolEnd Run(const QString& program, const QStringList& arguments = {}, int seconds = 60);
+    ToolEnd Run(const QString& program, const QStringList& arguments = {}, int seconds = 60,
+                int megabytes = 0);
 };
 
 namespace {
@@ -55,12 +59,14 @@ void tst_ToolProcess::init()
     EnterTemporaryDirectory();
 }
 
-ToolEnd tst_ToolProcess::Run(const QString& program, const QStringList& arguments, int seconds)
+ToolEnd tst_ToolProcess::Run(const QString& program, const QStringList& arguments, int seconds,
+                             int megabytes)
 {
     ToolProcess process;
     QSignalSpy ends(&process, &ToolProcess::Finished);
     ToolCall call = Call(program, seconds);
     call.arguments = arguments;
+    call.megabytes = megabytes;
     process.Start(call);
     [&ends] {
         QTRY_COMPARE_WITH_TIMEOUT(ends.count(), 1, 60000);
@@ -126,6 +132,38 @@ void tst_ToolProcess::TheTimeLimitEndsAProgram()
     const ToolEnd end = Run(PutScript("tool", "exec sleep 600\n"), {}, 1);
     QCOMPARE(end.kind, ToolEnd::OutOfTime);
     QCOMPARE(end.problem, QString("tool did not finish within 1 s, the time limit."));
+}
+
+void tst_ToolProcess::AProgramWithoutMemoryIsReported_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<bool>("isReported");
+    NewRow("mesher", QByteArray("echo \"what():  std::bad_alloc\"\nkill -6 $$\n"), true);
+    NewRow("solver", QByteArray("echo '*ERROR in u_calloc: error allocating memory'\nexit 16\n"),
+           true);
+    NewRow("factorisation",
+           QByteArray("echo 'ALLOCATE failure : bytes 374744, line 517, file DV.c'\nexit 255\n"),
+           true);
+    NewRow("success", QByteArray("echo bad_alloc\n"), false);
+}
+
+void tst_ToolProcess::AProgramWithoutMemoryIsReported()
+{
+    QFETCH(QByteArray, script);
+    const ToolEnd end = Run(PutScript("tool", script), {}, 60, 700);
+    QTEST(end.kind == ToolEnd::OutOfMemory, "isReported");
+    if (end.kind == ToolEnd::OutOfMemory)
+        QCOMPARE(end.problem,
+                 QString("tool ran out of memory; its limit is 700 MB. Choose a greater mesh size, "
+                         "or a greater limit in \"Limits of building\"."));
+}
+
+void tst_ToolProcess::MemoryIsLimited()
+{
+    Run(PutScript("tool", "ulimit -v\n"), {}, 60, 700);
+    QCOMPARE(ContentOf("log"), QByteArray::number(700 * 1024) + '\n');
+    Run(PutScript("tool", "ulimit -v\n"));
+    QVERIFY(ContentOf("log") != QByteArray::number(700 * 1024) + '\n');
 }
 
 void tst_ToolProcess::CancelEndsAProgram()
