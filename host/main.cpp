@@ -1,4 +1,5 @@
 #include "CommandLine.h"
+#include "ExitCode.h"
 #include "HostApplication.h"
 #include "Language.h"
 #include "MainWindow.h"
@@ -23,14 +24,6 @@
 #include <memory>
 
 namespace {
-
-enum ExitCode
-{
-    DoneCode = 0,
-    FailedCode = 1,
-    BadInputCode = 2,
-    BadFolderCode = 3
-};
 
 void Print(FILE* stream, const QString& text)
 {

@@ -2,6 +2,7 @@
 // solves the ".inp" file beside it with CalculiX.
 
 #include "DeckRun.h"
+#include "ExitCode.h"
 #include "TarnGUICommonVersion.h"
 
 #include <QCoreApplication>
@@ -12,14 +13,6 @@
 #include <new>
 
 namespace {
-
-enum ExitCode
-{
-    DoneCode = 0,
-    FailedCode = 1,
-    BadInputCode = 2,
-    BadFolderCode = 3
-};
 
 const char* const Help =
     "Usage: tarn-ccx FILE.bdf\n"
