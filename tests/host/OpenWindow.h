@@ -9,10 +9,10 @@
 #include "ModalDriver.h"
 #include "PartModel.h"
 #include "Project.h"
+#include "Tables.h"
 
 #include <QFile>
 #include <QLabel>
-#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTableWidget>
 
@@ -85,29 +85,6 @@ inline int RowOf(const QTableWidget& table, const QString& name)
             return row;
     }
     return -1;
-}
-
-/// Types into a cell as a user does: a click, the text, Enter.
-inline void TypeIntoCell(QTableWidget& table, int row, int column, const QString& text)
-{
-    table.scrollToItem(table.item(row, column));
-    QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
-                      table.visualItemRect(table.item(row, column)).center());
-    QTest::keyClick(table.viewport(), Qt::Key_F2);
-    QLineEdit* edit = nullptr;
-    // A finished editor is hidden first and deleted later.
-    const QList<QLineEdit*> edits = table.viewport()->findChildren<QLineEdit*>();
-    for (QLineEdit* const child : edits) {
-        if (child->isVisible())
-            edit = child;
-    }
-    QVERIFY(edit != nullptr);
-    edit->selectAll();
-    QTest::keyClicks(edit, text);
-    QTest::keyClick(edit, Qt::Key_Return);
-    // Enter commits through a posted event.
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(table.item(row, column)->text(), text);
 }
 
 /// The columns of the parameter editor that tests use.

@@ -4,6 +4,8 @@
 
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace {
 
 QString CellText(const QTableWidget& table, int row, int column)
@@ -77,7 +79,11 @@ QWidget& TypeInCell(QTableWidget& table, int row, int column, const QString& tex
 {
     QApplication::setActiveWindow(table.window());
     DoubleClickCell(table, row, column);
-    QWidget& field = Require<QWidget>(table.viewport()->findChild<QLineEdit*>(),
+    const QList<QLineEdit*> fields = table.viewport()->findChildren<QLineEdit*>();
+    // A finished editor is hidden first and deleted later.
+    const auto open = std::find_if(fields.cbegin(), fields.cend(),
+                                   [](const QLineEdit* field) { return field->isVisible(); });
+    QWidget& field = Require<QWidget>(open != fields.cend() ? *open : nullptr,
                                       QStringLiteral("the cell cannot be edited"));
     TypeText(field, text);
     return field;

@@ -109,7 +109,7 @@ void tst_ParameterTable::AnyNumberOrExpressionIsTaken()
     Store("width", "8");
     Store("a", "1");
     Shown shown;
-    TypeIn(shown.table, 2, ParameterTable::ValueColumn, text);
+    TypeIntoCell(shown.table, 2, ParameterTable::ValueColumn, text);
     QCOMPARE(GlobalParaMeterMgr::GetParameterRawValue("a").toDouble(), value);
     QCOMPARE(shown.Record("a").m_strExpressPara, uses);
     QCOMPARE(shown.Record("a").m_strExpression.empty(), uses.isEmpty());
@@ -133,10 +133,10 @@ void tst_ParameterTable::AValueThatIsMissingSaysWhyInPlace()
     QFETCH(QString, reason);
     Store("a", "1");
     Shown shown;
-    TypeIn(shown.table, 0, ParameterTable::ValueColumn, text);
+    TypeIntoCell(shown.table, 0, ParameterTable::ValueColumn, text);
     QVERIFY2(CellText(shown.table, 0, ParameterTable::ResultColumn).contains(reason),
              qPrintable(CellText(shown.table, 0, ParameterTable::ResultColumn)));
-    TypeIn(shown.table, 0, ParameterTable::ValueColumn, "2");
+    TypeIntoCell(shown.table, 0, ParameterTable::ValueColumn, "2");
     QCOMPARE(CellText(shown.table, 0, ParameterTable::ResultColumn), QString("2"));
 }
 
@@ -146,14 +146,14 @@ void tst_ParameterTable::ARefusedTextStaysWithItsReason()
     Store("b", "2");
     Shown shown;
     const QSignalSpy edited(&shown.model, &DesignModel::Edited);
-    TypeIn(shown.table, 0, ParameterTable::NameColumn, "b");
+    TypeIntoCell(shown.table, 0, ParameterTable::NameColumn, "b");
     QCOMPARE(CellText(shown.table, 0, ParameterTable::NameColumn), QString("b"));
     QCOMPARE(CellText(shown.table, 0, ParameterTable::ResultColumn),
              QString("not taken: there is already a parameter \"b\""));
-    TypeIn(shown.table, 0, ParameterTable::NameColumn, "wall thickness");
+    TypeIntoCell(shown.table, 0, ParameterTable::NameColumn, "wall thickness");
     QVERIFY(CellText(shown.table, 0, ParameterTable::ResultColumn).contains("is not a name"));
     QCOMPARE(edited.count(), 0);
-    TypeIn(shown.table, 0, ParameterTable::NameColumn, "c");
+    TypeIntoCell(shown.table, 0, ParameterTable::NameColumn, "c");
     QCOMPARE(CellText(shown.table, 0, ParameterTable::ResultColumn), QString("1"));
     QCOMPARE(GlobalParaMeterMgr::GetAllParametersName(), std::vector<QString>({"c", "b"}));
 }
@@ -165,7 +165,7 @@ void tst_ParameterTable::ANewNameIsFollowedByExpressions()
     Store("aa", "1");
     g_mapParaArrays["a"] = {1, "a", {1, 2}};
     Shown shown;
-    TypeIn(shown.table, 0, ParameterTable::NameColumn, "宽");
+    TypeIntoCell(shown.table, 0, ParameterTable::NameColumn, "宽");
     QCOMPARE(QString::fromStdString(shown.Record("b").m_strExpression), QString("宽+aa*2"));
     QCOMPARE(shown.Record("b").m_strExpressPara, QString("宽,aa"));
     QCOMPARE(g_mapParaArrays.count("a"), std::size_t(0));
@@ -179,9 +179,9 @@ void tst_ParameterTable::AVectorHasThreeCells()
     Store("a", "1");
     Shown shown;
     QVERIFY(!shown.table.isColumnHidden(ParameterTable::ZColumn));
-    TypeIn(shown.table, 0, ParameterTable::ValueColumn, "-0.5");
-    TypeIn(shown.table, 0, ParameterTable::YColumn, "2e3");
-    TypeIn(shown.table, 0, ParameterTable::ZColumn, "x");
+    TypeIntoCell(shown.table, 0, ParameterTable::ValueColumn, "-0.5");
+    TypeIntoCell(shown.table, 0, ParameterTable::YColumn, "2e3");
+    TypeIntoCell(shown.table, 0, ParameterTable::ZColumn, "x");
     QCOMPARE(shown.Record("v").m_dX, -0.5);
     QCOMPARE(shown.Record("v").m_dY, 2000.0);
     QCOMPARE(shown.Record("v").m_dZ, 3.0);
@@ -221,8 +221,8 @@ void tst_ParameterTable::UnitAndDescriptionAreEdited()
 {
     Store("a", "4");
     Shown shown;
-    TypeIn(shown.table, 0, ParameterTable::UnitColumn, "mm");
-    TypeIn(shown.table, 0, ParameterTable::DescriptionColumn, "of the plate");
+    TypeIntoCell(shown.table, 0, ParameterTable::UnitColumn, "mm");
+    TypeIntoCell(shown.table, 0, ParameterTable::DescriptionColumn, "of the plate");
     QCOMPARE(CellText(shown.table, 0, ParameterTable::ResultColumn), QString("4 mm"));
     QCOMPARE(shown.model.Design()[0].unit, QString("mm"));
     QCOMPARE(shown.Record("a").m_strDescription, QString("of the plate"));
@@ -233,9 +233,9 @@ void tst_ParameterTable::EachEditIsOneChange()
     Store("a", "4");
     Shown shown;
     const QSignalSpy edited(&shown.model, &DesignModel::Edited);
-    TypeIn(shown.table, 0, ParameterTable::ValueColumn, "5");
+    TypeIntoCell(shown.table, 0, ParameterTable::ValueColumn, "5");
     QCOMPARE(edited.count(), 1);
-    TypeIn(shown.table, 0, ParameterTable::ValueColumn, "5");
+    TypeIntoCell(shown.table, 0, ParameterTable::ValueColumn, "5");
     QCOMPARE(edited.count(), 1);
 }
 
