@@ -49,3 +49,13 @@ if(PROJECT_IS_TOP_LEVEL)
     string(APPEND CMAKE_EXE_LINKER_FLAGS " -fuse-ld=lld")
   endif()
 endif()
+
+# tarn_precompile(<target> <header>...)
+#
+# Precompiles the headers for the sources of the target if TARN_PRECOMPILE is on. Every source still includes what
+# it uses: the usual build has no precompiled headers.
+function(tarn_precompile target)
+  if(TARN_PRECOMPILE)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()

@@ -5,18 +5,24 @@
 
 Skips a file that has passed until the file, one of its headers, its command line, the configuration
 or a tool changes; --all checks all files again. Findings are errors.
+
+Most of the time goes into the headers of Qt and of the kernel. Files that are compiled alike are
+therefore joined and checked in one run. If a joined run finds anything, each of its files runs alone.
 """
 import concurrent.futures
 import hashlib
 import json
 import os
 import pathlib
+import re
 import shlex
 import subprocess
 import sys
+import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TIDY = ["clang-tidy-14", "--quiet"]
+MOST_JOINED = 12
 CLAZY = ["clazy-standalone", "-checks=level1,no-old-style-connect,no-non-pod-global-static,no-connect-by-name"]
 
 
@@ -32,6 +38,9 @@ def commands(build):
         flags = words[start : words.index("-o")]
         # Compiler warnings are not checked here: the build has passed.
         flags = [flag for flag in flags if not flag.startswith("-W")]
+        # Each file includes what it uses, and clang cannot read the precompiled headers of g++.
+        if "-include" in flags:
+            del flags[flags.index("-include") : flags.index("-include") + 2]
         found.setdefault(path, (entry["directory"], words[words.index("-o") + 1], flags))
     return found
 
@@ -68,7 +77,32 @@ def fingerprint(tool, path, flags, files):
     return hashlib.sha256("\n".join(parts).encode()).hexdigest()
 
 
+def local_names(path):
+    """Returns the names that the file may define for itself, found by the layout that clang-format gives them."""
+    text = path.read_text()
+    lines = "\n".join(line for line in text.splitlines() if re.match(r"[A-Za-z]", line))
+    names = re.findall(r"(?<![\w:])(?<!: )([A-PR-Za-z]\w*)(?=\(| = |\{|;|\[)|(?:class|struct|enum) (\w+)", lines)
+    others = re.findall(r"^(?:#define|   ) ([A-Z]\w*)(?: = .*)?,?$", text, re.MULTILINE)
+    return {name for pair in names for name in pair} - {"", "default", "void"} | {*others}
+
+
+def joined(paths):
+    """Divides the files into groups whose names do not clash."""
+    groups = []
+    for path in paths:
+        names = local_names(path)
+        for members, taken in groups:
+            if len(members) < MOST_JOINED and not names & taken:
+                members.append(path)
+                taken |= names
+                break
+        else:
+            groups.append(([path], names))
+    return [members for members, _ in groups]
+
+
 def check(tool, path, directory, flags):
+    """Returns what the tool finds in the file, or an empty text."""
     run = subprocess.run([*tool, str(path), "--", *flags], cwd=directory, capture_output=True, text=True)
     noise = (" warnings generated.", " warning generated.")
     lines = [line for line in (run.stdout + run.stderr).splitlines() if not line.endswith(noise)]
@@ -76,6 +110,18 @@ def check(tool, path, directory, flags):
     if run.returncode != 0 or any("warning:" in line or "error:" in line for line in lines):
         return "\n".join(lines) or f"{tool[0]} exited with {run.returncode} for {path}"
     return ""
+
+
+def check_all(tool, paths, directory, flags, build):
+    """Returns what the tool finds in each of the files: in one run over all, and file by file if that finds anything."""
+    if len(paths) > 1:
+        with tempfile.NamedTemporaryFile("w", suffix=".cpp", dir=build) as whole:
+            whole.writelines(path.read_text() + "\n" for path in paths)
+            whole.flush()
+            folders = [f"-iquote{path.parent}" for path in paths]
+            if not check(tool, whole.name, directory, [*flags, *dict.fromkeys(folders)]):
+                return [""] * len(paths)
+    return [check(tool, path, directory, flags) for path in paths]
 
 
 def main(arguments):
@@ -89,29 +135,36 @@ def main(arguments):
     versions = [subprocess.run([tool[0], "--version"], capture_output=True, text=True).stdout for tool in (TIDY, CLAZY)]
     made_of = dependencies(build)
 
-    jobs = []
+    marks, alike = {}, {}
     for path, (directory, target, flags) in commands(build).items():
         name = str(path.relative_to(ROOT))
         if arguments[1:] and not name.startswith(tuple(arguments[1:])):
             continue
         for tool, version in zip((TIDY, CLAZY), versions):
-            key = f"{tool[0]} {name}"
             mark = fingerprint([*tool, version], path, flags, made_of.get(target, []))
-            if passed.get(key) != mark:
-                jobs.append((key, mark, tool, path, directory, flags))
+            if passed.get(f"{tool[0]} {name}") != mark:
+                marks[tool[0], path] = mark
+                # A joined file lies in the build folder, where the configuration of the project applies.
+                alone = any((folder / ".clang-tidy").exists() for folder in path.parents if ROOT in folder.parents)
+                key = (*tool, directory, *flags, path if alone else None)
+                alike.setdefault(key, (tool, directory, flags, []))[3].append(path)
 
     failures = 0
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        running = {pool.submit(check, *job[2:]): job for job in jobs}
+        running = {}
+        for tool, directory, flags, paths in alike.values():
+            for group in joined(paths):
+                running[pool.submit(check_all, tool, group, directory, flags, build)] = (tool, group)
         for done in concurrent.futures.as_completed(running):
-            key, mark = running[done][:2]
-            if done.result():
-                failures += 1
-                print(done.result(), flush=True)
-            else:
-                passed[key] = mark
-                passed_file.write_text(json.dumps(passed, indent=1, sort_keys=True))
-    print(f"clang-tidy and clazy: {len(jobs)} run(s), {failures} with findings")
+            tool, group = running[done]
+            for path, findings in zip(group, done.result()):
+                if findings:
+                    failures += 1
+                    print(findings, flush=True)
+                else:
+                    passed[f"{tool[0]} {path.relative_to(ROOT)}"] = marks[tool[0], path]
+            passed_file.write_text(json.dumps(passed, indent=1, sort_keys=True))
+    print(f"clang-tidy and clazy: {len(marks)} check(s), {failures} with findings")
     sys.exit(failures > 0)
 
 
