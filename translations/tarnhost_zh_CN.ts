@@ -3072,6 +3072,10 @@ Remove these as well?</source>
         <source>The range of %1 %2</source>
         <translation>%1 的范围%2</translation>
     </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
 </context>
 <context>
     <name>ScatterMatrix</name>

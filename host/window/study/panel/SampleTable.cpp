@@ -42,7 +42,8 @@ QString TextOf(const std::vector<double>& values)
 SampleTable::SampleTable(QWidget* parent)
     : QTableWidget(0, ValuesColumn + 1, parent)
 {
-    setHorizontalHeaderLabels({tr("Parameter"), tr("From"), tr("To"), tr("Step"), tr("Samples")});
+    setHorizontalHeaderLabels(
+        {tr("Parameter"), tr("Unit"), tr("From"), tr("To"), tr("Step"), tr("Samples")});
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                     QAbstractItemView::AnyKeyPressed);
@@ -64,14 +65,15 @@ void SampleTable::Refresh(const DesignModel& design)
         if (!CanVary(entry))
             continue;
         setRowCount(rowCount() + 1);
-        ShowRow(rowCount() - 1, entry.Name(), entry.Number());
+        ShowRow(rowCount() - 1, entry);
     }
     for (int column = NameColumn; column < ValuesColumn; ++column)
         resizeColumnToContents(column);
 }
 
-void SampleTable::ShowRow(int row, const QString& name, double value)
+void SampleTable::ShowRow(int row, const ParameterEntry& entry)
 {
+    const QString& name = entry.Name();
     const auto found = g_mapParaArrays.find(name);
     const bool hasRecord = found != g_mapParaArrays.end();
     const std::vector<double> values = hasRecord ? found->second.vecValues : std::vector<double>();
@@ -80,7 +82,10 @@ void SampleTable::ShowRow(int row, const QString& name, double value)
         ->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     const bool isTicked = hasRecord && found->second.bChecked != 0;
     item(row, NameColumn)->setCheckState(isTicked ? Qt::Checked : Qt::Unchecked);
-    item(row, NameColumn)->setToolTip(tr("%1, %2 in the design").arg(name, ExactText(value)));
+    item(row, NameColumn)
+        ->setToolTip(tr("%1, %2 in the design").arg(name, ExactText(entry.Number())));
+    Show(row, UnitColumn, entry.unit);
+    item(row, UnitColumn)->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
     const bool isRange = !values.empty() && MatchesRange(values, RangeOf(found->second));
     Show(row, FromColumn, isRange ? ExactText(found->second.dMin) : QString());
     Show(row, ToColumn, isRange ? ExactText(found->second.dMax) : QString());

@@ -3,6 +3,7 @@
 #include <QTableWidget>
 
 class DesignModel;
+struct ParameterEntry;
 
 /// The parameters that a study can vary, each with its tick and its samples: those of the registry
 /// that the dialog of the experiments shows, too.
@@ -14,6 +15,7 @@ public:
     enum Column
     {
         NameColumn,
+        UnitColumn, ///< Of all numbers in the row.
         FromColumn,
         ToColumn,
         StepColumn,
@@ -37,7 +39,7 @@ Q_SIGNALS:
     void Refused(const QString& reason);
 
 private:
-    void ShowRow(int row, const QString& name, double value);
+    void ShowRow(int row, const ParameterEntry& entry);
     void Show(int row, int column, const QString& text);
     void Take(const QTableWidgetItem& cell);
     bool TakeTick(const QString& name, bool isTicked);

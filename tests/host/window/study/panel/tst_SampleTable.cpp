@@ -30,6 +30,7 @@ struct Shown
     {
         ParameterEntry width = NewParameter("width");
         width.SetNumber(50.0);
+        width.unit = "mm";
         ParameterEntry axis = NewParameter("axis");
         axis.SetType(ParametersDef::VectorType);
         design.Replace({width, axis});
@@ -54,6 +55,8 @@ void tst_SampleTable::TheTableShowsTheRegistry()
     Shown shown;
     QCOMPARE(shown.table.rowCount(), 1); // Vectors cannot vary.
     QCOMPARE(shown.Cell(SampleTable::NameColumn), QString("width"));
+    QCOMPARE(shown.Cell(SampleTable::UnitColumn), QString("mm"));
+    QVERIFY(!shown.table.item(0, SampleTable::UnitColumn)->flags().testFlag(Qt::ItemIsEditable));
     QCOMPARE(shown.Cell(SampleTable::FromColumn), QString("40"));
     QCOMPARE(shown.Cell(SampleTable::ToColumn), QString("60"));
     QCOMPARE(shown.Cell(SampleTable::StepColumn), QString("10"));
