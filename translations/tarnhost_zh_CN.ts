@@ -40,12 +40,12 @@
         <translation>检查设置(&amp;C)</translation>
     </message>
     <message>
-        <source>Chosen material: %1</source>
-        <translation>已选择材料：%1</translation>
-    </message>
-    <message>
         <source>Element p&amp;roperties</source>
         <translation>单元属性(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Chosen material: %1; source: %2</source>
+        <translation>所选材料：%1；数据来源：%2</translation>
     </message>
 </context>
 <context>
@@ -73,6 +73,10 @@
     <message>
         <source>The number</source>
         <translation>数量</translation>
+    </message>
+    <message>
+        <source>The frequency range stays as it was: %1 Hz is not a finite number; enter a smaller one</source>
+        <translation>频率范围保持不变：%1 Hz 不是有限数值；请输入较小的数值</translation>
     </message>
 </context>
 <context>
@@ -291,6 +295,10 @@
     <message>
         <source>Local meshes</source>
         <translation>局部网格</translation>
+    </message>
+    <message>
+        <source>Source of the material</source>
+        <translation>材料数据来源</translation>
     </message>
 </context>
 <context>
@@ -1657,6 +1665,10 @@ Remove these as well?</source>
     <message>
         <source>density</source>
         <translation>密度</translation>
+    </message>
+    <message>
+        <source>a material of yours, in UserMaterial.xml</source>
+        <translation>用户材料，位于 UserMaterial.xml</translation>
     </message>
 </context>
 <context>

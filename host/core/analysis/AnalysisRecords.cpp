@@ -16,14 +16,14 @@ void VisitNames(const AnalysisDefinition& definition, const Visit& visit)
         visit(load.name.toLocal8Bit().toStdString());
 }
 
+} // namespace
+
 void StoreFrequencies(const FrequencyRange& range)
 {
     FrequencyPref::m_MinFreq = range.min;
     FrequencyPref::m_MaxFreq = range.max;
     FrequencyPref::m_NumFreq = range.number;
 }
-
-} // namespace
 
 AnalysisRecords::AnalysisRecords(QObject* parent)
     : QObject(parent)

@@ -47,3 +47,6 @@ private:
     int m_kind;
     AnalysisDefinition m_definition;
 };
+
+/// Puts @p range into FrequencyPref, where the dialogs look for it.
+void StoreFrequencies(const FrequencyRange& range);

@@ -2,9 +2,12 @@
 
 #include "AnalysisFiles.h"
 #include "KVMaterialData.h"
+#include "WholeFile.h"
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
+#include <QXmlStreamReader>
 
 #include <cmath>
 
@@ -37,6 +40,23 @@ double PositiveNumber(const QString& material, const QString& what, const QStrin
         throw MaterialError(MaterialError::tr("Material \"%1\": the %2 %3 must be greater than 0.")
                                 .arg(material, what, text.simplified()));
     return number;
+}
+
+// By name. The records of the store do not hold them.
+QHash<QString, QString> SystemSources()
+{
+    QHash<QString, QString> sources;
+    QByteArray content;
+    tarn::WholeFile(InstalledSystemMaterials()).Read(content);
+    QXmlStreamReader xml(content);
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const QXmlStreamAttributes attributes = xml.attributes();
+        sources.insert(attributes.value(QLatin1String("name")).toString(),
+                       attributes.value(QLatin1String("source")).toString());
+    }
+    return sources;
 }
 
 } // namespace
@@ -81,4 +101,15 @@ double DensityOf(const QString& name)
 {
     return PositiveNumber(name.simplified(), MaterialError::tr("density"),
                           TextsOf(Find(name)).density);
+}
+
+QString SourceOf(const QString& name)
+{
+    static const QHash<QString, QString> sources = SystemSources();
+    const KVMaterialInfo* const material = KVMaterialData::GetInstance()->GetMaterialInfo(name);
+    if (material == nullptr)
+        return {};
+    if (material->m_nType == MATERIAL_USER)
+        return MaterialError::tr("a material of yours, in UserMaterial.xml");
+    return sources.value(name);
 }

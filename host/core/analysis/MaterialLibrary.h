@@ -47,3 +47,7 @@ Material MaterialOf(const QString& name);
 
 /// The density of that material in kg/m3, whatever its other values are. @throws MaterialError
 double DensityOf(const QString& name);
+
+/// Where the values of that material come from, for users: what the system's library cites, or that
+/// it is a material of the user. Empty if the store does not have the material.
+QString SourceOf(const QString& name);

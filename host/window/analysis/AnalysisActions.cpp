@@ -9,11 +9,11 @@
 #include "HostError.h"
 #include "KVMaterialData.h"
 #include "KVMaterialLibrary.h"
+#include "MaterialLibrary.h"
 #include "MenuActions.h"
 #include "MessageLevel.h"
 #include "PartModel.h"
 #include "SetupCheckDock.h"
-#include "frequencySetting.h"
 
 #include <QMenu>
 
@@ -185,15 +185,18 @@ void AnalysisActions::BrowseMaterials()
     library.SetComToItemData(KVMaterialData::GetInstance()->CurrentMaterialName());
     library.Reset();
     if (library.exec() == QDialog::Accepted && !library.selectedMaterialName().isEmpty())
-        PostMessageToChannel(InfoLevel,
-                             tr("Chosen material: %1").arg(library.selectedMaterialName()));
+        PostMessageToChannel(InfoLevel, tr("Chosen material: %1; source: %2")
+                                            .arg(library.selectedMaterialName(),
+                                                 SourceOf(library.selectedMaterialName())));
 }
 
 void AnalysisActions::SetFrequencies()
 {
-    frequencySetting dialog(m_window);
-    if (dialog.exec() == QDialog::Accepted)
-        m_model.TakeStores();
+    Change([this](AnalysisDefinition& analysis) {
+        const auto range = AskFrequencies(m_window, analysis.frequencies);
+        analysis.frequencies = range.value_or(analysis.frequencies);
+        return range.has_value();
+    });
 }
 
 void AnalysisActions::SetMeshSize()

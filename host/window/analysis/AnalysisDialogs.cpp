@@ -1,5 +1,6 @@
 #include "AnalysisDialogs.h"
 
+#include "AnalysisRecords.h"
 #include "AttributeCommonMgr.h"
 #include "AttributeRecords.h"
 #include "CQLTConstrainEditor.h"
@@ -12,10 +13,12 @@
 #include "MeshSizeInput.h"
 #include "NumberTexts.h"
 #include "SubShapeMeshParameterDlg.h"
+#include "frequencySetting.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
 
+#include <cmath>
 #include <memory>
 
 namespace {
@@ -126,6 +129,25 @@ std::optional<PropertyDefinition> AskProperty(QWidget* parent, const PropertyDef
         EditedText(NumberOrExpression(editor, "lineEdit_thickness", Texts::tr("The thickness")),
                    former.thickness);
     return property;
+}
+
+std::optional<FrequencyRange> AskFrequencies(QWidget* parent, const FrequencyRange& former)
+{
+    frequencySetting dialog(parent);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    FrequencyRange range;
+    dialog.GetFreqParameter(range.min, range.max, range.number);
+    for (const double frequency : {range.min, range.max}) {
+        if (std::isfinite(frequency))
+            continue;
+        StoreFrequencies(former); // the dialog has stored its own
+        throw HostError(
+            Texts::tr("The frequency range stays as it was: %1 Hz is not a finite number; "
+                      "enter a smaller one")
+                .arg(frequency));
+    }
+    return range;
 }
 
 std::optional<QString> AskMeshSize(QWidget* parent, const QString& former)

@@ -20,6 +20,9 @@ std::optional<LoadDefinition> AskLoad(QWidget* parent, const LoadDefinition& for
 /// The material library reads its files again, so materials that were not written are lost.
 std::optional<PropertyDefinition> AskProperty(QWidget* parent, const PropertyDefinition& former);
 
+/// @p former is also what the shared store holds again if the numbers are refused.
+std::optional<FrequencyRange> AskFrequencies(QWidget* parent, const FrequencyRange& former);
+
 /// The text of the mesh size; that of @p former may be empty.
 std::optional<QString> AskMeshSize(QWidget* parent, const QString& former);
 std::optional<LocalMeshDefinition> AskLocalMesh(QWidget* parent, const LocalMeshDefinition& former);

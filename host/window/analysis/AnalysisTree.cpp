@@ -2,6 +2,7 @@
 
 #include "AnalysisRecords.h"
 #include "AnalysisTexts.h"
+#include "MaterialLibrary.h"
 #include "MenuActions.h"
 
 #include <QHeaderView>
@@ -26,6 +27,14 @@ AnalysisEntry EntryOf(const QTreeWidgetItem& item)
             item.data(AnalysisTree::NameColumn, IndexRole).toInt()};
 }
 
+QTreeWidgetItem* NewRow(QTreeWidgetItem& parent, const QString& name, const QString& value)
+{
+    auto* const item = new QTreeWidgetItem(&parent, {name, value});
+    item->setToolTip(AnalysisTree::NameColumn, name);
+    item->setToolTip(AnalysisTree::ValueColumn, value);
+    return item;
+}
+
 bool IsList(AnalysisEntry::Kind kind)
 {
     return kind == AnalysisEntry::Property || kind == AnalysisEntry::Constraint ||
@@ -43,6 +52,18 @@ QString NameOf(const LocalMeshDefinition& mesh, int index)
 {
     Q_UNUSED(mesh)
     return AnalysisTree::tr("Local mesh %1").arg(index + 1);
+}
+
+template<class Entry>
+QString SourceOfValues(const Entry& entry)
+{
+    Q_UNUSED(entry)
+    return {};
+}
+
+QString SourceOfValues(const PropertyDefinition& property)
+{
+    return SourceOf(property.material);
 }
 
 template<class Entry>
@@ -128,10 +149,12 @@ void AnalysisTree::ShowEntries(const QString& title, AnalysisEntry::Kind kind,
     for (std::size_t index = 0; index < entries.size(); ++index) {
         const QString name = NameOf(entries[index], int(index));
         const QString value = EntryText(entries[index]);
-        auto* const item = new QTreeWidgetItem(group, {name, value});
-        item->setToolTip(NameColumn, name);
-        item->setToolTip(ValueColumn, value);
+        const QString source = SourceOfValues(entries[index]);
+        auto* const item = NewRow(*group, name, value);
         SetEntry(*item, kind, int(index));
+        if (!source.isEmpty())
+            SetEntry(*NewRow(*item, AnalysisTree::tr("Source of the material"), source), kind,
+                     int(index));
     }
 }
 

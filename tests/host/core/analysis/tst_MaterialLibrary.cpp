@@ -16,6 +16,7 @@ private Q_SLOTS:
     void MaterialsThatCannotBeUsedAreReported_data();
     void MaterialsThatCannotBeUsedAreReported();
     void TheDensityNeedsNoOtherValue();
+    void TheSourceOfAMaterialIsKnown();
 };
 
 namespace {
@@ -131,6 +132,22 @@ void tst_MaterialLibrary::TheDensityNeedsNoOtherValue()
     KVMaterialData::GetInstance()->AddMaterialInfo(UserMaterial("m", "", "", "1200"));
     QCOMPARE(DensityOf("m"), 1200.0);
     QVERIFY_EXCEPTION_THROWN(DensityOf("n"), MaterialError);
+}
+
+void tst_MaterialLibrary::TheSourceOfAMaterialIsKnown()
+{
+    const EmptyAnalysisStores stores;
+    EnterTemporaryDirectory();
+    WriteUserFile("a", UserMaterial("Steel S355"));
+    ReadMaterials("a");
+    QCOMPARE(SourceOf("Steel S355"), QString("a material of yours, in UserMaterial.xml"));
+    QCOMPARE(SourceOf("unknown"), QString());
+    ReadMaterials("elsewhere");
+    const QString source = SourceOf("Steel S355");
+    QVERIFY2(source.startsWith("EN 1993-1-1:2005, 3.2.6"), qPrintable(source));
+    const QStringList names = KVMaterialData::GetInstance()->GetMaterialNameList();
+    for (const QString& name : names)
+        QVERIFY2(!SourceOf(name).isEmpty(), qPrintable(name));
 }
 
 TARN_TEST_MAIN(tst_MaterialLibrary)

@@ -282,6 +282,8 @@ void tst_AnalysisActions::ATextWithoutValueIsReportedAndNotStored_data()
         "The mesh size: \"12,5\" is neither a number nor an expression with a value: ");
     row("mesh size, infinite", "action_MeshSize", "lineEdit_MeshSize", "pushButton", "1e999",
         "The mesh size: \"1e999\" is neither a number nor an expression with a value: ");
+    row("frequency, infinite", "action_FrequencyRange", "lineEdit_MaxFreq", "pushButton_OK",
+        "1e999", "The frequency range stays as it was: inf Hz is not a finite number");
     row("force, word", "action_LoadForce", "lied_FX", "okButton", "none",
         "The force FX: \"none\" is neither a number nor an expression with a value: ");
     row("force, nothing", "action_LoadForce", "lied_FZ", "okButton", "",
@@ -305,6 +307,7 @@ void tst_AnalysisActions::ATextWithoutValueIsReportedAndNotStored()
         Click(dialog, button);
     });
     QVERIFY(host.model.Definition() == AnalysisDefinition());
+    QCOMPARE(FrequencyPref::m_MaxFreq, AnalysisDefinition().frequencies.max);
     QCOMPARE(host.posted.size(), 1);
     QCOMPARE(host.posted[0][0].toInt(), int(ErrorLevel));
     QVERIFY2(host.posted[0][1].toString().startsWith(message),
@@ -379,4 +382,5 @@ void tst_AnalysisActions::ACancelledEditKeepsTheEntry()
 }
 
 TARN_TEST_MAIN(tst_AnalysisActions)
+#include "FrequencyPref.h"
 #include "tst_AnalysisActions.moc"

@@ -1,5 +1,6 @@
 #include "AnalysisEntries.h"
 #include "AnalysisHost.h"
+#include "MaterialLibrary.h"
 
 #include <QFile>
 #include <QListWidget>
@@ -146,7 +147,8 @@ void tst_AnalysisActionsProperties::TheChosenMaterialIsReported()
     QVERIFY(QFile::exists("SysMaterial.xml"));
     QCOMPARE(host.posted.size(), 1);
     QCOMPARE(host.posted[0][0].toInt(), int(InfoLevel));
-    QCOMPARE(host.posted[0][1].toString(), QString("Chosen material: Steel S355"));
+    QCOMPARE(host.posted[0][1].toString(),
+             QString("Chosen material: Steel S355; source: " + SourceOf("Steel S355")));
 }
 
 void tst_AnalysisActionsProperties::ACancelledLibraryReportsNothing()

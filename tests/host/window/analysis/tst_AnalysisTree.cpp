@@ -5,6 +5,7 @@
 #include "EmptyAnalysisStores.h"
 #include "EmptyAttributeNames.h"
 #include "FrequencyPref.h"
+#include "MaterialLibrary.h"
 #include "TestCase.h"
 
 #include <QAction>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void TheFixedDegreesOfFreedomAreShown();
     void TargetsAreShownByName();
     void NumbersBearTheirUnits();
+    void TheSourceOfAMaterialIsBelowItsProperty();
     void TheTreeFollowsTheModel();
     void OnlyEntriesOfListsCanBeDeleted();
     void DeletingWithTheKeyFreesTheName();
@@ -209,6 +211,24 @@ void tst_AnalysisTree::NumbersBearTheirUnits()
     });
     QCOMPARE(shown.Value("Frequency range"), QString("0.5 Hz to 123456.75 Hz, 7 modes"));
     QCOMPARE(shown.Value("Mesh size"), QString("t / 4 mm"));
+}
+
+void tst_AnalysisTree::TheSourceOfAMaterialIsBelowItsProperty()
+{
+    Shown shown;
+    ReadMaterials("elsewhere");
+    shown.Edit([](AnalysisDefinition& analysis) {
+        analysis.properties = {{"ring", "Steel S355", {}, {}}, {"hub", {}, {}, {}}};
+    });
+    QCOMPARE(shown.Records("Element properties").size(), 2);
+    const QTreeWidgetItem& group = shown.Group("Element properties");
+    QCOMPARE(group.child(1)->childCount(), 0);
+    QCOMPARE(group.child(0)->childCount(), 1);
+    QTreeWidgetItem* const row = group.child(0)->child(0);
+    QCOMPARE(row->text(AnalysisTree::NameColumn), QString("Source of the material"));
+    QCOMPARE(row->text(AnalysisTree::ValueColumn), SourceOf("Steel S355"));
+    shown.Tree().setCurrentItem(row);
+    QCOMPARE(shown.Dock().Selected()->index, 0);
 }
 
 void tst_AnalysisTree::TheTreeFollowsTheModel()
