@@ -153,6 +153,16 @@ void Study::MakeRuns(const Project& project)
         Fail(project, QStringLiteral("Too many runs"));
 }
 
+QStringList Study::Inputs() const
+{
+    QStringList inputs;
+    for (const auto& [name, record] : m_parameters) {
+        if (m_names.contains(name) || record.m_strExpression.empty())
+            inputs << name;
+    }
+    return inputs;
+}
+
 std::vector<double> Study::Values(int run) const
 {
     const std::size_t index = std::size_t(run) - 1;

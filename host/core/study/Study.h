@@ -23,7 +23,9 @@ public:
 
     /// The parameters that the design gives values to.
     const QStringList& Names() const { return m_names; }
-    /// Their values in @p run, counted from 1.
+    /// These, and all other parameters that are not calculated: a run is known by their values.
+    QStringList Inputs() const;
+    /// The values of Names() in @p run, counted from 1.
     std::vector<double> Values(int run) const;
     /// The parameters of the project, with their own values.
     const ParameterMap& Parameters() const { return m_parameters; }

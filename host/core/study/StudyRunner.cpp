@@ -124,19 +124,15 @@ void StudyRunner::PrepareWorkers(int first, int last)
     m_places.resize(std::size_t(workers));
 }
 
-// All parameters that are not calculated: the values of a run are those of its inputs.
 RunList StudyRunner::PrepareRuns(const Study& study) const
 {
-    QStringList inputs;
+    const QStringList inputs = study.Inputs();
     std::vector<double> values;
     std::vector<std::size_t> places(std::size_t(study.Names().size()));
-    for (const auto& [name, record] : study.Parameters()) {
+    for (const QString& name : inputs) {
         const int column = study.Names().indexOf(name);
-        if (column < 0 && !record.m_strExpression.empty())
-            continue;
         if (column >= 0)
             places[std::size_t(column)] = values.size();
-        inputs << name;
         values.push_back(GlobalParaMeterMgr::GetParameterRawValue(name).toDouble());
     }
     RunList runs(inputs);

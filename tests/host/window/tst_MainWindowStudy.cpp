@@ -34,7 +34,7 @@ private Q_SLOTS:
     void TheFolderOfAnotherProgramIsOpened();
     void TicksAndSamplesAreThoseOfTheExperiments();
     void TheSetUpIsUndoneAndSaved();
-    void AFolderOfAnotherStudyIsReported();
+    void AnotherStudyGetsANewFolder();
     void ClosingTheWindowEndsTheStudy();
 
 protected:
@@ -229,7 +229,7 @@ void tst_MainWindowStudy::TheSetUpIsUndoneAndSaved()
     QVERIFY(open.Shown("label_Expected").startsWith("4 runs"));
 }
 
-void tst_MainWindowStudy::AFolderOfAnotherStudyIsReported()
+void tst_MainWindowStudy::AnotherStudyGetsANewFolder()
 {
     StudyWindow open(EnterTemporaryDirectory());
     RunElsewhere();
@@ -238,12 +238,21 @@ void tst_MainWindowStudy::AFolderOfAnotherStudyIsReported()
     responses.Show({{"ratio", "mass_kg / volume_mm3"}});
     Q_EMIT responses.Edited("Responses");
     const PostedMessages posted;
+    open.user.Answer(QMessageBox::Cancel);
+    Click(open.window, "pushButton_Start");
+    QVERIFY(open.Start().isEnabled());
+    QCOMPARE(open.user.Boxes().last().text,
+             QString("The folder elsewhere holds the results of another study: its analyses or "
+                     "responses differ."));
+    QCOMPARE(Find<QLineEdit>(open.window, "lineEdit_Folder").text(), QString("elsewhere"));
+
+    QVERIFY(QDir().mkdir("elsewhere_2"));
+    open.user.Answer(QMessageBox::Yes);
     open.RunToTheEnd();
-    const QStringList errors = posted.At(ErrorLevel);
-    QCOMPARE(errors.size(), 1);
-    QVERIFY2(errors[0].contains("holds the results of another study: its analyses or responses "
-                                "differ; choose another folder"),
-             qPrintable(errors[0]));
+    QTRY_COMPARE_WITH_TIMEOUT(open.Count(), 4, Patience);
+    QCOMPARE(Find<QLineEdit>(open.window, "lineEdit_Folder").text(), QString("elsewhere_3"));
+    QVERIFY(QFile::exists("elsewhere_3/results.csv"));
+    QCOMPARE(posted.At(ErrorLevel), QStringList());
 }
 
 void tst_MainWindowStudy::ClosingTheWindowEndsTheStudy()

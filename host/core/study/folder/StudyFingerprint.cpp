@@ -7,6 +7,7 @@
 #include "StudyColumns.h"
 #include "WholeFile.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QJsonArray>
@@ -31,18 +32,22 @@ struct Entry
 };
 
 const std::array<Entry, 12> Entries = {{
-    {FormatKey, "its format differs"},
-    {ParametersKey, "its parameters differ"},
-    {InputsKey, "its ticked parameters have other expressions"},
-    {QLatin1String("expressions"), "its expressions differ"},
-    {QLatin1String("features"), "its part differs"},
-    {QLatin1String("conditions"), "its conditions differ"},
-    {QLatin1String("files"), "its imported files or UserMaterial.xml differ"},
-    {QLatin1String("material"), "its material differs"},
-    {QLatin1String("density"), "its density differs"},
-    {QLatin1String("analysis"), "its analysis differs"},
-    {QLatin1String("study"), "its analyses or responses differ"},
-    {QLatin1String("kernel"), "the version of its geometry kernel differs"},
+    {FormatKey, QT_TRANSLATE_NOOP("StudyFingerprint", "its format differs")},
+    {ParametersKey, QT_TRANSLATE_NOOP("StudyFingerprint", "its parameters differ")},
+    {InputsKey,
+     QT_TRANSLATE_NOOP("StudyFingerprint", "its ticked parameters have other expressions")},
+    {QLatin1String("expressions"), QT_TRANSLATE_NOOP("StudyFingerprint", "its expressions differ")},
+    {QLatin1String("features"), QT_TRANSLATE_NOOP("StudyFingerprint", "its part differs")},
+    {QLatin1String("conditions"), QT_TRANSLATE_NOOP("StudyFingerprint", "its conditions differ")},
+    {QLatin1String("files"),
+     QT_TRANSLATE_NOOP("StudyFingerprint", "its imported files or UserMaterial.xml differ")},
+    {QLatin1String("material"), QT_TRANSLATE_NOOP("StudyFingerprint", "its material differs")},
+    {QLatin1String("density"), QT_TRANSLATE_NOOP("StudyFingerprint", "its density differs")},
+    {QLatin1String("analysis"), QT_TRANSLATE_NOOP("StudyFingerprint", "its analysis differs")},
+    {QLatin1String("study"),
+     QT_TRANSLATE_NOOP("StudyFingerprint", "its analyses or responses differ")},
+    {QLatin1String("kernel"),
+     QT_TRANSLATE_NOOP("StudyFingerprint", "the version of its geometry kernel differs")},
 }};
 
 QString Hash(const QByteArray& bytes)
@@ -127,7 +132,7 @@ QString FingerprintDifference(const QJsonObject& stored, const QJsonObject& stud
 {
     for (const Entry& entry : Entries) {
         if (stored.value(entry.key) != study.value(entry.key))
-            return QString::fromLatin1(entry.difference);
+            return QCoreApplication::translate("StudyFingerprint", entry.difference);
     }
     return {};
 }
@@ -138,6 +143,7 @@ StudyNames::StudyNames(const QJsonObject& stored)
     , columns(Texts(stored.value(ColumnsKey)))
 {
     if (stored.value(FormatKey).toInt() != Format)
-        throw HostError(
-            QStringLiteral("is not of format %1, which this program reads").arg(Format));
+        throw HostError(QCoreApplication::translate("StudyFingerprint",
+                                                    "is not of format %1, which this program reads")
+                            .arg(Format));
 }

@@ -28,6 +28,17 @@ bool StudyFolder::Exists(const QString& path)
     return QFileInfo::exists(StudyFolder(path).PathOf(FingerprintName));
 }
 
+QString StudyFolder::Difference(const QString& path, const QJsonObject& fingerprint)
+{
+    const StudyFolder folder(path);
+    if (Exists(path))
+        return FingerprintDifference(folder.ReadFingerprint(), fingerprint);
+    if (QFileInfo::exists(folder.ResultsPath()))
+        return tr("its %1 has no %2 beside it, so its study is unknown")
+            .arg(ResultsName, FingerprintName);
+    return {};
+}
+
 std::unique_ptr<StudyFolder> StudyFolder::Open(const QString& path)
 {
     std::unique_ptr<StudyFolder> folder(new StudyFolder(path));
@@ -45,23 +56,21 @@ StudyFolder::Prepare(const QString& path, const QJsonObject& fingerprint, const 
         throw FolderError(QStringLiteral("%1: cannot create the folder").arg(path));
     std::unique_ptr<StudyFolder> folder(new StudyFolder(path));
     const QString file = folder->PathOf(FingerprintName);
-    const bool isNew = !QFileInfo::exists(file);
-    if (isNew && QFileInfo::exists(folder->ResultsPath()))
-        throw HostError(QStringLiteral("%1: there is no %2 beside it, so its study is unknown; "
-                                       "choose another folder")
-                            .arg(folder->ResultsPath(), FingerprintName));
+    const auto refuseOther = [&] {
+        const QString difference = Difference(path, fingerprint);
+        if (!difference.isEmpty())
+            throw HostError(tr("%1: holds the results of another study: %2; choose another folder")
+                                .arg(path, difference));
+    };
+    refuseOther();
     RunLocks locks(folder->LocksPath());
     const RunLocks::Common lock(locks);
+    refuseOther(); // Another program may have begun one.
     if (!QFileInfo::exists(file)) {
         tarn::WholeFile json(file);
         if (!json.Write(QJsonDocument(fingerprint).toJson()))
             throw FolderError(QStringLiteral("%1: %2").arg(file, json.Error()));
     }
-    const QString difference = FingerprintDifference(folder->ReadFingerprint(), fingerprint);
-    if (!difference.isEmpty())
-        throw HostError(QStringLiteral("%1: holds the results of another study: %2; choose "
-                                       "another folder")
-                            .arg(path, difference));
     folder->ReadRuns(fingerprint);
     const int before = folder->m_runs.Count();
     folder->m_runs.AddAll(runs);

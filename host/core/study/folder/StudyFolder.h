@@ -5,6 +5,7 @@
 #include "RunLocks.h"
 #include "StudyRecords.h"
 
+#include <QCoreApplication>
 #include <QJsonObject>
 #include <QString>
 
@@ -17,6 +18,8 @@
 /// Several programs may work on one folder at once, on several machines.
 class StudyFolder
 {
+    Q_DECLARE_TR_FUNCTIONS(StudyFolder)
+
 public:
     /// How many runs there are of each kind.
     struct Counts
@@ -29,6 +32,9 @@ public:
 
     /// Whether the folder at @p path is that of a study.
     static bool Exists(const QString& path);
+    /// Why the folder at @p path cannot take a study with the @p fingerprint: what differs from the
+    /// one that it holds. Empty if it can. @throws HostError if it cannot be read
+    static QString Difference(const QString& path, const QJsonObject& fingerprint);
     /// Opens a folder that exists, to read it. @throws HostError if it is not that of a study
     static std::unique_ptr<StudyFolder> Open(const QString& path);
     /// Opens or creates a folder for a study with the @p fingerprint, and adds those of @p runs

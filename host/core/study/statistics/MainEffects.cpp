@@ -23,12 +23,14 @@ LevelMean MeanOf(Pairs::const_iterator begin, Pairs::const_iterator end)
 {
     LevelMean mean;
     mean.count = int(end - begin);
+    mean.least = begin->first;
+    mean.greatest = (end - 1)->first;
     for (auto i = begin; i != end; ++i) {
         mean.level += i->first / mean.count;
         mean.mean += i->second / mean.count;
     }
-    if (begin->first == (end - 1)->first)
-        mean.level = begin->first; // Without the error of the sum.
+    if (mean.least == mean.greatest)
+        mean.level = mean.least; // Without the error of the sum.
     return mean;
 }
 

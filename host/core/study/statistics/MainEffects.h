@@ -10,6 +10,8 @@ struct LevelMean
     double level = 0.0; ///< The value of the parameter, or the mean value of its group.
     double mean = 0.0;
     int count = 0;
+    double least = 0.0;    ///< Of the values of the parameter in the group.
+    double greatest = 0.0; ///< As well.
 };
 
 /// The main effect of a parameter on a response: its mean at each level, in rising order. Runs

@@ -10,6 +10,7 @@
 #include "ProjectSession.h"
 #include "StudyExport.h"
 #include "StudyPanel.h"
+#include "StudyPreview.h"
 #include "StudyProcess.h"
 #include "StudyResults.h"
 #include "StudySelection.h"
@@ -91,16 +92,25 @@ void StudyActions::Start()
     m_panel->raise();
     if (m_panel->Options().directory.isEmpty() && !m_panel->ChooseFolder())
         return;
-    const StudyProcess::Options options = m_panel->Options();
     try {
-        // The child reads the user's materials from the file.
-        m_session.SaveStores();
-        m_process->Start(m_session.Current(), options);
+        const Project project = m_session.Current();
+        const QString differs =
+            FolderDifference(project, m_session.Density(), m_panel->Options().directory);
+        if (!differs.isEmpty() && !m_panel->OfferNewFolder(differs))
+            return;
+        StartProcess(project, m_panel->Options());
     } catch (const HostError& error) {
         PostMessageToChannel(ErrorLevel, error.Reason());
         return;
     }
-    Follow(options.directory, true);
+    Follow(m_panel->Options().directory, true);
+}
+
+void StudyActions::StartProcess(const Project& project, const StudyProcess::Options& options)
+{
+    // The child reads the user's materials from the file.
+    m_session.SaveStores();
+    m_process->Start(project, options);
 }
 
 void StudyActions::PauseOrContinue()
@@ -277,9 +287,12 @@ void StudyActions::VerifyOptimum()
         StudyDefinition study = project.Study();
         study.design = StudyDefinition::FullFactorial;
         project.SetStudy(study);
-        m_session.SaveStores();
-        m_process->Start(project, options);
+        const QString differs = FolderDifference(project, m_session.Density(), m_folder);
+        if (!differs.isEmpty())
+            throw HostError(tr("the project is not that of the study: %1").arg(differs));
+        StartProcess(project, options);
     } catch (const HostError& error) {
-        PostMessageToChannel(ErrorLevel, error.Reason());
+        PostMessageToChannel(ErrorLevel,
+                             tr("The optimum cannot be verified: %1").arg(error.Reason()));
     }
 }

@@ -2,6 +2,7 @@
 
 #include "ParameterEntry.h"
 #include "StudyFollower.h"
+#include "StudyProcess.h"
 
 #include <QObject>
 #include <QStringList>
@@ -16,7 +17,6 @@ class QMenu;
 class QWidget;
 class StudyExport;
 class StudyPanel;
-class StudyProcess;
 class StudyResults;
 class StudySelection;
 class StudyTable;
@@ -48,6 +48,7 @@ private:
     void CreateActions();
     void Connect();
     void Start();
+    void StartProcess(const Project& project, const StudyProcess::Options& options);
     void PauseOrContinue();
     void ChooseFolder();
     void Follow(const QString& path, bool isExpected);

@@ -12,6 +12,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -34,6 +36,18 @@ bool IsSampled(StudyDefinition::Design design)
 void Refuse(const QString& reason)
 {
     PostMessageToChannel(ErrorLevel, reason);
+}
+
+// The first of "study_2", "study_3" and so on that does not exist.
+QString NextName(const QDir& parent, const QString& name)
+{
+    QString stem = name;
+    stem.remove(QRegularExpression(QStringLiteral("(_[0-9]+)?/*$")));
+    for (int number = 2;; ++number) {
+        const QString next = QStringLiteral("%1_%2").arg(stem).arg(number);
+        if (!QFileInfo::exists(parent.filePath(next)))
+            return next;
+    }
 }
 
 } // namespace
@@ -240,6 +254,24 @@ bool StudyPanel::ChooseFolder()
     if (!path.isEmpty())
         m_form->lineEdit_Folder->setText(QDir(ProjectFolder()).relativeFilePath(path));
     return !path.isEmpty();
+}
+
+bool StudyPanel::OfferNewFolder(const QString& differs)
+{
+    const QString used = m_form->lineEdit_Folder->text().trimmed();
+    const QString wanted = NextName(QDir(ProjectFolder()), used);
+    QMessageBox box(QMessageBox::Question, tr("New folder for the study?"),
+                    tr("The folder %1 holds the results of another study: %2.").arg(used, differs),
+                    {}, window());
+    box.setInformativeText(
+        tr("Its results stay as they are. This study can use the new folder %1.").arg(wanted));
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::Cancel);
+    box.button(QMessageBox::Yes)->setText(tr("Use the new folder"));
+    box.setDefaultButton(QMessageBox::Yes);
+    if (box.exec() != QMessageBox::Yes)
+        return false;
+    m_form->lineEdit_Folder->setText(wanted);
+    return true;
 }
 
 StudyProcess::Options StudyPanel::Options() const

@@ -38,6 +38,9 @@ public:
 
     /// Lets the user choose the folder for the results. Returns whether one was chosen.
     bool ChooseFolder();
+    /// Lets the user take a new folder because the chosen one holds another study, from which this
+    /// one @p differs. Returns whether one was taken.
+    bool OfferNewFolder(const QString& differs);
 
 Q_SIGNALS:
     void StartWanted();

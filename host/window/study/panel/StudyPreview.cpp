@@ -5,6 +5,8 @@
 #include "Project.h"
 #include "Study.h"
 #include "StudyColumns.h"
+#include "StudyFingerprint.h"
+#include "StudyFolder.h"
 
 #include <QCoreApplication>
 #include <QScopedValueRollback>
@@ -18,6 +20,23 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(StudyPreview)
 };
 
+bool IsSampled(const Project& project)
+{
+    return project.Study().design == StudyDefinition::LatinHypercube ||
+           project.Study().design == StudyDefinition::Sobol;
+}
+
+// The same study with one run where their number is known and the points are not needed.
+Project WithoutPoints(Project project)
+{
+    if (IsSampled(project)) {
+        StudyDefinition definition = project.Study();
+        definition.runs = 1;
+        project.SetStudy(definition);
+    }
+    return project;
+}
+
 } // namespace
 
 StudyPreview PreviewOf(const Project& project)
@@ -25,17 +44,8 @@ StudyPreview PreviewOf(const Project& project)
     const QScopedValueRollback<ParameterMap> store(GlobalParaMeterMgr::m_nameMapParameters);
     StudyPreview preview;
     try {
-        Project tried = project;
-        StudyDefinition definition = project.Study();
-        const bool isSampled = definition.design == StudyDefinition::LatinHypercube ||
-                               definition.design == StudyDefinition::Sobol;
-        // Their number is known; the points are not needed.
-        if (isSampled) {
-            definition.runs = 1;
-            tried.SetStudy(definition);
-        }
-        preview.runs = Study(tried).RunCount();
-        if (isSampled && preview.runs > 0)
+        preview.runs = Study(WithoutPoints(project)).RunCount();
+        if (IsSampled(project) && preview.runs > 0)
             preview.runs = project.Study().runs;
         const StudyColumns columns(project);
         if (preview.runs == 0)
@@ -47,6 +57,13 @@ StudyPreview PreviewOf(const Project& project)
             preview.problem.remove(0, prefix.size());
     }
     return preview;
+}
+
+QString FolderDifference(const Project& project, double density, const QString& path)
+{
+    const QScopedValueRollback<ParameterMap> store(GlobalParaMeterMgr::m_nameMapParameters);
+    const QStringList inputs = Study(WithoutPoints(project)).Inputs();
+    return StudyFolder::Difference(path, StudyFingerprint(project, inputs, density));
 }
 
 QString DurationText(double seconds)

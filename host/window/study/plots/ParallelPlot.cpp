@@ -70,22 +70,43 @@ double ParallelPlot::XOf(const QRectF& plot, int axis) const
     return plot.left() + plot.width() * axis / gaps;
 }
 
+QPointF ParallelPlot::PlaceOf(const QRectF& plot, std::size_t axis, int row) const
+{
+    const double share = m_ranges[axis].ShareOf(Columns().Value(m_chosen[axis], row));
+    return {XOf(plot, int(axis)), plot.bottom() - share * plot.height()};
+}
+
 QImage ParallelPlot::Lines(const QSize& size, double scale, bool isOfSelected) const
 {
     DensityImage image(size);
     const QRectF plot = PlotArea(QRectF(QPointF(), QSizeF(size) / scale));
-    const auto placeOf = [&](std::size_t axis, int row) {
-        const double share = m_ranges[axis].ShareOf(Columns().Value(m_chosen[axis], row));
-        return QPointF(XOf(plot, int(axis)), plot.bottom() - share * plot.height()) * scale;
-    };
     // Axis by axis, which is faster: neighbouring pixels stay in the processor's cache.
     for (std::size_t axis = 1; axis < m_chosen.size(); ++axis) {
         for (const int row : Rows()) {
             if (!isOfSelected || IsSelected(row))
-                image.AddLine(placeOf(axis - 1, row), placeOf(axis, row));
+                image.AddLine(PlaceOf(plot, axis - 1, row) * scale,
+                              PlaceOf(plot, axis, row) * scale);
         }
     }
     return image.Image(isOfSelected ? SelectedColor() : PointColor());
+}
+
+void ParallelPlot::PaintLines(QPainter& painter, const QRectF& plot) const
+{
+    const auto isFinite = [](const QPointF& point) {
+        return std::isfinite(point.x()) && std::isfinite(point.y());
+    };
+    for (const bool isOfSelected : {false, true}) {
+        painter.setPen(isOfSelected ? SelectedColor() : PointColor());
+        for (const int row : Rows()) {
+            for (std::size_t axis = 1; axis < m_chosen.size(); ++axis) {
+                const QPointF from = PlaceOf(plot, axis - 1, row);
+                const QPointF to = PlaceOf(plot, axis, row);
+                if ((!isOfSelected || IsSelected(row)) && isFinite(from) && isFinite(to))
+                    painter.drawLine(from, to);
+            }
+        }
+    }
 }
 
 void ParallelPlot::Paint(QPainter& painter, const QRect& area)
@@ -95,12 +116,16 @@ void ParallelPlot::Paint(QPainter& painter, const QRect& area)
         painter.drawText(area, Qt::AlignCenter, tr("Choose two columns or more."));
         return;
     }
-    const double scale = painter.transform().m11();
-    const QSize size = (QSizeF(area.size()) * scale).toSize();
-    if (m_lines.size() != size)
-        m_lines = Lines(size, scale, false);
-    painter.drawImage(area, m_lines);
-    painter.drawImage(area, Lines(size, scale, true));
+    if (IsVector(painter)) {
+        PaintLines(painter, PlotArea(area));
+    } else {
+        const double scale = painter.transform().m11();
+        const QSize size = (QSizeF(area.size()) * scale).toSize();
+        if (m_lines.size() != size)
+            m_lines = Lines(size, scale, false);
+        painter.drawImage(area, m_lines);
+        painter.drawImage(area, Lines(size, scale, true));
+    }
     for (std::size_t axis = 0; axis < m_chosen.size(); ++axis)
         PaintAxis(painter, PlotArea(area), int(axis));
 }

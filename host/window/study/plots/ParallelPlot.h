@@ -32,6 +32,8 @@ protected:
 private:
     QRectF PlotArea(const QRectF& area) const;
     double XOf(const QRectF& plot, int axis) const;
+    QPointF PlaceOf(const QRectF& plot, std::size_t axis, int row) const;
+    void PaintLines(QPainter& painter, const QRectF& plot) const;
     QImage Lines(const QSize& size, double scale, bool isOfSelected) const;
     void PaintAxis(QPainter& painter, const QRectF& plot, int axis) const;
     void Brush(const QRect& rectangle);

@@ -72,27 +72,51 @@ QPointF ScatterMatrix::PlaceOf(const QRectF& field, int x, int y, int row) const
             inner.bottom() - shareOf(y) * inner.height()};
 }
 
-QImage ScatterMatrix::Points(const QSize& size, bool isOfSelected) const
+void ScatterMatrix::VisitPoints(const QRectF& area, bool isOfSelected,
+                                const std::function<void(const QPointF&)>& visit) const
 {
-    DensityImage image(size);
-    // Few points have room to be seen.
-    const int pointSize = (Rows().size() < FewRuns ? 4 : 2) + (isOfSelected ? 1 : 0);
     const int columns = int(m_chosen.size());
     for (int x = 0; x < columns; ++x) {
         for (int y = 0; y < columns; ++y) {
             if (x == y)
                 continue;
-            const QRectF field = Field(QRectF(QPointF(), size), x, y);
+            const QRectF field = Field(area, x, y);
             for (const int row : Rows()) {
                 if (isOfSelected && !IsSelected(row))
                     continue;
                 const QPointF place = PlaceOf(field, x, y, row);
                 if (std::isfinite(place.x()) && std::isfinite(place.y()))
-                    image.AddPoint(place.toPoint(), pointSize);
+                    visit(place);
             }
         }
     }
+}
+
+// Few points have room to be seen.
+int ScatterMatrix::PointSize(bool isOfSelected) const
+{
+    return (Rows().size() < FewRuns ? 4 : 2) + (isOfSelected ? 1 : 0);
+}
+
+QImage ScatterMatrix::Points(const QSize& size, bool isOfSelected) const
+{
+    DensityImage image(size);
+    const int pointSize = PointSize(isOfSelected);
+    VisitPoints(QRectF(QPointF(), size), isOfSelected,
+                [&](const QPointF& place) { image.AddPoint(place.toPoint(), pointSize); });
     return image.Image(isOfSelected ? SelectedColor() : PointColor());
+}
+
+void ScatterMatrix::PaintPoints(QPainter& painter, const QRect& area) const
+{
+    painter.setPen(Qt::NoPen);
+    for (const bool isOfSelected : {false, true}) {
+        painter.setBrush(isOfSelected ? SelectedColor() : PointColor());
+        const double radius = PointSize(isOfSelected) / 2.0;
+        VisitPoints(area, isOfSelected,
+                    [&](const QPointF& place) { painter.drawEllipse(place, radius, radius); });
+    }
+    painter.setBrush(Qt::NoBrush);
 }
 
 void ScatterMatrix::Paint(QPainter& painter, const QRect& area)
@@ -113,6 +137,8 @@ void ScatterMatrix::Paint(QPainter& painter, const QRect& area)
         }
         PaintDiagonal(painter, Field(area, x, x), x);
     }
+    if (IsVector(painter))
+        return PaintPoints(painter, area);
     const double scale = painter.transform().m11();
     const QSize size = (QSizeF(area.size()) * scale).toSize();
     if (m_points.size() != size)

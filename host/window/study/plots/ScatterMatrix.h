@@ -4,6 +4,8 @@
 #include "PlotRange.h"
 #include "StudyPlot.h"
 
+#include <functional>
+
 class ColumnPicker;
 
 /// Every chosen column against every other one, in one picture; on the diagonal, how often each
@@ -27,6 +29,10 @@ private:
     /// Where column @p x is plotted against column @p y, by their places among the chosen ones.
     QRectF Field(const QRectF& area, int x, int y) const;
     QPointF PlaceOf(const QRectF& field, int x, int y, int row) const;
+    void VisitPoints(const QRectF& area, bool isOfSelected,
+                     const std::function<void(const QPointF&)>& visit) const;
+    int PointSize(bool isOfSelected) const;
+    void PaintPoints(QPainter& painter, const QRect& area) const;
     QImage Points(const QSize& size, bool isOfSelected) const;
     void PaintDiagonal(QPainter& painter, const QRectF& field, int place) const;
     void SelectIn(const QRect& rectangle);

@@ -7,6 +7,7 @@
 #include <QBuffer>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QSvgGenerator>
 #include <QVBoxLayout>
@@ -76,6 +77,12 @@ std::vector<double> StudyPlot::Shown(int column) const
 bool StudyPlot::IsSelected(int row) const
 {
     return m_selection.Contains(row);
+}
+
+bool StudyPlot::IsVector(const QPainter& painter) const
+{
+    constexpr std::size_t MostRuns = 2000; // Some megabytes.
+    return painter.paintEngine()->type() == QPaintEngine::SVG && Rows().size() <= MostRuns;
 }
 
 void StudyPlot::Select(std::vector<int> rows)

@@ -32,7 +32,7 @@ public:
 
     /// The plot as it is shown, with @p scale pixels for each of the widget.
     QImage Picture(int scale = 2);
-    /// The same as an SVG file.
+    /// The same as an SVG file. Points and lines of many runs are an image in it.
     QByteArray Svg();
 
     static QColor PointColor() { return {31, 119, 180}; }
@@ -54,6 +54,8 @@ protected:
     /// The values of a column in Rows().
     std::vector<double> Shown(int column) const;
     bool IsSelected(int row) const;
+    /// Whether @p painter draws into a file to which every run adds, and there are few enough.
+    bool IsVector(const QPainter& painter) const;
     /// Replaces the shared selection, or adds to it while Shift or Ctrl is pressed.
     void Select(std::vector<int> rows);
 

@@ -3,6 +3,8 @@
 
 #include <qwt_plot.h>
 #include <qwt_plot_curve.h>
+#include <qwt_scale_map.h>
+#include <qwt_text.h>
 
 class tst_MainEffectsPlot : public TestCase
 {
@@ -11,16 +13,34 @@ class tst_MainEffectsPlot : public TestCase
 private Q_SLOTS:
     void EachParameterHasItsMeans();
     void TheFilterCounts();
+    void AMeanSelectsItsRuns();
+    void TheMeansOfSelectedRunsAreShown();
     void NoRunsAreNoProblem();
 };
 
 namespace {
 
-std::vector<double> MeansOf(const MainEffectsPlot& plot, int place)
+/// The curve of a parameter, or that of the selected runs.
+const QwtPlotCurve& CurveOf(const MainEffectsPlot& plot, const QString& title)
 {
     const QwtPlotItemList curves =
         plot.findChild<QwtPlot*>()->itemList(QwtPlotItem::Rtti_PlotCurve);
-    const auto* const curve = static_cast<const QwtPlotCurve*>(curves[place]);
+    const auto found = std::find_if(curves.begin(), curves.end(), [&](const QwtPlotItem* item) {
+        return item->title().text() == title;
+    });
+    return static_cast<const QwtPlotCurve&>(**found);
+}
+
+QPoint PlaceOf(const MainEffectsPlot& plot, const QPointF& point)
+{
+    const auto& qwt = *plot.findChild<QwtPlot*>();
+    return {qRound(qwt.canvasMap(QwtPlot::xBottom).transform(point.x())),
+            qRound(qwt.canvasMap(QwtPlot::yLeft).transform(point.y()))};
+}
+
+std::vector<double> MeansOf(const MainEffectsPlot& plot, const QString& parameter)
+{
+    const QwtPlotCurve* const curve = &CurveOf(plot, parameter);
     constexpr double Digits = 1e9;
     std::vector<double> means;
     for (std::size_t i = 0; i < curve->dataSize(); ++i)
@@ -34,7 +54,7 @@ void tst_MainEffectsPlot::EachParameterHasItsMeans()
 {
     ShownPlot<MainEffectsPlot> shown;
     QCOMPARE(shown.plot.Parameters(), QStringList({"a", "b"})); // c is constant.
-    QCOMPARE(MeansOf(shown.plot, 0), std::vector<double>({4.0, 5.0, 6.0, 7.0, 8.0}));
+    QCOMPARE(MeansOf(shown.plot, "a"), std::vector<double>({4.0, 5.0, 6.0, 7.0, 8.0}));
     QVERIFY(shown.plot.Svg().contains(">b<"));
 }
 
@@ -44,7 +64,31 @@ void tst_MainEffectsPlot::TheFilterCounts()
     QCOMPARE(shown.table.SetFilter("b == 5 && a < 4"), QString());
     QTest::qWait(0);
     QCOMPARE(shown.plot.Parameters(), QStringList({"a"}));
-    QCOMPARE(MeansOf(shown.plot, 0), std::vector<double>({6.0, 7.0, 8.0}));
+    QCOMPARE(MeansOf(shown.plot, "a"), std::vector<double>({6.0, 7.0, 8.0}));
+}
+
+void tst_MainEffectsPlot::AMeanSelectsItsRuns()
+{
+    ShownPlot<MainEffectsPlot> shown(3);
+    DeliverEvents(); // Of the layout.
+    QWidget& canvas = *shown.plot.findChild<QwtPlot*>()->canvas();
+    const QPointF second = CurveOf(shown.plot, "b").sample(1);
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, PlaceOf(shown.plot, second));
+    QCOMPARE(shown.SelectedRuns(), std::vector<int>({2, 5, 8}));
+    const QPoint first = PlaceOf(shown.plot, CurveOf(shown.plot, "a").sample(0));
+    Drag(canvas, first - QPoint(5, 5), first + QPoint(5, 5));
+    QCOMPARE(shown.SelectedRuns(), std::vector<int>({1, 2, 3}));
+    QTest::mouseClick(&canvas, Qt::LeftButton, {}, QPoint(2, 2));
+    QCOMPARE(shown.SelectedRuns(), std::vector<int>());
+}
+
+void tst_MainEffectsPlot::TheMeansOfSelectedRunsAreShown()
+{
+    ShownPlot<MainEffectsPlot> shown(3); // The sum.
+    QVERIFY(MeansOf(shown.plot, "").empty());
+    shown.selection.Set({0, 2, 4}); // 1 + 1, 1 + 3 and 2 + 2
+    QCOMPARE(MeansOf(shown.plot, ""), std::vector<double>({3.0, 4.0, 2.0, 4.0, 4.0}));
+    QVERIFY(PixelsLike(shown.plot.Picture(1), StudyPlot::SelectedColor()) > 20);
 }
 
 void tst_MainEffectsPlot::NoRunsAreNoProblem()

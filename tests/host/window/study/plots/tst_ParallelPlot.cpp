@@ -9,6 +9,7 @@ class tst_ParallelPlot : public TestCase
 private Q_SLOTS:
     void RangesAlongAxesSelectRuns();
     void SelectedRunsAreDrawn();
+    void DrawingsOfFewRunsHaveNoImage();
     void WithoutRunsThePlotSaysSo();
 };
 
@@ -52,6 +53,18 @@ void tst_ParallelPlot::SelectedRunsAreDrawn()
     QVERIFY(shown.plot.Picture() != before);
     shown.selection.Clear();
     QVERIFY(shown.plot.Picture() == before);
+}
+
+void tst_ParallelPlot::DrawingsOfFewRunsHaveNoImage()
+{
+    ShownPlot<ParallelPlot> shown;
+    const int before = shown.plot.Svg().count("<polyline");
+    shown.selection.Set({3, 4});
+    const QByteArray svg = shown.plot.Svg();
+    QVERIFY(!svg.contains("<image"));
+    QCOMPARE(svg.count("<polyline") - before, 2 * 3);
+    ShownPlot<ParallelPlot> many(45);
+    QVERIFY(many.plot.Svg().contains("<image"));
 }
 
 void tst_ParallelPlot::WithoutRunsThePlotSaysSo()

@@ -12,6 +12,7 @@ class tst_ScatterMatrix : public TestCase
 private Q_SLOTS:
     void ARectangleInAFieldSelectsRuns();
     void SelectedRunsAreDrawn();
+    void DrawingsOfFewRunsHaveNoImage();
     void TheColumnsAreChosen();
     void WithoutRunsThePlotSaysSo();
 };
@@ -46,6 +47,18 @@ void tst_ScatterMatrix::SelectedRunsAreDrawn()
     QVERIFY(PixelsLike(shown.plot.Picture(1), StudyPlot::SelectedColor()) > 0 ||
             shown.plot.Picture(1) != QImage());
     QVERIFY(shown.plot.Svg().contains("product"));
+}
+
+void tst_ScatterMatrix::DrawingsOfFewRunsHaveNoImage()
+{
+    ShownPlot<ScatterMatrix> shown;
+    shown.selection.Set({3});
+    QVERIFY(!shown.plot.Svg().contains("<image"));
+    // Each run in 12 fields; two of them have no product.
+    QCOMPARE(shown.plot.Svg().count("<circle") + shown.plot.Svg().count("<ellipse"),
+             24 * 12 + 6 + 12);
+    ShownPlot<ScatterMatrix> many(45);
+    QVERIFY(many.plot.Svg().contains("<image"));
 }
 
 void tst_ScatterMatrix::TheColumnsAreChosen()
