@@ -706,6 +706,49 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>DesignList</name>
+    <message>
+        <source>has no header with the names of parameters</source>
+        <translation>没有写有参数名称的表头</translation>
+    </message>
+    <message>
+        <source>has no runs below its header</source>
+        <translation>表头下没有试验</translation>
+    </message>
+    <message>
+        <source>row 1, column %1: %2 is not a parameter of the project</source>
+        <translation>第 1 行第 %1 列：%2 不是项目的参数</translation>
+    </message>
+    <message>
+        <source>row 1, column %1: %2 is there twice</source>
+        <translation>第 1 行第 %1 列：%2 出现了两次</translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>%1: column %2 is missing</source>
+        <translation>%1：缺少列 %2</translation>
+    </message>
+    <message>
+        <source>%1 has %2 cells, but the header has %3</source>
+        <translation>%1有 %2 个单元格，而表头有 %3 个</translation>
+    </message>
+    <message>
+        <source>%1, column %2: %3 is not a number</source>
+        <translation>%1列 %2：%3 不是数</translation>
+    </message>
+    <message>
+        <source>%1 is equal to row %2</source>
+        <translation>%1与第 %2 行相同</translation>
+    </message>
+    <message>
+        <source>has more than %1 runs</source>
+        <translation>试验超过 %1 次</translation>
+    </message>
+</context>
+<context>
     <name>DesignModel</name>
     <message>
         <source>there is no parameter %1</source>
@@ -2742,6 +2785,25 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>ResultColumns</name>
+    <message>
+        <source>has %1 cells instead of %2</source>
+        <translation>有 %1 个单元格，应为 %2 个</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the column run is not the number of a run</source>
+        <translation>run 列中的“%1”不是试验编号</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the column status is neither ok nor failed</source>
+        <translation>status 列中的“%1”既不是 ok 也不是 failed</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the column %2 is not a number</source>
+        <translation>%2 列中的“%1”不是数</translation>
+    </message>
+</context>
+<context>
     <name>ResultDisplay</name>
     <message>
         <source>&amp;Show</source>
@@ -2990,6 +3052,29 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>ResultsFile</name>
+    <message>
+        <source>is not a table of results; it has no column &quot;%1&quot;</source>
+        <translation>不是结果表；没有“%1”列</translation>
+    </message>
+    <message>
+        <source>is not a table of results; its first column has to be &quot;run&quot;, its last ones &quot;status&quot; and &quot;error&quot;</source>
+        <translation>不是结果表；第一列必须是“run”，最后两列必须是“status”和“error”</translation>
+    </message>
+    <message>
+        <source>two columns have the same name</source>
+        <translation>有两列同名</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>为空</translation>
+    </message>
+    <message>
+        <source>row %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+</context>
+<context>
     <name>ResultsPanel</name>
     <message>
         <source>Old: the part or its set-up has changed since. Solve again.</source>
@@ -3032,6 +3117,24 @@ Remove these as well?</source>
     <message>
         <source>Back to the design</source>
         <translation>返回设计</translation>
+    </message>
+</context>
+<context>
+    <name>RunList</name>
+    <message>
+        <source>%1: is not a list of the runs of this study</source>
+        <translation>%1：不是本研究的试验列表</translation>
+    </message>
+    <message>
+        <source>%1: row %2 is damaged</source>
+        <translation>%1：第 %2 行已损坏</translation>
+    </message>
+</context>
+<context>
+    <name>RunLocks</name>
+    <message>
+        <source>%1: cannot be locked: %2</source>
+        <translation>%1：无法锁定：%2</translation>
     </message>
 </context>
 <context>
@@ -3741,6 +3844,29 @@ Remove these as well?</source>
     </message>
 </context>
 <context>
+    <name>Study</name>
+    <message>
+        <source>the Sobol sequence takes at most %1 ticked parameters, not %2</source>
+        <translation>Sobol 序列最多可勾选 %1 个参数，现为 %2 个</translation>
+    </message>
+    <message>
+        <source>the central composite design takes at most %1 ticked parameters, not %2</source>
+        <translation>中心复合设计最多可勾选 %1 个参数，现为 %2 个</translation>
+    </message>
+    <message>
+        <source>%1: row 1: the ticked parameter &quot;%2&quot; has no column</source>
+        <translation>%1：第 1 行：勾选的参数“%2”没有对应的列</translation>
+    </message>
+    <message>
+        <source>Too many runs</source>
+        <translation>试验次数过多</translation>
+    </message>
+    <message>
+        <source>the Box-Behnken design needs at least %1 ticked parameters, not %2</source>
+        <translation>Box-Behnken 设计至少需要勾选 %1 个参数，现为 %2 个</translation>
+    </message>
+</context>
+<context>
     <name>StudyActions</name>
     <message>
         <source>&amp;Start</source>
@@ -3814,6 +3940,25 @@ Remove these as well?</source>
         <source>The optimum cannot be made the design: %1</source>
         <translation>无法将最优点设为设计：%1</translation>
     </message>
+    <message>
+        <source>the project is not that of the study: %1</source>
+        <translation>当前项目不是该研究的项目：%1</translation>
+    </message>
+    <message>
+        <source>The optimum cannot be verified: %1</source>
+        <translation>无法验证最优点：%1</translation>
+    </message>
+</context>
+<context>
+    <name>StudyColumns</name>
+    <message>
+        <source>%1: the response &quot;%2&quot; has the name of another column</source>
+        <translation>%1：响应“%2”与另一列同名</translation>
+    </message>
+    <message>
+        <source>%1: the response &quot;%2&quot; cannot be calculated: %3</source>
+        <translation>%1：无法计算响应“%2”：%3</translation>
+    </message>
 </context>
 <context>
     <name>StudyExport</name>
@@ -3848,6 +3993,87 @@ Remove these as well?</source>
     <message>
         <source>Wrote %1</source>
         <translation>已写入 %1</translation>
+    </message>
+</context>
+<context>
+    <name>StudyFingerprint</name>
+    <message>
+        <source>its format differs</source>
+        <translation>格式不同</translation>
+    </message>
+    <message>
+        <source>its parameters differ</source>
+        <translation>参数不同</translation>
+    </message>
+    <message>
+        <source>its ticked parameters have other expressions</source>
+        <translation>勾选参数的表达式不同</translation>
+    </message>
+    <message>
+        <source>its expressions differ</source>
+        <translation>表达式不同</translation>
+    </message>
+    <message>
+        <source>its part differs</source>
+        <translation>零件不同</translation>
+    </message>
+    <message>
+        <source>its conditions differ</source>
+        <translation>条件不同</translation>
+    </message>
+    <message>
+        <source>its imported files or UserMaterial.xml differ</source>
+        <translation>导入的文件或 UserMaterial.xml 不同</translation>
+    </message>
+    <message>
+        <source>its material differs</source>
+        <translation>材料不同</translation>
+    </message>
+    <message>
+        <source>its density differs</source>
+        <translation>密度不同</translation>
+    </message>
+    <message>
+        <source>its analysis differs</source>
+        <translation>分析不同</translation>
+    </message>
+    <message>
+        <source>its analyses or responses differ</source>
+        <translation>分析类型或响应不同</translation>
+    </message>
+    <message>
+        <source>the version of its geometry kernel differs</source>
+        <translation>几何内核的版本不同</translation>
+    </message>
+    <message>
+        <source>is not of format %1, which this program reads</source>
+        <translation>格式不是本程序能读取的 %1</translation>
+    </message>
+</context>
+<context>
+    <name>StudyFolder</name>
+    <message>
+        <source>its %1 has no %2 beside it, so its study is unknown</source>
+        <translation>其中的 %1 旁没有 %2，因此不知道属于哪个研究</translation>
+    </message>
+    <message>
+        <source>%1: is not the folder of a study; there is no %2 in it</source>
+        <translation>%1：不是研究的文件夹；其中没有 %2</translation>
+    </message>
+    <message>
+        <source>%1: cannot create the folder</source>
+        <translation>%1：无法创建文件夹</translation>
+    </message>
+    <message>
+        <source>%1: holds the results of another study: %2; choose another folder</source>
+        <translation>%1：已有另一研究的结果：%2；请选择另一个文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>StudyFollower</name>
+    <message>
+        <source>%1: run %2: %3</source>
+        <translation>%1：试验 %2：%3</translation>
     </message>
 </context>
 <context>
@@ -4064,6 +4290,22 @@ Remove these as well?</source>
         <source>; %1 left</source>
         <translation>；剩余 %1</translation>
     </message>
+    <message>
+        <source>New folder for the study?</source>
+        <translation>为研究使用新文件夹？</translation>
+    </message>
+    <message>
+        <source>The folder %1 holds the results of another study: %2.</source>
+        <translation>文件夹 %1 中有另一研究的结果：%2。</translation>
+    </message>
+    <message>
+        <source>Its results stay as they are. This study can use the new folder %1.</source>
+        <translation>其中的结果保持不变。本研究可以使用新文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>Use the new folder</source>
+        <translation>使用新文件夹</translation>
+    </message>
 </context>
 <context>
     <name>StudyPreview</name>
@@ -4093,6 +4335,21 @@ Remove these as well?</source>
     <message>
         <source>the program that ran it crashed</source>
         <translation>运行它的程序崩溃了</translation>
+    </message>
+    <message>
+        <source>some runs failed; the table shows the reasons</source>
+        <translation>部分试验失败；表中有失败原因</translation>
+    </message>
+    <message>
+        <source>the disk is full, or the folder cannot be written (%1)</source>
+        <translation>磁盘已满，或无法写入文件夹（%1）</translation>
+    </message>
+</context>
+<context>
+    <name>StudyRecords</name>
+    <message>
+        <source>%1: cannot be read: %2</source>
+        <translation>%1：无法读取：%2</translation>
     </message>
 </context>
 <context>

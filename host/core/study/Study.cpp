@@ -7,6 +7,7 @@
 #include "Project.h"
 #include "SobolSequence.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -16,6 +17,11 @@
 #include <vector>
 
 namespace {
+
+struct StudyText
+{
+    Q_DECLARE_TR_FUNCTIONS(Study)
+};
 
 [[noreturn]] void Fail(const Project& project, const QString& reason)
 {
@@ -35,22 +41,23 @@ DesignRanges RangesOf(const std::vector<std::vector<double>>& samples)
 // What the design needs of the number of ticked parameters. Empty if it has that.
 QString ParameterFault(StudyDefinition::Design design, int ticked)
 {
-    const auto atMost = [ticked](const char* name, int limit) {
-        return ticked <= limit ? QString()
-                               : QStringLiteral("the %1 takes at most %2 ticked parameters, not %3")
-                                     .arg(QLatin1String(name))
-                                     .arg(limit)
-                                     .arg(ticked);
+    const auto atMost = [ticked](const QString& text, int limit) {
+        return ticked <= limit ? QString() : text.arg(limit).arg(ticked);
     };
     switch (design) {
     case StudyDefinition::Sobol:
-        return atMost("Sobol sequence", SobolSequence::MaximumDimensions);
+        return atMost(
+            StudyText::tr("the Sobol sequence takes at most %1 ticked parameters, not %2"),
+            SobolSequence::MaximumDimensions);
     case StudyDefinition::CentralComposite:
-        return atMost("central composite design", MaximumCentralCompositeRanges);
+        return atMost(
+            StudyText::tr(
+                "the central composite design takes at most %1 ticked parameters, not %2"),
+            MaximumCentralCompositeRanges);
     case StudyDefinition::BoxBehnken:
         return ticked >= MinimumBoxBehnkenRanges
                    ? QString()
-                   : QStringLiteral(
+                   : StudyText::tr(
                          "the Box-Behnken design needs at least %1 ticked parameters, not %2")
                          .arg(MinimumBoxBehnkenRanges)
                          .arg(ticked);
@@ -115,7 +122,7 @@ void Study::ReadList(const Project& project)
     DesignList list = ReadDesignList(path, known);
     for (const QString& name : qAsConst(m_names)) {
         if (!list.names.contains(name))
-            throw HostError(QStringLiteral("%1: row 1: the ticked parameter \"%2\" has no column")
+            throw HostError(StudyText::tr("%1: row 1: the ticked parameter \"%2\" has no column")
                                 .arg(path.simplified(), name.simplified()));
     }
     m_names = std::move(list.names);
@@ -150,7 +157,7 @@ void Study::MakeRuns(const Project& project)
         break;
     }
     if (m_factorial.IsTooLarge() || m_runs.size() > FullFactorial::MaximumRuns)
-        Fail(project, QStringLiteral("Too many runs"));
+        Fail(project, StudyText::tr("Too many runs"));
 }
 
 QStringList Study::Inputs() const

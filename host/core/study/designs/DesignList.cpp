@@ -5,6 +5,7 @@
 #include "StudyDefinition.h"
 #include "WholeFile.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 #include <cmath>
@@ -15,6 +16,8 @@ namespace {
 /// A CSV file, and what is wrong in it.
 class Reader
 {
+    Q_DECLARE_TR_FUNCTIONS(DesignList)
+
 public:
     Reader(const QString& path, const QSet<QString>& known)
         : m_path(path)
@@ -34,7 +37,7 @@ public:
             text.remove(0, 1);
         const std::vector<QStringList> rows = CsvRows(text);
         if (rows.empty())
-            Fail(QStringLiteral("has no header with the names of parameters"));
+            Fail(tr("has no header with the names of parameters"));
         ReadHeader(rows.front());
         for (std::size_t i = 1; i < rows.size(); ++i) {
             const bool isEmpty = rows[i].size() == 1 && rows[i].front().trimmed().isEmpty();
@@ -42,7 +45,7 @@ public:
                 ReadRow(int(i) + 1, rows[i]);
         }
         if (m_list.runs.empty())
-            Fail(QStringLiteral("has no runs below its header"));
+            Fail(tr("has no runs below its header"));
         return m_list;
     }
 
@@ -56,12 +59,12 @@ private:
     {
         for (int column = 0; column < header.size(); ++column) {
             const QString name = header[column].trimmed();
-            const QString place =
-                QStringLiteral("row 1, column %1: ").arg(column + 1) + Quoted(name);
             if (!m_known.contains(name))
-                Fail(place + QStringLiteral(" is not a parameter of the project"));
+                Fail(tr("row 1, column %1: %2 is not a parameter of the project")
+                         .arg(QString::number(column + 1), Quoted(name)));
             if (m_list.names.contains(name))
-                Fail(place + QStringLiteral(" is there twice"));
+                Fail(tr("row 1, column %1: %2 is there twice")
+                         .arg(QString::number(column + 1), Quoted(name)));
             m_list.names << name;
         }
     }
@@ -69,12 +72,11 @@ private:
     void ReadRow(int number, const QStringList& cells)
     {
         const int columns = m_list.names.size();
-        const QString row = QStringLiteral("row %1").arg(number);
+        const QString row = tr("row %1").arg(number);
         if (cells.size() < columns)
-            Fail(QStringLiteral("%1: column %2 is missing")
-                     .arg(row, Quoted(m_list.names[cells.size()])));
+            Fail(tr("%1: column %2 is missing").arg(row, Quoted(m_list.names[cells.size()])));
         if (cells.size() > columns)
-            Fail(QStringLiteral("%1 has %2 cells, but the header has %3")
+            Fail(tr("%1 has %2 cells, but the header has %3")
                      .arg(row)
                      .arg(cells.size())
                      .arg(columns));
@@ -83,15 +85,15 @@ private:
             bool isNumber = false;
             const double value = QLocale::c().toDouble(cells[column].trimmed(), &isNumber);
             if (!isNumber || !std::isfinite(value))
-                Fail(QStringLiteral("%1, column %2: %3 is not a number")
+                Fail(tr("%1, column %2: %3 is not a number")
                          .arg(row, Quoted(m_list.names[column]), Quoted(cells[column])));
             values.push_back(value == 0.0 ? 0.0 : value); // -0 is the same run as 0.
         }
         const auto [earlier, isNew] = m_rows.emplace(values, number);
         if (!isNew)
-            Fail(QStringLiteral("%1 is equal to row %2").arg(row).arg(earlier->second));
+            Fail(tr("%1 is equal to row %2").arg(row).arg(earlier->second));
         if (m_list.runs.size() == StudyDefinition::MaximumRuns)
-            Fail(QStringLiteral("has more than %1 runs").arg(StudyDefinition::MaximumRuns));
+            Fail(tr("has more than %1 runs").arg(StudyDefinition::MaximumRuns));
         m_list.runs.push_back(std::move(values));
     }
 

@@ -2,11 +2,18 @@
 
 #include "ResultsTable.h"
 
+#include <QCoreApplication>
+
 #include <charconv>
 #include <limits>
 #include <utility>
 
 namespace {
+
+struct ResultColumnsText
+{
+    Q_DECLARE_TR_FUNCTIONS(ResultColumns)
+};
 
 const QByteArray OkStatus = "ok";
 const QByteArray FailedStatus = "failed";
@@ -38,19 +45,21 @@ QString ResultColumns::Take(const std::vector<QByteArray>& cells)
 {
     const std::size_t numbers = m_columns.size();
     if (cells.size() != numbers + 3)
-        return QStringLiteral("has %1 cells instead of %2").arg(cells.size()).arg(numbers + 3);
+        return ResultColumnsText::tr("has %1 cells instead of %2")
+            .arg(cells.size())
+            .arg(numbers + 3);
     int run = 0;
     if (!Read(cells[0], run) || run < 1)
-        return QStringLiteral("\"%1\" in the column run is not the number of a run")
+        return ResultColumnsText::tr("\"%1\" in the column run is not the number of a run")
             .arg(Shown(cells[0]));
     const QByteArray& status = cells[numbers + 1];
     if (status != OkStatus && status != FailedStatus)
-        return QStringLiteral("\"%1\" in the column status is neither ok nor failed")
+        return ResultColumnsText::tr("\"%1\" in the column status is neither ok nor failed")
             .arg(Shown(status));
     std::vector<double> values(numbers, std::numeric_limits<double>::quiet_NaN());
     for (std::size_t i = 0; i < numbers; ++i) {
         if (!cells[i + 1].isEmpty() && !Read(cells[i + 1], values[i]))
-            return QStringLiteral("\"%1\" in the column %2 is not a number")
+            return ResultColumnsText::tr("\"%1\" in the column %2 is not a number")
                 .arg(Shown(cells[i + 1]), m_names[int(i)].simplified());
     }
     const auto row = std::size_t(RowFor(run));

@@ -5,9 +5,16 @@
 #include "ResultsTable.h"
 #include "WholeFile.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace {
+
+struct ResultsFileText
+{
+    Q_DECLARE_TR_FUNCTIONS(ResultsFile)
+};
 
 const QString RunName = QStringLiteral("run");
 const QString StatusName = QStringLiteral("status");
@@ -26,15 +33,16 @@ QStringList NumberNames(const QString& path, const std::vector<QByteArray>& head
         names << PlainText(QString::fromUtf8(cell));
     for (const QString& name : {RunName, StatusName, ErrorName}) {
         if (!names.contains(name))
-            Fail(path,
-                 QStringLiteral("is not a table of results; it has no column \"%1\"").arg(name));
+            Fail(path, ResultsFileText::tr("is not a table of results; it has no column \"%1\"")
+                           .arg(name));
     }
     if (names.takeFirst() != RunName || names.takeLast() != ErrorName ||
         names.takeLast() != StatusName)
-        Fail(path, QStringLiteral("is not a table of results; its first column has to be \"run\", "
-                                  "its last ones \"status\" and \"error\""));
+        Fail(path,
+             ResultsFileText::tr("is not a table of results; its first column has to be \"run\", "
+                                 "its last ones \"status\" and \"error\""));
     if (names.removeDuplicates() > 0)
-        Fail(path, QStringLiteral("two columns have the same name"));
+        Fail(path, ResultsFileText::tr("two columns have the same name"));
     return names;
 }
 
@@ -49,7 +57,7 @@ ResultColumns ReadResults(const QString& path)
     CsvReader reader(text);
     std::vector<QByteArray> cells;
     if (!reader.Next(cells))
-        Fail(path, QStringLiteral("is empty"));
+        Fail(path, ResultsFileText::tr("is empty"));
     const QStringList names = NumberNames(path, cells);
     // The parameters stand before the measures.
     const int parameters = std::max(0, names.lastIndexOf(ResultsTable::MeasureNames().first()));
@@ -57,7 +65,7 @@ ResultColumns ReadResults(const QString& path)
     while (reader.Next(cells)) {
         const QString fault = columns.Take(cells);
         if (!fault.isEmpty())
-            Fail(path, QStringLiteral("row %1: %2").arg(reader.Row()).arg(fault));
+            Fail(path, ResultsFileText::tr("row %1: %2").arg(QString::number(reader.Row()), fault));
     }
     return columns;
 }

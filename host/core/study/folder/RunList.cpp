@@ -5,9 +5,16 @@
 #include "SolveFolder.h"
 #include "WholeFile.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace {
+
+struct RunListText
+{
+    Q_DECLARE_TR_FUNCTIONS(RunList)
+};
 
 constexpr int MaximumFileSize = 1024 * 1024 * 1024;
 
@@ -34,7 +41,7 @@ void RunList::Read(const QString& path)
         throw HostError(QStringLiteral("%1: %2").arg(path, file.Error()));
     const QByteArray header = HeaderLine();
     if (!bytes.startsWith(header))
-        throw HostError(QStringLiteral("%1: is not a list of the runs of this study").arg(path));
+        throw HostError(RunListText::tr("%1: is not a list of the runs of this study").arg(path));
     m_runs.clear();
     m_numbers.clear();
     for (int begin = header.size(); begin < bytes.size();) {
@@ -45,7 +52,7 @@ void RunList::Read(const QString& path)
                             bytes.mid(begin, comma - begin).toInt() == number &&
                             !m_numbers.contains(bytes.mid(comma + 1, end - comma - 1));
         if (!isGood)
-            throw HostError(QStringLiteral("%1: row %2 is damaged").arg(path).arg(number + 1));
+            throw HostError(RunListText::tr("%1: row %2 is damaged").arg(path).arg(number + 1));
         m_runs.push_back(bytes.mid(comma + 1, end - comma - 1));
         m_numbers.insert(m_runs.back(), number);
         begin = end + 1;

@@ -2,6 +2,7 @@
 
 #include "SolveFolder.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <fcntl.h>
@@ -10,6 +11,11 @@
 #include <cerrno>
 
 namespace {
+
+struct RunLocksText
+{
+    Q_DECLARE_TR_FUNCTIONS(RunLocks)
+};
 
 constexpr int CommonPlace = 0;
 
@@ -28,7 +34,7 @@ struct flock LockAt(short type, int place)
 
 [[noreturn]] void Fail(const QString& path)
 {
-    throw FolderError(QStringLiteral("%1: cannot be locked: %2").arg(path, qt_error_string()));
+    throw FolderError(RunLocksText::tr("%1: cannot be locked: %2").arg(path, qt_error_string()));
 }
 
 } // namespace

@@ -3,11 +3,20 @@
 #include "ExpressionEngine.h"
 #include "Project.h"
 
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <iterator>
 #include <limits>
 #include <map>
 #include <string>
 
 namespace {
+
+struct StudyColumnsText
+{
+    Q_DECLARE_TR_FUNCTIONS(StudyColumns)
+};
 
 constexpr double NoValue = std::numeric_limits<double>::quiet_NaN();
 
@@ -22,8 +31,14 @@ QString ExpressionFault(const QString& expression, const QStringList& names)
         variables.emplace(name.toLocal8Bit().toStdString(), Probe);
     ExpressionEngine::CalculateExpress(expression.toLocal8Bit().toStdString(), variables);
     const QString error = ExpressionEngine::LastError();
-    const bool isOfTheValues = error.contains(QLatin1String("operation has no")) ||
-                               error.contains(QLatin1String("becomes too large"));
+    // Other values may be in order.
+    const char* const ofTheValues[] = {"an operation has no real result, such as 0/0 or sqrt(-1)",
+                                       "an operation has no finite result, such as 1/0 or ln(0)",
+                                       "a number becomes too large"};
+    const bool isOfTheValues =
+        std::any_of(std::begin(ofTheValues), std::end(ofTheValues), [&error](const char* text) {
+            return error.contains(QCoreApplication::translate("ExpressionText", text));
+        });
     return isOfTheValues ? QString() : error;
 }
 
@@ -41,11 +56,12 @@ StudyColumns::StudyColumns(const Project& project)
         taken << record.m_strName;
     for (const StudyResponse& response : project.Study().responses) {
         if (taken.contains(response.name))
-            throw HostError(QStringLiteral("%1: the response \"%2\" has the name of another column")
-                                .arg(project.Path(), response.name.simplified()));
+            throw HostError(
+                StudyColumnsText::tr("%1: the response \"%2\" has the name of another column")
+                    .arg(project.Path(), response.name.simplified()));
         const QString fault = ExpressionFault(response.expression, taken);
         if (!fault.isEmpty())
-            throw HostError(QStringLiteral("%1: the response \"%2\" cannot be calculated: %3")
+            throw HostError(StudyColumnsText::tr("%1: the response \"%2\" cannot be calculated: %3")
                                 .arg(project.Path(), response.name.simplified(), fault));
         m_names << response.name;
         taken << response.name;

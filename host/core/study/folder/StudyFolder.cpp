@@ -43,7 +43,7 @@ std::unique_ptr<StudyFolder> StudyFolder::Open(const QString& path)
 {
     std::unique_ptr<StudyFolder> folder(new StudyFolder(path));
     if (!Exists(path))
-        throw HostError(QStringLiteral("%1: is not the folder of a study; there is no %2 in it")
+        throw HostError(tr("%1: is not the folder of a study; there is no %2 in it")
                             .arg(path, FingerprintName));
     folder->ReadRuns(folder->ReadFingerprint());
     return folder;
@@ -53,7 +53,7 @@ std::unique_ptr<StudyFolder>
 StudyFolder::Prepare(const QString& path, const QJsonObject& fingerprint, const RunList& runs)
 {
     if (!QDir(path).mkpath(QStringLiteral(".")))
-        throw FolderError(QStringLiteral("%1: cannot create the folder").arg(path));
+        throw FolderError(tr("%1: cannot create the folder").arg(path));
     std::unique_ptr<StudyFolder> folder(new StudyFolder(path));
     const QString file = folder->PathOf(FingerprintName);
     const auto refuseOther = [&] {

@@ -5,6 +5,7 @@
 #include "ResultsFile.h"
 #include "StudyFolder.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -47,7 +48,8 @@ StudyFollower::News StudyFollower::NextOfFolder()
         reader.Next(cells);
         const QString fault = news.columns.Take(cells);
         if (!fault.isEmpty())
-            throw HostError(QStringLiteral("%1: run %2: %3").arg(m_path).arg(run).arg(fault));
+            throw HostError(QCoreApplication::translate("StudyFollower", "%1: run %2: %3")
+                                .arg(m_path, QString::number(run), fault));
     }
     return news;
 }

@@ -2,6 +2,7 @@
 
 #include "HostError.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -35,8 +36,8 @@ void StudyRecords::Read(const QString& name)
     if (file.size() <= read)
         return;
     if (!file.open(QIODevice::ReadOnly) || !file.seek(read))
-        throw HostError(
-            QStringLiteral("%1: cannot be read: %2").arg(file.fileName(), file.errorString()));
+        throw HostError(QCoreApplication::translate("StudyRecords", "%1: cannot be read: %2")
+                            .arg(file.fileName(), file.errorString()));
     for (;;) {
         const QByteArray bytes = file.read(BlockSize);
         int begin = 0;

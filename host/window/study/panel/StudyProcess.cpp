@@ -14,6 +14,10 @@
 
 namespace {
 
+// How the program without a window ends.
+constexpr int RunsFailedCode = 1;
+constexpr int BadFolderCode = 3;
+
 QString program;
 
 /// Ends with the window, however that ends.
@@ -119,6 +123,11 @@ void StudyProcess::HandleEnd()
         problem = process->errorString();
     else if (process->exitStatus() == QProcess::CrashExit && problem.isEmpty())
         problem = tr("the program that ran it crashed");
+    else if (process->exitCode() == RunsFailedCode)
+        problem = tr("some runs failed; the table shows the reasons");
+    else if (process->exitCode() == BadFolderCode)
+        problem =
+            tr("the disk is full, or the folder cannot be written (%1)").arg(problem.trimmed());
     const State next = wasAsked ? m_wanted : Idle;
     if (next == Idle)
         m_project.reset();

@@ -1,3 +1,4 @@
+#include "Language.h"
 #include "StudyRuns.h"
 #include "StudySelection.h"
 #include "StudyTable.h"
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void RunsWithoutANumberAreLastInBothOrders();
     void AFilterLeavesRuns_data();
     void AFilterLeavesRuns();
+    void ValuesWithoutAResultAreNoFaultInAnyLanguage();
     void ABadFilterChangesNothing_data();
     void ABadFilterChangesNothing();
     void RunsThatComeInAreFilteredAndSorted();
@@ -105,6 +107,16 @@ void tst_StudyTable::AFilterLeavesRuns()
     open.table.Take(SomeRuns(4));
     QCOMPARE(open.table.SetFilter(filter), QString());
     QCOMPARE(RunsOf(open.table), runs);
+}
+
+void tst_StudyTable::ValuesWithoutAResultAreNoFaultInAnyLanguage()
+{
+    for (const QString& name : Language::Known()) {
+        const Language language(name);
+        Open open;
+        open.table.Take(SomeRuns(4));
+        QCOMPARE(open.table.SetFilter("sqrt(0 - a) > 1"), QString());
+    }
 }
 
 void tst_StudyTable::ABadFilterChangesNothing_data()
