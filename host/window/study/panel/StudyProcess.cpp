@@ -1,5 +1,6 @@
 #include "StudyProcess.h"
 
+#include "ExitCode.h"
 #include "HostError.h"
 #include "Project.h"
 
@@ -13,10 +14,6 @@
 #include <csignal>
 
 namespace {
-
-// How the program without a window ends.
-constexpr int RunsFailedCode = 1;
-constexpr int BadFolderCode = 3;
 
 QString program;
 
@@ -123,7 +120,7 @@ void StudyProcess::HandleEnd()
         problem = process->errorString();
     else if (process->exitStatus() == QProcess::CrashExit && problem.isEmpty())
         problem = tr("the program that ran it crashed");
-    else if (process->exitCode() == RunsFailedCode)
+    else if (process->exitCode() == FailedCode)
         problem = tr("some runs failed; the table shows the reasons");
     else if (process->exitCode() == BadFolderCode)
         problem =
