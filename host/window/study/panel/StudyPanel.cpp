@@ -44,7 +44,7 @@ QString NextName(const QDir& parent, const QString& name)
     QString stem = name;
     stem.remove(QRegularExpression(QStringLiteral("(_[0-9]+)?/*$")));
     for (int number = 2;; ++number) {
-        const QString next = QStringLiteral("%1_%2").arg(stem).arg(number);
+        QString next = QStringLiteral("%1_%2").arg(stem).arg(number);
         if (!QFileInfo::exists(parent.filePath(next)))
             return next;
     }
