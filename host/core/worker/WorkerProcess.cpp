@@ -34,6 +34,14 @@
 
 namespace {
 
+// Who shows the part goes back and forth between its states. The runs of a study never come back;
+// all that they share is used again in each run, and stays.
+qint64 CacheSize(const PartRequest& request)
+{
+    constexpr qint64 StudySize = qint64(128) * 1024 * 1024;
+    return request.wantsShapes ? ResultCache::DefaultSize : StudySize;
+}
+
 /// Standard input and output as messages.
 class Channel
 {
@@ -282,12 +290,14 @@ int RunWorker(int argc, char** argv)
     std::setlocale(LC_NUMERIC, "C");
     const Language language(QString::fromLatin1(argv[2]));
 
-    ResultCache cache;
+    std::optional<ResultCache> cache;
     while (const std::optional<QByteArray> message = channel.Read()) {
         if (message->isEmpty())
             continue;
         const PartRequest request = RequestFromBytes(*message);
-        Answer answer(request, channel, cache, megabytes);
+        if (!cache)
+            cache.emplace(CacheSize(request));
+        Answer answer(request, channel, *cache, megabytes);
         channel.Write(answer.Bytes());
         if (answer.IsLast())
             _exit(EXIT_FAILURE);
