@@ -41,5 +41,5 @@ target_link_libraries(TarnGUICommon PUBLIC ${TARN_DIALOG_LIBRARIES} PRIVATE $<BU
 add_subdirectory(forms)
 tarn_add_folders(TarnGUICommonObjects ${TARN_DIALOG_FOLDERS})
 get_target_property(includes TarnGUICommonObjects INTERFACE_INCLUDE_DIRECTORIES)
-target_include_directories(TarnGUICommon PUBLIC "$<BUILD_INTERFACE:${includes}>")
+target_include_directories(TarnGUICommon ${TARN_SOURCE_FOLDERS} "$<BUILD_INTERFACE:${includes}>")
 tarn_install_library(TarnGUICommon)

@@ -20,6 +20,15 @@ if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_DATADIR
   set(TARN_BUILD_DATA_DIR "${PROJECT_BINARY_DIR}/share/TarnGUICommon")
 endif()
 
+# A project around this one sees the public headers only, as links in one folder. Host, tests and fuzz targets see the
+# source folders.
+set(TARN_BUILD_INCLUDE_DIR "${PROJECT_BINARY_DIR}/include/TarnGUICommon")
+file(MAKE_DIRECTORY "${TARN_BUILD_INCLUDE_DIR}")
+set(TARN_SOURCE_FOLDERS PRIVATE)
+if(TARN_HOST OR TARN_TESTS OR TARN_FUZZ)
+  set(TARN_SOURCE_FOLDERS PUBLIC)
+endif()
+
 # tarn_add_library(<target> [<source>...])
 #
 # Adds one of them with the common settings: export header, version, hidden symbols, no undefined symbols. A class of
@@ -34,6 +43,9 @@ function(tarn_add_library target)
   tarn_public_headers(${target} "${export_header}")
   target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/exports>"
                                               "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon>")
+  if(TARN_SOURCE_FOLDERS STREQUAL PRIVATE)
+    target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${TARN_BUILD_INCLUDE_DIR}>")
+  endif()
   set(symbols "${PROJECT_SOURCE_DIR}/cmake/exports.map")
   set(shared_data "${PROJECT_SOURCE_DIR}/cmake/shared-data.list")
   target_link_options(${target} PRIVATE "-Wl,--version-script=${symbols}" "-Wl,--dynamic-list=${shared_data}"
@@ -58,7 +70,7 @@ function(tarn_add_model_library target)
   tarn_add_library(${target})
   target_link_libraries(${target} PUBLIC Qt${TARN_QT}::Core ${TARN_QT_TEXT_CODEC}
                         PRIVATE $<BUILD_INTERFACE:TarnStrict> $<BUILD_INTERFACE:TarnModelSupport>)
-  target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>")
+  target_include_directories(${target} ${TARN_SOURCE_FOLDERS} "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>")
 endfunction()
 
 # tarn_add_folders(<target> <folder>...)
@@ -80,6 +92,8 @@ function(tarn_public_headers target)
   foreach(header IN LISTS ARGN)
     get_filename_component(header "${header}" ABSOLUTE)
     set_property(TARGET ${target} APPEND PROPERTY PUBLIC_HEADER "${header}")
+    get_filename_component(name "${header}" NAME)
+    file(CREATE_LINK "${header}" "${TARN_BUILD_INCLUDE_DIR}/${name}" SYMBOLIC)
   endforeach()
 endfunction()
 

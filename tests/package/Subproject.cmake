@@ -4,6 +4,12 @@ include("${CMAKE_CURRENT_LIST_DIR}/Run.cmake")
 file(MAKE_DIRECTORY "${WORK_DIR}/host")
 configure_file("${CONSUMER_DIR}/main.cpp" "${WORK_DIR}/host/main.cpp" COPYONLY)
 file(
+  WRITE "${WORK_DIR}/host/hidden.cpp"
+  "#if __has_include(<Notice.h>) || __has_include(<SafeFile.h>) || __has_include(<WholeFile.h>)
+#error The host sees headers that are not installed
+#endif
+")
+file(
   WRITE "${WORK_DIR}/host/CMakeLists.txt"
   "cmake_minimum_required(VERSION 3.22)
 project(host LANGUAGES CXX)
@@ -11,7 +17,7 @@ include(FetchContent)
 include(CTest)
 FetchContent_Declare(TarnGUICommon SOURCE_DIR ${SOURCE_DIR})
 FetchContent_MakeAvailable(TarnGUICommon)
-add_executable(consumer main.cpp)
+add_executable(consumer main.cpp hidden.cpp)
 target_link_libraries(consumer PRIVATE TarnGUICommon::TarnGUICommon)
 install(TARGETS consumer)
 ")
