@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AnalysisType.h"
 #include "ShapeReference.h"
 
 #include <QString>
@@ -90,9 +91,22 @@ struct FrequencyRange
     }
 };
 
+/// The pair of codes that CAnalysisTypeGUI asks for.
+struct SolverType
+{
+    int family = AnalysisType::MechanicsFamily;
+    int kind = AnalysisType::VibrationKind;
+
+    bool operator==(const SolverType& other) const
+    {
+        return family == other.family && kind == other.kind;
+    }
+};
+
 /// The entry "analysis" of a project.
 struct AnalysisDefinition
 {
+    SolverType type; ///< That the user has in mind: it is checked, but results do not depend on it.
     QString meshSize; ///< In mm; empty for a tenth of the longest side of the part's box.
     FrequencyRange frequencies;
     std::vector<PropertyDefinition> properties;
@@ -102,9 +116,10 @@ struct AnalysisDefinition
 
     bool operator==(const AnalysisDefinition& other) const
     {
-        return meshSize == other.meshSize && frequencies == other.frequencies &&
-               properties == other.properties && constraints == other.constraints &&
-               loads == other.loads && localMeshes == other.localMeshes;
+        return type == other.type && meshSize == other.meshSize &&
+               frequencies == other.frequencies && properties == other.properties &&
+               constraints == other.constraints && loads == other.loads &&
+               localMeshes == other.localMeshes;
     }
     bool operator!=(const AnalysisDefinition& other) const { return !(*this == other); }
 };

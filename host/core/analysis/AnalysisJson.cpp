@@ -10,6 +10,7 @@
 
 namespace {
 
+const QLatin1String TypeKey("type");
 const QLatin1String MeshSizeKey("meshSize");
 const QLatin1String FrequenciesKey("frequencies");
 const QLatin1String PropertiesKey("properties");
@@ -32,6 +33,33 @@ const QLatin1String SizeKey("size");
 const std::array<QLatin1String, ConstraintDefinition::Freedoms> FreedomWords = {
     QLatin1String("X_D"), QLatin1String("Y_D"), QLatin1String("Z_D"),
     QLatin1String("X_R"), QLatin1String("Y_R"), QLatin1String("Z_R")};
+
+struct TypeWord
+{
+    QLatin1String word;
+    SolverType type;
+};
+
+const std::array<TypeWord, 6> TypeWords = {{
+    {QLatin1String("static"), {AnalysisType::MechanicsFamily, AnalysisType::StaticKind}},
+    {QLatin1String("vibration"), {AnalysisType::MechanicsFamily, AnalysisType::VibrationKind}},
+    {QLatin1String("buckling"), {AnalysisType::MechanicsFamily, AnalysisType::BucklingKind}},
+    {QLatin1String("transient"), {AnalysisType::MechanicsFamily, AnalysisType::TransientKind}},
+    {QLatin1String("frequencyResponse"),
+     {AnalysisType::MechanicsFamily, AnalysisType::FrequencyResponseKind}},
+    {QLatin1String("complexEigenvalue"),
+     {AnalysisType::ComplexEigenvalueFamily, AnalysisType::ComplexEigenvalueKind}},
+}};
+
+SolverType ReadType(const JsonSection& section)
+{
+    const QString text = section.GivenText(TypeKey);
+    const auto found = std::find_if(TypeWords.begin(), TypeWords.end(),
+                                    [&](const TypeWord& known) { return known.word == text; });
+    if (found == TypeWords.end())
+        section.Fail(JsonError::tr("is of the unknown type %1").arg(Quoted(text)));
+    return found->type;
+}
 
 // The place of an entry that has a name, for messages.
 QString NamedPlace(const QString& nameless, const QJsonValue& json)
@@ -205,10 +233,12 @@ QJsonArray ListToJson(const std::vector<Entry>& entries)
 
 AnalysisDefinition ReadAnalysis(const QJsonValue& json)
 {
-    const JsonSection section(
-        JsonError::tr("the analysis"), json,
-        {MeshSizeKey, FrequenciesKey, PropertiesKey, ConstraintsKey, LoadsKey, LocalMeshesKey});
+    const JsonSection section(JsonError::tr("the analysis"), json,
+                              {TypeKey, MeshSizeKey, FrequenciesKey, PropertiesKey, ConstraintsKey,
+                               LoadsKey, LocalMeshesKey});
     AnalysisDefinition analysis;
+    if (section.Has(TypeKey))
+        analysis.type = ReadType(section);
     analysis.meshSize = section.Expression(MeshSizeKey);
     if (section.Has(FrequenciesKey))
         analysis.frequencies = ReadFrequencies(section.Value(FrequenciesKey));
@@ -229,6 +259,10 @@ AnalysisDefinition ReadAnalysis(const QJsonValue& json)
 QJsonObject ToJson(const AnalysisDefinition& analysis)
 {
     QJsonObject json;
+    for (const TypeWord& known : TypeWords) {
+        if (known.type == analysis.type && !(analysis.type == SolverType()))
+            json.insert(TypeKey, known.word);
+    }
     if (!analysis.meshSize.isEmpty())
         json.insert(MeshSizeKey, ExpressionToJson(analysis.meshSize));
     if (!(analysis.frequencies == FrequencyRange()))

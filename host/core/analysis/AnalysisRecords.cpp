@@ -1,6 +1,5 @@
 #include "AnalysisRecords.h"
 
-#include "AnalysisType.h"
 #include "AttributeCommonMgr.h"
 #include "AttributeRecords.h"
 #include "FrequencyPref.h"
@@ -27,21 +26,12 @@ void StoreFrequencies(const FrequencyRange& range)
 
 AnalysisRecords::AnalysisRecords(QObject* parent)
     : QObject(parent)
-    , m_family(AnalysisType::MechanicsFamily)
-    , m_kind(AnalysisType::VibrationKind)
 {
 }
 
 AnalysisRecords::~AnalysisRecords()
 {
     FreeNames();
-}
-
-void AnalysisRecords::SetSolverType(int family, int kind)
-{
-    m_family = family;
-    m_kind = kind;
-    Q_EMIT Changed();
 }
 
 void AnalysisRecords::SetDefinition(const AnalysisDefinition& definition)
@@ -65,8 +55,6 @@ void AnalysisRecords::TakeStores()
 
 void AnalysisRecords::Start(const AnalysisDefinition& definition)
 {
-    m_family = AnalysisType::MechanicsFamily;
-    m_kind = AnalysisType::VibrationKind;
     FreeNames();
     m_definition = definition;
     RegisterNames();

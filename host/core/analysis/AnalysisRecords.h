@@ -18,10 +18,6 @@ public:
     explicit AnalysisRecords(QObject* parent = nullptr);
     ~AnalysisRecords() override;
 
-    int Family() const { return m_family; } ///< As CAnalysisTypeGUI; Vibration initially.
-    int Kind() const { return m_kind; }     ///< As CAnalysisTypeGUI; Vibration initially.
-    void SetSolverType(int family, int kind);
-
     const AnalysisDefinition& Definition() const { return m_definition; }
     /// Replaces the set-up; the stores follow.
     void SetDefinition(const AnalysisDefinition& definition);
@@ -43,8 +39,6 @@ private:
     void FreeNames();
     void RegisterNames();
 
-    int m_family;
-    int m_kind;
     AnalysisDefinition m_definition;
 };
 

@@ -1,10 +1,13 @@
 #include "SetupCheck.h"
 
 #include "AnalysisType.h"
+#include "BuildError.h"
+#include "BuiltPart.h"
 #include "ExpressionEngine.h"
 #include "FieldValues.h"
 #include "MaterialLibrary.h"
 #include "NumberTexts.h"
+#include "PartFaces.h"
 
 #include <QCoreApplication>
 
@@ -48,7 +51,7 @@ private:
     void CheckFrequencies();
     void CheckMeshes();
 
-    bool IsStatic() const { return m_context.kind == AnalysisType::StaticKind; }
+    bool IsStatic() const { return m_analysis.type.kind == AnalysisType::StaticKind; }
     void Fail(const AnalysisEntry& entry, const QString& text)
     {
         m_problems.push_back({text, entry});
@@ -59,6 +62,10 @@ private:
     }
     // NaN if the text has no value, which is then a problem. @p what begins the message.
     double Value(const AnalysisEntry& entry, const QString& what, const QString& text);
+    // Of faces and edges: each has to mean some of the part.
+    void CheckTargets(const AnalysisEntry& entry, const QString& what,
+                      const std::vector<FaceReference>& faces,
+                      const std::vector<EdgeReference>& edges);
     // Of a number that has to be above 0.
     void CheckPositive(const AnalysisEntry& entry, const QString& what, const QString& text,
                        const QString& unit);
@@ -88,10 +95,32 @@ void Check::CheckPositive(const AnalysisEntry& entry, const QString& what, const
              tr("%1 is %2 %3, but has to be greater than 0").arg(what, ExactText(value), unit));
 }
 
+void Check::CheckTargets(const AnalysisEntry& entry, const QString& what,
+                         const std::vector<FaceReference>& faces,
+                         const std::vector<EdgeReference>& edges)
+{
+    if (m_context.part == nullptr || m_context.part->shape.IsNull())
+        return;
+    const PartFaces part(*m_context.part);
+    const auto check = [&](const auto& find) {
+        try {
+            find();
+        } catch (const BuildError& error) {
+            Fail(entry, tr("%1: %2", "name of an entry: what is wrong").arg(what, error.Reason()));
+        }
+    };
+    for (const FaceReference& face : faces)
+        check([&] { part.Faces(PartFaces::WholePart, m_values.Of(face)); });
+    for (const EdgeReference& edge : edges)
+        check([&] { part.Edges(PartFaces::WholePart, m_values.Of(edge)); });
+}
+
 void Check::CheckPart()
 {
     const AnalysisEntry entry{AnalysisEntry::Part};
-    if (m_context.longestSide <= 0.0)
+    if (!m_context.failure.isEmpty())
+        Fail(entry, tr("The part cannot be built: %1").arg(m_context.failure));
+    else if (m_context.longestSide <= 0.0)
         Fail(entry, tr("There is no part: add a body to analyse"));
     const QString overlaps = m_context.overlaps.AnalysisProblem();
     if (!overlaps.isEmpty())
@@ -100,8 +129,8 @@ void Check::CheckPart()
 
 void Check::CheckType()
 {
-    const bool isSolvable = m_context.family == AnalysisType::MechanicsFamily &&
-                            (m_context.kind == AnalysisType::VibrationKind || IsStatic());
+    const bool isSolvable = m_analysis.type.family == AnalysisType::MechanicsFamily &&
+                            (m_analysis.type.kind == AnalysisType::VibrationKind || IsStatic());
     if (!isSolvable)
         Fail({AnalysisEntry::SolverType},
              tr("This kind of analysis cannot be solved here: choose vibration or static"));
@@ -138,6 +167,7 @@ void Check::CheckProperties()
                 entry,
                 tr("%1 is not used: another property already applies to the whole part").arg(what));
         hasSolid = hasSolid || property.faces.empty();
+        CheckTargets(entry, what, property.faces, {});
     }
 }
 
@@ -159,13 +189,13 @@ void Check::CheckConstraints()
     for (std::size_t index = 0; index < m_analysis.constraints.size(); ++index) {
         const ConstraintDefinition& constraint = m_analysis.constraints[index];
         const AnalysisEntry entry{AnalysisEntry::Constraint, int(index)};
+        const QString what = tr("Boundary condition \"%1\"").arg(constraint.name);
         const auto& held = constraint.held;
         if (std::find(held.begin(), held.end(), true) == held.end())
-            Fail(entry,
-                 tr("Boundary condition \"%1\" fixes no degree of freedom").arg(constraint.name));
+            Fail(entry, tr("%1 fixes no degree of freedom").arg(what));
         if (constraint.faces.empty() && constraint.edges.empty())
-            Fail(entry, tr("Boundary condition \"%1\" acts nowhere: pick its faces or edges")
-                            .arg(constraint.name));
+            Fail(entry, tr("%1 acts nowhere: pick its faces or edges").arg(what));
+        CheckTargets(entry, what, constraint.faces, constraint.edges);
     }
 }
 
@@ -187,6 +217,7 @@ void Check::CheckLoads()
             Fail(entry, tr("%1 is zero").arg(what));
         if (load.faces.empty() && load.edges.empty())
             Fail(entry, tr("%1 acts nowhere: pick its faces or edges").arg(what));
+        CheckTargets(entry, what, load.faces, load.edges);
         if (!IsStatic())
             Warn(entry, tr("%1 has no effect on natural frequencies").arg(what));
     }
@@ -232,6 +263,7 @@ void Check::CheckMeshes()
             CheckPositive(local, tr("%1: the number").arg(what), mesh.number, QString());
         if (mesh.faces.empty() && mesh.edges.empty())
             Fail(local, tr("%1 applies nowhere: pick its faces or edges").arg(what));
+        CheckTargets(local, what, mesh.faces, mesh.edges);
     }
 }
 

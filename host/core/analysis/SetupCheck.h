@@ -7,6 +7,8 @@
 
 #include <vector>
 
+struct BuiltPart;
+
 /// A place in the set-up of an analysis.
 struct AnalysisEntry
 {
@@ -42,11 +44,12 @@ struct SetupProblem
 /// What the check knows beside the set-up itself.
 struct SetupContext
 {
-    int family = 0; ///< Of AnalysisType.
-    int kind = 0;   ///< Of AnalysisType.
     QString partMaterial;
     BodyOverlaps overlaps;
     double longestSide = 0.0; ///< Of the part's box, in mm; 0 without a part.
+    QString failure;          ///< Why the features build no part now; empty if they do.
+    /// In which targets are looked for; without it they are taken as found.
+    const BuiltPart* part = nullptr;
 };
 
 /// What would keep a solver from running, or from computing what the user means. Numbers have the

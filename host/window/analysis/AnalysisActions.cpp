@@ -70,6 +70,7 @@ AnalysisActions::AnalysisActions(AnalysisRecords& model, AnalysisTree& tree, Set
     });
     connect(&model, &AnalysisRecords::Changed, &check, &SetupCheckDock::MarkAsOld);
     connect(&part, &PartModel::Changed, &check, &SetupCheckDock::MarkAsOld);
+    connect(&part, &PartModel::PartBuilt, &check, &SetupCheckDock::MarkAsOld);
 }
 
 AnalysisActions::~AnalysisActions() = default;
@@ -114,14 +115,16 @@ bool AnalysisActions::Change(const std::function<bool(AnalysisDefinition&)>& edi
 
 void AnalysisActions::ChooseType()
 {
-    int family = m_model.Family();
-    int kind = m_model.Kind();
-    CAnalysisTypeGUI dialog(m_window);
-    dialog.InitData(family, kind);
-    // OK only hides the dialog, so the result of exec() has no meaning; Cancel restores the pair.
-    dialog.exec();
-    dialog.getSolverType(family, kind);
-    m_model.SetSolverType(family, kind);
+    Change([this](AnalysisDefinition& analysis) {
+        SolverType& type = analysis.type;
+        CAnalysisTypeGUI dialog(m_window);
+        dialog.InitData(type.family, type.kind);
+        // OK only hides the dialog, so the result of exec() has no meaning; Cancel restores the
+        // pair.
+        dialog.exec();
+        dialog.getSolverType(type.family, type.kind);
+        return true;
+    });
 }
 
 void AnalysisActions::AddBoundaryCondition()
@@ -263,10 +266,10 @@ void AnalysisActions::CheckSetupNow()
 {
     ReadFiles();
     SetupContext context;
-    context.family = m_model.Family();
-    context.kind = m_model.Kind();
     context.partMaterial = m_material();
     context.overlaps = m_part.Measures().overlaps;
     context.longestSide = LongestSide(m_part.Measures());
+    context.failure = m_part.Failure();
+    context.part = &m_part.Built();
     m_check.ShowProblems(CheckSetup(m_model.Definition(), context));
 }

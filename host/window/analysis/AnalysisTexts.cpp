@@ -1,6 +1,5 @@
 #include "AnalysisTexts.h"
 
-#include "AnalysisType.h"
 #include "NumberTexts.h"
 
 #include <QCoreApplication>
@@ -29,28 +28,27 @@ QString TargetsText(const std::vector<FaceReference>& faces,
 
 } // namespace
 
-QString SolverTypeText(int family, int kind)
+QString SolverTypeText(const SolverType& type)
 {
     using namespace AnalysisType;
     const struct
     {
-        int family;
-        int kind;
+        SolverType type;
         QString text;
     } types[] = {
-        {MechanicsFamily, StaticKind, Texts::tr("Static")},
-        {MechanicsFamily, VibrationKind, Texts::tr("Vibration")},
-        {MechanicsFamily, BucklingKind, Texts::tr("Buckling")},
-        {MechanicsFamily, TransientKind, Texts::tr("Transient")},
-        {MechanicsFamily, FrequencyResponseKind, Texts::tr("Frequency response")},
-        {ComplexEigenvalueFamily, ComplexEigenvalueKind, Texts::tr("Complex eigenvalue")},
+        {{MechanicsFamily, StaticKind}, Texts::tr("Static")},
+        {{MechanicsFamily, VibrationKind}, Texts::tr("Vibration")},
+        {{MechanicsFamily, BucklingKind}, Texts::tr("Buckling")},
+        {{MechanicsFamily, TransientKind}, Texts::tr("Transient")},
+        {{MechanicsFamily, FrequencyResponseKind}, Texts::tr("Frequency response")},
+        {{ComplexEigenvalueFamily, ComplexEigenvalueKind}, Texts::tr("Complex eigenvalue")},
     };
     QString text = Texts::tr("unknown");
-    for (const auto& type : types) {
-        if (type.family == family && type.kind == kind)
-            text = type.text;
+    for (const auto& known : types) {
+        if (known.type == type)
+            text = known.text;
     }
-    return Texts::tr("%1 (family %2, kind %3)").arg(text).arg(family).arg(kind);
+    return Texts::tr("%1 (family %2, kind %3)").arg(text).arg(type.family).arg(type.kind);
 }
 
 QString EntryText(const ConstraintDefinition& constraint)

@@ -7,7 +7,7 @@
 // What the tree says of the entries of a set-up. Numbers bear their units; expressions are shown as
 // they are.
 
-QString SolverTypeText(int family, int kind);
+QString SolverTypeText(const SolverType& type);
 QString EntryText(const ConstraintDefinition& constraint);
 QString EntryText(const LoadDefinition& load);
 QString EntryText(const PropertyDefinition& property);

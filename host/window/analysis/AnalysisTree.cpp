@@ -115,7 +115,7 @@ void AnalysisTree::Refresh()
         const QSignalBlocker blocker(m_tree);
         m_tree->clear();
         AddGroup(tr("Analysis type"), AnalysisEntry::SolverType)
-            ->setText(ValueColumn, SolverTypeText(m_model.Family(), m_model.Kind()));
+            ->setText(ValueColumn, SolverTypeText(m_model.Definition().type));
         ShowEntries(tr("Boundary conditions"), AnalysisEntry::Constraint, analysis.constraints);
         ShowEntries(tr("Loads"), AnalysisEntry::Load, analysis.loads);
         ShowEntries(tr("Element properties"), AnalysisEntry::Property, analysis.properties);

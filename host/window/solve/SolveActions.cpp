@@ -90,6 +90,9 @@ SolveActions::Input SolveActions::CurrentInput() const
     input.project.SetTitle({});
     input.project.SetStudy({});
     input.project.SetSampleLists({});
+    AnalysisDefinition analysis = input.project.Analysis();
+    analysis.type = {};
+    input.project.SetAnalysis(analysis);
     return input;
 }
 

@@ -92,6 +92,13 @@ QJsonObject RecordedPart(StudyDefinition study)
     return ToJson(recorded);
 }
 
+// Studies have analyses of their own.
+QJsonObject AnalysisPart(AnalysisDefinition analysis)
+{
+    analysis.type = {};
+    return ToJson(analysis);
+}
+
 QStringList Texts(const QJsonValue& json)
 {
     QStringList texts;
@@ -122,7 +129,7 @@ QJsonObject StudyFingerprint(const Project& project, const QStringList& inputs, 
             {QLatin1String("files"), ImportedFiles(project)},
             {QLatin1String("material"), project.Material()},
             {QLatin1String("density"), density},
-            {QLatin1String("analysis"), Hash(ToJson(project.Analysis()))},
+            {QLatin1String("analysis"), Hash(AnalysisPart(project.Analysis()))},
             {QLatin1String("study"), RecordedPart(project.Study())},
             {ColumnsKey, QJsonArray::fromStringList(StudyColumns(project).Names())},
             {QLatin1String("kernel"), QStringLiteral(OCC_VERSION_COMPLETE)}};

@@ -12,6 +12,8 @@ private Q_SLOTS:
     void EveryEntryIsRead();
     void DefaultsAreLeftOut();
     void WhatIsWrittenReadsTheSame();
+    void EveryTypeIsKept_data();
+    void EveryTypeIsKept();
     void BadEntriesAreReported_data();
     void BadEntriesAreReported();
 };
@@ -19,6 +21,7 @@ private Q_SLOTS:
 namespace {
 
 const char* const Everything = R"({
+    "type": "static",
     "meshSize": "t * 4",
     "frequencies": {"min": 0, "max": 5000, "number": 3},
     "properties": [{"name": "web", "material": "Steel S355", "thickness": "t",
@@ -42,6 +45,7 @@ QJsonValue Json(const QByteArray& text)
 void tst_AnalysisJson::EveryEntryIsRead()
 {
     const AnalysisDefinition analysis = ReadAnalysis(Json(Everything));
+    QVERIFY(analysis.type == (SolverType{AnalysisType::MechanicsFamily, AnalysisType::StaticKind}));
     QCOMPARE(analysis.meshSize, QString("t * 4"));
     QVERIFY(analysis.frequencies == (FrequencyRange{0.0, 5000.0, 3}));
 
@@ -81,6 +85,19 @@ void tst_AnalysisJson::WhatIsWrittenReadsTheSame()
     QVERIFY(ReadAnalysis(written) == analysis);
 }
 
+void tst_AnalysisJson::EveryTypeIsKept_data()
+{
+    NewNameRows("type",
+                {"static", "buckling", "transient", "frequencyResponse", "complexEigenvalue"});
+}
+
+void tst_AnalysisJson::EveryTypeIsKept()
+{
+    QFETCH(QByteArray, type);
+    const QJsonObject json{{"type", QString(type)}};
+    QCOMPARE(ToJson(ReadAnalysis(json)), json);
+}
+
 void tst_AnalysisJson::BadEntriesAreReported_data()
 {
     QTest::addColumn<QByteArray>("json");
@@ -90,6 +107,7 @@ void tst_AnalysisJson::BadEntriesAreReported_data()
     };
     row("not an object", "[]", "the analysis must be an object");
     row("unknown entry", R"({"mesh": 1})", R"(the analysis has the unknown entry "mesh")");
+    row("type", R"({"type": "statics"})", R"(the analysis is of the unknown type "statics")");
     row("mesh size", R"({"meshSize": true})",
         R"(the analysis has a "meshSize" that is not a number or an expression)");
     row("unknown frequency entry", R"({"frequencies": {"least": 1}})",

@@ -2,7 +2,10 @@
 #include "AnalysisType.h"
 #include "EmptyAnalysisStores.h"
 #include "EmptyDesignStores.h"
+#include "FeatureBuilder.h"
+#include "FeatureList.h"
 #include "KVMaterialData.h"
+#include "NewFeature.h"
 #include "SetupCheck.h"
 #include "TestCase.h"
 
@@ -26,6 +29,8 @@ private Q_SLOTS:
     void WarningsDoNotKeepASolverFromRunning();
     void AMaterialIsCheckedOnceHoweverOftenItIsUsed();
     void SeveralProblemsAreAllListed();
+    void TargetsThatFindNothingAreReported_data();
+    void TargetsThatFindNothingAreReported();
 
 private:
     const EmptyDesignStores m_parameters;
@@ -48,6 +53,7 @@ void AddMaterial(const QString& name, const QString& poisson = "0.3")
 AnalysisDefinition Complete()
 {
     AnalysisDefinition analysis;
+    analysis.type.kind = AnalysisType::StaticKind;
     analysis.meshSize = "4";
     analysis.properties = {Property("body", "steel")};
     analysis.constraints = {Constraint("foot")};
@@ -58,8 +64,6 @@ AnalysisDefinition Complete()
 SetupContext StaticPart()
 {
     SetupContext context;
-    context.family = AnalysisType::MechanicsFamily;
-    context.kind = AnalysisType::StaticKind;
     context.longestSide = 100.0;
     return context;
 }
@@ -112,10 +116,13 @@ void tst_SetupCheck::EachFaultIsReported_data()
     });
     row("another type", AnalysisEntry::SolverType,
         "This kind of analysis cannot be solved here: choose vibration or static",
-        [](Definition& analysis, SetupContext& context) {
-            context.kind = AnalysisType::BucklingKind;
+        [](Definition& analysis, SetupContext&) {
+            analysis.type.kind = AnalysisType::BucklingKind;
             analysis.loads.clear();
         });
+    row("part that cannot be built", AnalysisEntry::Part,
+        "The part cannot be built: box: x has no value",
+        [](Definition&, SetupContext& context) { context.failure = "box: x has no value"; });
     row("no material at all", AnalysisEntry::Part,
         "The part has no material: choose one, or define an element property",
         [](Definition& analysis, SetupContext&) { analysis.properties.clear(); });
@@ -222,8 +229,8 @@ void tst_SetupCheck::WarningsDoNotKeepASolverFromRunning_data()
     row("huge mesh size", "The mesh size 101 mm is larger than the part, 100 mm",
         [](AnalysisDefinition& analysis, SetupContext&) { analysis.meshSize = "101"; });
     row("load in a vibration", "Load \"pull\" has no effect on natural frequencies",
-        [](AnalysisDefinition&, SetupContext& context) {
-            context.kind = AnalysisType::VibrationKind;
+        [](AnalysisDefinition& analysis, SetupContext&) {
+            analysis.type.kind = AnalysisType::VibrationKind;
         });
 }
 
@@ -254,6 +261,64 @@ void tst_SetupCheck::SeveralProblemsAreAllListed()
     QCOMPARE(Texts(CheckSetup(analysis, StaticPart())),
              QStringList({"Boundary condition \"100 %1\" acts nowhere: pick its faces or edges",
                           "Load \"pull\" acts nowhere: pick its faces or edges"}));
+}
+
+void tst_SetupCheck::TargetsThatFindNothingAreReported_data()
+{
+    QTest::addColumn<Edit>("edit");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* name, AnalysisEntry::Kind kind, const QString& text,
+                        const Edit& edit) {
+        QTest::newRow(name) << edit << int(kind) << text;
+    };
+    using Definition = AnalysisDefinition;
+    row("support", AnalysisEntry::Constraint,
+        "Boundary condition \"foot\": there is no face \"bore.side\".",
+        [](Definition& analysis, SetupContext&) {
+            analysis.constraints[0].faces.push_back({"bore.side", {}});
+        });
+    row("load at a point", AnalysisEntry::Load, "", [](Definition& analysis, SetupContext&) {
+        analysis.loads[0].faces = {{"", {"500", "0", "0"}}};
+    });
+    row("point without value", AnalysisEntry::Load, "", [](Definition& analysis, SetupContext&) {
+        analysis.loads[0].faces = {{"", {"nowhere", "0", "0"}}};
+    });
+    row("property", AnalysisEntry::Property,
+        "Element property \"body\": there is no face \"lid.zmax\".",
+        [](Definition& analysis, SetupContext&) {
+            analysis.properties[0].thickness = "1";
+            analysis.properties[0].faces = {{"lid.zmax", {}}};
+        });
+    row("edges", AnalysisEntry::LocalMesh,
+        "Local mesh 1: the faces \"box.zmin\" and \"box.zmax\" have no edge in common.",
+        [](Definition& analysis, SetupContext&) {
+            LocalMeshDefinition local;
+            local.number = "4";
+            local.edges = {{{{"box.zmin", {}}, {"box.zmax", {}}}, {}}};
+            analysis.localMeshes = {local};
+        });
+}
+
+void tst_SetupCheck::TargetsThatFindNothingAreReported()
+{
+    QFETCH(Edit, edit);
+    QFETCH(int, kind);
+    QFETCH(QString, text);
+    FeatureList list;
+    list.Append(NewFeature("box", "box"));
+    const BuiltPart part = FeatureBuilder::Build(list);
+    AnalysisDefinition analysis = Complete();
+    SetupContext context = StaticPart();
+    context.part = &part;
+    QCOMPARE(Texts(CheckSetup(analysis, context)), QStringList());
+    edit(analysis, context);
+    const std::vector<SetupProblem> problems = CheckSetup(analysis, context);
+    QCOMPARE(problems.size(), std::size_t(1));
+    QCOMPARE(int(problems[0].entry.kind), kind);
+    QVERIFY(!problems[0].isWarning && !problems[0].text.isEmpty());
+    if (!text.isEmpty())
+        QCOMPARE(problems[0].text, text);
 }
 
 TARN_TEST_MAIN(tst_SetupCheck)

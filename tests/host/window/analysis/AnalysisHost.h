@@ -48,6 +48,13 @@ public:
 
     void Trigger(const char* name) const { ::Trigger(window, name); }
 
+    void SetType(const SolverType& type)
+    {
+        AnalysisDefinition analysis = model.Definition();
+        analysis.type = type;
+        model.SetDefinition(analysis);
+    }
+
     /// The texts of a group of the tree: its own value, or those of its records.
     QStringList Shown(const QString& group) const
     {

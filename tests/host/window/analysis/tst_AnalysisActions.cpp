@@ -105,26 +105,25 @@ void tst_AnalysisActions::OkStoresTheTypeOfTheDialog()
 {
     AnalysisHost host(*this);
     // The dialog lets its user choose one type only; the host may show it any.
-    host.model.SetSolverType(AnalysisType::MechanicsFamily, AnalysisType::FrequencyResponseKind);
+    host.SetType({AnalysisType::MechanicsFamily, AnalysisType::FrequencyResponseKind});
     host.Run("action_AnalysisType", [](QDialog& dialog) {
         QVERIFY(Find<QRadioButton>(dialog, "rad_Freq").isChecked());
         Find<QRadioButton>(dialog, "rad_Vibration").setFocus();
         QTest::keyClick(&Find<QRadioButton>(dialog, "rad_Vibration"), Qt::Key_Space);
         Click(dialog, "ok_push_button");
     });
-    QCOMPARE(host.model.Family(), 1);
-    QCOMPARE(host.model.Kind(), 2);
+    QVERIFY(host.model.Definition().type == SolverType());
     QCOMPARE(host.Shown("Analysis type"), QStringList("Vibration (family 1, kind 2)"));
 }
 
 void tst_AnalysisActions::CancelKeepsTheType()
 {
     AnalysisHost host(*this);
-    host.model.SetSolverType(AnalysisType::ComplexEigenvalueFamily,
-                             AnalysisType::ComplexEigenvalueKind);
+    const SolverType type{AnalysisType::ComplexEigenvalueFamily,
+                          AnalysisType::ComplexEigenvalueKind};
+    host.SetType(type);
     host.Run("action_AnalysisType", [](QDialog& dialog) { Click(dialog, "cancael_push_button"); });
-    QCOMPARE(host.model.Family(), 7);
-    QCOMPARE(host.model.Kind(), 7);
+    QVERIFY(host.model.Definition().type == type);
 }
 
 void tst_AnalysisActions::AnAcceptedBoundaryConditionIsStoredAndItsNameRegistered()

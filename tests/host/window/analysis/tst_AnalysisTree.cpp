@@ -149,7 +149,9 @@ void tst_AnalysisTree::TheAnalysisTypeIsReported()
     QFETCH(int, kind);
     QFETCH(QString, text);
     Shown shown;
-    shown.model.SetSolverType(family, kind);
+    AnalysisDefinition analysis;
+    analysis.type = {family, kind};
+    shown.model.SetDefinition(analysis);
     QCOMPARE(shown.Value("Analysis type"), text);
 }
 

@@ -103,6 +103,12 @@ void tst_ProjectSession::EveryChangeIsUndoneAndRedone_data()
         AddMaterial();
         open.session.TakeChange("material");
     });
+    row("type of analysis", [](OpenSession& open) {
+        AnalysisDefinition analysis = open.analysis.Definition();
+        analysis.type.kind = AnalysisType::StaticKind;
+        open.analysis.SetDefinition(analysis);
+        open.session.TakeChange("type");
+    });
     row("analysis", [](OpenSession& open) {
         AnalysisDefinition analysis = open.analysis.Definition();
         analysis.meshSize = "thickness / 4";
