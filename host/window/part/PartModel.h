@@ -34,6 +34,8 @@ public:
     const std::vector<Condition>& Conditions() const { return m_conditions; }
     /// The folder that paths of imports are relative to.
     const QString& Folder() const { return m_folder; }
+    /// The files of imports are in another folder from now on.
+    void SetFolder(const QString& folder) { m_folder = folder; }
 
     /// The last valid part; null before the first one.
     const TopoDS_Shape& Shape() const { return m_part.shape; }

@@ -242,14 +242,21 @@ bool ProjectActions::SaveTo(const QString& path)
     const QString target = QFileInfo(path).absoluteFilePath();
     try {
         Project saved = project;
+        // The files of an own folder go along, so paths to them stay as they are.
+        if (m_folder.IsOwn())
+            saved.SetPath(target);
         saved.Save(target);
     } catch (const ProjectError& error) {
-        PostMessageToChannel(ErrorLevel, error.Reason());
+        PostMessageToChannel(ErrorLevel, tr("%1. The project stays open with its changes; \"Save "
+                                            "project as\" saves it elsewhere.")
+                                             .arg(error.Reason()));
         return false;
     }
     m_autosave.RemoveFile();
     if (target != m_path) {
         SaveFiles(QFileInfo(target).path());
+        if (m_folder.IsOwn())
+            m_session.MoveTo(target);
         m_folder.Enter(QFileInfo(target).path());
         m_autosave.Follow(target);
         m_path = target;

@@ -33,11 +33,12 @@ QStringList FilesIn(const QDir& folder)
 
 QDir ParentFolder()
 {
-    QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    if (data.isEmpty() || !QDir().mkpath(data + QStringLiteral("/tarnhost/unsaved")))
-        data = QDir::tempPath();
-    QDir().mkpath(data + QStringLiteral("/tarnhost/unsaved"));
-    return QDir(data + QStringLiteral("/tarnhost/unsaved"));
+    const QString place = QStringLiteral("/tarnhost/unsaved");
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    if (!data.isEmpty() && QDir().mkpath(data + place) && QFileInfo(data + place).isWritable())
+        return QDir(data + place);
+    QDir().mkpath(QDir::tempPath() + place);
+    return QDir(QDir::tempPath() + place);
 }
 
 QString LockIn(const QString& folder)

@@ -15,7 +15,7 @@
 class ProjectSession::Step : public QUndoCommand
 {
 public:
-    Step(ProjectSession& session, State before, State after, const QString& text)
+    Step(ProjectSession& session, KnownState before, KnownState after, const QString& text)
         : QUndoCommand(text)
         , m_session(session)
         , m_before(std::move(before))
@@ -23,19 +23,19 @@ public:
     {
     }
 
-    void undo() override { m_session.Apply(m_before); }
+    void undo() override { m_session.Apply(*m_before); }
     void redo() override
     {
         // It was done before it became a step.
         if (m_isDone)
-            m_session.Apply(m_after);
+            m_session.Apply(*m_after);
         m_isDone = true;
     }
 
 private:
     ProjectSession& m_session;
-    State m_before;
-    State m_after;
+    KnownState m_before;
+    KnownState m_after;
     bool m_isDone = false;
 };
 
@@ -82,17 +82,15 @@ void ProjectSession::Open(const Project& project)
         m_design.Open(project.Units());
     }
     m_part.Open(project.Features(), project.Conditions(), project.Folder());
-    m_known = CurrentState();
-    NoteSaved(m_known.project);
+    m_known = std::make_shared<const State>(CurrentState());
+    NoteSaved(m_known->project);
 }
 
 void ProjectSession::Recover(const Project& project)
 {
     FillSampleRegistry(project.SampleLists());
     State state = CurrentState();
-    const QString path = state.project.Path();
     state.project = project;
-    state.project.SetPath(path);
     Apply(state);
     TakeChange(tr("Recover changes"));
 }
@@ -142,7 +140,7 @@ double ProjectSession::Density() const
 
 bool ProjectSession::IsChanged() const
 {
-    return !m_known.project.HasSameContent(m_saved) || m_known.stores != m_savedStores;
+    return !m_known->project.HasSameContent(m_saved) || m_known->stores != m_savedStores;
 }
 
 void ProjectSession::NoteSaved(const Project& saved)
@@ -150,6 +148,12 @@ void ProjectSession::NoteSaved(const Project& saved)
     m_saved = saved;
     m_savedStores = AnalysisStores::Current();
     Q_EMIT StateChanged();
+}
+
+void ProjectSession::MoveTo(const QString& path)
+{
+    m_values.SetPath(path);
+    m_part.SetFolder(m_values.Folder());
 }
 
 void ProjectSession::SaveStores() const
@@ -179,15 +183,20 @@ void ProjectSession::SetStudy(const StudyDefinition& study, const QString& text)
 
 void ProjectSession::TakeChange(const QString& text)
 {
-    State now = CurrentState();
-    if (now.project.HasSameContent(m_known.project) && now.stores == m_known.stores)
+    const auto now = std::make_shared<const State>(CurrentState());
+    if (now->project.HasSameContent(m_known->project) && now->stores == m_known->stores)
         return;
-    m_part.UndoStack().push(new Step(*this, m_known, std::move(now), text));
+    auto* const step = new Step(*this, m_known, now, text);
+    // The step after this one begins with the same state, not with a copy.
+    m_known = now;
+    const QScopedValueRollback<bool> taking(m_isTaking, true);
+    m_part.UndoStack().push(step);
 }
 
 void ProjectSession::FollowStack()
 {
-    m_known = CurrentState();
+    if (!m_isTaking)
+        m_known = std::make_shared<const State>(CurrentState());
     Q_EMIT StateChanged();
 }
 
@@ -202,7 +211,9 @@ void ProjectSession::FollowName(const QString& before, const QString& after)
 
 void ProjectSession::Apply(const State& state)
 {
+    const QString path = m_values.Path();
     m_values = state.project;
+    m_values.SetPath(path);
     g_mapParaArrays = state.samples;
     m_analysis.SetDefinition(state.project.Analysis());
     const QString warning = state.stores.Apply();

@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include <map>
+#include <memory>
 
 class AnalysisRecords;
 class DesignModel;
@@ -44,6 +45,8 @@ public:
     bool IsChanged() const;
     /// What is in the file now.
     void NoteSaved(const Project& saved);
+    /// The project and the files that it refers to are at @p path from now on.
+    void MoveTo(const QString& path);
 
     /// Writes the user's materials, if they are not saved yet, to the working directory.
     void SaveStores() const;
@@ -72,6 +75,8 @@ private:
         std::map<QString, sParaArrayData> samples;
         AnalysisStores stores;
     };
+    /// Steps share it: with many parameters it is large.
+    using KnownState = std::shared_ptr<const State>;
 
     State CurrentState() const;
     void Apply(const State& state);
@@ -83,8 +88,9 @@ private:
     PartModel& m_part;
     AnalysisRecords& m_analysis;
     Project m_values; // With what no model holds: path, title, density, material, study.
-    State m_known;    // After the last step.
+    KnownState m_known = std::make_shared<const State>(); // After the last step.
     Project m_saved;
     AnalysisStores m_savedStores;
     bool m_isOpening = false;
+    bool m_isTaking = false;
 };

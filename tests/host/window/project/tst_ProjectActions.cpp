@@ -7,6 +7,7 @@
 #include "NewFeature.h"
 #include "OpenSession.h"
 #include "ProjectActions.h"
+#include "ReadOnlyFolder.h"
 #include "TestFiles.h"
 
 #include <QDir>
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void ItsFilesGoAlongOnSaveAs();
     void TheTitleHasTitleAndFile();
     void ImportsAreFoundAfterSavingElsewhere();
+    void ImportsOfAnUnsavedProjectGoAlong();
     void RecentProjectsAreOffered();
     void RevertBringsTheFileBack();
     void SaveEmitsThatItSaved();
@@ -35,6 +37,7 @@ private Q_SLOTS:
     void WhatACrashLeftIsOffered();
     void AnUnsavedProjectIsRecovered();
     void AFullDiskIsReportedOnce();
+    void AReadOnlyFolderIsReported();
 };
 
 namespace {
@@ -177,6 +180,30 @@ void tst_ProjectActions::ImportsAreFoundAfterSavingElsewhere()
                  directory + "/a/parts/nut.step");
     }
     QCOMPARE(opened.part.Features().At(0).file, QString("parts/nut.step"));
+}
+
+void tst_ProjectActions::ImportsOfAnUnsavedProjectGoAlong()
+{
+    const QString directory = EnterTemporaryDirectory();
+    Opened opened;
+    QVERIFY(QDir().mkpath("parts"));
+    Put("parts/nut.step", "a nut");
+    Feature nut = NewFeature("nut", "import");
+    nut.file = "parts/nut.step";
+    opened.part.Add(nut);
+    opened.SaveAs(directory + "/mine.json");
+    QCOMPARE(QDir(opened.part.Folder()), QDir(directory));
+    // Steps of before know the former folder.
+    opened.part.UndoStack().undo();
+    opened.part.UndoStack().redo();
+    SetValue(opened.design, "thickness", 33.0);
+    opened.part.UndoStack().undo();
+    opened.Trigger("action_SaveProject");
+    opened.Trigger("action_NewProject");
+    const Project saved = Project::Load(directory + "/mine.json");
+    const QString file = saved.Features().At(saved.Features().Size() - 1).file;
+    QCOMPARE(file, QString("parts/nut.step"));
+    QCOMPARE(ContentOf(QDir(saved.Folder()).filePath(file)), QByteArray("a nut"));
 }
 
 void tst_ProjectActions::RecentProjectsAreOffered()
@@ -337,6 +364,43 @@ void tst_ProjectActions::AFullDiskIsReportedOnce()
     QVERIFY(QFile::exists("mine.json.autosave"));
     opened.Trigger("action_SaveProject");
     QVERIFY(!opened.window.isWindowModified());
+}
+
+void tst_ProjectActions::AReadOnlyFolderIsReported()
+{
+    const QString directory = EnterTemporaryDirectory();
+    QVERIFY(QDir().mkpath("mine"));
+    QCOMPARE(chmod(".", 0755), 0);
+    Opened opened;
+    opened.SaveAs(directory + "/mine/mine.json");
+    const QByteArray before = ContentOf("mine.json");
+    const QStringList files = AllFiles();
+    SetValue(opened.design, "thickness", 33.0);
+    const QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    {
+        const ReadOnlyFolder folder;
+        QVERIFY(folder.Holds());
+        opened.Autosave();
+        opened.Trigger("action_SaveProject");
+        opened.SaveAs(directory + "/mine/other.json");
+    }
+    QCOMPARE(posted.count(), 3);
+    const QString denied = "cannot be written: Permission denied";
+    QCOMPARE(posted[0][1].toString(), "The changes are not saved automatically: " + directory +
+                                          "/mine/mine.json.autosave: " + denied);
+    const QString advice = ". The project stays open with its changes; \"Save project as\" saves "
+                           "it elsewhere.";
+    QCOMPARE(posted[1][1].toString(), directory + "/mine/mine.json: " + denied + advice);
+    QCOMPARE(posted[2][1].toString(), directory + "/mine/other.json: " + denied + advice);
+    QCOMPARE(ContentOf("mine.json"), before);
+    QCOMPARE(AllFiles(), files);
+    QVERIFY(opened.window.isWindowModified());
+    QCOMPARE(opened.window.windowTitle(), QString("Bolted flange - mine.json[*] - Tarn host"));
+    QCOMPARE(Stored("thickness"), 33.0);
+    // Elsewhere, and here again.
+    opened.SaveAs(directory + "/elsewhere.json");
+    QVERIFY(!opened.window.isWindowModified());
+    QVERIFY(Project::Load(directory + "/elsewhere.json").HasSameContent(opened.session.Current()));
 }
 
 TARN_HOST_TEST_MAIN(tst_ProjectActions)
