@@ -3,25 +3,25 @@
 #include "CompactTable.h"
 #include "ExpressionEngine.h"
 #include "FeatureKind.h"
+#include "FeatureTexts.h"
 #include "FieldValues.h"
 #include "MessageLevel.h"
+#include "NumberTexts.h"
 #include "PartModel.h"
 
 #include <QHeaderView>
+#include <QLabel>
 #include <QSignalBlocker>
+#include <QStackedWidget>
 #include <QTableWidget>
 
 #include <cmath>
 
 namespace {
 
-// The rows before the fields. A file is in the row of the first field: an import has no fields.
-enum Row
-{
-    NameRow,
-    InputsRow,
-    FirstFieldRow
-};
+// Names and inputs come first.
+constexpr int FirstFieldRow = 2;
+constexpr int HintMargin = 12;
 
 const QColor WrongColor(Qt::red);
 
@@ -42,6 +42,22 @@ FieldValue ValueOf(const FieldDefinition& field, const QString& text, FieldValue
     return {field.rule.ValueText(value), QString()};
 }
 
+// Of a corner: of its texts, in their order.
+FieldValue ValueOf(const ProfileCorner& corner, FieldValues& values)
+{
+    QStringList numbers;
+    const QStringList texts = corner.IsArc()
+                                  ? QStringList{corner.x, corner.y, corner.viaX, corner.viaY}
+                                  : QStringList{corner.x, corner.y};
+    for (const QString& text : texts) {
+        const double value = values.Evaluate(text);
+        if (std::isnan(value))
+            return {FeatureFields::tr("no value"), ExpressionEngine::LastError()};
+        numbers << ShortText(value);
+    }
+    return {FeatureFields::tr("%1 mm").arg(numbers.join(QStringLiteral("; "))), QString()};
+}
+
 QTableWidgetItem& Cell(QTableWidget& table, int row, int column)
 {
     if (table.item(row, column) == nullptr) {
@@ -53,7 +69,7 @@ QTableWidgetItem& Cell(QTableWidget& table, int row, int column)
     return *table.item(row, column);
 }
 
-void ShowRow(QTableWidget& table, int row, const QString& label, const QString& text,
+void FillRow(QTableWidget& table, int row, const QString& label, const QString& text,
              const FieldValue& value = {})
 {
     Cell(table, row, FeatureFields::LabelColumn).setText(label);
@@ -82,15 +98,31 @@ QStringList Names(const QString& text)
     return names;
 }
 
+QLabel* NewHint(QWidget* parent)
+{
+    auto* const hint = new QLabel(
+        FeatureFields::tr("Select a feature in the tree, or click it in the view, to edit its "
+                          "fields here. The menu \"Model\" adds features."),
+        parent);
+    hint->setObjectName(QStringLiteral("fieldsHint"));
+    hint->setWordWrap(true);
+    hint->setAlignment(Qt::AlignTop);
+    hint->setMargin(HintMargin);
+    return hint;
+}
+
 } // namespace
 
 FeatureFields::FeatureFields(PartModel& model, QWidget* parent)
     : QDockWidget(tr("Fields of the feature"), parent)
     , m_model(model)
+    , m_pages(new QStackedWidget(this))
     , m_table(new QTableWidget(0, ValueColumn + 1, this))
 {
     setObjectName(QStringLiteral("fieldsDock"));
-    setWidget(m_table);
+    m_pages->addWidget(m_table);
+    m_pages->addWidget(NewHint(m_pages));
+    setWidget(m_pages);
 
     m_table->setObjectName(QStringLiteral("fieldTable"));
     m_table->setAccessibleName(windowTitle());
@@ -124,13 +156,34 @@ void FeatureFields::StartEditing()
 {
     const bool hasFields = m_table->rowCount() > FirstFieldRow;
     m_table->setFocus();
-    m_table->setCurrentCell(hasFields ? int(FirstFieldRow) : int(InputsRow), TextColumn);
+    m_table->setCurrentCell(hasFields ? FirstFieldRow : FirstFieldRow - 1, TextColumn);
+}
+
+std::vector<FeatureFields::Row> FeatureFields::RowsOf(const Feature& feature)
+{
+    const FeatureKind& kind = *feature.kind;
+    std::vector<Row> rows = {{Row::Name}, {Row::Inputs}};
+    if (kind.readsFile)
+        rows.push_back({Row::File});
+    for (int field = 0; field < int(kind.fields.size()); ++field)
+        rows.push_back({Row::Field, field});
+    if (kind.isAtFace)
+        rows.push_back({Row::Face});
+    if (kind.isAtEdges)
+        rows.push_back({Row::Edges});
+    if (kind.hasProfile) {
+        for (int corner = 0; corner < int(feature.profile.size()); ++corner)
+            rows.push_back({Row::Corner, corner});
+        rows.push_back({Row::NewCorner});
+    }
+    return rows;
 }
 
 void FeatureFields::Refresh()
 {
     const QSignalBlocker silent(m_table);
     const int index = m_model.Features().Find(m_name);
+    m_pages->setCurrentIndex(index < 0 ? 1 : 0);
     if (index < 0)
         m_table->setRowCount(0);
     else
@@ -139,43 +192,97 @@ void FeatureFields::Refresh()
 
 void FeatureFields::ShowRows(const Feature& feature)
 {
-    const FeatureKind& kind = *feature.kind;
-    m_table->setRowCount(FirstFieldRow + (kind.readsFile ? 1 : int(kind.fields.size())));
-
-    ShowRow(*m_table, NameRow, tr("Name"), feature.name);
-    ShowRow(*m_table, InputsRow, tr("Inputs"), feature.inputs.join(QStringLiteral(", ")));
-    if (kind.maxInputs == 0)
-        ForbidEditing(*m_table, InputsRow);
-    if (kind.readsFile)
-        ShowRow(*m_table, FirstFieldRow, tr("File"), feature.file);
+    m_rows = RowsOf(feature);
+    m_table->setRowCount(int(m_rows.size()));
     FieldValues values;
-    int row = FirstFieldRow;
-    for (const FieldDefinition& field : kind.fields) {
-        const QString& text = feature.fields[row - FirstFieldRow];
-        ShowRow(*m_table, row, field.Label(), text, ValueOf(field, text, values));
-        ++row;
+    for (int row = 0; row < int(m_rows.size()); ++row)
+        ShowRow(feature, row, values);
+}
+
+void FeatureFields::ShowRow(const Feature& feature, int row, FieldValues& values)
+{
+    QTableWidget& table = *m_table;
+    const FeatureKind& kind = *feature.kind;
+    const int index = m_rows[std::size_t(row)].index;
+    switch (m_rows[std::size_t(row)].kind) {
+    case Row::Name:
+        FillRow(table, row, tr("Name"), feature.name);
+        break;
+    case Row::Inputs:
+        FillRow(table, row, tr("Inputs"), feature.inputs.join(QStringLiteral(", ")));
+        if (kind.maxInputs == 0)
+            ForbidEditing(table, row);
+        break;
+    case Row::File:
+        FillRow(table, row, tr("File"), feature.file);
+        break;
+    case Row::Field: {
+        const FieldDefinition& field = kind.fields[std::size_t(index)];
+        FillRow(table, row, field.Label(), feature.fields[index],
+                ValueOf(field, feature.fields[index], values));
+        break;
+    }
+    case Row::Face:
+        FillRow(table, row, tr("At face"), feature.face ? feature.face->Text() : QString());
+        break;
+    case Row::Edges:
+        FillRow(table, row, tr("At edges"), TextOf(feature.edges));
+        break;
+    case Row::Corner: {
+        const ProfileCorner& corner = feature.profile[std::size_t(index)];
+        FillRow(table, row, tr("Corner %1").arg(index + 1), TextOf(corner),
+                ValueOf(corner, values));
+        break;
+    }
+    case Row::NewCorner:
+        FillRow(table, row, tr("New corner"), QString());
+        Cell(table, row, TextColumn)
+            .setToolTip(tr("x; y, or x; y; via x; via y for an arc that leads to the corner"));
+        break;
     }
 }
 
-Feature FeatureFields::Edited(const Feature& feature, int row, const QString& text) const
+Feature FeatureFields::Edited(Feature feature, const Row& row, const QString& text)
 {
-    Feature edited = feature;
-    if (row == NameRow)
-        edited.name = text.trimmed();
-    else if (row == InputsRow)
-        edited.inputs = Names(text);
-    else if (feature.kind->readsFile)
-        edited.file = text.trimmed();
-    else {
-        const int field = row - FirstFieldRow;
-        edited.fields[field] = text.trimmed();
+    const QString trimmed = text.trimmed();
+    switch (row.kind) {
+    case Row::Name:
+        feature.name = trimmed;
+        break;
+    case Row::Inputs:
+        feature.inputs = Names(text);
+        break;
+    case Row::File:
+        feature.file = trimmed;
+        break;
+    case Row::Field:
+        feature.fields[row.index] = trimmed;
         // A point takes the place of faces and edges.
-        if (feature.kind->IsPosition(feature.kind->fields[std::size_t(field)])) {
-            edited.edges.clear();
-            edited.face.reset();
+        if (feature.kind->IsPosition(feature.kind->fields[std::size_t(row.index)])) {
+            feature.edges.clear();
+            feature.face.reset();
         }
+        break;
+    case Row::Face:
+        feature.face.reset();
+        if (!trimmed.isEmpty())
+            feature.face = FaceOf(text);
+        break;
+    case Row::Edges:
+        feature.edges = EdgesOf(text);
+        break;
+    case Row::Corner:
+        if (trimmed.isEmpty())
+            feature.profile.erase(feature.profile.begin() + row.index);
+        else
+            feature.profile[std::size_t(row.index)] = CornerOf(text);
+        break;
+    case Row::NewCorner:
+        if (!trimmed.isEmpty())
+            feature.profile.push_back(CornerOf(text));
+        break;
     }
-    return edited;
+    return feature;
 }
 
 void FeatureFields::TakeText(int row)
@@ -184,13 +291,14 @@ void FeatureFields::TakeText(int row)
     if (index < 0)
         return;
     const Feature feature = m_model.Features().At(index);
-    const Feature edited = Edited(feature, row, Cell(*m_table, row, TextColumn).text());
     try {
+        const Feature edited =
+            Edited(feature, m_rows.at(std::size_t(row)), Cell(*m_table, row, TextColumn).text());
         // Before the change, which shows the feature under its new name.
         m_name = edited.name;
         m_model.Change(feature.name, edited);
         Refresh();
-    } catch (const ModellingError& error) {
+    } catch (const HostError& error) {
         m_name = feature.name;
         const QSignalBlocker silent(m_table);
         QTableWidgetItem& item = Cell(*m_table, row, TextColumn);

@@ -134,7 +134,7 @@ void tst_MainWindow::TheDocksSurroundTheShape()
     QVERIFY(Find<QTableView>(window, "messageView").isVisible());
     QVERIFY(Find<QTableWidget>(window, "parameterTable").isVisible());
     QVERIFY(Find<QTreeWidget>(window, "featureTree").isVisible());
-    QVERIFY(Find<QTableWidget>(window, "fieldTable").isVisible());
+    QVERIFY(Find<QLabel>(window, "fieldsHint").isVisible());
     // It shares the tabs of the features.
     QCOMPARE(window.tabifiedDockWidgets(window.findChild<QDockWidget*>("featureDock")),
              QList<QDockWidget*>({window.findChild<QDockWidget*>("modelTreeDock")}));

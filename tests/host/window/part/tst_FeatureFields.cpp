@@ -6,6 +6,7 @@
 #include "NewFeature.h"
 #include "PartModel.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTableWidget>
@@ -31,6 +32,11 @@ private Q_SLOTS:
     void ADeletedFeatureIsShownNoLonger();
     void EditingStartsInTheFirstField();
     void AHalfTypedTextBelongsToItsOwnFeature();
+    void WithoutAFeatureTheDockSaysWhatToDo();
+    void TheCornersOfAProfileAreEdited();
+    void FacesAndEdgesAreShownAndTyped();
+    void ATextThatIsNoReferenceIsRefused_data();
+    void ATextThatIsNoReferenceIsRefused();
 };
 
 namespace {
@@ -371,6 +377,86 @@ void tst_FeatureFields::AHalfTypedTextBelongsToItsOwnFeature()
     shown.dock.ShowFeature("pin");
     QCOMPARE(shown.Text("Radius"), QString("2"));
     QCOMPARE(shown.posted.count(), 0);
+}
+
+void tst_FeatureFields::WithoutAFeatureTheDockSaysWhatToDo()
+{
+    ShownFields shown;
+    const auto& hint = Find<QLabel>(shown.dock, "fieldsHint");
+    QVERIFY(hint.isVisible() && hint.text().contains("Select a feature"));
+    QVERIFY(!shown.Table().isVisible());
+    shown.dock.ShowFeature("plate");
+    QVERIFY(!hint.isVisible());
+    QVERIFY(shown.Table().isVisible());
+}
+
+void tst_FeatureFields::TheCornersOfAProfileAreEdited()
+{
+    ShownFields shown;
+    shown.model.Add(NewFeature("sheet", "extrude"));
+    shown.dock.ShowFeature("sheet");
+    QCOMPARE(shown.Text("Corner 3"), QString("10; 10"));
+    QCOMPARE(shown.Value("Corner 3"), QString("10; 10 mm"));
+    shown.Type("Corner 3", "2 * 6; 10; 14; 5");
+    QCOMPARE(shown.Value("Corner 3"), QString("12; 10; 14; 5 mm"));
+    shown.Type("New corner", "-5; 5");
+    QCOMPARE(int(shown.Stored("sheet").profile.size()), 5);
+    QCOMPARE(shown.Text("Corner 5"), QString("-5; 5"));
+    shown.Type("Corner 1", "");
+    QCOMPARE(int(shown.Stored("sheet").profile.size()), 4);
+    QCOMPARE(shown.Stored("sheet").profile[1].viaX, QString("14"));
+    shown.Type("Corner 4", "nothing; 5");
+    QVERIFY(shown.IsMarked("Corner 4"));
+    QCOMPARE(shown.Value("Corner 4"), QString("no value"));
+    shown.model.UndoStack().undo();
+    QCOMPARE(shown.Text("Corner 4"), QString("-5; 5"));
+}
+
+void tst_FeatureFields::FacesAndEdgesAreShownAndTyped()
+{
+    ShownFields shown;
+    shown.model.Add(NewFeature("round", "fillet", {"body"}));
+    shown.dock.ShowFeature("round");
+    QCOMPARE(shown.Text("At edges"), QString());
+    shown.Type("At edges", "plate.zmax | plate.xmax; (0, 0, 5)");
+    QCOMPARE(int(shown.Stored("round").edges.size()), 2);
+    QCOMPARE(shown.Text("At edges"), QString("plate.zmax | plate.xmax; (0, 0, 5)"));
+    shown.Type("At edges", "");
+    QVERIFY(shown.Stored("round").edges.empty());
+    shown.model.Add(NewFeature("image", "mirrorFace", {"round"}));
+    shown.dock.ShowFeature("image");
+    shown.Type("At face", "plate.xmin");
+    QCOMPARE(shown.Stored("image").face->name, QString("plate.xmin"));
+}
+
+void tst_FeatureFields::ATextThatIsNoReferenceIsRefused_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("text");
+    NewRow("edge", QString("fillet"), QString("At edges"), QString("plate.xmin"));
+    NewRow("face", QString("mirrorFace"), QString("At face"), QString("(1, 2)"));
+    NewRow("corner", QString("extrude"), QString("Corner 2"), QString("10"));
+    NewRow("new corner", QString("revolve"), QString("New corner"), QString("1; 2; 3"));
+}
+
+void tst_FeatureFields::ATextThatIsNoReferenceIsRefused()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, field);
+    QFETCH(QString, text);
+    ShownFields shown;
+    const bool needsBody = kind == "fillet" || kind == "mirrorFace";
+    shown.model.Add(
+        NewFeature("new", kind.toUtf8(), needsBody ? QStringList("body") : QStringList()));
+    shown.dock.ShowFeature("new");
+    const Feature before = shown.Stored("new");
+    const QSignalSpy posted(DrawerOutput::GetInstance(), &DrawerOutput::MessageWidgetMessage);
+    shown.Type(field, text);
+    QVERIFY(shown.Stored("new") == before);
+    QVERIFY(shown.IsMarked(field));
+    QCOMPARE(posted.count(), 1);
+    QVERIFY(posted[0][1].toString().contains(": write "));
 }
 
 TARN_HOST_TEST_MAIN(tst_FeatureFields)
