@@ -50,6 +50,8 @@ namespace {
 
 // Below, the docks do not fit above each other.
 constexpr int LowScreen = 600;
+// Below, the docks at the bottom leave the view more room.
+constexpr int RoomyScreen = 900;
 
 } // namespace
 
@@ -122,8 +124,9 @@ void MainWindow::CreateDocks()
     resizeDocks({m_features, &m_solve->Results()}, {400, 380}, Qt::Horizontal);
     resizeDocks({m_features, m_fields}, {250, 320}, Qt::Vertical);
     resizeDocks({m_parameters, m_messages}, {820, 620}, Qt::Horizontal);
-    resizeDocks({m_messages}, {230}, Qt::Vertical);
-    if (QGuiApplication::primaryScreen()->availableSize().height() < LowScreen)
+    const int height = QGuiApplication::primaryScreen()->availableSize().height();
+    resizeDocks({m_messages}, {height < RoomyScreen ? 160 : 230}, Qt::Vertical);
+    if (height < LowScreen)
         StackDocks();
 }
 
@@ -133,6 +136,7 @@ void MainWindow::StackDocks()
              m_fields, m_position, m_parameters, m_messages, m_check, &m_solve->Progress(),
              &m_solve->Results(), m_study->Panel(), m_study->Results()})
         tabifyDockWidget(m_tree, dock);
+    resizeDocks({m_features}, {280}, Qt::Horizontal);
     m_features->raise();
 }
 
@@ -201,7 +205,7 @@ void MainWindow::CreateToolBars()
 void MainWindow::CreateViewMenu()
 {
     QMenu& view = *menuBar()->addMenu(tr("&View"));
-    const ViewActions* const viewActions = new ViewActions(m_summary->View(), this);
+    auto* const viewActions = new ViewActions(m_summary->View(), this);
     viewActions->FillMenu(view);
     view.addAction((new MeasureTool(*m_part, *m_picker, this))->Action());
     view.addSeparator();

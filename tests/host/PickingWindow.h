@@ -92,9 +92,10 @@ public:
     QPoint UpperEdge() const
     {
         const QImage picture = view->grab().toImage();
-        // From the top to the first black line, above which is the background.
+        // From the top to the line between background and face, which may be half on two pixels.
+        constexpr int Dark = 140;
         QPoint place(view->width() / 2 + 15, 1);
-        while (place.y() < view->height() / 2 && At(picture, place).lightness() > 60)
+        while (place.y() < view->height() / 2 && At(picture, place).lightness() > Dark)
             place.ry() += 1;
         return place;
     }

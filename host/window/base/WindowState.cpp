@@ -3,6 +3,7 @@
 #include "UserSettings.h"
 
 #include <QGuiApplication>
+#include <QLayout>
 #include <QMainWindow>
 #include <QScreen>
 
@@ -21,6 +22,9 @@ void WindowState::Restore(QMainWindow& window)
     window.restoreState(settings.value(LayoutKey).toByteArray(), LayoutVersion);
     if (window.restoreGeometry(settings.value(GeometryKey).toByteArray()))
         return;
+    // The layout still has the least size of docks that were hidden meanwhile.
+    window.layout()->invalidate();
+    window.layout()->activate();
     // Frame and title bar come on top.
     constexpr int Frame = 40;
     const QSize room = QGuiApplication::primaryScreen()->availableSize() - QSize(Frame, Frame);

@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QTime>
 #include <QVBoxLayout>
@@ -28,6 +29,30 @@ QString LengthText(double millimetres)
     return ShortText(rounded);
 }
 
+/// Holds the measures. Its height does not depend on their texts, so that the view keeps its own.
+class MeasureArea : public QScrollArea
+{
+public:
+    explicit MeasureArea(QWidget* measures)
+    {
+        setObjectName(QStringLiteral("measureArea"));
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setFocusPolicy(Qt::NoFocus);
+        // Where the screen is low.
+        constexpr int LeastLines = 3;
+        setMinimumHeight(LeastLines * fontMetrics().lineSpacing());
+        // With a second line of the status.
+        m_height = measures->sizeHint().height() + fontMetrics().lineSpacing();
+        setWidget(measures);
+    }
+
+    QSize sizeHint() const override { return {QScrollArea::sizeHint().width(), m_height}; }
+
+private:
+    int m_height;
+};
+
 QLabel* AddRow(QFormLayout& form, const QString& caption, const char* name)
 {
     auto* const label = new QLabel;
@@ -45,7 +70,9 @@ PartPanel::PartPanel(QWidget* parent)
 {
     setObjectName(QStringLiteral("shapeSummary"));
 
-    auto* const form = new QFormLayout;
+    auto* const measures = new QWidget;
+    auto* const form = new QFormLayout(measures);
+    form->setContentsMargins(0, 0, 0, 0);
     form->setLabelAlignment(Qt::AlignLeft);
     m_status = AddRow(*form, tr("Status"), "label_Status");
     m_status->setWordWrap(true);
@@ -61,7 +88,10 @@ PartPanel::PartPanel(QWidget* parent)
     m_overlaps->setTextInteractionFlags(Qt::TextSelectableByMouse);
     form->addRow(m_overlaps);
 
-    m_layout->addLayout(form);
+    m_overlaps->hide();
+    auto* const area = new MeasureArea(measures);
+    area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    m_layout->addWidget(area);
     m_progressRow = NewProgressRow();
     m_layout->addWidget(m_progressRow);
     const QString reason = PartView::UnavailableReason();

@@ -182,7 +182,7 @@ void PartScene::UpdatePart()
     ResetPreviousMoveTo();
 }
 
-void PartScene::SetSection(const gp_XYZ& normal)
+void PartScene::SetSection(const gp_XYZ& normal, double place)
 {
     if (m_part.IsNull())
         return;
@@ -190,9 +190,10 @@ void PartScene::SetSection(const gp_XYZ& normal)
     Bnd_Box box;
     m_part->BoundingBox(box);
     if (normal.SquareModulus() > 0.0 && !box.IsVoid()) {
-        const gp_XYZ middle = (box.CornerMin().XYZ() + box.CornerMax().XYZ()) / 2.0;
+        const gp_XYZ least = box.CornerMin().XYZ();
+        const gp_XYZ cut = least + (box.CornerMax().XYZ() - least) * place;
         const Handle(Graphic3d_ClipPlane) plane =
-            new Graphic3d_ClipPlane(gp_Pln(gp_Pnt(middle), gp_Dir(normal.Reversed())));
+            new Graphic3d_ClipPlane(gp_Pln(gp_Pnt(cut), gp_Dir(normal.Reversed())));
         plane->SetCapping(true);
         plane->SetCappingColor(SceneStyle::CutColour());
         planes->Append(plane);

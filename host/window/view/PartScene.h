@@ -47,9 +47,9 @@ public:
     void SetShaded(bool isShaded);
     /// What the cursor finds: faces, edges, or both.
     void SetPickable(bool hasFaces, bool hasEdges);
-    /// Cuts the part at the middle of its box, and hides the side to which @p normal points;
-    /// nothing if that is zero.
-    void SetSection(const gp_XYZ& normal);
+    /// Cuts the part at @p place of its box, from 0 to 1, and hides the side to which @p normal
+    /// points; nothing if that is zero.
+    void SetSection(const gp_XYZ& normal, double place);
     /// Whether any of the part's box is in the picture; true if there is no part.
     bool SeesPart() const;
     /// Shows @p object instead of the one before; nothing if it is null. A result stands in for the

@@ -120,15 +120,17 @@ void PartView::SetDisplayMode(DisplayMode mode)
     WithScene([mode](PartScene& scene) { scene.SetShaded(mode == ShadedWithEdges); });
 }
 
-void PartView::SetSection(Section section)
+void PartView::SetSection(Section section, double place)
 {
     m_section = section;
+    m_sectionPlace = place;
     ShowSection();
 }
 
 void PartView::ShowSection()
 {
-    WithScene([this](PartScene& scene) { scene.SetSection(SectionNormal(m_section)); });
+    WithScene(
+        [this](PartScene& scene) { scene.SetSection(SectionNormal(m_section), m_sectionPlace); });
 }
 
 void PartView::PickShapes(bool hasFaces, bool hasEdges)

@@ -82,7 +82,8 @@ public:
     void SetStandardView(StandardView view);
     void SetDisplayMode(DisplayMode mode);
     DisplayMode CurrentDisplayMode() const { return m_mode; }
-    void SetSection(Section section);
+    /// @p place is that of the cut: 0 for the least coordinate of the part, 1 for the greatest.
+    void SetSection(Section section, double place = 0.5);
 
     /// The next click on a face emits FacePicked(). Escape or CancelPicking() ends the wait with
     /// PickingCancelled(); a click beside the part does not.
@@ -181,6 +182,7 @@ private:
 
     DisplayMode m_mode = ShadedWithEdges;
     Section m_section = NoSection;
+    double m_sectionPlace = 0.5;
     bool m_isPicking = false;
     bool m_isPickingMany = false; // Until the host ends it.
     bool m_isDoubleClick = false;

@@ -1,11 +1,11 @@
 #include "ViewActions.h"
 
 #include "MenuActions.h"
-#include "PartView.h"
 
 #include <QActionGroup>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QSlider>
 #include <QToolBar>
 
 namespace {
@@ -28,6 +28,7 @@ QAction* NewSeparator(QObject* parent)
 
 ViewActions::ViewActions(PartView* view, QObject* parent)
     : QObject(parent)
+    , m_view(view)
 {
     Add(tr("&Fit"), "action_FitView", QKeySequence(QStringLiteral("Ctrl+0")),
         [view] { view->FitAll(); });
@@ -63,10 +64,12 @@ ViewActions::ViewActions(PartView* view, QObject* parent)
     m_actions << m_menuOnly;
 
     auto* const sections = new QActionGroup(this);
-    const auto addSection = [this, view, sections](const QString& text, const char* name,
-                                                   PartView::Section section) {
-        QAction* const action =
-            Add(text, name, QKeySequence(), [view, section] { view->SetSection(section); });
+    const auto addSection = [this, sections](const QString& text, const char* name,
+                                             PartView::Section section) {
+        QAction* const action = Add(text, name, QKeySequence(), [this, section] {
+            m_section = section;
+            ShowSection();
+        });
         action->setCheckable(true);
         action->setChecked(section == PartView::NoSection);
         sections->addAction(action);
@@ -99,10 +102,37 @@ void ViewActions::FillMenu(QMenu& menu) const
     menu.addActions(m_actions);
 }
 
-void ViewActions::FillToolBar(QToolBar& toolBar) const
+void ViewActions::FillToolBar(QToolBar& toolBar)
 {
-    for (QAction* const action : m_actions) {
+    for (QAction* const action : qAsConst(m_actions)) {
         if (!m_menuOnly.contains(action))
             toolBar.addAction(action);
     }
+    AddSlider(toolBar);
+}
+
+void ViewActions::AddSlider(QToolBar& toolBar)
+{
+    constexpr int Percent = 100;
+    constexpr int Width = 140;
+    m_slider = new QSlider(Qt::Horizontal, &toolBar);
+    m_slider->setObjectName(QStringLiteral("sectionSlider"));
+    m_slider->setAccessibleName(tr("Place of the section"));
+    m_slider->setToolTip(m_slider->accessibleName());
+    m_slider->setRange(0, Percent);
+    m_slider->setValue(Percent / 2);
+    m_slider->setFixedWidth(Width);
+    m_sliderAction = toolBar.addWidget(m_slider);
+    m_sliderAction->setVisible(false);
+    connect(m_slider, &QSlider::valueChanged, this, &ViewActions::ShowSection);
+}
+
+void ViewActions::ShowSection()
+{
+    double place = 0.5;
+    if (m_slider != nullptr) {
+        place = double(m_slider->value()) / m_slider->maximum();
+        m_sliderAction->setVisible(m_section != PartView::NoSection);
+    }
+    m_view->SetSection(m_section, place);
 }

@@ -8,6 +8,7 @@
 #include <BRepPrimAPI_MakeBox.hxx>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSignalSpy>
 #include <QTimer>
 #include <TopoDS_Shape.hxx>
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void BodiesThatOverlapAreAWarning();
     void AFailureKeepsTheLastGoodShape();
     void AFailureWithoutAnEarlierShapeIsReported();
+    void TheViewKeepsItsHeightWhenTheStatusGrows();
     void ClearForgetsTheShape();
     void WithoutOpenGlThereIsALineDrawingAndOneWarning();
     void ALongBuildShowsItsProgressAndCanBeCancelled();
@@ -102,6 +104,24 @@ void tst_PartPanel::AFailureWithoutAnEarlierShapeIsReported()
     summary.ShowFailure("the bore is too large");
     QVERIFY(Shown(summary, "label_Status").contains("the bore is too large"));
     QVERIFY(Shown(summary, "label_Status").contains("no earlier shape"));
+}
+
+void tst_PartPanel::TheViewKeepsItsHeightWhenTheStatusGrows()
+{
+    PartPanel summary(nullptr);
+    summary.resize(500, 500);
+    summary.show();
+    ShowBlock(summary);
+    DeliverEvents();
+    const auto& area = Find<QScrollArea>(summary, "measureArea");
+    const int height = area.height();
+    summary.ShowFailure(QString("a long reason ").repeated(80));
+    QTRY_VERIFY(area.widget()->height() > height);
+    QCOMPARE(area.height(), height);
+    // On a low screen it is the measures that are scrolled.
+    summary.resize(500, 250);
+    QTRY_VERIFY(area.height() < height);
+    QCOMPARE(summary.height(), 250);
 }
 
 void tst_PartPanel::ClearForgetsTheShape()

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QSet>
+#include <QSlider>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void EveryActionChangesTheView();
     void TheDisplayModeIsChecked();
     void TheToolBarWorks();
+    void ASectionIsMovedWithTheSlider();
     void WithoutAViewAllIsDisabled();
 };
 
@@ -53,12 +55,12 @@ struct ShownView
 
 void tst_ViewActions::TheToolBarOffersTheMenuWithoutSections()
 {
-    const ViewActions actions(nullptr, nullptr);
+    ViewActions actions(nullptr, nullptr);
     QMenu menu;
     QToolBar toolBar;
     actions.FillMenu(menu);
     actions.FillToolBar(toolBar);
-    QCOMPARE(toolBar.actions(), menu.actions().mid(0, 12));
+    QCOMPARE(toolBar.actions().mid(0, 12), menu.actions().mid(0, 12));
     QStringList texts;
     QSet<QKeySequence> shortcuts;
     int withShortcut = 0;
@@ -135,6 +137,27 @@ void tst_ViewActions::TheToolBarWorks()
     QWidget* const top = toolBar->widgetForAction(&FindAction(shown.actions, "action_TopView"));
     QTest::mouseClick(top, Qt::LeftButton);
     QVERIFY(shown.Picture() != before);
+}
+
+void tst_ViewActions::ASectionIsMovedWithTheSlider()
+{
+    ShownView shown;
+    shown.window.resize(1100, 400);
+    auto& slider = Find<QSlider>(shown.window, "sectionSlider");
+    QVERIFY(!slider.isVisible());
+    Trigger(shown.actions, "action_SectionX");
+    QTRY_VERIFY(slider.isVisible());
+    const QImage middle = shown.Picture();
+    QTest::keyClick(&slider, Qt::Key_End);
+    const QImage end = shown.Picture();
+    QVERIFY(end != middle);
+    // The place stays for another direction.
+    Trigger(shown.actions, "action_SectionY");
+    QCOMPARE(slider.value(), 100);
+    Trigger(shown.actions, "action_SectionX");
+    QCOMPARE(shown.Picture(), end);
+    Trigger(shown.actions, "action_NoSection");
+    QTRY_VERIFY(!slider.isVisible());
 }
 
 void tst_ViewActions::WithoutAViewAllIsDisabled()
