@@ -853,6 +853,34 @@ Remove these as well?</source>
         <source>File</source>
         <translation>文件</translation>
     </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Select a feature in the tree, or click it in the view, to edit its fields here. The menu &quot;Model&quot; adds features.</source>
+        <translation>在特征树中选择一个特征，或在视图中单击它，即可在此编辑其参数。“模型”菜单用于添加特征。</translation>
+    </message>
+    <message>
+        <source>At face</source>
+        <translation>所在面</translation>
+    </message>
+    <message>
+        <source>At edges</source>
+        <translation>所在边</translation>
+    </message>
+    <message>
+        <source>Corner %1</source>
+        <translation>角点 %1</translation>
+    </message>
+    <message>
+        <source>New corner</source>
+        <translation>新角点</translation>
+    </message>
+    <message>
+        <source>x; y, or x; y; via x; via y for an arc that leads to the corner</source>
+        <translation>x; y；对于通向该角点的圆弧，则为 x; y; 途经 x; 途经 y</translation>
+    </message>
 </context>
 <context>
     <name>FeatureKinds</name>
@@ -1154,6 +1182,21 @@ Remove these as well?</source>
     <message>
         <source>Pick edges for %1:</source>
         <translation>为%1拾取边：</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTextError</name>
+    <message>
+        <source>%1 is not a corner: write &quot;x; y&quot;, or &quot;x; y; via x; via y&quot; for an arc that leads to it</source>
+        <translation>%1 不是角点：请输入“x; y”，对于通向该角点的圆弧，请输入“x; y; 途经 x; 途经 y”</translation>
+    </message>
+    <message>
+        <source>%1 is not a face: write its name, such as &quot;box.zmax&quot;, or a point on it, such as &quot;(0, 0, 10)&quot;</source>
+        <translation>%1 不是面：请输入面的名称，例如“box.zmax”，或面上的一点，例如“(0, 0, 10)”</translation>
+    </message>
+    <message>
+        <source>%1 is not an edge: write its two faces, such as &quot;box.zmax | box.xmax&quot;, or a point on it, such as &quot;(0, 0, 10)&quot;</source>
+        <translation>%1 不是边：请输入它的两个面，例如“box.zmax | box.xmax”，或边上的一点，例如“(0, 0, 10)”</translation>
     </message>
 </context>
 <context>
@@ -1557,6 +1600,10 @@ Remove these as well?</source>
     <message>
         <source>the clipboard</source>
         <translation>剪贴板</translation>
+    </message>
+    <message>
+        <source>is of the unknown type %1</source>
+        <translation>的类型 %1 未知</translation>
     </message>
 </context>
 <context>
@@ -2675,6 +2722,10 @@ Remove these as well?</source>
         <source>%1 - %2[*] - Tarn host</source>
         <translation>%1 - %2[*] - Tarn host</translation>
     </message>
+    <message>
+        <source>%1. The project stays open with its changes; &quot;Save project as&quot; saves it elsewhere.</source>
+        <translation>%1。项目及其更改仍保持打开；可用“项目另存为”保存到其他位置。</translation>
+    </message>
 </context>
 <context>
     <name>ProjectProperties</name>
@@ -2729,6 +2780,10 @@ Remove these as well?</source>
     <message>
         <source>The condition %1 does not hold.</source>
         <translation>条件 %1 不满足。</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>条件</translation>
     </message>
 </context>
 <context>
@@ -3241,10 +3296,6 @@ Remove these as well?</source>
 <context>
     <name>SetupCheck</name>
     <message>
-        <source>Boundary condition &quot;%1&quot; fixes no degree of freedom</source>
-        <translation>边界条件“%1”没有任何约束</translation>
-    </message>
-    <message>
         <source>Frequency range: %1 to %2 are not numbers</source>
         <translation>频率范围：%1 至 %2 不是数值</translation>
     </message>
@@ -3291,10 +3342,6 @@ Remove these as well?</source>
     <message>
         <source>A static analysis needs a boundary condition</source>
         <translation>静力分析需要边界条件</translation>
-    </message>
-    <message>
-        <source>Boundary condition &quot;%1&quot; acts nowhere: pick its faces or edges</source>
-        <translation>边界条件“%1”没有作用位置：请拾取面或边</translation>
     </message>
     <message>
         <source>A static analysis needs a load</source>
@@ -3359,6 +3406,23 @@ Remove these as well?</source>
     <message>
         <source>%1 applies nowhere: pick its faces or edges</source>
         <translation>%1 没有应用位置：请拾取面或边</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of an entry: what is wrong</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>The part cannot be built: %1</source>
+        <translation>无法构建零件：%1</translation>
+    </message>
+    <message>
+        <source>Boundary condition &quot;%1&quot;</source>
+        <translation>边界条件“%1”</translation>
+    </message>
+    <message>
+        <source>%1 fixes no degree of freedom</source>
+        <translation>%1 没有固定任何自由度</translation>
     </message>
 </context>
 <context>
@@ -4544,6 +4608,10 @@ Remove these as well?</source>
     <message>
         <source>Section across &amp;z</source>
         <translation>垂直于 z 的剖面(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Place of the section</source>
+        <translation>剖切位置</translation>
     </message>
 </context>
 <context>

@@ -14,7 +14,8 @@ MANUAL = SOURCE / "docs" / "manual"
 IMAGES = SOURCE / "docs" / "images"
 EXAMPLE = SOURCE / "docs" / "examples" / "small_host"
 # Pictures that do not show a dialog.
-OWN_WINDOWS = {"MainWindow", "ResultsDock", "SolveDock", "StudyPanel", "StudyResults"}
+OWN_WINDOWS = {"BuildLimitsDialog", "MainWindow", "ParameterPanel", "ProjectProperties", "ResultsDock", "SetupCheckDock",
+               "SolveDock", "StudyPanel", "StudyResults"}
 ELSEWHERE = re.compile(r"^(https?|mailto|javascript):")
 
 

@@ -1,5 +1,7 @@
 #include "Screenshots.h"
 
+#include "AnalysisType.h"
+#include "BuildLimitsDialog.h"
 #include "DOEDlg.h"
 #include "DesignModel.h"
 #include "DialogCatalogue.h"
@@ -13,13 +15,16 @@
 #include "NoticeWatcher.h"
 #include "OneParameterDlg.h"
 #include "ParameterEditor.h"
+#include "ParameterPanel.h"
 #include "PartModel.h"
 #include "Project.h"
+#include "ProjectProperties.h"
 #include "ResultsDock.h"
 #include "SampleAnalysis.h"
 #include "SampleRecords.h"
 #include "SampleResults.h"
 #include "SampleStudy.h"
+#include "SetupCheckDock.h"
 #include "SolveActions.h"
 #include "SolveDock.h"
 #include "StudyActions.h"
@@ -47,6 +52,7 @@ constexpr QSize WindowSize(1440, 940); // Whatever the screen and the last sessi
 constexpr QSize DockSize(460, 480);
 constexpr QSize StudyPanelSize(400, 720);
 constexpr QSize StudyResultsSize(900, 560);
+constexpr QSize ParameterPanelSize(820, 320);
 constexpr QSize RoomySampling(360, 460); // The form's own size shows one sample.
 
 class PictureFont
@@ -146,6 +152,33 @@ public:
     }
 };
 
+// What asks for a project and for a check has no entry in the catalogue: these are not dialogs of
+// the library.
+void VisitProject(const Project& project,
+                  const std::function<void(const QString& name, QWidget& window)>& visit)
+{
+    ProjectProperties properties(project, nullptr);
+    visit(QStringLiteral("ProjectProperties"), properties);
+    BuildLimitsDialog limits(BuildLimits::Stored(), nullptr);
+    visit(QStringLiteral("BuildLimitsDialog"), limits);
+
+    AnalysisDefinition analysis = project.Analysis();
+    analysis.constraints.clear();
+    analysis.meshSize.clear();
+    analysis.type.kind = AnalysisType::StaticKind;
+    auto* const check = new SetupCheckDock(nullptr);
+    DockWindow checkWindow(*check);
+    check->ShowProblems(CheckSetup(analysis, {}));
+    visit(QStringLiteral("SetupCheckDock"), checkWindow);
+
+    DesignModel design;
+    design.Open(project.Units());
+    auto* const parameters = new ParameterPanel(design, nullptr);
+    DockWindow parametersWindow(*parameters);
+    parametersWindow.resize(ParameterPanelSize);
+    visit(QStringLiteral("ParameterPanel"), parametersWindow);
+}
+
 void VisitDocks(const std::function<void(const QString& name, QWidget& window)>& visit)
 {
     auto* const results = new ResultsDock(nullptr, nullptr);
@@ -205,6 +238,7 @@ void VisitWindows(const Project& project,
         Prepare(*dialog);
         visit(QString::fromLatin1(entry.name), *dialog);
     }
+    VisitProject(project, visit);
     VisitDocks(visit);
     visit(QStringLiteral("MaterialEditer"), *PictureOfMaterialEditor());
 }

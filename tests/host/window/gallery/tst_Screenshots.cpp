@@ -32,8 +32,9 @@ namespace {
 
 QStringList WindowNames()
 {
-    QStringList names = {"MainWindow", "MaterialEditer", "ResultsDock",
-                         "SolveDock",  "StudyPanel",     "StudyResults"};
+    QStringList names = {"BuildLimitsDialog", "MainWindow",  "MaterialEditer", "ParameterPanel",
+                         "ProjectProperties", "ResultsDock", "SetupCheckDock", "SolveDock",
+                         "StudyPanel",        "StudyResults"};
     for (const CatalogueEntry& entry : DialogCatalogue())
         names << entry.name;
     names.sort();
