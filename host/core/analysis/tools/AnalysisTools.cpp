@@ -1,10 +1,13 @@
 #include "AnalysisTools.h"
 
 #include "HostError.h"
+#include "MemoryLimit.h"
 #include "UserSettings.h"
 
 #include <QFileInfo>
 #include <QStandardPaths>
+
+#include <algorithm>
 
 namespace {
 
@@ -42,7 +45,8 @@ AnalysisTools AnalysisTools::Stored()
     tools.seconds = qBound(1, settings.value(SecondsKey, tools.seconds).toInt(), MaximumSeconds);
     tools.maximumFreedoms = qBound(
         LeastFreedoms, settings.value(FreedomsKey, tools.maximumFreedoms).toInt(), MostFreedoms);
-    tools.megabytes = BuildLimits::Stored().megabytes;
+    // The largest permitted model takes the solver several times the memory that a part needs.
+    tools.megabytes = std::max(BuildLimits::Stored().megabytes, PhysicalMegabytes() / 4 * 3);
     return tools;
 }
 

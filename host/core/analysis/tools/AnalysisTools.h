@@ -29,7 +29,8 @@ struct AnalysisTools
     AnalysisTool solver{QStringLiteral("ccx"), QStringLiteral("calculix-ccx"), {}};
     int seconds = 4 * 3600;        ///< For each run of a program.
     int maximumFreedoms = 2000000; ///< Degrees of freedom of a model.
-    /// Of the address space of a program; a setting of BuildLimits.
+    /// Of the address space of a program: three quarters of the computer's memory, or the setting
+    /// of BuildLimits where that is more.
     int megabytes = BuildLimits().megabytes;
 
     /// The user's settings. Values out of range are brought into it.

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void APathThatIsNotAProgramIsRefused();
     void SettingsAreKept();
     void ValuesOutOfRangeAreBroughtIntoIt();
+    void AGreaterLimitOfMemoryHoldsForPrograms();
 };
 
 namespace {
@@ -94,6 +95,19 @@ void tst_AnalysisTools::ValuesOutOfRangeAreBroughtIntoIt()
     tools.Store();
     QCOMPARE(AnalysisTools::Stored().seconds, 1);
     QCOMPARE(AnalysisTools::Stored().maximumFreedoms, 1000);
+}
+
+void tst_AnalysisTools::AGreaterLimitOfMemoryHoldsForPrograms()
+{
+    const int usual = AnalysisTools::Stored().megabytes;
+    QVERIFY(usual >= BuildLimits().megabytes);
+    BuildLimits limits;
+    limits.megabytes = BuildLimits::MinimumMegabytes;
+    limits.Store();
+    QVERIFY(AnalysisTools::Stored().megabytes > limits.megabytes);
+    limits.megabytes = BuildLimits::MaximumMegabytes;
+    limits.Store();
+    QCOMPARE(AnalysisTools::Stored().megabytes, limits.megabytes);
 }
 
 TARN_TEST_MAIN(tst_AnalysisTools)
