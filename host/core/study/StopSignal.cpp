@@ -12,7 +12,7 @@ namespace {
 std::array<int, 2> ends = {-1, -1};
 volatile std::sig_atomic_t number = 0;
 
-void Handle(int signal)
+void TakeSignal(int signal)
 {
     const int error = errno;
     number = signal;
@@ -37,7 +37,7 @@ StopSignal::StopSignal()
     struct sigaction action
     {
     };
-    action.sa_handler = Handle;
+    action.sa_handler = TakeSignal;
     sigaction(SIGINT, &action, &m_interrupt);
     sigaction(SIGTERM, &action, &m_terminate);
 }
