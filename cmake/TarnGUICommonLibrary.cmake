@@ -20,20 +20,6 @@ set(TARN_DIALOG_LIBRARIES
     TKG3d
     TKGeomBase)
 target_link_libraries(TarnGUICommonObjects PUBLIC ${TARN_DIALOG_LIBRARIES} TarnModelSupport PRIVATE TarnStrict)
-tarn_precompile(
-  TarnGUICommonObjects
-  <map>
-  <vector>
-  <QComboBox>
-  <QDialog>
-  <QLabel>
-  <QLineEdit>
-  <QMessageBox>
-  <QPointer>
-  <QPushButton>
-  <QTableWidget>
-  <gp_Pnt.hxx>)
-
 tarn_add_library(TarnGUICommon $<TARGET_OBJECTS:TarnGUICommonObjects>)
 target_link_libraries(TarnGUICommon PUBLIC ${TARN_DIALOG_LIBRARIES} PRIVATE $<BUILD_INTERFACE:TarnModelSupport>
                                                                             $<BUILD_INTERFACE:TarnStrict>)
