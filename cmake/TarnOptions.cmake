@@ -53,8 +53,8 @@ endif()
 # tarn_precompile(<target> <header>...)
 #
 # Precompiles the headers for the sources of the target if TARN_PRECOMPILE is on. Every source still includes what
-# it uses: the usual build has no precompiled headers. Not for libraries of hosts, to which headers that nobody
-# uses add initialisers.
+# it uses: the usual build has no precompiled headers. The libraries for hosts are compiled without them, because
+# headers that a source does not use would add initialisers.
 function(tarn_precompile target)
   if(TARN_PRECOMPILE)
     target_precompile_headers(${target} PRIVATE ${ARGN})
