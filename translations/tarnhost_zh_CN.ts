@@ -3985,7 +3985,7 @@ Remove these as well?</source>
         <translation>无法显示第 %1 次试验：%2</translation>
     </message>
     <message>
-        <source>there is no parameter &quot;%1&quot; in the project</source>
+        <source>the project has no parameter &quot;%1&quot;</source>
         <translation>项目中没有参数“%1”</translation>
     </message>
     <message>

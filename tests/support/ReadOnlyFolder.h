@@ -6,7 +6,7 @@
 #include <unistd.h>
 
 /// While this lives, nothing can be created or replaced in the working directory, not even by an
-/// administrator: the process gives up these rights for the time.
+/// administrator: the process gets its rights back when this is destroyed.
 class ReadOnlyFolder
 {
 public:

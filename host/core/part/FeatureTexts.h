@@ -6,7 +6,7 @@
 
 #include <QCoreApplication>
 
-/// Why a text is no corner or reference: one line.
+/// Why a text is not a corner or a reference: one line.
 class FeatureTextError : public HostError
 {
     Q_DECLARE_TR_FUNCTIONS(FeatureTextError)

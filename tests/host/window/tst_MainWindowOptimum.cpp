@@ -62,7 +62,7 @@ void tst_MainWindowOptimum::AnOptimumIsVerifiedAndBecomesTheDesign()
 {
     OptimumWindow open(EnterTemporaryDirectory());
     const PostedMessages posted;
-    // The height of the hub follows the thickness, and is no parameter of its own.
+    // The height of the hub follows the thickness; it is not a parameter of its own.
     QCOMPARE(RowOf(open.Rows(), "hub_height"), -1);
     open.FindLightest("660000");
     const double thickness = open.Cell("thickness", OptimumTable::PredictedColumn);

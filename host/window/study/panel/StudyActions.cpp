@@ -256,7 +256,7 @@ ParameterEntries StudyActions::DesignAt(const std::vector<double>& point) const
     for (int i = 0; i < names.size(); ++i) {
         const int index = FindParameter(entries, names[i]);
         if (index < 0)
-            throw HostError(tr("there is no parameter \"%1\" in the project").arg(names[i]));
+            throw HostError(tr("the project has no parameter \"%1\"").arg(names[i]));
         ParameterEntry& entry = entries[std::size_t(index)];
         if (!entry.Expression().isEmpty() || entry.Number() != point[std::size_t(i)])
             entry.SetNumber(point[std::size_t(i)]);
