@@ -14,9 +14,11 @@ endif()
 # The build tree has the layout of an installation, because the library finds its data relative to itself.
 set(TARN_DATA_DIR ${CMAKE_INSTALL_DATADIR}/TarnGUICommon-${TARN_INTERFACE_VERSION})
 set(TARN_BUILD_LIBDIR "${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}")
+set(TARN_BUILD_BINDIR "${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}") # Of DLLs.
 set(TARN_BUILD_DATA_DIR "${PROJECT_BINARY_DIR}/${TARN_DATA_DIR}")
 if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}" OR IS_ABSOLUTE "${CMAKE_INSTALL_DATADIR}")
   set(TARN_BUILD_LIBDIR "${PROJECT_BINARY_DIR}/lib")
+  set(TARN_BUILD_BINDIR "${PROJECT_BINARY_DIR}/bin")
   set(TARN_BUILD_DATA_DIR "${PROJECT_BINARY_DIR}/share/TarnGUICommon")
 endif()
 
@@ -46,21 +48,33 @@ function(tarn_add_library target)
   if(TARN_SOURCE_FOLDERS STREQUAL PRIVATE)
     target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${TARN_BUILD_INCLUDE_DIR}>")
   endif()
-  set(symbols "${PROJECT_SOURCE_DIR}/cmake/exports.map")
-  set(shared_data "${PROJECT_SOURCE_DIR}/cmake/shared-data.list")
-  target_link_options(${target} PRIVATE "-Wl,--version-script=${symbols}" "-Wl,--dynamic-list=${shared_data}"
-                      -Wl,-z,nodelete)
-  if(NOT TARN_SANITIZE)
-    target_link_options(${target} PRIVATE -Wl,--no-undefined)
-  endif()
-  # The libraries find each other in their own folder, so that the package is relocatable.
+  tarn_link_library(${target})
   set_target_properties(
     ${target}
     PROPERTIES VERSION ${PROJECT_VERSION}
                SOVERSION ${TARN_INTERFACE_VERSION}
-               INSTALL_RPATH "$ORIGIN"
                LIBRARY_OUTPUT_DIRECTORY "${TARN_BUILD_LIBDIR}"
-               LINK_DEPENDS "${symbols};${shared_data}")
+               ARCHIVE_OUTPUT_DIRECTORY "${TARN_BUILD_LIBDIR}"
+               RUNTIME_OUTPUT_DIRECTORY "${TARN_BUILD_BINDIR}")
+endfunction()
+
+# tarn_link_library(<target>)
+#
+# Sets the linker options of the platform. The libraries find each other in their own folder, so that the package is
+# relocatable. Windows needs no options: DLLs export what is marked, find each other and resolve all symbols.
+function(tarn_link_library target)
+  if(APPLE)
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "@loader_path")
+  elseif(UNIX)
+    set(symbols "${PROJECT_SOURCE_DIR}/cmake/exports.map")
+    set(shared_data "${PROJECT_SOURCE_DIR}/cmake/shared-data.list")
+    target_link_options(${target} PRIVATE "-Wl,--version-script=${symbols}" "-Wl,--dynamic-list=${shared_data}"
+                        -Wl,-z,nodelete)
+    if(NOT TARN_SANITIZE)
+      target_link_options(${target} PRIVATE -Wl,--no-undefined)
+    endif()
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN" LINK_DEPENDS "${symbols};${shared_data}")
+  endif()
 endfunction()
 
 # tarn_add_model_library(<target>)
@@ -93,7 +107,7 @@ function(tarn_public_headers target)
     get_filename_component(header "${header}" ABSOLUTE)
     set_property(TARGET ${target} APPEND PROPERTY PUBLIC_HEADER "${header}")
     get_filename_component(name "${header}" NAME)
-    file(CREATE_LINK "${header}" "${TARN_BUILD_INCLUDE_DIR}/${name}" SYMBOLIC)
+    file(CREATE_LINK "${header}" "${TARN_BUILD_INCLUDE_DIR}/${name}" COPY_ON_ERROR SYMBOLIC)
   endforeach()
 endfunction()
 
@@ -104,9 +118,13 @@ function(tarn_install_library target)
   if(NOT TARN_INSTALL)
     return()
   endif()
-  install(TARGETS ${target} EXPORT TarnGUICommonTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
-                                                                NAMELINK_COMPONENT development
-          PUBLIC_HEADER DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon COMPONENT development)
+  install(
+    TARGETS ${target}
+    EXPORT TarnGUICommonTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+    PUBLIC_HEADER DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/TarnGUICommon COMPONENT development)
 endfunction()
 
 # tarn_get_public_headers(<variable>)

@@ -2,16 +2,20 @@
 # the stricter Qt switches for shipped code; tests and benchmarks do not use them.
 add_library(TarnOptions INTERFACE)
 target_compile_features(TarnOptions INTERFACE cxx_std_17)
-target_compile_options(
-  TarnOptions
-  INTERFACE -Wall
-            -Wextra
-            -Wpedantic
-            -Wshadow
-            -Wconversion
-            -Wold-style-cast
-            -Wsuggest-override
-            $<$<BOOL:${TARN_WERROR}>:-Werror>)
+if(MSVC)
+  target_compile_options(TarnOptions INTERFACE /utf-8 /permissive- /Zc:__cplusplus /W4)
+else()
+  target_compile_options(
+    TarnOptions
+    INTERFACE -Wall
+              -Wextra
+              -Wpedantic
+              -Wshadow
+              -Wconversion
+              -Wold-style-cast
+              -Wsuggest-override
+              $<$<BOOL:${TARN_WERROR}>:-Werror>)
+endif()
 target_compile_definitions(TarnOptions INTERFACE QT_NO_KEYWORDS QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
 
 # No implicit conversions between text and bytes.

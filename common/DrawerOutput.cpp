@@ -3,6 +3,9 @@
 #include <QTextCodec>
 
 #include <locale.h>
+#ifdef Q_OS_MACOS
+#include <xlocale.h>
+#endif
 
 #include <cstdarg>
 #include <cstdio>
@@ -18,6 +21,7 @@ namespace {
 class CNumericLocale
 {
 public:
+#ifdef Q_OS_UNIX
     CNumericLocale()
         : m_locale(newlocale(LC_NUMERIC_MASK, "C", duplocale(uselocale(locale_t(nullptr)))))
         , m_previous(uselocale(m_locale))
@@ -28,11 +32,28 @@ public:
         uselocale(m_previous);
         freelocale(m_locale);
     }
-    Q_DISABLE_COPY(CNumericLocale)
 
 private:
     locale_t m_locale;
     locale_t m_previous;
+#else
+    CNumericLocale()
+        : m_threads(_configthreadlocale(_ENABLE_PER_THREAD_LOCALE))
+        , m_previous(setlocale(LC_NUMERIC, nullptr))
+    {
+        setlocale(LC_NUMERIC, "C");
+    }
+    ~CNumericLocale()
+    {
+        setlocale(LC_NUMERIC, m_previous.constData());
+        _configthreadlocale(m_threads);
+    }
+
+private:
+    int m_threads;
+    QByteArray m_previous;
+#endif
+    Q_DISABLE_COPY(CNumericLocale)
 };
 
 QString FormatText(const char* format, va_list arguments)

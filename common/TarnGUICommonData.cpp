@@ -6,26 +6,44 @@
 #include <QPointer>
 #include <QTranslator>
 
+#ifdef Q_OS_UNIX
 #include <dlfcn.h>
+#else
+#include <windows.h>
+#endif
 
 #include <memory>
+#include <string>
 
 namespace {
 
-QString LibraryFolder()
+/// The path of the library's file.
+QString LibraryFile()
 {
-    Dl_info library = {};
     // Any address in the library will do.
-    dladdr(reinterpret_cast<const void*>(&TarnGUICommonData::Folder), &library);
-    return QFileInfo(QFile::decodeName(library.dli_fname)).canonicalPath();
+    const auto* const address = reinterpret_cast<const void*>(&TarnGUICommonData::Folder);
+#ifdef Q_OS_UNIX
+    Dl_info library = {};
+    dladdr(address, &library);
+    return QFile::decodeName(library.dli_fname);
+#else
+    HMODULE library = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                           GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       static_cast<const wchar_t*>(address), &library);
+    constexpr int LongestPath = 32767;
+    std::wstring path(LongestPath, L'\0');
+    path.resize(GetModuleFileNameW(library, &path[0], LongestPath));
+    return QString::fromStdWString(path);
+#endif
 }
 
 } // namespace
 
 QString TarnGUICommonData::Folder()
 {
-    static const QString folder =
-        QDir::cleanPath(LibraryFolder() + QStringLiteral("/" TARN_DATA_FROM_LIBRARY));
+    static const QString folder = QDir::cleanPath(QFileInfo(LibraryFile()).canonicalPath() +
+                                                  QStringLiteral("/" TARN_DATA_FROM_LIBRARY));
     return folder;
 }
 

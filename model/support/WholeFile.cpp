@@ -1,5 +1,7 @@
 #include "WholeFile.h"
 
+#include "FileSystem.h"
+
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
@@ -8,12 +10,6 @@
 #include <QRandomGenerator>
 #include <QScopeGuard>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstdio>
 #include <optional>
 
 namespace tarn {
@@ -33,27 +29,6 @@ std::optional<QFile::Permissions> PermissionsOf(const QString& path)
     if (IsResource(path) || !QFileInfo::exists(path))
         return std::nullopt;
     return QFile::permissions(path);
-}
-
-bool IsSynced(int handle)
-{
-    // Some file systems cannot do this.
-    return fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
-}
-
-/// Without this a power failure could undo the replacement of a file.
-bool IsFolderSynced(const QString& file)
-{
-    const QByteArray path = QFile::encodeName(QFileInfo(file).path());
-    const int folder = open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    // A folder in which one may write is not always one that one may read.
-    if (folder < 0)
-        return true;
-    const bool isSynced = IsSynced(folder);
-    const int error = errno;
-    close(folder);
-    errno = error;
-    return isSynced;
 }
 
 /// An unpredictable name in the folder of @p target, so that no other program can occupy it.
@@ -96,10 +71,10 @@ QString Create(QFile& file, QIODevice& from, std::optional<QFile::Permissions> p
         }
         size += count;
     }
-    if (!IsSynced(file.handle()))
+    if (!Sync(file))
         return qt_error_string();
     if (file.size() != size)
-        return qt_error_string(EIO);
+        return IncompleteWriteError();
     removal.dismiss();
     return {};
 }
@@ -144,11 +119,11 @@ bool WholeFile::FailBySize()
     return Fail(tr("exceeds the limit of %1").arg(limit));
 }
 
-bool WholeFile::IsRegular(unsigned int mode)
+bool WholeFile::IsRegular(FileKind kind)
 {
-    if (S_ISDIR(mode))
+    if (kind == FileKind::Folder)
         return Fail(tr("is a folder, not a file"));
-    return S_ISREG(mode) || Fail(tr("is not a regular file"));
+    return kind == FileKind::Regular || Fail(tr("is not a regular file"));
 }
 
 bool WholeFile::Open(QFile& file)
@@ -158,17 +133,10 @@ bool WholeFile::Open(QFile& file)
         return file.open(QIODevice::ReadOnly) ||
                Fail(tr("cannot be opened: %1").arg(file.errorString()));
     }
-    // Opening a pipe would otherwise wait for a writer. The kind of the file is checked afterwards,
-    // because the path may lead elsewhere a moment later.
-    const int handle =
-        open(QFile::encodeName(m_path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-    struct stat status
-    {
-    };
-    if (handle < 0 || !file.open(handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) ||
-        fstat(handle, &status) != 0)
+    FileKind kind = FileKind::Missing;
+    if (!OpenForReading(m_path, file, kind))
         return Fail(tr("cannot be opened: %1").arg(qt_error_string()));
-    return IsRegular(status.st_mode);
+    return IsRegular(kind);
 }
 
 bool WholeFile::Read(QByteArray& content)
@@ -205,19 +173,16 @@ bool WholeFile::Write(const QByteArray& content, const std::function<QString()>&
     };
     if (content.size() > m_maximumSize)
         return FailBySize();
-    struct stat status
-    {
-    };
-    const bool isThere = stat(QFile::encodeName(m_path).constData(), &status) == 0;
+    const FileKind kind = KindOf(m_path);
+    const bool isThere = kind != FileKind::Missing;
     const QString missing = qt_error_string();
-    if (isThere && !IsRegular(status.st_mode))
+    if (isThere && !IsRegular(kind))
         return false;
     const QString target = Target(m_path);
     if (target.isEmpty())
         return fail(missing);
-    const QByteArray targetName = QFile::encodeName(target);
     // Replacing a file needs no right to write it, but who took that right away meant it.
-    if (isThere && faccessat(AT_FDCWD, targetName.constData(), W_OK, AT_EACCESS) != 0)
+    if (isThere && !MayWrite(target))
         return fail(qt_error_string());
 
     QFile file(TemporaryName(target));
@@ -229,15 +194,13 @@ bool WholeFile::Write(const QByteArray& content, const std::function<QString()>&
         return fail(reason);
     if (beforeReplace)
         reason = beforeReplace();
-    // Not QFile::rename(), which does not replace files.
-    if (reason.isEmpty() &&
-        std::rename(QFile::encodeName(file.fileName()).constData(), targetName.constData()) != 0)
+    if (reason.isEmpty() && !Replace(file.fileName(), target))
         reason = qt_error_string();
     if (!reason.isEmpty()) {
         file.remove();
         return fail(reason);
     }
-    return IsFolderSynced(target) || fail(qt_error_string());
+    return SyncFolder(target) || fail(qt_error_string());
 }
 
 bool WholeFile::CopyTo(const QString& copy)

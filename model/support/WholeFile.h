@@ -10,6 +10,8 @@ class QFile;
 
 namespace tarn {
 
+enum class FileKind;
+
 /// Reads and writes a regular file as a whole.
 ///
 /// Folders, pipes and devices are refused, and opening them never blocks. Files are replaced
@@ -55,7 +57,7 @@ public:
 private:
     bool Fail(const QString& error);
     bool FailBySize();
-    bool IsRegular(unsigned int mode);
+    bool IsRegular(FileKind kind);
     bool Open(QFile& file);
 
     QString m_path;
