@@ -95,5 +95,9 @@ library of materials.")
 
 install(FILES "${PROJECT_SOURCE_DIR}/cmake/debian/development.overrides"
         DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME ${debian_development} COMPONENT development)
+if(TARN_DOCS)
+  install(FILES "${PROJECT_SOURCE_DIR}/cmake/debian/manual.doc-base" DESTINATION ${CMAKE_INSTALL_DATADIR}/doc-base
+          RENAME ${debian_development} COMPONENT development)
+endif()
 
 include(CPack)

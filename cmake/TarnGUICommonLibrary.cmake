@@ -24,6 +24,11 @@ tarn_add_library(TarnGUICommon $<TARGET_OBJECTS:TarnGUICommonObjects>)
 target_link_libraries(TarnGUICommon PUBLIC ${TARN_DIALOG_LIBRARIES} PRIVATE $<BUILD_INTERFACE:TarnModelSupport>
                                                                             $<BUILD_INTERFACE:TarnStrict>)
 
+# The kernel's headers use the constants of math.h.
+foreach(target TarnGUICommonObjects TarnGUICommon)
+  target_compile_definitions(${target} PUBLIC $<$<PLATFORM_ID:Windows>:_USE_MATH_DEFINES>)
+endforeach()
+
 add_subdirectory(forms)
 tarn_add_folders(TarnGUICommonObjects ${TARN_DIALOG_FOLDERS})
 get_target_property(includes TarnGUICommonObjects INTERFACE_INCLUDE_DIRECTORIES)
