@@ -34,11 +34,26 @@ QString Shown(const QByteArray& cell)
 
 } // namespace
 
-ResultColumns::ResultColumns(QStringList parameters, QStringList results)
+ResultColumns::ResultColumns(QStringList parameters, QStringList results,
+                             QHash<QString, QString> units)
     : m_names(parameters + results)
     , m_parameterCount(int(parameters.size()))
+    , m_units(std::move(units))
     , m_columns(std::size_t(m_names.size()))
 {
+}
+
+ResultColumns ResultColumns::WithoutRuns() const
+{
+    return {m_names.mid(0, m_parameterCount), ResultNames(), m_units};
+}
+
+QString ResultColumns::Title(int column) const
+{
+    const QString& name = m_names[column];
+    const QString unit =
+        column < m_parameterCount ? m_units.value(name) : ResultsTable::MeasureUnit(name);
+    return unit.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, unit);
 }
 
 QString ResultColumns::Take(const std::vector<QByteArray>& cells)

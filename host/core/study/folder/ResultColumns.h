@@ -15,10 +15,16 @@ class ResultColumns
 public:
     ResultColumns() = default;
     /// Of a table whose columns between "run" and "status" are @p parameters and then @p results.
-    ResultColumns(QStringList parameters, QStringList results);
+    /// @p units are those of parameters, by name.
+    ResultColumns(QStringList parameters, QStringList results, QHash<QString, QString> units = {});
+    /// The same columns.
+    ResultColumns WithoutRuns() const;
 
     /// The number columns, parameters first.
     const QStringList& Names() const { return m_names; }
+    /// The name of a number column with its unit, as in "thickness (mm)"; just the name if the unit
+    /// is unknown or the name ends with it.
+    QString Title(int column) const;
     /// How many of Names() are parameters.
     int ParameterCount() const { return m_parameterCount; }
     /// The number columns that are not parameters.
@@ -44,6 +50,7 @@ private:
 
     QStringList m_names;
     int m_parameterCount = 0;
+    QHash<QString, QString> m_units;
     std::vector<int> m_runs;
     std::vector<char> m_isOk;
     std::vector<QString> m_errors;

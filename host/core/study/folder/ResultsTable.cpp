@@ -70,9 +70,11 @@ QString PlainText(const QString& cell)
     return isMarked ? cell.mid(1) : cell;
 }
 
-ResultsTable::ResultsTable(const QStringList& parameters, const QStringList& more)
+ResultsTable::ResultsTable(const QStringList& parameters, const QStringList& more,
+                           const QHash<QString, QString>& units)
     : m_parameters(parameters)
     , m_more(more)
+    , m_units(units)
 {
 }
 
@@ -83,6 +85,14 @@ const QStringList& ResultsTable::MeasureNames()
         QStringLiteral("x_min"),      QStringLiteral("y_min"),    QStringLiteral("z_min"),
         QStringLiteral("x_max"),      QStringLiteral("y_max"),    QStringLiteral("z_max")};
     return names;
+}
+
+// The bounding box.
+QString ResultsTable::MeasureUnit(const QString& name)
+{
+    const bool isBound =
+        name.endsWith(QLatin1String("_min")) || name.endsWith(QLatin1String("_max"));
+    return isBound && MeasureNames().contains(name) ? QStringLiteral("mm") : QString();
 }
 
 std::vector<double> ResultsTable::MeasuresOf(const RunResult& result)

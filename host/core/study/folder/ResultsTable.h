@@ -36,11 +36,15 @@ public:
     /// In bytes; enough for a million runs.
     static constexpr int MaximumFileSize = 1024 * 1024 * 1024;
 
-    /// @p more are the columns of the results of analyses and the responses.
-    explicit ResultsTable(const QStringList& parameters, const QStringList& more = {});
+    /// @p more are the columns of the results of analyses and the responses, @p units those of
+    /// parameters, by name.
+    explicit ResultsTable(const QStringList& parameters, const QStringList& more = {},
+                          const QHash<QString, QString>& units = {});
 
     /// The names of volume, area, mass and bounding box.
     static const QStringList& MeasureNames();
+    /// The unit of a measure whose name lacks it; otherwise empty.
+    static QString MeasureUnit(const QString& name);
     /// The values of these columns.
     static std::vector<double> MeasuresOf(const RunResult& result);
 
@@ -57,7 +61,7 @@ public:
     void WriteRows(const QString& path, const QByteArray& rows) const;
 
     /// Columns without runs, for what Row() writes.
-    ResultColumns EmptyColumns() const { return {m_parameters, MeasureNames() + m_more}; }
+    ResultColumns EmptyColumns() const { return {m_parameters, MeasureNames() + m_more, m_units}; }
 
     /// The results by run number, counted from 1.
     const std::map<int, RunResult>& Runs() const { return m_runs; }
@@ -68,5 +72,6 @@ private:
 
     QStringList m_parameters;
     QStringList m_more;
+    QHash<QString, QString> m_units;
     std::map<int, RunResult> m_runs;
 };

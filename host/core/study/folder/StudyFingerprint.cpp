@@ -23,6 +23,7 @@ const QLatin1String FormatKey("format");
 const QLatin1String ParametersKey("parameters");
 const QLatin1String ColumnsKey("columns");
 const QLatin1String InputsKey("inputs");
+const QLatin1String UnitsKey("units");
 
 /// An entry of the file, and what is said if it differs.
 struct Entry
@@ -114,8 +115,10 @@ QJsonObject StudyFingerprint(const Project& project, const QStringList& inputs, 
 {
     QJsonArray parameters;
     QJsonObject expressions;
+    QJsonObject units;
     for (const ParametersDef& record : project.Parameters()) {
         parameters.append(record.m_strName);
+        units.insert(record.m_strName, project.Units().value(record.m_strName));
         if (!inputs.contains(record.m_strName))
             expressions.insert(record.m_strName,
                                QString::fromLocal8Bit(record.m_strExpression.c_str()));
@@ -123,6 +126,7 @@ QJsonObject StudyFingerprint(const Project& project, const QStringList& inputs, 
     return {{FormatKey, Format},
             {ParametersKey, parameters},
             {InputsKey, QJsonArray::fromStringList(inputs)},
+            {UnitsKey, units},
             {QLatin1String("expressions"), expressions},
             {QLatin1String("features"), Hash(project.Features().ToJson())},
             {QLatin1String("conditions"), Hash(ConditionsToJson(project.Conditions()))},
@@ -149,6 +153,12 @@ StudyNames::StudyNames(const QJsonObject& stored)
     , inputs(Texts(stored.value(InputsKey)))
     , columns(Texts(stored.value(ColumnsKey)))
 {
+    const QJsonObject known = stored.value(UnitsKey).toObject();
+    for (const QString& name : parameters) {
+        const QString unit = known.value(name).toString();
+        if (!unit.isEmpty())
+            units.insert(name, unit);
+    }
     if (stored.value(FormatKey).toInt() != Format)
         throw HostError(QCoreApplication::translate("StudyFingerprint",
                                                     "is not of format %1, which this program reads")

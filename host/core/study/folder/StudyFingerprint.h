@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QJsonObject>
 #include <QStringList>
 
@@ -14,7 +15,8 @@ QJsonObject StudyFingerprint(const Project& project, const QStringList& inputs, 
 /// material differs"; empty if nothing does.
 QString FingerprintDifference(const QJsonObject& stored, const QJsonObject& study);
 
-/// The names of the parameters, the inputs and the columns of results in a @p stored fingerprint.
+/// The names of the parameters, the inputs and the columns of results in a @p stored fingerprint,
+/// and the units of parameters.
 struct StudyNames
 {
     /// @throws HostError if it is not of a format that this program reads
@@ -23,4 +25,6 @@ struct StudyNames
     QStringList parameters;
     QStringList inputs;
     QStringList columns; ///< Results of analyses and responses.
+    /// By the parameter's name. They are only shown, so another unit is not another study.
+    QHash<QString, QString> units;
 };

@@ -113,7 +113,7 @@ void StudyFolder::ReadRuns(const QJsonObject& fingerprint)
 {
     try {
         const StudyNames names(fingerprint);
-        m_table = ResultsTable(names.parameters, names.columns);
+        m_table = ResultsTable(names.parameters, names.columns, names.units);
         m_runs = RunList(names.inputs);
     } catch (const HostError& error) {
         throw HostError(PathOf(FingerprintName) + QStringLiteral(": ") + error.Reason());

@@ -84,7 +84,7 @@ void ConvergencePlot::ShowRows()
     m_least->setSamples(least);
     m_greatest->setSamples(greatest);
     m_mean->setSamples(mean);
-    SetAxisTitle(*m_plot, QwtPlot::yLeft, m_response.currentText());
+    SetAxisTitle(*m_plot, QwtPlot::yLeft, TitleOf(m_response));
 }
 
 void ConvergencePlot::ShowSelection()

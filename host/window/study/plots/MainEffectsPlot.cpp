@@ -85,14 +85,17 @@ void MainEffectsPlot::ShowRows()
                 AddEffect(column, response);
         }
     }
+    QStringList titles;
     QList<double> ticks;
     constexpr double Middle = 0.5;
-    for (int place = 0; place < m_parameters.size(); ++place)
-        ticks << place + Middle;
-    m_plot->setAxisScaleDraw(QwtPlot::xBottom, new NameScale(m_parameters));
+    for (const Effect& effect : m_effects) {
+        ticks << double(titles.size()) + Middle;
+        titles << columns.Title(effect.column);
+    }
+    m_plot->setAxisScaleDraw(QwtPlot::xBottom, new NameScale(titles));
     m_plot->setAxisScaleDiv(QwtPlot::xBottom,
                             QwtScaleDiv(0.0, std::max(1, int(m_parameters.size())), {}, {}, ticks));
-    SetAxisTitle(*m_plot, QwtPlot::yLeft, tr("Mean of %1").arg(m_response.currentText()));
+    SetAxisTitle(*m_plot, QwtPlot::yLeft, tr("Mean of %1").arg(TitleOf(m_response)));
 }
 
 void MainEffectsPlot::AddEffect(int column, const std::vector<double>& response)

@@ -10,7 +10,6 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -79,27 +78,19 @@ void OptimumPage::AllowRun(bool isAllowed)
     ShowRun();
 }
 
-void OptimumPage::Paint(QPainter& painter, const QRect& area)
-{
-    painter.save();
-    painter.translate(area.topLeft());
-    m_content->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
-    painter.restore();
-}
-
 void OptimumPage::ShowRows()
 {
     m_goal.Refresh(Columns(), FirstResult(Columns()));
     m_columns = VaryingInputs();
     QStringList parameters;
     for (const int column : m_columns)
-        parameters << Columns().Names()[column];
+        parameters << Columns().Title(column);
     QStringList results;
     for (const int column : VaryingColumns(Columns())) {
         if (column < Columns().ParameterCount())
             continue;
         m_columns.push_back(column);
-        results << Columns().Names()[column];
+        results << Columns().Title(column);
     }
     m_table->ShowRows(parameters, results);
     ShowRun();

@@ -27,8 +27,6 @@ public:
     /// Whether a run can be started now.
     void AllowRun(bool isAllowed);
 
-    void Paint(QPainter& painter, const QRect& area) override;
-
 Q_SIGNALS:
     /// A run at Point() is to be done.
     void VerifyWanted();

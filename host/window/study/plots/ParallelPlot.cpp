@@ -132,7 +132,7 @@ void ParallelPlot::Paint(QPainter& painter, const QRect& area)
 
 void ParallelPlot::PaintAxis(QPainter& painter, const QRectF& plot, int axis) const
 {
-    const QString& name = Columns().Names()[m_chosen[std::size_t(axis)]];
+    const int column = m_chosen[std::size_t(axis)];
     const PlotRange& range = m_ranges[std::size_t(axis)];
     const double x = XOf(plot, axis);
     painter.setPen(palette().color(QPalette::Text));
@@ -140,12 +140,13 @@ void ParallelPlot::PaintAxis(QPainter& painter, const QRectF& plot, int axis) co
     const double width = plot.width() / double(m_chosen.size() - 1);
     const int line = painter.fontMetrics().height();
     const QRectF text(x - width / 2.0, plot.top() - 2.0 * line - 2.0, width, line);
-    painter.drawText(text, Qt::AlignCenter,
-                     painter.fontMetrics().elidedText(name, Qt::ElideMiddle, int(width) - 4));
+    painter.drawText(
+        text, Qt::AlignCenter,
+        painter.fontMetrics().elidedText(Columns().Title(column), Qt::ElideMiddle, int(width) - 4));
     painter.drawText(text.translated(0.0, line), Qt::AlignCenter, ShortText(range.greatest));
     painter.drawText(QRectF(text.left(), plot.bottom() + 2.0, width, line), Qt::AlignCenter,
                      ShortText(range.least));
-    const auto brush = m_brushes.find(name);
+    const auto brush = m_brushes.find(Columns().Names()[column]);
     if (brush == m_brushes.end())
         return;
     const double top = plot.bottom() - range.ShareOf(brush->second.second) * plot.height();

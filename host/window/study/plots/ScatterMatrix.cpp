@@ -171,7 +171,7 @@ void ScatterMatrix::PaintDiagonal(QPainter& painter, const QRectF& field, int pl
     painter.setPen(palette().color(QPalette::Text));
     const QRectF text = field.adjusted(Inset, Inset, -Inset, -Inset);
     painter.drawText(text, Qt::AlignTop | Qt::AlignHCenter,
-                     painter.fontMetrics().elidedText(Columns().Names()[column], Qt::ElideMiddle,
+                     painter.fontMetrics().elidedText(Columns().Title(column), Qt::ElideMiddle,
                                                       int(text.width())));
     painter.drawText(text, Qt::AlignBottom | Qt::AlignLeft, ShortText(range.least));
     painter.drawText(text, Qt::AlignBottom | Qt::AlignRight, ShortText(range.greatest));

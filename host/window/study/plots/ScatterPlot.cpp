@@ -79,8 +79,8 @@ void ScatterPlot::ShowRows()
     const std::vector<int> varying = VaryingColumns(columns);
     m_x.Refresh(columns, varying.empty() ? 0 : varying.front());
     m_y.Refresh(columns, FirstResult(columns));
-    SetAxisTitle(*m_plot, QwtPlot::xBottom, m_x.currentText());
-    SetAxisTitle(*m_plot, QwtPlot::yLeft, m_y.currentText());
+    SetAxisTitle(*m_plot, QwtPlot::xBottom, TitleOf(m_x));
+    SetAxisTitle(*m_plot, QwtPlot::yLeft, TitleOf(m_y));
     QVector<QPointF> points;
     if (m_x.Column() >= 0 && m_y.Column() >= 0) {
         const std::vector<double>& x = columns.Column(m_x.Column());

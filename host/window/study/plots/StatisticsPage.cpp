@@ -13,7 +13,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -80,14 +79,6 @@ QTableWidget* StatisticsPage::NewTable(const char* name, const QString& title,
     return table;
 }
 
-void StatisticsPage::Paint(QPainter& painter, const QRect& area)
-{
-    painter.save();
-    painter.translate(area.topLeft());
-    m_content->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
-    painter.restore();
-}
-
 void StatisticsPage::ShowRows()
 {
     m_response.Refresh(Columns(), FirstResult(Columns()));
@@ -112,7 +103,7 @@ void StatisticsPage::ShowSummary()
     m_summary->setRowCount(int(names.size()));
     for (int column = 0; column < names.size(); ++column) {
         const ColumnSummary summary = Summarize(Shown(column));
-        Put(*m_summary, column, 0, names[column]);
+        Put(*m_summary, column, 0, Columns().Title(column));
         Put(*m_summary, column, 1, QString::number(summary.count));
         Put(*m_summary, column, 2, QString::number(summary.missing));
         int cell = 2;

@@ -18,8 +18,6 @@ public:
     StatisticsPage(StudyTable& table, StudySelection& selection, QWidget* parent);
     ~StatisticsPage() override;
 
-    void Paint(QPainter& painter, const QRect& area) override;
-
 protected:
     void ShowRows() override;
     void ShowSelection() override {}

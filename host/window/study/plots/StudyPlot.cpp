@@ -93,10 +93,23 @@ void StudyPlot::Select(std::vector<int> rows)
     m_selection.Set(std::move(rows));
 }
 
+void StudyPlot::Paint(QPainter& painter, const QRect& area)
+{
+    painter.save();
+    painter.translate(area.topLeft());
+    Canvas().render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    painter.restore();
+}
+
 void StudyPlot::SetCanvas(QWidget& canvas)
 {
     m_controls->addStretch();
     m_layout->addWidget(&canvas, 1);
+}
+
+QString StudyPlot::TitleOf(const ColumnBox& box) const
+{
+    return box.Column() < 0 ? QString() : Columns().Title(box.Column());
 }
 
 ColumnBox& StudyPlot::AddColumnBox(const QString& text, const char* name)

@@ -27,8 +27,8 @@ public:
     StudyPlot(StudyTable& table, StudySelection& selection, QWidget* parent);
     ~StudyPlot() override;
 
-    /// Draws the plot, without its controls.
-    virtual void Paint(QPainter& painter, const QRect& area) = 0;
+    /// Draws the plot, without its controls. A canvas of widgets is drawn as it stands.
+    virtual void Paint(QPainter& painter, const QRect& area);
 
     /// The plot as it is shown, with @p scale pixels for each of the widget.
     QImage Picture(int scale = 2);
@@ -62,6 +62,8 @@ protected:
     /// Above the plot.
     QHBoxLayout& Controls() { return *m_controls; }
     void SetCanvas(QWidget& canvas);
+    /// The chosen column with its unit; empty for none.
+    QString TitleOf(const ColumnBox& box) const;
     /// A choice of a column among the controls; a change of it calls ShowRows().
     ColumnBox& AddColumnBox(const QString& text, const char* name);
 

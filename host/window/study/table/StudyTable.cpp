@@ -53,7 +53,7 @@ void StudyTable::Take(const ResultColumns& news)
     if (news.Names() != m_columns.Names()) {
         Clear();
         beginResetModel();
-        m_columns = ResultColumns(news.Names().mid(0, news.ParameterCount()), news.ResultNames());
+        m_columns = news.WithoutRuns();
         endResetModel();
     }
     m_columns.Take(news);
@@ -237,7 +237,7 @@ QVariant StudyTable::headerData(int section, Qt::Orientation orientation, int ro
         return {};
     if (section == 0)
         return tr("Run");
-    return section <= m_columns.Names().size() ? m_columns.Names()[section - 1] : tr("Status");
+    return section <= m_columns.Names().size() ? m_columns.Title(section - 1) : tr("Status");
 }
 
 void StudyTable::sort(int column, Qt::SortOrder order)

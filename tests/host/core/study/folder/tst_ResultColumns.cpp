@@ -9,6 +9,7 @@ private Q_SLOTS:
     void ARunIsReplacedByItsNumber();
     void TheRunsOfOthersAreTaken();
     void ARowThatIsRefusedChangesNothing();
+    void TitlesBearUnits();
 };
 
 using Cells = std::vector<QByteArray>;
@@ -50,6 +51,19 @@ void tst_ResultColumns::ARowThatIsRefusedChangesNothing()
     QCOMPARE(columns.Take(Cells{"2", "1", "2", "ok"}), QString("has 4 cells instead of 5"));
     QCOMPARE(columns.Count(), 1);
     QCOMPARE(columns.Value(1, 0), 2.0);
+}
+
+void tst_ResultColumns::TitlesBearUnits()
+{
+    ResultColumns columns({"a", "b"}, {"mass_kg", "z_max", "ratio"}, {{"a", "mm"}, {"ratio", "?"}});
+    QCOMPARE(columns.Take(Cells{"1", "1", "2", "3", "4", "5", "ok", ""}), QString());
+    const ResultColumns copy = columns.WithoutRuns();
+    QCOMPARE(copy.Names(), columns.Names());
+    QCOMPARE(copy.Count(), 0);
+    QStringList titles;
+    for (int column = 0; column < copy.Names().size(); ++column)
+        titles << copy.Title(column);
+    QCOMPARE(titles, QStringList({"a (mm)", "b", "mass_kg", "z_max (mm)", "ratio"}));
 }
 
 TARN_TEST_MAIN(tst_ResultColumns)

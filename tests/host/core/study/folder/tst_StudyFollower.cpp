@@ -24,6 +24,7 @@ private Q_SLOTS:
 static const QJsonObject Fingerprint{{"format", 1},
                                      {"parameters", QJsonArray{"a", "b"}},
                                      {"inputs", QJsonArray{"a"}},
+                                     {"units", QJsonObject{{"a", "mm"}, {"b", ""}}},
                                      {"columns", QJsonArray{"ratio"}}};
 
 static std::unique_ptr<StudyFolder> NewFolder(int runs)
@@ -73,6 +74,8 @@ void tst_StudyFollower::OnlyWhatHasChangedIsRead()
     QCOMPARE(news.inputs, QStringList({"a"}));
     QCOMPARE(news.columns.Names(),
              QStringList({"a", "b"}) + ResultsTable::MeasureNames() + QStringList({"ratio"}));
+    QCOMPARE(news.columns.Title(0), QString("a (mm)"));
+    QCOMPARE(news.columns.Title(1), QString("b"));
     QCOMPARE(news.columns.Count(), 1);
     QCOMPARE(news.columns.Run(0), 2);
     QCOMPARE(news.columns.Value(2, 0), 7.0);

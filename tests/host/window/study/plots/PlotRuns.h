@@ -56,6 +56,23 @@ struct ShownPlot
     Plot plot{table, selection, nullptr};
 };
 
+/// A plot of nine runs, as SVG; the parameter a is in mm.
+template<class Plot>
+QByteArray SvgWithUnits()
+{
+    ShownPlot<Plot> shown;
+    ResultColumns columns({"a", "b"}, {"sum"}, {{"a", "mm"}});
+    for (int run = 0; run < 9; ++run) {
+        const int a = 1 + run / 3;
+        const int b = 1 + run % 3;
+        columns.Take(std::vector<QByteArray>{QByteArray::number(run + 1), QByteArray::number(a),
+                                             QByteArray::number(b), QByteArray::number(a + b), "ok",
+                                             ""});
+    }
+    shown.table.Take(columns);
+    return shown.plot.Svg();
+}
+
 /// Drags with the left button.
 inline void Drag(QWidget& widget, const QPoint& from, const QPoint& to)
 {

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void AMeanSelectsItsRuns();
     void TheMeansOfSelectedRunsAreShown();
     void NoRunsAreNoProblem();
+    void AxesBearTheirUnits();
 };
 
 namespace {
@@ -100,6 +101,13 @@ void tst_MainEffectsPlot::NoRunsAreNoProblem()
     plot.show();
     QVERIFY(!plot.Picture().isNull());
     QVERIFY(plot.Parameters().isEmpty());
+}
+
+void tst_MainEffectsPlot::AxesBearTheirUnits()
+{
+    const QByteArray svg = SvgWithUnits<MainEffectsPlot>();
+    QVERIFY(svg.contains(">a (mm)<"));
+    QVERIFY(svg.contains(">b<"));
 }
 
 TARN_TEST_MAIN(tst_MainEffectsPlot)

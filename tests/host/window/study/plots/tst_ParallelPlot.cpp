@@ -11,6 +11,7 @@ private Q_SLOTS:
     void SelectedRunsAreDrawn();
     void DrawingsOfFewRunsHaveNoImage();
     void WithoutRunsThePlotSaysSo();
+    void AxesBearTheirUnits();
 };
 
 namespace {
@@ -76,6 +77,13 @@ void tst_ParallelPlot::WithoutRunsThePlotSaysSo()
     plot.show();
     QTest::mouseClick(plot.findChild<PlotCanvas*>(), Qt::LeftButton);
     QVERIFY(plot.Svg().contains("Choose two columns or more."));
+}
+
+void tst_ParallelPlot::AxesBearTheirUnits()
+{
+    const QByteArray svg = SvgWithUnits<ParallelPlot>();
+    QVERIFY(svg.contains(">a (mm)<"));
+    QVERIFY(svg.contains(">b<"));
 }
 
 TARN_TEST_MAIN(tst_ParallelPlot)

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void DrawingsOfFewRunsHaveNoImage();
     void TheColumnsAreChosen();
     void WithoutRunsThePlotSaysSo();
+    void AxesBearTheirUnits();
 };
 
 namespace {
@@ -81,6 +82,13 @@ void tst_ScatterMatrix::WithoutRunsThePlotSaysSo()
     plot.resize(300, 300);
     plot.show();
     QVERIFY(plot.Svg().contains("No column varies yet."));
+}
+
+void tst_ScatterMatrix::AxesBearTheirUnits()
+{
+    const QByteArray svg = SvgWithUnits<ScatterMatrix>();
+    QVERIFY(svg.contains(">a (mm)<"));
+    QVERIFY(svg.contains(">b<"));
 }
 
 TARN_TEST_MAIN(tst_ScatterMatrix)

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void AHiddenPlotFollowsWhenItIsShown();
     void ThePlotIsExported();
     void NoRunsAreNoProblem();
+    void AxesBearTheirUnits();
 };
 
 namespace {
@@ -150,6 +151,13 @@ void tst_ScatterPlot::NoRunsAreNoProblem()
     table.Take(GridRuns(1));
     QTest::qWait(0);
     QVERIFY(!plot.Picture().isNull());
+}
+
+void tst_ScatterPlot::AxesBearTheirUnits()
+{
+    const QByteArray svg = SvgWithUnits<ScatterPlot>();
+    QVERIFY(svg.contains(">a (mm)<"));
+    QVERIFY(svg.contains(">sum<"));
 }
 
 TARN_TEST_MAIN(tst_ScatterPlot)

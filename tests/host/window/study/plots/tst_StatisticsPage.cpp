@@ -13,6 +13,7 @@ private Q_SLOTS:
     void TheParametersHaveTheirShares();
     void TooFewRunsHaveNoSurface();
     void ManyRunsWaitForTheButton();
+    void TheSummaryBearsUnits();
     void ThePageIsExported();
 };
 
@@ -65,6 +66,17 @@ void tst_StatisticsPage::ManyRunsWaitForTheButton()
     QCOMPARE(summary.rowCount(), 0);
     Click(shown.plot, "pushButton_Calculate");
     QCOMPARE(summary.rowCount(), 5);
+}
+
+void tst_StatisticsPage::TheSummaryBearsUnits()
+{
+    ShownPlot<StatisticsPage> shown;
+    shown.table.Take(ResultColumns({"a"}, {"f1_hz", "x_max"}, {{"a", "mm"}}));
+    QTest::qWait(0);
+    const auto& summary = Find<QTableWidget>(shown.plot, "summaryTable");
+    QCOMPARE(RowTexts(summary, 0)[0], QString("a (mm)"));
+    QCOMPARE(RowTexts(summary, 1)[0], QString("f1_hz"));
+    QCOMPARE(RowTexts(summary, 2)[0], QString("x_max (mm)"));
 }
 
 void tst_StatisticsPage::ThePageIsExported()

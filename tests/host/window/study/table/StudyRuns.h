@@ -23,7 +23,7 @@ inline std::vector<QByteArray> OkRun(int run, double a, double mass, const QByte
 /// Runs 1 to @p count: a grows, mass falls, the frequency is a number for every run but the second.
 inline ResultColumns SomeRuns(int count)
 {
-    ResultColumns columns({"a"}, {"mass_kg", "f1_hz"});
+    ResultColumns columns({"a"}, {"mass_kg", "f1_hz"}, {{"a", "mm"}});
     for (int run = 1; run <= count; ++run)
         columns.Take(OkRun(run, run, 100.0 / run, run == 2 ? "" : QByteArray::number(run % 7)));
     return columns;

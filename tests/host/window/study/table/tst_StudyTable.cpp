@@ -57,6 +57,7 @@ void tst_StudyTable::TheTableShowsTheRuns()
     QCOMPARE(open.table.columnCount(), 5);
     QCOMPARE(open.table.headerData(0, Qt::Horizontal).toString(), QString("Run"));
     QCOMPARE(open.table.headerData(2, Qt::Horizontal).toString(), QString("mass_kg"));
+    QCOMPARE(open.table.headerData(1, Qt::Horizontal).toString(), QString("a (mm)"));
     QCOMPARE(open.table.index(2, 2).data().toString(), QString("33.3333"));
     QCOMPARE(open.table.index(1, 3).data().toString(), QString());
     QCOMPARE(open.table.index(0, 4).data().toString(), QString("ok"));
