@@ -113,7 +113,8 @@ void ToolProcess::HandleEnd()
     Q_EMIT Finished(end);
 }
 
-// No program has an exit status for it, but all say it at the end.
+// No program has an exit status for it, but all say it at the end: the mesher, the two parts of the
+// solver, and the loader where there is not even room for the program.
 bool ToolProcess::IsOutOfMemory() const
 {
     constexpr qint64 Tail = 65536;
@@ -125,8 +126,9 @@ bool ToolProcess::IsOutOfMemory() const
     const auto contains = [&text](const char* mark) {
         return text.contains(mark);
     };
-    return contains("bad_alloc") || contains("ALLOCATE failure") ||
-           contains("error allocating memory");
+    return contains("bad_alloc") || contains("Out of memory") || contains("ALLOCATE failure") ||
+           contains("error allocating memory") ||
+           contains("failed to map segment from shared object");
 }
 
 ToolEnd ToolProcess::End() const

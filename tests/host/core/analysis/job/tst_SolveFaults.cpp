@@ -15,6 +15,8 @@ private Q_SLOTS:
     void init() override;
     void AProgramThatFailsIsReported_data();
     void AProgramThatFailsIsReported();
+    void AMesherWithoutMemoryIsReported_data();
+    void AMesherWithoutMemoryIsReported();
     void AMissingProgramNamesItsPackage();
     void ResultsOfAnEarlierRunAreNotTaken();
     void AFullDiskIsReported();
@@ -92,6 +94,27 @@ void tst_SolveFaults::AProgramThatFailsIsReported()
         solved.tools.seconds = 3;
     const SolveResultPointer result = solved.Solve(BeamProject);
     QCOMPARE(result->outcome, SolveResult::Failed);
+    QVERIFY2(result->problem.startsWith(problem), qPrintable(result->problem));
+}
+
+// The mesher itself, which needs 110 MB for its libraries.
+void tst_SolveFaults::AMesherWithoutMemoryIsReported_data()
+{
+    QTest::addColumn<int>("megabytes");
+    NewRow("for the mesh", 150);
+    NewRow("for the program", 60);
+}
+
+void tst_SolveFaults::AMesherWithoutMemoryIsReported()
+{
+    QFETCH(int, megabytes);
+    SolvedProject solved;
+    solved.tools.megabytes = megabytes;
+    const SolveResultPointer result = solved.Solve(Beam(R"("l / 10")", "0.55"));
+    QCOMPARE(result->outcome, SolveResult::Failed);
+    const QString problem = QString("The part cannot be meshed: gmsh ran out of memory; its limit "
+                                    "is %1 MB. Choose a greater mesh size")
+                                .arg(megabytes);
     QVERIFY2(result->problem.startsWith(problem), qPrintable(result->problem));
 }
 

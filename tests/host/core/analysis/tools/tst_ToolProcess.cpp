@@ -139,10 +139,16 @@ void tst_ToolProcess::AProgramWithoutMemoryIsReported_data()
     QTest::addColumn<QByteArray>("script");
     QTest::addColumn<bool>("isReported");
     NewRow("mesher", QByteArray("echo \"what():  std::bad_alloc\"\nkill -6 $$\n"), true);
+    NewRow("mesher that went on",
+           QByteArray("echo 'Error   : Out of memory in boundary mesh recovery'\nexit 1\n"), true);
     NewRow("solver", QByteArray("echo '*ERROR in u_calloc: error allocating memory'\nexit 16\n"),
            true);
     NewRow("factorisation",
            QByteArray("echo 'ALLOCATE failure : bytes 374744, line 517, file DV.c'\nexit 255\n"),
+           true);
+    NewRow("loader",
+           QByteArray("echo 'tool: error while loading shared libraries: libGL.so.1: failed to map "
+                      "segment from shared object'\nexit 127\n"),
            true);
     NewRow("success", QByteArray("echo bad_alloc\n"), false);
 }
