@@ -3063,8 +3063,8 @@ Remove these as well?</source>
         <translation>z (kg)</translation>
     </message>
     <message>
-        <source>Effective mass in this direction</source>
-        <translation>此方向的有效质量</translation>
+        <source>Effective mass of the motion in this direction; rotations about the axes have no column</source>
+        <translation>沿该方向运动的有效质量；绕各轴转动的有效质量不列出</translation>
     </message>
 </context>
 <context>

@@ -66,7 +66,9 @@ void ResultTable::AddModes(const SolveReport& report)
 {
     headings = QStringList{Texts::tr("Mode"), Texts::tr("Frequency (Hz)"), Texts::tr("x (kg)"),
                            Texts::tr("y (kg)"), Texts::tr("z (kg)")};
-    const QString mass = Texts::tr("Effective mass in this direction");
+    const QString mass =
+        Texts::tr("Effective mass of the motion in this direction; rotations about "
+                  "the axes have no column");
     hints = QStringList{QString(), QString(), mass, mass, mass};
     csv = QStringLiteral("mode,frequency_hz,mass_x_kg,mass_y_kg,mass_z_kg\n");
     int number = 0;
