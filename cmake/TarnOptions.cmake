@@ -56,11 +56,21 @@ endif()
 
 # tarn_precompile(<target> <header>...)
 #
-# Precompiles the headers for the sources of the target if TARN_PRECOMPILE is on. Every source still includes what
-# it uses: the usual build has no precompiled headers. The libraries for hosts are compiled without them, because
-# headers that a source does not use would add initialisers.
+# Precompiles these headers, and those that most sources use, for the target if TARN_PRECOMPILE is on. Every source
+# still includes what it uses: the usual build has no precompiled headers. The libraries for hosts are compiled without
+# them, because headers that a source does not use would add initialisers.
 function(tarn_precompile target)
   if(TARN_PRECOMPILE)
-    target_precompile_headers(${target} PRIVATE ${ARGN})
+    target_precompile_headers(
+      ${target}
+      PRIVATE
+      <algorithm>
+      <cmath>
+      <functional>
+      <map>
+      <memory>
+      <optional>
+      <QDir>
+      ${ARGN})
   endif()
 endfunction()
