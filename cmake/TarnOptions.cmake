@@ -70,6 +70,7 @@ function(tarn_precompile target)
       <map>
       <memory>
       <optional>
+      <vector>
       <QDir>
       ${ARGN})
   endif()
