@@ -102,3 +102,20 @@ foreach(
   doc/libtarnguicommon-dev/schemas/Materials.xsd)
   expect(EXISTS "${root}/usr/share/${file}")
 endforeach()
+
+# Debug symbols, which a build with tests does not pack: as CPack writes them, with checksums of absolute names.
+set(debug "${WORK_DIR}/debug")
+set(package "${WORK_DIR}/libx-dbgsym.ddeb")
+file(WRITE "${debug}/usr/lib/debug/x.debug" "symbols")
+file(WRITE "${debug}/DEBIAN/md5sums" "0123456789abcdef0123456789abcdef  ${debug}/usr/lib/debug/x.debug\n")
+file(WRITE "${debug}/DEBIAN/control"
+     "Auto-Built-Package: debug-symbols\nPackage: libx-dbgsym\nVersion: 1-1\nArchitecture: amd64\n"
+     "Maintainer: X <x@x.invalid>\nDescription: debug symbols for libx\n")
+run(dpkg-deb --root-owner-group --build ${debug} ${package})
+run(${CMAKE_COMMAND} -DCPACK_PACKAGE_FILES=${package} -DCPACK_TEMPORARY_DIRECTORY=${WORK_DIR} -P
+    ${SOURCE_DIR}/cmake/debian/Finish.cmake)
+run(dpkg-deb --info ${package} md5sums)
+string(MD5 sum "symbols")
+expect(output STREQUAL "${sum}  usr/lib/debug/x.debug\n")
+run(dpkg-deb --contents ${package})
+expect(output MATCHES "usr/share/doc/libx-dbgsym -> libx\n")
