@@ -92,7 +92,10 @@ void MainEffectsPlot::ShowRows()
         ticks << double(titles.size()) + Middle;
         titles << columns.Title(effect.column);
     }
-    m_plot->setAxisScaleDraw(QwtPlot::xBottom, new NameScale(titles));
+    auto* const names = new NameScale(titles);
+    // Otherwise there is no room for what is below the base line, such as "_".
+    names->setMinimumExtent(names->spacing() + fontMetrics().height() + fontMetrics().descent());
+    m_plot->setAxisScaleDraw(QwtPlot::xBottom, names);
     m_plot->setAxisScaleDiv(QwtPlot::xBottom,
                             QwtScaleDiv(0.0, std::max(1, int(m_parameters.size())), {}, {}, ticks));
     SetAxisTitle(*m_plot, QwtPlot::yLeft, tr("Mean of %1").arg(TitleOf(m_response)));

@@ -1,16 +1,32 @@
 #include "QwtParts.h"
 
+#include "NumberTexts.h"
+
 #include <qwt_plot.h>
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_curve.h>
 #include <qwt_plot_grid.h>
 #include <qwt_plot_renderer.h>
+#include <qwt_scale_draw.h>
 #include <qwt_symbol.h>
 #include <qwt_text.h>
+
+namespace {
+
+/// Writes numbers as everywhere else in the program, whatever the locale: 3000, not 3.000.
+class NumberScale : public QwtScaleDraw
+{
+public:
+    QwtText label(double value) const override { return {ShortText(value), QwtText::PlainText}; }
+};
+
+} // namespace
 
 QwtPlot* NewQwtPlot(QWidget* parent)
 {
     auto* const plot = new QwtPlot(parent);
+    plot->setAxisScaleDraw(QwtPlot::xBottom, new NumberScale);
+    plot->setAxisScaleDraw(QwtPlot::yLeft, new NumberScale);
     plot->setObjectName(QStringLiteral("plot"));
     plot->setCanvasBackground(plot->palette().color(QPalette::Base));
     if (auto* const canvas = qobject_cast<QwtPlotCanvas*>(plot->canvas()))

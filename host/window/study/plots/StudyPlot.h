@@ -27,6 +27,9 @@ public:
     StudyPlot(StudyTable& table, StudySelection& selection, QWidget* parent);
     ~StudyPlot() override;
 
+    /// Brings the plot up to date now, also while it is hidden.
+    void Refresh();
+
     /// Draws the plot, without its controls. A canvas of widgets is drawn as it stands.
     virtual void Paint(QPainter& painter, const QRect& area);
 
@@ -72,8 +75,6 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void Refresh();
-
     StudyTable& m_table;
     StudySelection& m_selection;
     QVBoxLayout* m_layout;

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void ThePlotIsExported();
     void NoRunsAreNoProblem();
     void AxesBearTheirUnits();
+    void NumbersDoNotFollowTheLocale();
 };
 
 namespace {
@@ -158,6 +159,21 @@ void tst_ScatterPlot::AxesBearTheirUnits()
     const QByteArray svg = SvgWithUnits<ScatterPlot>();
     QVERIFY(svg.contains(">a (mm)<"));
     QVERIFY(svg.contains(">sum<"));
+}
+
+void tst_ScatterPlot::NumbersDoNotFollowTheLocale()
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale::German); // 4.000 and 0,5
+    Scatter scatter;
+    ResultColumns columns({"a"}, {"f1_hz"});
+    columns.Take(std::vector<QByteArray>{"1", "0", "3000", "ok", ""});
+    columns.Take(std::vector<QByteArray>{"2", "1", "5000", "ok", ""});
+    scatter.table.Take(columns);
+    const QByteArray svg = scatter.plot.Svg();
+    QLocale::setDefault(before);
+    QVERIFY(svg.contains(">4000<"));
+    QVERIFY(svg.contains(">0.4<"));
 }
 
 TARN_TEST_MAIN(tst_ScatterPlot)
