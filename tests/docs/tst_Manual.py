@@ -15,7 +15,7 @@ IMAGES = SOURCE / "docs" / "images"
 EXAMPLE = SOURCE / "docs" / "examples" / "small_host"
 # Pictures that do not show a dialog.
 OWN_WINDOWS = {"BuildLimitsDialog", "MainWindow", "ParameterPanel", "ProjectProperties", "ResultsDock", "SetupCheckDock",
-               "SolveDock", "StudyPanel", "StudyResults"}
+               "SolveDock", "StudyMainEffects", "StudyOptimum", "StudyPanel", "StudyResults", "StudyScatter"}
 ELSEWHERE = re.compile(r"^(https?|mailto|javascript):")
 
 

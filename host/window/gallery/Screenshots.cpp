@@ -39,6 +39,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QPixmap>
+#include <QTabWidget>
 #include <QTimer>
 
 #include <memory>
@@ -100,12 +101,31 @@ void Prepare(QWidget& dialog)
     }
 }
 
+// The results of a study, with one plot after the other.
+void VisitPlots(StudyTable& table, QWidget& results,
+                const std::function<void(const QString& name, QWidget& window)>& visit)
+{
+    const std::initializer_list<std::pair<const char*, const char*>> pictures = {
+        {"StudyResults", "scatterMatrix"},
+        {"StudyScatter", "scatterPlot"},
+        {"StudyMainEffects", "mainEffectsPlot"},
+        {"StudyOptimum", "optimumPage"}};
+    auto* const tabs = results.findChild<QTabWidget*>();
+    for (const auto& [name, plot] : pictures) {
+        if (QLatin1String(plot) == QLatin1String("optimumPage"))
+            AddVerifyingRun(table);
+        tabs->setCurrentWidget(tabs->findChild<QWidget*>(QString::fromLatin1(plot)));
+        visit(QString::fromLatin1(name), results);
+        results.hide();
+    }
+}
+
 // What the docks of a study hold, as windows of their own. Destroys the window.
 void VisitStudy(std::unique_ptr<MainWindow> window,
                 const std::function<void(const QString& name, QWidget& window)>& visit)
 {
     FillSampleStudy(window->Study().Table());
-    window->Study().Results()->OpenTab(QStringLiteral("scatterMatrix"));
+    PrepareSamplePlots(*window->Study().Results());
     const std::initializer_list<std::pair<QDockWidget*, QSize>> docks = {
         {window->Study().Panel(), StudyPanelSize}, {window->Study().Results(), StudyResultsSize}};
     // They outlive the docks, which use them.
@@ -116,7 +136,10 @@ void VisitStudy(std::unique_ptr<MainWindow> window,
         content.setParent(nullptr);
         content.setWindowTitle(dock->windowTitle());
         content.resize(size);
-        visit(QString::fromLatin1(dock->metaObject()->className()), content);
+        if (dock == window->Study().Results())
+            VisitPlots(window->Study().Table(), content, visit);
+        else
+            visit(QString::fromLatin1(dock->metaObject()->className()), content);
         content.hide();
     }
     window.reset();

@@ -70,12 +70,6 @@ void StudyResults::AddPlots()
     add(m_optimum, tr("Optimum"));
 }
 
-void StudyResults::OpenTab(const QString& name)
-{
-    if (auto* const plot = findChild<StudyPlot*>(name))
-        m_form->tabWidget->setCurrentWidget(plot);
-}
-
 StudyPlot* StudyResults::CurrentPlot() const
 {
     return qobject_cast<StudyPlot*>(m_form->tabWidget->currentWidget());

@@ -27,8 +27,6 @@ public:
 
     /// Of the menus of the table and of the dock.
     void SetActions(const QList<QAction*>& actions);
-    /// Opens the tab called @p name, which is the object name of its plot.
-    void OpenTab(const QString& name);
     /// The plot whose tab is open; null for the table.
     StudyPlot* CurrentPlot() const;
     OptimumPage& Optimum() { return *m_optimum; }

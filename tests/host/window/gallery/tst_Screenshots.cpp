@@ -32,9 +32,10 @@ namespace {
 
 QStringList WindowNames()
 {
-    QStringList names = {"BuildLimitsDialog", "MainWindow",  "MaterialEditer", "ParameterPanel",
-                         "ProjectProperties", "ResultsDock", "SetupCheckDock", "SolveDock",
-                         "StudyPanel",        "StudyResults"};
+    QStringList names = {"BuildLimitsDialog", "MainWindow",   "MaterialEditer", "ParameterPanel",
+                         "ProjectProperties", "ResultsDock",  "SetupCheckDock", "SolveDock",
+                         "StudyMainEffects",  "StudyOptimum", "StudyPanel",     "StudyResults",
+                         "StudyScatter"};
     for (const CatalogueEntry& entry : DialogCatalogue())
         names << entry.name;
     names.sort();
