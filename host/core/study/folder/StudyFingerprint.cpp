@@ -154,7 +154,7 @@ StudyNames::StudyNames(const QJsonObject& stored)
     , columns(Texts(stored.value(ColumnsKey)))
 {
     const QJsonObject known = stored.value(UnitsKey).toObject();
-    for (const QString& name : parameters) {
+    for (const QString& name : qAsConst(parameters)) {
         const QString unit = known.value(name).toString();
         if (!unit.isEmpty())
             units.insert(name, unit);
