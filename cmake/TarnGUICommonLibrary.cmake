@@ -31,6 +31,7 @@ endforeach()
 
 add_subdirectory(forms)
 tarn_add_folders(TarnGUICommonObjects ${TARN_DIALOG_FOLDERS})
+tarn_unite(TarnGUICommonObjects)
 get_target_property(includes TarnGUICommonObjects INTERFACE_INCLUDE_DIRECTORIES)
 target_include_directories(TarnGUICommon ${TARN_SOURCE_FOLDERS} "$<BUILD_INTERFACE:${includes}>")
 tarn_install_library(TarnGUICommon)

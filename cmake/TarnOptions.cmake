@@ -10,7 +10,8 @@ else()
     INTERFACE -Wall
               -Wextra
               -Wpedantic
-              -Wshadow
+              # The files of a group see the names of one another.
+              $<$<NOT:$<BOOL:${TARN_UNITE}>>:-Wshadow>
               -Wconversion
               -Wold-style-cast
               -Wsuggest-override
@@ -74,4 +75,26 @@ function(tarn_precompile target)
       <QDir>
       ${ARGN})
   endif()
+endfunction()
+
+# tarn_unite(<target>)
+#
+# Compiles the sources of a finished target in groups if TARN_UNITE is on: most of the time goes into the headers,
+# which a group reads once.
+function(tarn_unite target)
+  if(NOT TARN_UNITE)
+    return()
+  endif()
+  find_package(Python3 REQUIRED COMPONENTS Interpreter)
+  get_target_property(sources ${target} SOURCES)
+  list(FILTER sources INCLUDE REGEX "^[^$].*\\.cpp$")
+  execute_process(
+    COMMAND "${Python3_EXECUTABLE}" -B "${PROJECT_SOURCE_DIR}/cmake/joined.py" ${sources}
+    WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}" OUTPUT_VARIABLE groups OUTPUT_STRIP_TRAILING_WHITESPACE
+                                                                           COMMAND_ERROR_IS_FATAL ANY)
+  while(groups)
+    list(POP_FRONT groups number source)
+    set_source_files_properties("${source}" PROPERTIES UNITY_GROUP ${number})
+  endwhile()
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
 endfunction()

@@ -14,15 +14,15 @@ import hashlib
 import json
 import os
 import pathlib
-import re
 import shlex
 import subprocess
 import sys
 import tempfile
 
+from joined import joined
+
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TIDY = ["clang-tidy-14", "--quiet"]
-MOST_JOINED = 12
 CLAZY = ["clazy-standalone", "-checks=level1,no-old-style-connect,no-non-pod-global-static,no-connect-by-name"]
 
 
@@ -75,30 +75,6 @@ def fingerprint(tool, path, flags, files):
             parts.append(config.read_text())
     parts += [f"{file} {state(file)}" for file in sorted({path, *files})]
     return hashlib.sha256("\n".join(parts).encode()).hexdigest()
-
-
-def local_names(path):
-    """Returns the names that the file may define for itself, found by the layout that clang-format gives them."""
-    text = path.read_text()
-    lines = "\n".join(line for line in text.splitlines() if re.match(r"[A-Za-z]", line))
-    names = re.findall(r"(?<![\w:])(?<!: )([A-PR-Za-z]\w*)(?=\(| = |\{|;|\[)|(?:class|struct|enum) (\w+)", lines)
-    others = re.findall(r"^(?:#define|   ) ([A-Z]\w*)(?: = .*)?,?$", text, re.MULTILINE)
-    return {name for pair in names for name in pair} - {"", "default", "void"} | {*others}
-
-
-def joined(paths):
-    """Divides the files into groups whose names do not clash."""
-    groups = []
-    for path in paths:
-        names = local_names(path)
-        for members, taken in groups:
-            if len(members) < MOST_JOINED and not names & taken:
-                members.append(path)
-                taken |= names
-                break
-        else:
-            groups.append(([path], names))
-    return [members for members, _ in groups]
 
 
 def check(tool, path, directory, flags):
