@@ -51,7 +51,7 @@ int TypeOf(const QString& word)
             return type.compare(word, Qt::CaseInsensitive) == 0;
         });
     if (found == TypeWords.end())
-        throw ParameterError(ParameterError::tr("there is no type %1").arg(Quoted(word)));
+        throw ParameterError(ParameterError::tr("%1 is not a type of parameter").arg(Quoted(word)));
     return int(found - TypeWords.begin());
 }
 

@@ -36,7 +36,8 @@ void CheckShape(const Feature& feature)
                                .arg(kind.fields.size())
                                .arg(feature.fields.size()));
     if (kind.readsFile && feature.file.isEmpty())
-        throw FeatureError(feature.name, BuildError::tr("there is no file to import."));
+        throw FeatureError(feature.name,
+                           BuildError::tr("the path of the file to import is empty."));
     if (!kind.readsFile && !feature.file.isEmpty())
         throw FeatureError(feature.name,
                            BuildError::tr("a feature of kind \"%1\" has no file.").arg(kind.word));

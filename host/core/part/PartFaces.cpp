@@ -257,7 +257,7 @@ std::vector<int> PartFaces::Faces(int step, const FaceTarget& target) const
         return {FaceAt(ShapeOf(step), Point(target.at))};
     std::vector<int> faces = Named(step, target.name);
     if (faces.empty())
-        throw BuildError(BuildError::tr("there is no face %1.").arg(Quoted(target.name)));
+        throw BuildError(BuildError::tr("the part has no face %1.").arg(Quoted(target.name)));
     return faces;
 }
 

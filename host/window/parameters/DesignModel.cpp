@@ -74,7 +74,7 @@ void DesignModel::Rename(const QString& before, const QString& after)
     ParameterEntries entries = Design();
     const int index = FindParameter(entries, before);
     if (index < 0)
-        throw ParameterError(tr("there is no parameter %1").arg(Quoted(before)));
+        throw ParameterError(tr("the project has no parameter %1").arg(Quoted(before)));
     RenameParameter(entries, index, after);
 
     const auto samples = g_mapParaArrays.find(before);
@@ -114,7 +114,7 @@ void DesignModel::ShowRun(const QStringList& names, const std::vector<double>& v
     for (int i = 0; i < names.size(); ++i) {
         const int index = FindParameter(entries, names[i]);
         if (index < 0)
-            throw ParameterError(tr("there is no parameter %1").arg(Quoted(names[i])));
+            throw ParameterError(tr("the project has no parameter %1").arg(Quoted(names[i])));
         entries[std::size_t(index)].SetNumber(values[std::size_t(i)]);
     }
     ExpectRuns();

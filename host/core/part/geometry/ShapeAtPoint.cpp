@@ -81,7 +81,7 @@ int EdgeAt(const TopoDS_Shape& shape, const gp_Pnt& point)
         edges, InnerEdges(shape), point,
         BuildError::tr(
             "several edges meet at the point %1; choose a point that lies on one edge only."),
-        BuildError::tr("there is no edge at the point %1."));
+        BuildError::tr("no edge lies at the point %1."));
 }
 
 int FaceAt(const TopoDS_Shape& shape, const gp_Pnt& point)
@@ -92,5 +92,5 @@ int FaceAt(const TopoDS_Shape& shape, const gp_Pnt& point)
         faces, {}, point,
         BuildError::tr(
             "several faces meet at the point %1; choose a point that lies on one face only."),
-        BuildError::tr("there is no face at the point %1."));
+        BuildError::tr("no face lies at the point %1."));
 }

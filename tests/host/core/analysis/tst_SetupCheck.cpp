@@ -99,16 +99,26 @@ void tst_SetupCheck::ACompleteSetUpHasNoProblem()
     QCOMPARE(Texts(CheckSetup(Complete(), StaticPart())), QStringList());
 }
 
-void tst_SetupCheck::EachFaultIsReported_data()
+// Those of tests with an edit that makes a fault, the entry that has it, and its text.
+static void AddFaultColumns()
 {
     QTest::addColumn<Edit>("edit");
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("text");
-    const auto row = [](const char* name, AnalysisEntry::Kind kind, const QString& text,
-                        const Edit& edit) {
-        QTest::newRow(name) << edit << int(kind) << text;
-    };
-    using Definition = AnalysisDefinition;
+}
+
+static void AddFault(const char* name, AnalysisEntry::Kind kind, const QString& text,
+                     const Edit& edit)
+{
+    QTest::newRow(name) << edit << int(kind) << text;
+}
+
+using Definition = AnalysisDefinition;
+
+void tst_SetupCheck::EachFaultIsReported_data()
+{
+    AddFaultColumns();
+    const auto row = AddFault;
     row("no part", AnalysisEntry::Part, "There is no part: add a body to analyse",
         [](Definition&, SetupContext& context) { context.longestSide = 0.0; });
     row("overlap", AnalysisEntry::Part, "", [](Definition&, SetupContext& context) {
@@ -265,16 +275,10 @@ void tst_SetupCheck::SeveralProblemsAreAllListed()
 
 void tst_SetupCheck::TargetsThatFindNothingAreReported_data()
 {
-    QTest::addColumn<Edit>("edit");
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char* name, AnalysisEntry::Kind kind, const QString& text,
-                        const Edit& edit) {
-        QTest::newRow(name) << edit << int(kind) << text;
-    };
-    using Definition = AnalysisDefinition;
+    AddFaultColumns();
+    const auto row = AddFault;
     row("support", AnalysisEntry::Constraint,
-        "Boundary condition \"foot\": there is no face \"bore.side\".",
+        "Boundary condition \"foot\": the part has no face \"bore.side\".",
         [](Definition& analysis, SetupContext&) {
             analysis.constraints[0].faces.push_back({"bore.side", {}});
         });
@@ -285,7 +289,7 @@ void tst_SetupCheck::TargetsThatFindNothingAreReported_data()
         analysis.loads[0].faces = {{"", {"nowhere", "0", "0"}}};
     });
     row("property", AnalysisEntry::Property,
-        "Element property \"body\": there is no face \"lid.zmax\".",
+        "Element property \"body\": the part has no face \"lid.zmax\".",
         [](Definition& analysis, SetupContext&) {
             analysis.properties[0].thickness = "1";
             analysis.properties[0].faces = {{"lid.zmax", {}}};

@@ -71,7 +71,7 @@ void tst_ParameterCsv::BadRowsAreNamed_data()
     NewRow("name", QString("a,1\n2b,1"), QString("row 2: \"2b\" is not a name"));
     NewRow("value", QString("a"), QString("row 1: a value is missing"));
     NewRow("type", QString("name,type,value\na,Text,1"),
-           QString("row 2: there is no type \"Text\""));
+           QString("row 2: \"Text\" is not a type of parameter"));
     NewRow("twice", QString("a,1\na,2"), QString("row 2: there are two parameters \"a\""));
 }
 

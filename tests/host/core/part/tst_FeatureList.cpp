@@ -167,7 +167,7 @@ void tst_FeatureList::BadJsonIsReportedInOneLine_data()
     row("file is a number", R"({"name": "a", "kind": "import", "file": 1})",
         "feature 1, \"a\", has a \"file\" that is not a text");
     row("no file", R"({"name": "a", "kind": "import"})",
-        "features: a: there is no file to import.");
+        "features: a: the path of the file to import is empty.");
     row("two of a name", R"({"name": "a", "kind": "box"}, {"name": "a", "kind": "box"})",
         "features: a: another feature has the same name.");
 }

@@ -246,14 +246,14 @@ void tst_PartFaces::TargetsThatMeanNothingAreReported_data()
         return FaceTarget{QString(), {x, y, z}};
     };
     QTest::newRow("name") << FaceTarget{"b.xmin", {}} << FaceTarget{"-", {}}
-                          << "there is no face \"b.xmin\".";
+                          << "the part has no face \"b.xmin\".";
     QTest::newRow("point") << point(5, 5, 5) << FaceTarget{"-", {}}
-                           << "there is no face at the point (5, 5, 5).";
+                           << "no face lies at the point (5, 5, 5).";
     QTest::newRow("point on an edge")
         << point(0, 0, 5) << FaceTarget{"-", {}}
         << "several faces meet at the point (0, 0, 5); choose a point that lies on one face only.";
-    QTest::newRow("name beside an edge")
-        << FaceTarget{"a.xmin", {}} << FaceTarget{"a.side", {}} << "there is no face \"a.side\".";
+    QTest::newRow("name beside an edge") << FaceTarget{"a.xmin", {}} << FaceTarget{"a.side", {}}
+                                         << "the part has no face \"a.side\".";
     QTest::newRow("faces apart") << FaceTarget{"a.xmin", {}} << FaceTarget{"a.xmax", {}}
                                  << "the faces \"a.xmin\" and \"a.xmax\" have no edge in common.";
     QTest::newRow("a face and itself")

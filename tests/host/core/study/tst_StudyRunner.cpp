@@ -329,7 +329,7 @@ void tst_StudyRunner::AFeatureThatCannotBeBuiltFailsTheRun_data()
         R"(There are at most 360 bolt holes, not nan. ("bolt_count <= 360" has no value: )"
         R"(Position 1: the name 'bolt_count' is unknown.))");
     row("no edge", R"("y":"hub_diameter / 2")", R"("y":"hub_diameter")",
-        "flange: there is no edge at the point (0, 110, 16).");
+        "flange: no edge lies at the point (0, 110, 16).");
 }
 
 void tst_StudyRunner::AFeatureThatCannotBeBuiltFailsTheRun()

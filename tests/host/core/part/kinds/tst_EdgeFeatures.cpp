@@ -58,10 +58,10 @@ void tst_EdgeFeatures::InvalidValuesAreReported_data()
         AddFailure(name, OnBrick(kind, fields), reason);
     };
     on("no edge there", "fillet", R"("x": 5, "y": 5, "z": 30)",
-       "b: there is no edge at the point (5, 5, 30).");
+       "b: no edge lies at the point (5, 5, 30).");
     AddFailure("no face of this name", Brick + R"(, {"name": "b", "kind": "fillet", "inputs": ["a"],
                              "edges": [{"between": ["a.xmin", "c.side"]}]})",
-               "b: there is no face \"c.side\".");
+               "b: the part has no face \"c.side\".");
     on("chamfer that does not fit", "chamfer", R"("distance": 25, "z": 15)",
        "b: a chamfer of 25 mm cannot be built there; it may be too large for the faces beside the "
        "edge.");
@@ -70,7 +70,7 @@ void tst_EdgeFeatures::InvalidValuesAreReported_data()
     AddFailure("only a seam there",
                R"({"name": "a", "kind": "cylinder"},
            {"name": "b", "kind": "fillet", "inputs": ["a"], "fields": {"x": 10, "z": 5}})",
-               "b: there is no edge at the point (10, 0, 5).");
+               "b: no edge lies at the point (10, 0, 5).");
     on("negative fillet", "fillet", R"("radius": -1)",
        "b: Radius is -1, but has to be 0 or from 0.0001 to 1000000 mm.");
     on("fillet that does not fit", "fillet", R"("radius": 25, "z": 15)",

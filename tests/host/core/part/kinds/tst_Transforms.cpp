@@ -52,9 +52,9 @@ void tst_Transforms::InvalidValuesAreReported_data()
        "b: Distance x is 1e+07, but has to be from -1000000 to 1000000 mm.");
     on("mirror at no axis", "mirrorAxis", R"("dz": 1e-200)", "b: its direction is zero.");
     on("no face there", "mirrorFace", R"("x": 5, "y": 5, "z": 31)",
-       "b: there is no face at the point (5, 5, 31).");
+       "b: no face lies at the point (5, 5, 31).");
     on("a point beside the face, in its plane", "mirrorFace", R"("x": 50, "y": 5, "z": 30)",
-       "b: there is no face at the point (50, 5, 30).");
+       "b: no face lies at the point (50, 5, 30).");
     on("two faces there", "mirrorFace", R"("x": 5, "y": 0, "z": 0)",
        "b: several faces meet at the point (5, 0, 0); choose a point that lies on one face only.");
     AddFailure("a round face",
