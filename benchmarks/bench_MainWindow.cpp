@@ -15,7 +15,7 @@
 
 // How long the window does not answer while a part is built: the most processor time that it needs
 // for one event, from the edit to the part in the view. And how long it takes to cancel a build.
-// Needs a display: without OpenGL the window draws lines, which takes longer.
+// With a display the part is shown in three dimensions, without one as a line drawing.
 
 namespace {
 

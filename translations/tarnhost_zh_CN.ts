@@ -398,7 +398,7 @@
         <translation>类型为“%1”的特征需要 %2 个参数，但现有 %3 个。</translation>
     </message>
     <message>
-        <source>there is no file to import.</source>
+        <source>the path of the file to import is empty.</source>
         <translation>没有要导入的文件。</translation>
     </message>
     <message>
@@ -478,7 +478,7 @@
         <translation>有多条边交于点 %1；请选择只位于其中一条边上的点。</translation>
     </message>
     <message>
-        <source>there is no edge at the point %1.</source>
+        <source>no edge lies at the point %1.</source>
         <translation>点 %1 处没有边。</translation>
     </message>
     <message>
@@ -486,7 +486,7 @@
         <translation>有多个面交于点 %1；请选择只位于其中一个面上的点。</translation>
     </message>
     <message>
-        <source>there is no face at the point %1.</source>
+        <source>no face lies at the point %1.</source>
         <translation>点 %1 处没有面。</translation>
     </message>
     <message>
@@ -534,7 +534,7 @@
         <translation>点的坐标 %1 为 %2，但必须为%3。</translation>
     </message>
     <message>
-        <source>there is no face %1.</source>
+        <source>the part has no face %1.</source>
         <translation>没有面 %1。</translation>
     </message>
     <message>
@@ -751,7 +751,7 @@ Remove these as well?</source>
 <context>
     <name>DesignModel</name>
     <message>
-        <source>there is no parameter %1</source>
+        <source>the project has no parameter %1</source>
         <translation>没有参数 %1</translation>
     </message>
     <message>
@@ -2111,7 +2111,7 @@ Remove these as well?</source>
 <context>
     <name>ParameterError</name>
     <message>
-        <source>there is no type %1</source>
+        <source>%1 is not a type of parameter</source>
         <translation>没有类型 %1</translation>
     </message>
     <message>
@@ -2406,7 +2406,7 @@ Remove these as well?</source>
 <context>
     <name>PartModel</name>
     <message>
-        <source>There is no feature %1</source>
+        <source>The part has no feature %1</source>
         <translation>没有特征 %1</translation>
     </message>
     <message>
@@ -2565,6 +2565,28 @@ Remove these as well?</source>
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>Centre of mass</source>
+        <translation>质心</translation>
+    </message>
+    <message>
+        <source>Inertia</source>
+        <translation>转动惯量</translation>
+    </message>
+    <message>
+        <source>(%1, %2, %3) mm</source>
+        <translation>(%1, %2, %3) mm</translation>
+    </message>
+    <message>
+        <source>Ixx %1, Iyy %2, Izz %3 kg·mm²</source>
+        <translation>Ixx %1，Iyy %2，Izz %3 kg·mm²</translation>
+    </message>
+    <message>
+        <source>Moments of inertia about axes through the centre of mass, parallel to x, y and z.
+Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3 kg·mm²</source>
+        <translation>绕过质心且平行于 x、y、z 的轴的转动惯量。
+同一组轴的惯性积 ∫xy dm、∫xz dm、∫yz dm：%1、%2、%3 kg·mm²</translation>
     </message>
 </context>
 <context>

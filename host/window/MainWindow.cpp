@@ -231,6 +231,9 @@ void MainWindow::ConnectPart()
     connect(m_part, &PartModel::Exported, m_summary, &PartPanel::EndProgress);
     connect(m_part, &PartModel::ExportFailed, m_summary, &PartPanel::EndProgress);
     connect(m_summary, &PartPanel::CancelWanted, m_part, &PartModel::Cancel);
+    connect(m_summary, &PartPanel::LinesWanted, m_part, &PartModel::WantLines);
+    if (m_summary->HasPicture())
+        m_part->WantLines();
     new FaceClicks(*m_part, *m_features, m_summary->View(), this);
     connect(m_picker, &ShapePicker::Ended, this, &MainWindow::ShowSelectedFeature);
     connect(m_features, &FeatureTree::SelectionChanged, this, &MainWindow::ShowSelectedFeature);
@@ -251,7 +254,8 @@ void MainWindow::ShowBuiltPart()
     if (m_part->Shape().IsNull())
         m_summary->Clear();
     else
-        m_summary->ShowShape(m_part->Shape(), m_part->Measures(), m_session->Density());
+        m_summary->ShowShape(m_part->Shape(), m_part->Lines(), m_part->Measures(),
+                             m_session->Density());
     PastFailure();
     PostMessageToChannel(InfoLevel, tr("The part was built"));
 }

@@ -148,7 +148,9 @@ QDataStream& operator>>(QDataStream& in, FoundTarget& found)
 
 QDataStream& operator<<(QDataStream& out, const ShapeMeasures& measures)
 {
-    out << measures.volume << measures.area;
+    out << measures.volume << measures.area << measures.centre;
+    for (const double moment : measures.secondMoments)
+        out << moment;
     for (const double side : measures.boundingBox)
         out << side;
     return out << measures.overlaps.pairs << measures.overlaps.isComplete;
@@ -156,10 +158,22 @@ QDataStream& operator<<(QDataStream& out, const ShapeMeasures& measures)
 
 QDataStream& operator>>(QDataStream& in, ShapeMeasures& measures)
 {
-    in >> measures.volume >> measures.area;
+    in >> measures.volume >> measures.area >> measures.centre;
+    for (double& moment : measures.secondMoments)
+        in >> moment;
     for (double& side : measures.boundingBox)
         in >> side;
     return in >> measures.overlaps.pairs >> measures.overlaps.isComplete;
+}
+
+QDataStream& operator<<(QDataStream& out, const LineDrawing& lines)
+{
+    return out << lines.edges << lines.smooth << lines.isTooLarge << lines.failure;
+}
+
+QDataStream& operator>>(QDataStream& in, LineDrawing& lines)
+{
+    return in >> lines.edges >> lines.smooth >> lines.isTooLarge >> lines.failure;
 }
 
 template<class Write>
@@ -228,8 +242,9 @@ QString PartReply::Reason() const
 QByteArray ToBytes(const PartRequest& request)
 {
     return Written([&](QDataStream& out) {
-        out << request.plan << request.known << request.wantsShapes << request.stepPath
-            << request.stepFeature << request.brepPath << request.faces << request.edges;
+        out << request.plan << request.known << request.wantsShapes << request.wantsLines
+            << request.stepPath << request.stepFeature << request.brepPath << request.faces
+            << request.edges;
     });
 }
 
@@ -238,8 +253,9 @@ PartRequest RequestFromBytes(const QByteArray& bytes)
     QDataStream in(bytes);
     in.setVersion(StreamVersion);
     PartRequest request;
-    in >> request.plan >> request.known >> request.wantsShapes >> request.stepPath >>
-        request.stepFeature >> request.brepPath >> request.faces >> request.edges;
+    in >> request.plan >> request.known >> request.wantsShapes >> request.wantsLines >>
+        request.stepPath >> request.stepFeature >> request.brepPath >> request.faces >>
+        request.edges;
     return request;
 }
 
@@ -271,8 +287,8 @@ QByteArray ToBytes(const PartReply& reply, const PartRequest& request)
     }
     return Written([&](QDataStream& out) {
         out << true << int(reply.outcome) << reply.cause << reply.failedFeature << reply.part.keys
-            << reply.measures << reply.faces << reply.edges << reply.solids << reply.contacts
-            << reply.isLast << sent.shapes << sent.faces;
+            << reply.measures << reply.lines << reply.faces << reply.edges << reply.solids
+            << reply.contacts << reply.isLast << sent.shapes << sent.faces;
     });
 }
 
@@ -292,8 +308,8 @@ WorkerMessage MessageFromBytes(const QByteArray& bytes, const PartRequest& reque
     int outcome = 0;
     SentShapes sent;
     in >> outcome >> reply.cause >> reply.failedFeature >> reply.part.keys >> reply.measures >>
-        reply.faces >> reply.edges >> reply.solids >> reply.contacts >> reply.isLast >>
-        sent.shapes >> sent.faces;
+        reply.lines >> reply.faces >> reply.edges >> reply.solids >> reply.contacts >>
+        reply.isLast >> sent.shapes >> sent.faces;
     reply.outcome = PartReply::Outcome(outcome);
     reply.part.plan = request.plan;
     if (!sent.shapes.isEmpty())

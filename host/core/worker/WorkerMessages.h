@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FeatureBuilder.h"
+#include "LineDrawing.h"
 #include "PartPlan.h"
 #include "ShapeMeasures.h"
 #include "ShapeTargets.h"
@@ -27,6 +28,7 @@ struct PartRequest
     /// Keys of shapes that the sender has. The reply does not repeat them.
     QSet<QByteArray> known;
     bool wantsShapes = true; ///< Whether the reply contains shapes, with triangles for display.
+    bool wantsLines = false; ///< Whether the reply contains a drawing of the whole part.
     QString stepPath;        ///< Where to write a STEP file; empty for none.
     int stepFeature = WholePart;
 
@@ -60,6 +62,7 @@ struct PartReply
     QString failedFeature; ///< Where it failed; empty if not at a feature.
     BuiltPart part;        ///< Shapes only if they were wanted.
     ShapeMeasures measures;
+    LineDrawing lines;              ///< Only if it was wanted.
     std::vector<FoundTarget> faces; ///< Of each target of the request, in its order.
     std::vector<FoundTarget> edges; ///< As well.
     /// Of each solid of the whole part, in the order of TopExp::MapShapes(): the feature whose

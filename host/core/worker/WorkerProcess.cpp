@@ -198,6 +198,8 @@ private:
             m_reply.contacts = GuardKernelCall([this] { return FindContacts(m_reply.part.shape); });
         }
         FindTargets();
+        if (m_request.wantsLines)
+            m_reply.lines = DrawLines(m_reply.part.shape);
         if (m_request.wantsShapes)
             AddTriangles(m_reply.part.shape);
     }

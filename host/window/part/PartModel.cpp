@@ -45,7 +45,7 @@ int Find(const FeatureList& features, const QString& name)
 {
     const int index = features.Find(name);
     if (index < 0)
-        throw ModellingError(PartModel::tr("There is no feature %1").arg(Quoted(name)));
+        throw ModellingError(PartModel::tr("The part has no feature %1").arg(Quoted(name)));
     return index;
 }
 
@@ -95,6 +95,7 @@ void PartModel::Open(const FeatureList& features, const std::vector<Condition>& 
     m_folder = folder;
     m_part = BuiltPart();
     m_measures = ShapeMeasures();
+    m_lines = LineDrawing();
     m_builtFeatures = FeatureList();
     m_builtPlan.clear();
     SetFeatures(features);
@@ -110,6 +111,13 @@ void PartModel::Replace(const FeatureList& features, const std::vector<Condition
 {
     m_features = features;
     m_conditions = conditions;
+}
+
+void PartModel::WantLines()
+{
+    m_wantsLines = true;
+    if (IsBusy() || !Shape().IsNull())
+        Rebuild();
 }
 
 void PartModel::Rebuild()
@@ -134,6 +142,7 @@ void PartModel::Build()
         CheckConditions(m_conditions);
         PartRequest request;
         request.plan = PlanPart(m_features, m_folder);
+        request.wantsLines = m_wantsLines;
         m_plan = request.plan;
         m_worker.Start(request, m_part);
         Q_EMIT Changed();
@@ -184,6 +193,7 @@ void PartModel::TakeReply(const PartReply& reply)
     }
     m_part = reply.part;
     m_measures = reply.measures;
+    m_lines = reply.lines;
     m_builtFeatures = m_features;
     m_builtPlan = m_plan;
     Q_EMIT PartBuilt();

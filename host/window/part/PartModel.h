@@ -42,6 +42,7 @@ public:
     /// What was built last, with the names of its faces.
     const BuiltPart& Built() const { return m_part; }
     const ShapeMeasures& Measures() const { return m_measures; } ///< Of Shape().
+    const LineDrawing& Lines() const { return m_lines; } ///< Of Shape(), if they are wanted.
     /// The body of @p feature in the last valid part; null if it has none.
     TopoDS_Shape ShapeOf(const QString& feature) const;
     /// The features that no other feature uses, in order: the bodies of the part.
@@ -85,6 +86,8 @@ public:
     /// Rejected if another feature uses one of them, or its faces.
     void Remove(const QStringList& names);
 
+    /// Each part comes with Lines() from now on; a part that is there is built again.
+    void WantLines();
     /// What later builds may use.
     void SetLimits(const BuildLimits& limits) { m_worker.SetLimits(limits); }
 
@@ -122,6 +125,8 @@ private:
 
     BuiltPart m_part;
     ShapeMeasures m_measures;
+    bool m_wantsLines = false;
+    LineDrawing m_lines;
     FeatureList m_builtFeatures; // Those of m_part.
     PartPlan m_builtPlan;
     QString m_failure;

@@ -14,6 +14,10 @@
 #include <QShortcut>
 #include <QTime>
 #include <QVBoxLayout>
+#include <TopoDS_Shape.hxx>
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -22,11 +26,18 @@ constexpr int ProgressDelay = 200; // ms
 constexpr double CubicMillimetresPerCubicCentimetre = 1e3;
 constexpr double SquareMillimetresPerSquareCentimetre = 1e2;
 
-// A bounding box has tiny rests where a shape ends at 0.
+// Of a bounding box or a centre: both have tiny rests at 0.
 QString LengthText(double millimetres)
 {
     const double rounded = double(qRound64(millimetres * 1e3)) / 1e3;
     return ShortText(rounded);
+}
+
+// Without the tiny rests of a symmetrical part.
+QString InertiaText(double moment, double largest)
+{
+    constexpr double Tiny = 1e-9;
+    return ShortText(std::abs(moment) < Tiny * largest ? 0.0 : moment);
 }
 
 /// Holds the measures. Its height does not depend on their texts, so that the view keeps its own.
@@ -79,6 +90,8 @@ PartPanel::PartPanel(QWidget* parent)
     m_volume = AddRow(*form, tr("Volume"), "label_Volume");
     m_area = AddRow(*form, tr("Surface"), "label_Area");
     m_mass = AddRow(*form, tr("Mass"), "label_Mass");
+    m_centre = AddRow(*form, tr("Centre of mass"), "label_CentreOfMass");
+    m_inertia = AddRow(*form, tr("Inertia"), "label_Inertia");
     m_size = AddRow(*form, tr("Bounding box"), "label_BoundingBox");
     m_position = AddRow(*form, tr("From, to"), "label_BoundingBoxPosition");
 
@@ -157,17 +170,15 @@ void PartPanel::UsePicture(const QString& reason)
     const int place = m_view != nullptr ? m_layout->indexOf(m_view) : 0;
     m_layout->insertWidget(place, m_picture, 1);
     m_warning = tr("The part is shown as a line drawing: %1").arg(reason);
-    if (!m_shape.IsNull())
-        Show(m_shape);
+    Q_EMIT LinesWanted();
 }
 
-void PartPanel::Show(const TopoDS_Shape& shape)
+void PartPanel::Show(const TopoDS_Shape& shape, const LineDrawing& lines)
 {
-    m_shape = shape;
     if (m_view != nullptr)
         m_view->ShowShape(shape);
     if (m_picture != nullptr)
-        m_picture->SetShape(shape);
+        m_picture->SetLines(lines);
     if (m_warning.isEmpty() || shape.IsNull())
         return;
     PostMessageToChannel(WarningLevel, m_warning);
@@ -179,7 +190,8 @@ void PartPanel::AddBar(QWidget* bar)
     m_layout->insertWidget(0, bar);
 }
 
-void PartPanel::ShowShape(const TopoDS_Shape& shape, const ShapeMeasures& measures, double density)
+void PartPanel::ShowShape(const TopoDS_Shape& shape, const LineDrawing& lines,
+                          const ShapeMeasures& measures, double density)
 {
     const std::array<double, 6>& box = measures.boundingBox;
     m_volume->setText(
@@ -187,6 +199,7 @@ void PartPanel::ShowShape(const TopoDS_Shape& shape, const ShapeMeasures& measur
     m_area->setText(
         tr("%1 cm²").arg(ShortText(measures.area / SquareMillimetresPerSquareCentimetre)));
     m_mass->setText(tr("%1 kg").arg(ShortText(measures.Mass(density))));
+    ShowInertia(measures, density);
     m_size->setText(tr("%1 × %2 × %3 mm")
                         .arg(LengthText(box[3] - box[0]), LengthText(box[4] - box[1]),
                              LengthText(box[5] - box[2])));
@@ -194,9 +207,25 @@ void PartPanel::ShowShape(const TopoDS_Shape& shape, const ShapeMeasures& measur
                             .arg(LengthText(box[0]), LengthText(box[1]), LengthText(box[2]),
                                  LengthText(box[3]), LengthText(box[4]), LengthText(box[5])));
     ShowOverlaps(measures.overlaps.Warning());
-    Show(shape);
+    Show(shape, lines);
     m_builtAt = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
     m_status->setText(tr("Built at %1").arg(m_builtAt));
+}
+
+void PartPanel::ShowInertia(const ShapeMeasures& measures, double density)
+{
+    const auto& [x, y, z] = measures.centre;
+    m_centre->setText(tr("(%1, %2, %3) mm").arg(LengthText(x), LengthText(y), LengthText(z)));
+    const std::array<double, 6> inertia = measures.Inertia(density);
+    const double largest = *std::max_element(inertia.begin(), inertia.begin() + 3);
+    std::array<QString, 6> texts;
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        texts[i] = InertiaText(inertia[i], largest);
+    m_inertia->setText(tr("Ixx %1, Iyy %2, Izz %3 kg·mm²").arg(texts[0], texts[1], texts[2]));
+    m_inertia->setToolTip(
+        tr("Moments of inertia about axes through the centre of mass, parallel to x, y and z.\n"
+           "Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3 kg·mm²")
+            .arg(texts[3], texts[4], texts[5]));
 }
 
 void PartPanel::ShowOverlaps(const QString& warning)
@@ -215,10 +244,11 @@ void PartPanel::ShowFailure(const QString& reason)
 
 void PartPanel::Clear()
 {
-    Show(TopoDS_Shape());
+    Show({}, {});
     m_builtAt.clear();
     m_status->setText(tr("There is no shape yet"));
-    for (QLabel* const label : {m_volume, m_area, m_mass, m_size, m_position})
+    for (QLabel* const label : {m_volume, m_area, m_mass, m_centre, m_inertia, m_size, m_position})
         label->setText(tr("none"));
+    m_inertia->setToolTip({});
     ShowOverlaps({});
 }

@@ -2,12 +2,13 @@
 
 #include <QTimer>
 #include <QWidget>
-#include <TopoDS_Shape.hxx>
 
 class PartView;
 class QLabel;
 class QVBoxLayout;
 class ShapePicture;
+class TopoDS_Shape;
+struct LineDrawing;
 struct ShapeMeasures;
 
 /// Shows the part: in three dimensions, with its measures, and whether the last build succeeded.
@@ -22,8 +23,10 @@ public:
     explicit PartPanel(QWidget* parent);
     ~PartPanel() override;
 
-    /// Shows a shape that was just built; @p density is in kg/m3.
-    void ShowShape(const TopoDS_Shape& shape, const ShapeMeasures& measures, double density);
+    /// Shows a shape that was just built; @p lines counts where HasPicture(), @p density is in
+    /// kg/m3.
+    void ShowShape(const TopoDS_Shape& shape, const LineDrawing& lines,
+                   const ShapeMeasures& measures, double density);
 
     /// Shows what a build is doing, and a button to cancel it. Builds of less than a moment show
     /// neither.
@@ -41,21 +44,25 @@ public:
 
     /// The view, which belongs to this; null where there is no OpenGL.
     PartView* View() const { return m_view; }
+    /// Whether a line drawing stands in for the view.
+    bool HasPicture() const { return m_picture != nullptr; }
 
 Q_SIGNALS:
     /// The user pressed "Cancel" or Escape while a build was running.
     void CancelWanted();
+    /// The view does not work on this system: the lines of the part are needed instead.
+    void LinesWanted();
 
 private:
     QWidget* NewProgressRow();
     void UsePicture(const QString& reason);
-    void Show(const TopoDS_Shape& shape);
+    void Show(const TopoDS_Shape& shape, const LineDrawing& lines);
+    void ShowInertia(const ShapeMeasures& measures, double density);
     void ShowOverlaps(const QString& warning);
 
     PartView* m_view = nullptr;
     ShapePicture* m_picture = nullptr; // In place of the view.
     QVBoxLayout* m_layout;
-    TopoDS_Shape m_shape;
     QString m_warning; // Why there is a picture; empty once it was posted.
     QLabel* m_status;
     QWidget* m_progressRow;
@@ -64,6 +71,8 @@ private:
     QLabel* m_volume;
     QLabel* m_area;
     QLabel* m_mass;
+    QLabel* m_centre;
+    QLabel* m_inertia;
     QLabel* m_size;
     QLabel* m_position;
     QLabel* m_overlaps; // A warning; hidden if there is none.

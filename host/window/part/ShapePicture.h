@@ -1,12 +1,10 @@
 #pragma once
 
-#include <QPolygonF>
-#include <QVector>
+#include "LineDrawing.h"
+
 #include <QWidget>
 
-class TopoDS_Shape;
-
-/// A line drawing of a shape, seen from above its front right corner, scaled to fit.
+/// Shows a line drawing of a shape, scaled to fit.
 class ShapePicture : public QWidget
 {
     Q_OBJECT
@@ -15,9 +13,9 @@ public:
     explicit ShapePicture(QWidget* parent);
     ~ShapePicture() override;
 
-    /// Draws @p shape from now on; a shape whose lines cannot be found leaves an empty picture, and
-    /// one with so many faces that drawing would take seconds a text that says so.
-    void SetShape(const TopoDS_Shape& shape);
+    /// Draws @p lines from now on. Without lines the picture is empty; where the shape has too many
+    /// faces, a text says so.
+    void SetLines(const LineDrawing& lines);
 
     QSize sizeHint() const override;
 
@@ -25,7 +23,5 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    bool m_isTooLarge = false;
-    QVector<QPolygonF> m_edges;  // Sharp edges and outlines.
-    QVector<QPolygonF> m_smooth; // Where one face runs into the next without a corner.
+    LineDrawing m_lines;
 };

@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr double CubicMillimetresPerCubicMetre = 1e9;
+
 // Copies of a body are not measured again.
 double Area(const TopoDS_Shape& shape)
 {
@@ -32,7 +34,12 @@ double Area(const TopoDS_Shape& shape)
 ShapeMeasures MeasuresOf(const TopoDS_Shape& shape, BodyVolumes& volumes)
 {
     ShapeMeasures measures;
-    measures.volume = volumes.Of(shape);
+    const VolumeMoments moments = volumes.MomentsOf(shape);
+    measures.volume = moments.volume;
+    measures.centre = {moments.centre.X(), moments.centre.Y(), moments.centre.Z()};
+    const gp_Mat& tensor = moments.inertia;
+    measures.secondMoments = {tensor(1, 1),  tensor(2, 2),  tensor(3, 3),
+                              -tensor(1, 2), -tensor(1, 3), -tensor(2, 3)};
     measures.area = Area(shape);
     const Bnd_Box box = TightBox(shape);
     if (!box.IsVoid()) {
@@ -58,6 +65,13 @@ ShapeMeasures Measure(const TopoDS_Shape& shape)
 
 double ShapeMeasures::Mass(double density) const
 {
-    constexpr double CubicMillimetresPerCubicMetre = 1e9;
     return volume * density / CubicMillimetresPerCubicMetre;
+}
+
+std::array<double, 6> ShapeMeasures::Inertia(double density) const
+{
+    std::array<double, 6> inertia = secondMoments;
+    for (double& moment : inertia)
+        moment *= density / CubicMillimetresPerCubicMetre;
+    return inertia;
 }

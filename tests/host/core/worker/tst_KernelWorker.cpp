@@ -50,6 +50,10 @@ void tst_KernelWorker::APartIsBuiltAsInTheSameProcess()
     QVERIFY(reply.measures.boundingBox == measures.boundingBox);
     QCOMPARE(MassOf(reply.part.shape).volume, MassOf(part.shape).volume);
     QCOMPARE(reply.part.shapes.size(), std::size_t(3));
+    QVERIFY(reply.lines.edges.isEmpty());
+    PartRequest drawn = Request(list);
+    drawn.wantsLines = true;
+    QCOMPARE(watched.worker.Run(drawn).lines.edges.size(), DrawLines(part.shape).edges.size());
 }
 
 void tst_KernelWorker::AFailureNamesTheFeature()
@@ -133,8 +137,8 @@ void tst_KernelWorker::TargetsAreFoundInTheBrepFile()
     const PartReply reply = watched.worker.Run(request);
     QVERIFY2(reply.outcome == PartReply::Done, qPrintable(reply.Reason()));
     QCOMPARE(reply.faces.size(), std::size_t(3));
-    QCOMPARE(reply.faces[1].error, QString("there is no face \"pin.end\"."));
-    QCOMPARE(reply.edges[1].error, QString("there is no edge at the point (1, 2, 3)."));
+    QCOMPARE(reply.faces[1].error, QString("the part has no face \"pin.end\"."));
+    QCOMPARE(reply.edges[1].error, QString("no edge lies at the point (1, 2, 3)."));
 
     TopoDS_Shape read;
     QVERIFY(BRepTools::Read(read, "长.brep", BRep_Builder()));

@@ -61,6 +61,7 @@ void tst_WorkerMessages::ARequestIsReadAsItWasWritten()
         PlanPart(List(Holes + R"(, {"name": "长", "kind": "import", "file": "x.step"})"));
     request.known = {"a", "b"};
     request.wantsShapes = false;
+    request.wantsLines = true;
     request.stepPath = "长/a.step";
     request.stepFeature = 3;
     request.brepPath = "长/a.brep";
@@ -69,6 +70,7 @@ void tst_WorkerMessages::ARequestIsReadAsItWasWritten()
     const PartRequest read = RequestFromBytes(ToBytes(request));
     QCOMPARE(read.known, request.known);
     QCOMPARE(read.wantsShapes, false);
+    QCOMPARE(read.wantsLines, true);
     QCOMPARE(read.stepPath, request.stepPath);
     QCOMPARE(read.stepFeature, 3);
     QCOMPARE(read.brepPath, request.brepPath);
@@ -101,7 +103,12 @@ void tst_WorkerMessages::AReplyIsReadAsItWasWritten()
     Exchange exchange(Holes);
     exchange.reply.measures.volume = 1.5;
     exchange.reply.measures.area = 2.5;
+    exchange.reply.measures.centre = {7, 8, 9};
+    exchange.reply.measures.secondMoments = {6, 5, 4, 3, 2, 1};
     exchange.reply.measures.boundingBox = {1, 2, 3, 4, 5, 6};
+    exchange.reply.lines = DrawLines(exchange.reply.part.shape);
+    exchange.reply.lines.isTooLarge = true;
+    exchange.reply.lines.failure = "a curve";
     exchange.reply.faces = {{{1, 7}, {}}};
     exchange.reply.edges = {{{}, "there is none."}};
     exchange.reply.solids = {2};
@@ -112,6 +119,12 @@ void tst_WorkerMessages::AReplyIsReadAsItWasWritten()
     QCOMPARE(reply.measures.volume, 1.5);
     QCOMPARE(reply.measures.area, 2.5);
     QVERIFY(reply.measures.boundingBox == exchange.reply.measures.boundingBox);
+    QVERIFY(reply.measures.centre == exchange.reply.measures.centre);
+    QVERIFY(reply.measures.secondMoments == exchange.reply.measures.secondMoments);
+    QVERIFY(!reply.lines.edges.isEmpty() && reply.lines.edges == exchange.reply.lines.edges);
+    QVERIFY(reply.lines.smooth == exchange.reply.lines.smooth);
+    QVERIFY(reply.lines.isTooLarge);
+    QCOMPARE(reply.lines.failure, QString("a curve"));
     QCOMPARE(reply.faces.at(0).numbers, std::vector<int>({1, 7}));
     QCOMPARE(reply.edges.at(0).error, QString("there is none."));
     QCOMPARE(reply.solids, std::vector<int>({2}));

@@ -1,5 +1,6 @@
 #include "Bodies.h"
 #include "DrawerOutput.h"
+#include "LineDrawing.h"
 #include "MessageLevel.h"
 #include "PartPanel.h"
 #include "ShapeMeasures.h"
@@ -36,7 +37,7 @@ namespace {
 void ShowBlock(PartPanel& summary)
 {
     const TopoDS_Shape box = BRepPrimAPI_MakeBox(100.0, 200.0, 50.0).Shape();
-    summary.ShowShape(box, Measure(box), 7850.0);
+    summary.ShowShape(box, DrawLines(box), Measure(box), 7850.0);
 }
 
 QString Shown(const PartPanel& summary, const char* label)
@@ -50,8 +51,9 @@ void tst_PartPanel::InitiallyThereIsNoShape()
 {
     const PartPanel summary(nullptr);
     QCOMPARE(Shown(summary, "label_Status"), QStringLiteral("There is no shape yet"));
-    for (const char* const label : {"label_Volume", "label_Area", "label_Mass", "label_BoundingBox",
-                                    "label_BoundingBoxPosition"})
+    for (const char* const label :
+         {"label_Volume", "label_Area", "label_Mass", "label_CentreOfMass", "label_Inertia",
+          "label_BoundingBox", "label_BoundingBoxPosition"})
         QCOMPARE(Shown(summary, label), QStringLiteral("none"));
 }
 
@@ -63,6 +65,10 @@ void tst_PartPanel::AShapeIsShownWithItsMeasures()
     QCOMPARE(Shown(summary, "label_Volume"), QStringLiteral("1000 cm³"));
     QCOMPARE(Shown(summary, "label_Area"), QStringLiteral("700 cm²"));
     QCOMPARE(Shown(summary, "label_Mass"), QStringLiteral("7.85 kg"));
+    QCOMPARE(Shown(summary, "label_CentreOfMass"), QStringLiteral("(50, 100, 25) mm"));
+    QCOMPARE(Shown(summary, "label_Inertia"),
+             QStringLiteral("Ixx 27802.1, Iyy 8177.08, Izz 32708.3 kg·mm²"));
+    QVERIFY(Find<QLabel>(summary, "label_Inertia").toolTip().endsWith("0, 0, 0 kg·mm²"));
     QCOMPARE(Shown(summary, "label_BoundingBox"), QStringLiteral("100 × 200 × 50 mm"));
     QCOMPARE(Shown(summary, "label_BoundingBoxPosition"),
              QStringLiteral("(0, 0, 0), (100, 200, 50) mm"));
@@ -76,7 +82,7 @@ void tst_PartPanel::BodiesThatOverlapAreAWarning()
     ShowBlock(summary);
     QVERIFY(warning.isHidden());
     const TopoDS_Shape shape = Compound({box, box});
-    summary.ShowShape(shape, Measure(shape), 7850.0);
+    summary.ShowShape(shape, DrawLines(shape), Measure(shape), 7850.0);
     QVERIFY(!warning.isHidden());
     QCOMPARE(warning.text(), QStringLiteral("Bodies overlap, and volume and mass count the common "
                                             "region twice: 1 and 2."));

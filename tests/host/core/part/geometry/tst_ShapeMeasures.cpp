@@ -3,6 +3,7 @@
 #include "TestCase.h"
 
 #include <BRepPrimAPI_MakeBox.hxx>
+#include <BRepPrimAPI_MakeCylinder.hxx>
 #include <BRepPrimAPI_MakeTorus.hxx>
 #include <QElapsedTimer>
 #include <TopoDS_Compound.hxx>
@@ -23,6 +24,8 @@ private Q_SLOTS:
     void TenThousandCopiesAreMeasuredAtOnce();
     void NoShapeHasNoMeasures();
     void TheMassIsInKilograms();
+    void InertiaFollowsTheFormulas_data();
+    void InertiaFollowsTheFormulas();
 };
 
 void tst_ShapeMeasures::ABoxHasItsMeasures()
@@ -90,6 +93,72 @@ void tst_ShapeMeasures::TheMassIsInKilograms()
     ShapeMeasures measures;
     measures.volume = 2e6;
     QCOMPARE(measures.Mass(7850.0), 15.7);
+}
+
+using Moments = std::array<double, 6>;
+Q_DECLARE_METATYPE(Moments)
+Q_DECLARE_METATYPE(TopoDS_Shape)
+Q_DECLARE_METATYPE(gp_Pnt)
+
+void tst_ShapeMeasures::InertiaFollowsTheFormulas_data()
+{
+    constexpr double Density = 7850.0;
+    const double pi = std::acos(-1.0);
+    QTest::addColumn<TopoDS_Shape>("shape");
+    QTest::addColumn<gp_Pnt>("centre");
+    QTest::addColumn<Moments>("inertia"); // kg mm2
+
+    const TopoDS_Shape box = BRepPrimAPI_MakeBox(gp_Pnt(1, 2, 3), 10.0, 20.0, 30.0).Shape();
+    const double mass = 6000.0 * Density / 1e9;
+    const Moments ofBox = {mass * 1300 / 12, mass * 1000 / 12, mass * 500 / 12, 0, 0, 0};
+    QTest::newRow("box") << box << gp_Pnt(6, 12, 18) << ofBox;
+
+    const double disc = pi * 25 * 8 * Density / 1e9;
+    QTest::newRow("cylinder")
+        << BRepPrimAPI_MakeCylinder(5.0, 8.0).Shape() << gp_Pnt(0, 0, 4)
+        << Moments{disc * (75 + 64) / 12, disc * (75 + 64) / 12, disc * 25 / 2, 0, 0, 0};
+
+    gp_Trsf quarter;
+    quarter.SetRotation(gp_Ax1(), pi / 2);
+    QTest::newRow("turned by 90 degrees") << box.Moved(quarter) << gp_Pnt(-12, 6, 18)
+                                          << Moments{ofBox[1], ofBox[0], ofBox[2], 0, 0, 0};
+
+    gp_Trsf eighth;
+    eighth.SetRotation(gp_Ax1(), pi / 4);
+    const double mean = (ofBox[0] + ofBox[1]) / 2;
+    QTest::newRow("turned by 45 degrees")
+        << box.Moved(eighth) << gp_Pnt(-6 * std::sqrt(0.5), 18 * std::sqrt(0.5), 18)
+        << Moments{mean, mean, ofBox[2], (ofBox[1] - ofBox[0]) / 2, 0, 0};
+
+    // Both together are a box of twice the length, or two boxes that are apart.
+    gp_Trsf beside;
+    beside.SetTranslation({10, 0, 0});
+    QTest::newRow("two boxes side by side")
+        << Compound({box, box.Moved(beside)}) << gp_Pnt(11, 12, 18)
+        << Moments{2 * mass * 1300 / 12, 2 * mass * 1300 / 12, 2 * mass * 800 / 12, 0, 0, 0};
+    gp_Trsf diagonal;
+    diagonal.SetTranslation({40, 60, 80});
+    QTest::newRow("two boxes apart") << Compound({box, box.Moved(diagonal)}) << gp_Pnt(26, 42, 58)
+                                     << Moments{2 * (ofBox[0] + mass * 2500),
+                                                2 * (ofBox[1] + mass * 2000),
+                                                2 * (ofBox[2] + mass * 1300),
+                                                2 * mass * 600,
+                                                2 * mass * 800,
+                                                2 * mass * 1200};
+}
+
+void tst_ShapeMeasures::InertiaFollowsTheFormulas()
+{
+    QFETCH(TopoDS_Shape, shape);
+    QFETCH(gp_Pnt, centre);
+    QFETCH(Moments, inertia);
+    const ShapeMeasures measures = Measure(shape);
+    const auto& [x, y, z] = measures.centre;
+    QVERIFY(gp_Pnt(x, y, z).Distance(centre) < 1e-9);
+    const Moments found = measures.Inertia(7850.0);
+    for (std::size_t i = 0; i < found.size(); ++i)
+        QVERIFY2(std::abs(found[i] - inertia[i]) < 1e-9 * inertia[0],
+                 qPrintable(QString("%1: %2").arg(i).arg(found[i])));
 }
 
 TARN_TEST_MAIN(tst_ShapeMeasures)
