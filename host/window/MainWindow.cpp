@@ -125,7 +125,7 @@ void MainWindow::CreateDocks()
     resizeDocks({m_features, m_fields}, {250, 320}, Qt::Vertical);
     resizeDocks({m_parameters, m_messages}, {820, 620}, Qt::Horizontal);
     const int height = QGuiApplication::primaryScreen()->availableSize().height();
-    resizeDocks({m_messages}, {height < RoomyScreen ? 160 : 230}, Qt::Vertical);
+    resizeDocks({m_messages}, {height < RoomyScreen ? 210 : 250}, Qt::Vertical);
     if (height < LowScreen)
         StackDocks();
 }

@@ -14,8 +14,9 @@ MANUAL = SOURCE / "docs" / "manual"
 IMAGES = SOURCE / "docs" / "images"
 EXAMPLE = SOURCE / "docs" / "examples" / "small_host"
 # Pictures that do not show a dialog.
-OWN_WINDOWS = {"BuildLimitsDialog", "MainWindow", "ParameterPanel", "ProjectProperties", "ResultsDock", "SetupCheckDock",
-               "SolveDock", "StudyMainEffects", "StudyOptimum", "StudyPanel", "StudyResults", "StudyScatter"}
+OWN_WINDOWS = {"BuildLimitsDialog", "MainWindow", "ParameterPanel", "PositionDock", "ProjectProperties",
+               "ResultsDock", "SetupCheckDock", "ShapePicker", "SolveDock", "StudyMainEffects", "StudyOptimum",
+               "StudyPanel", "StudyResults", "StudyScatter"}
 ELSEWHERE = re.compile(r"^(https?|mailto|javascript):")
 
 

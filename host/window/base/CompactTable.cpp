@@ -11,5 +11,6 @@ void MakeCompact(QTableView& table)
     table.verticalHeader()->hide();
     table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + RowMargin);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table.horizontalHeader()->setTextElideMode(Qt::ElideRight);
     table.horizontalHeader()->setHighlightSections(false);
 }

@@ -1,5 +1,6 @@
 #include "Screenshots.h"
 
+#include "AnalysisTree.h"
 #include "AnalysisType.h"
 #include "BuildLimitsDialog.h"
 #include "DOEDlg.h"
@@ -17,6 +18,8 @@
 #include "ParameterEditor.h"
 #include "ParameterPanel.h"
 #include "PartModel.h"
+#include "PartPanel.h"
+#include "PositionDock.h"
 #include "Project.h"
 #include "ProjectProperties.h"
 #include "ResultsDock.h"
@@ -37,6 +40,7 @@
 #include <QDir>
 #include <QFont>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QPixmap>
 #include <QTabWidget>
@@ -54,6 +58,7 @@ constexpr QSize DockSize(460, 480);
 constexpr QSize StudyPanelSize(400, 720);
 constexpr QSize StudyResultsSize(900, 560);
 constexpr QSize ParameterPanelSize(820, 320);
+constexpr QSize PositionSize(320, 220);
 constexpr QSize RoomySampling(360, 460); // The form's own size shows one sample.
 
 class PictureFont
@@ -202,12 +207,27 @@ void VisitProject(const Project& project,
     visit(QStringLiteral("ParameterPanel"), parametersWindow);
 }
 
+// The view with the bar above it, which asks for faces of the first boundary condition.
+QWidget& WithPicking(MainWindow& window)
+{
+    Q_EMIT window.findChild<AnalysisTree*>()->PickWanted({AnalysisEntry::Constraint, 0});
+    return *window.findChild<PartPanel*>();
+}
+
 void VisitDocks(const std::function<void(const QString& name, QWidget& window)>& visit)
 {
     auto* const results = new ResultsDock(nullptr, nullptr);
     DockWindow resultsWindow(*results);
     results->ShowReport(SampleResults());
     visit(QStringLiteral("ResultsDock"), resultsWindow);
+
+    auto* const position = new PositionDock(nullptr, nullptr);
+    DockWindow positionWindow(*position);
+    positionWindow.resize(PositionSize);
+    const QList<QLineEdit*> fields = position->findChildren<QLineEdit*>();
+    for (QLineEdit* const field : fields)
+        field->setText(QStringLiteral("12.5"));
+    visit(QStringLiteral("PositionDock"), positionWindow);
 
     SolveProcess process;
     auto* const progress = new SolveDock(process, nullptr);
@@ -253,6 +273,7 @@ void VisitWindows(const Project& project,
     // First: it fills the stores.
     std::unique_ptr<MainWindow> window = NewMainWindow(project);
     visit(QStringLiteral("MainWindow"), *window);
+    visit(QStringLiteral("ShapePicker"), WithPicking(*window));
     VisitStudy(std::move(window), visit);
     for (const CatalogueEntry& entry : DialogCatalogue()) {
         const std::unique_ptr<QWidget> dialog = entry.make();

@@ -127,6 +127,11 @@ FeatureFields::FeatureFields(PartModel& model, QWidget* parent)
     m_table->setObjectName(QStringLiteral("fieldTable"));
     m_table->setAccessibleName(windowTitle());
     m_table->setHorizontalHeaderLabels({tr("Field"), tr("Number or expression"), tr("Value")});
+    // In a narrow dock the header is cut.
+    for (int column = 0; column < m_table->columnCount(); ++column) {
+        QTableWidgetItem& header = *m_table->horizontalHeaderItem(column);
+        header.setToolTip(header.text());
+    }
     MakeCompact(*m_table);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setEditTriggers(QAbstractItemView::AllEditTriggers);

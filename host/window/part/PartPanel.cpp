@@ -6,7 +6,7 @@
 #include "ShapeMeasures.h"
 #include "ShapePicture.h"
 
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -64,12 +64,14 @@ private:
     int m_height;
 };
 
-QLabel* AddRow(QFormLayout& form, const QString& caption, const char* name)
+// In the columns 0 and 1, or 2 and 3.
+QLabel* AddMeasure(QGridLayout& grid, int row, int column, const QString& caption, const char* name)
 {
     auto* const label = new QLabel;
     label->setObjectName(QString::fromLatin1(name));
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    form.addRow(caption, label);
+    grid.addWidget(new QLabel(caption), row, column);
+    grid.addWidget(label, row, column + 1);
     return label;
 }
 
@@ -82,26 +84,7 @@ PartPanel::PartPanel(QWidget* parent)
     setObjectName(QStringLiteral("shapeSummary"));
 
     auto* const measures = new QWidget;
-    auto* const form = new QFormLayout(measures);
-    form->setContentsMargins(0, 0, 0, 0);
-    form->setLabelAlignment(Qt::AlignLeft);
-    m_status = AddRow(*form, tr("Status"), "label_Status");
-    m_status->setWordWrap(true);
-    m_volume = AddRow(*form, tr("Volume"), "label_Volume");
-    m_area = AddRow(*form, tr("Surface"), "label_Area");
-    m_mass = AddRow(*form, tr("Mass"), "label_Mass");
-    m_centre = AddRow(*form, tr("Centre of mass"), "label_CentreOfMass");
-    m_inertia = AddRow(*form, tr("Inertia"), "label_Inertia");
-    m_size = AddRow(*form, tr("Bounding box"), "label_BoundingBox");
-    m_position = AddRow(*form, tr("From, to"), "label_BoundingBoxPosition");
-
-    m_overlaps = new QLabel;
-    m_overlaps->setObjectName(QStringLiteral("label_Overlaps"));
-    m_overlaps->setWordWrap(true);
-    m_overlaps->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    form->addRow(m_overlaps);
-
-    m_overlaps->hide();
+    FillMeasures(*new QGridLayout(measures));
     auto* const area = new MeasureArea(measures);
     area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     m_layout->addWidget(area);
@@ -119,6 +102,30 @@ PartPanel::PartPanel(QWidget* parent)
 }
 
 PartPanel::~PartPanel() = default;
+
+void PartPanel::FillMeasures(QGridLayout& grid)
+{
+    grid.setContentsMargins(0, 0, 0, 0);
+    grid.setColumnStretch(3, 1);
+    constexpr int WholeRow = -1;
+    m_status = AddMeasure(grid, 0, 0, tr("Status"), "label_Status");
+    m_status->setWordWrap(true);
+    grid.addWidget(m_status, 0, 1, 1, WholeRow);
+    m_volume = AddMeasure(grid, 1, 0, tr("Volume"), "label_Volume");
+    m_area = AddMeasure(grid, 2, 0, tr("Surface"), "label_Area");
+    m_mass = AddMeasure(grid, 3, 0, tr("Mass"), "label_Mass");
+    m_size = AddMeasure(grid, 1, 2, tr("Bounding box"), "label_BoundingBox");
+    m_position = AddMeasure(grid, 2, 2, tr("From, to"), "label_BoundingBoxPosition");
+    m_centre = AddMeasure(grid, 3, 2, tr("Centre of mass"), "label_CentreOfMass");
+    m_inertia = AddMeasure(grid, 4, 2, tr("Inertia"), "label_Inertia");
+
+    m_overlaps = new QLabel;
+    m_overlaps->setObjectName(QStringLiteral("label_Overlaps"));
+    m_overlaps->setWordWrap(true);
+    m_overlaps->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    grid.addWidget(m_overlaps, 5, 0, 1, WholeRow);
+    m_overlaps->hide();
+}
 
 QWidget* PartPanel::NewProgressRow()
 {

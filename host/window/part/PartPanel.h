@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class PartView;
+class QGridLayout;
 class QLabel;
 class QVBoxLayout;
 class ShapePicture;
@@ -54,6 +55,7 @@ Q_SIGNALS:
     void LinesWanted();
 
 private:
+    void FillMeasures(QGridLayout& grid);
     QWidget* NewProgressRow();
     void UsePicture(const QString& reason);
     void Show(const TopoDS_Shape& shape, const LineDrawing& lines);

@@ -32,10 +32,10 @@ namespace {
 
 QStringList WindowNames()
 {
-    QStringList names = {"BuildLimitsDialog", "MainWindow",   "MaterialEditer", "ParameterPanel",
-                         "ProjectProperties", "ResultsDock",  "SetupCheckDock", "SolveDock",
-                         "StudyMainEffects",  "StudyOptimum", "StudyPanel",     "StudyResults",
-                         "StudyScatter"};
+    QStringList names = {
+        "BuildLimitsDialog", "MainWindow",   "MaterialEditer", "ParameterPanel", "PositionDock",
+        "ProjectProperties", "ResultsDock",  "SetupCheckDock", "ShapePicker",    "SolveDock",
+        "StudyMainEffects",  "StudyOptimum", "StudyPanel",     "StudyResults",   "StudyScatter"};
     for (const CatalogueEntry& entry : DialogCatalogue())
         names << entry.name;
     names.sort();
