@@ -3551,14 +3551,6 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
         <translation>求解静力(&amp;T)</translation>
     </message>
     <message>
-        <source>Cancel the analysis?</source>
-        <translation>取消分析？</translation>
-    </message>
-    <message>
-        <source>An analysis is running. Cancel it, and begin the new one?</source>
-        <translation>有分析正在运行。取消它并开始新的分析？</translation>
-    </message>
-    <message>
         <source>Read results of a s&amp;olver</source>
         <translation>读取求解器的结果(&amp;O)</translation>
     </message>
@@ -3569,6 +3561,10 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
     <message>
         <source>A solver has left results in the folder of the project</source>
         <translation>求解器已在项目文件夹中留下结果</translation>
+    </message>
+    <message>
+        <source>%1 begins when the running analysis has ended</source>
+        <translation>正在运行的分析结束后开始：%1</translation>
     </message>
 </context>
 <context>
@@ -3608,6 +3604,10 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
     <message>
         <source>%1 min %2 s</source>
         <translation>%1 分 %2 秒</translation>
+    </message>
+    <message>
+        <source>Then: %1</source>
+        <translation>随后：%1</translation>
     </message>
 </context>
 <context>

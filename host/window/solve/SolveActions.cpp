@@ -12,7 +12,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
-#include <QMessageBox>
 
 namespace {
 
@@ -56,7 +55,6 @@ SolveActions::SolveActions(ProjectSession& session, const DesignModel& design,
                            const PartModel& part, PartView* view, QWidget* window)
     : QObject(window)
     , m_session(session)
-    , m_window(window)
     , m_progress(new SolveDock(m_process, window))
     , m_results(new ResultsDock(view, window))
 {
@@ -117,25 +115,33 @@ void SolveActions::OfferResults()
 
 void SolveActions::Start(SolveKind kind, bool hasResults)
 {
-    if (!ConfirmReplacing())
+    m_next = Job{kind, hasResults};
+    if (!m_process.IsBusy()) {
+        Begin();
         return;
-    m_process.Cancel();
+    }
+    m_progress->SetNext(TitleOf(kind));
+    PostMessageToChannel(InfoLevel,
+                         tr("%1 begins when the running analysis has ended").arg(TitleOf(kind)));
+}
+
+void SolveActions::Begin()
+{
+    const Job job = *m_next;
+    m_next.reset();
     try {
         m_running = CurrentInput();
-        m_process.Start(m_running.project, kind, QDir::currentPath(), hasResults);
-        m_progress->Begin(TitleOf(kind));
+        m_process.Start(m_running.project, job.kind, QDir::currentPath(), job.hasResults);
+        m_progress->Begin(TitleOf(job.kind));
     } catch (const HostError& error) {
         PostMessageToChannel(ErrorLevel, error.Reason());
     }
 }
 
-bool SolveActions::ConfirmReplacing()
+void SolveActions::Stop()
 {
-    if (!m_process.IsBusy())
-        return true;
-    return QMessageBox::question(m_window, tr("Cancel the analysis?"),
-                                 tr("An analysis is running. Cancel it, and begin the new one?")) ==
-           QMessageBox::Yes;
+    m_next.reset();
+    m_process.Cancel();
 }
 
 void SolveActions::TakeEnd(SolveProcess::Outcome outcome, const QString& problem)
@@ -150,6 +156,10 @@ void SolveActions::TakeEnd(SolveProcess::Outcome outcome, const QString& problem
     else
         PostMessageToChannel(outcome == SolveProcess::Cancelled ? WarningLevel : ErrorLevel,
                              problem);
+    if (outcome == SolveProcess::Cancelled)
+        m_next.reset();
+    if (m_next)
+        Begin();
 }
 
 void SolveActions::CompareWithResults()
@@ -161,7 +171,7 @@ void SolveActions::CompareWithResults()
 
 void SolveActions::Forget()
 {
-    m_process.Cancel();
+    Stop();
     m_watch.Follow(QDir::currentPath());
     m_shown.reset();
     m_results->Clear();

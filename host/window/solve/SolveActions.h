@@ -36,10 +36,15 @@ public:
     SolveDock& Progress() { return *m_progress; }
     ResultsDock& Results() { return *m_results; }
 
-    /// Ends an analysis that is running.
-    void Stop() { m_process.Cancel(); }
+    /// Ends an analysis that is running, and drops the one that waits for it.
+    void Stop();
 
 private:
+    struct Job
+    {
+        SolveKind kind;
+        bool hasResults; ///< They are only read.
+    };
     /// What the results of an analysis depend on.
     struct Input
     {
@@ -54,19 +59,19 @@ private:
     void SolveStatic() { Start(SolveKind::Static); }
     void ReadResults();
     void Start(SolveKind kind, bool hasResults = false);
+    void Begin();
     void OfferResults();
-    bool ConfirmReplacing();
     void TakeEnd(SolveProcess::Outcome outcome, const QString& problem);
     Input CurrentInput() const;
     void CompareWithResults();
     void Forget();
 
     ProjectSession& m_session;
-    QWidget* m_window;
     SolveProcess m_process;
     ResultWatch m_watch; // Of the project's folder.
     SolveDock* m_progress;
     ResultsDock* m_results;
+    std::optional<Job> m_next; // Waits for the running one to end.
     Input m_running;
     std::optional<Input> m_shown; // Of the results that are shown.
 };

@@ -39,6 +39,7 @@ SolveDock::SolveDock(SolveProcess& process, QWidget* parent)
     m_clock.setInterval(Second);
     connect(&m_clock, &QTimer::timeout, this, &SolveDock::ShowTime);
     m_ui->offerButton->hide();
+    m_ui->nextLabel->hide();
     connect(m_ui->offerButton, &QPushButton::clicked, this, &SolveDock::ResultsWanted);
     connect(m_ui->cancelButton, &QPushButton::clicked, &process, &SolveProcess::Cancel);
     connect(&process, &SolveProcess::Told, this, &SolveDock::Take);
@@ -60,6 +61,12 @@ void SolveDock::Begin(const QString& title)
     ShowTime();
     show();
     raise();
+}
+
+void SolveDock::SetNext(const QString& title)
+{
+    m_ui->nextLabel->setText(tr("Then: %1").arg(title));
+    m_ui->nextLabel->show();
 }
 
 void SolveDock::OfferResults()
@@ -84,6 +91,7 @@ void SolveDock::End(SolveProcess::Outcome outcome, const QString& problem)
     m_clock.stop();
     ShowTime();
     m_ui->cancelButton->setEnabled(false);
+    m_ui->nextLabel->hide();
     m_ui->stageLabel->setText(outcome == SolveProcess::Done ? tr("Done") : problem);
     if (outcome == SolveProcess::Done)
         m_ui->stageBar->setValue(StageCount);

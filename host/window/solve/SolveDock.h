@@ -25,6 +25,9 @@ public:
     /// An analysis begins, which @p title names.
     void Begin(const QString& title);
 
+    /// The analysis that @p title names begins when the running one has ended.
+    void SetNext(const QString& title);
+
     /// Results of another solver can be shown, until the next analysis begins.
     void OfferResults();
 

@@ -18,7 +18,8 @@ private Q_SLOTS:
     void TheFlangeIsMeshed();
     void ChangesMakeResultsOld();
     void AMissingProgramIsReported();
-    void ASecondStartAsksAboutTheFirst();
+    void ASecondStartWaitsForTheFirst();
+    void CancelDropsTheNextAnalysisToo();
     void ClosingTheWindowEndsThePrograms();
     void AnotherProjectForgetsTheResults();
     void ResultsOfAnotherSolverAreOffered();
@@ -126,21 +127,40 @@ void tst_SolveActions::AMissingProgramIsReported()
                          "set the path of the program."));
 }
 
-void tst_SolveActions::ASecondStartAsksAboutTheFirst()
+void tst_SolveActions::ASecondStartWaitsForTheFirst()
 {
-    auto endless = std::make_unique<EndlessSolver>();
     Flange flange;
+    const auto& next = Find<QLabel>(flange.window, "nextLabel");
+    const PostedMessages posted;
+    flange.Trigger("action_Mesh");
+    QVERIFY(!next.isVisible());
+    flange.Trigger("action_SolveStatic");
     flange.Trigger("action_SolveVibration");
-    QTRY_VERIFY_WITH_TIMEOUT(endless->HasStarted(), 60000);
-    flange.user.Answer(QMessageBox::No);
+    QVERIFY(next.isVisible());
+    QCOMPARE(next.text(), QString("Then: Vibration"));
+    QTRY_VERIFY_WITH_TIMEOUT(posted.At(InfoLevel).last().startsWith("Modes found: 5"), 60000);
+    QVERIFY(!next.isVisible());
+    const QStringList told = posted.At(InfoLevel);
+    QVERIFY(told.contains("Vibration begins when the running analysis has ended"));
+    QCOMPARE(told.filter("The part was meshed: ").size(), 1);
+    // Only the newest waits.
+    QVERIFY(!QFile::exists("static.csv"));
+}
+
+void tst_SolveActions::CancelDropsTheNextAnalysisToo()
+{
+    const EndlessSolver endless;
+    Flange flange;
+    const PostedMessages posted;
+    flange.Trigger("action_SolveVibration");
+    QTRY_VERIFY_WITH_TIMEOUT(endless.HasStarted(), 60000);
     flange.Trigger("action_Mesh");
-    QVERIFY(endless->IsRunning());
-    flange.user.Answer(QMessageBox::Yes);
-    flange.Trigger("action_Mesh");
-    QVERIFY(flange.user.IsDone());
-    QTRY_VERIFY(!endless->IsRunning());
+    Click(Find<QDockWidget>(flange.window, "solveDock"), "cancelButton");
+    QTRY_VERIFY(!endless.IsRunning());
     flange.WaitForEnd();
-    QVERIFY(flange.Table().rowCount() > 0);
+    QCOMPARE(posted.At(WarningLevel), QStringList("The analysis was cancelled."));
+    QVERIFY(!Find<QLabel>(flange.window, "nextLabel").isVisible());
+    QCOMPARE(flange.Table().rowCount(), 0);
 }
 
 void tst_SolveActions::ClosingTheWindowEndsThePrograms()

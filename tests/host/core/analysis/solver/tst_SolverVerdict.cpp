@@ -62,6 +62,7 @@ void tst_SolverVerdict::ADeckThatTheSolverRefusesIsReported_data()
     row("misspelt keyword", "*ELASTIC", "*ELASTYC", refused);
     row("no density", "*DENSITY\n7.85e-9\n", "", refused);
     row("density 0", "7.85e-9", "0", "ccx ");
+    row("Poisson's ratio -1", "0.3", "-1", "ccx ");
     row("Poisson's ratio 0.5", "0.3", "0.5", refused);
     row("all nodes held", "7,1,3\n*STEP", "7,1,3\n4,1,3\n8,1,3\n9,1,3\n10,1,3\n*STEP", "ccx ");
     row("too many modes", "*FREQUENCY\n2", "*FREQUENCY\n1000",
