@@ -65,7 +65,9 @@ StudyRunner::Summary StudyRunner::Run()
 {
     const auto [first, last] = Prepare();
     PrepareWorkers(first, last);
-    Work();
+    // Also while the results are written, which a signal must not cut short.
+    const StopSignal stop;
+    Work(stop);
     m_places.clear(); // Ends the workers.
     m_queue.reset();
     m_lines->Flush();
@@ -79,6 +81,7 @@ StudyRunner::Summary StudyRunner::Run()
     }
     m_journal->Sync();
     Merge();
+    m_summary.signal = stop.Number();
     m_tell(QStringLiteral("%1 ok, %2 failed, %3 done before; see %4")
                .arg(m_summary.ok)
                .arg(m_summary.failed)
@@ -162,11 +165,10 @@ std::pair<int, int> StudyRunner::RequestedRuns(int runs) const
     return {first, last};
 }
 
-void StudyRunner::Work()
+void StudyRunner::Work(const StopSignal& stop)
 {
     QEventLoop loop;
     m_loop = &loop;
-    StopSignal stop;
     QObject::connect(&stop, &StopSignal::Came, &loop, &QEventLoop::quit);
     QTimer sync;
     QObject::connect(&sync, &QTimer::timeout, &loop,
@@ -183,7 +185,6 @@ void StudyRunner::Work()
     QTimer::singleShot(0, &loop, [this] { Try([this] { FeedAll(); }); });
     loop.exec();
     m_loop = nullptr;
-    m_summary.signal = stop.Number();
 }
 
 // An exception must not leave through the event loop.

@@ -17,6 +17,7 @@
 
 class Project;
 class QEventLoop;
+class StopSignal;
 class Study;
 
 /// Runs a study without a user: builds and analyses the part of each run, and writes a StudyFolder.
@@ -74,7 +75,7 @@ private:
     std::pair<int, int> Prepare();
     void PrepareWorkers(int first, int last);
     void Merge();
-    void Work();
+    void Work(const StopSignal& stop);
     void Try(const std::function<void()>& step);
     void FeedAll();
     void Feed(Place& place);
