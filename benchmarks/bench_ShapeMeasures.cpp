@@ -1,14 +1,11 @@
 #include "Bodies.h"
 #include "FeatureBuilder.h"
+#include "FlangeByHand.h"
 #include "ParameterEvaluator.h"
 #include "Project.h"
 #include "RunBenchmarks.h"
 #include "ShapeMeasures.h"
 
-#include <BRepBndLib.hxx>
-#include <BRepGProp.hxx>
-#include <Bnd_Box.hxx>
-#include <GProp_GProps.hxx>
 #include <TopoDS_Shape.hxx>
 #include <gp_Ax1.hxx>
 #include <gp_Trsf.hxx>
@@ -34,17 +31,6 @@ TopoDS_Shape Copies(const TopoDS_Shape& body, int count)
         copies.push_back(body.Moved(TopLoc_Location(rotation)));
     }
     return Compound(copies);
-}
-
-double MeasureByHand(const TopoDS_Shape& shape)
-{
-    GProp_GProps volume;
-    BRepGProp::VolumeProperties(shape, volume);
-    GProp_GProps area;
-    BRepGProp::SurfaceProperties(shape, area);
-    Bnd_Box box;
-    BRepBndLib::AddOptimal(shape, box, false, false);
-    return volume.Mass() + area.Mass() + box.SquareExtent();
 }
 
 template<class Measuring>

@@ -7,8 +7,6 @@
 #include "StudyRunner.h"
 #include "WorkerProcess.h"
 
-#include <BRepBndLib.hxx>
-#include <Bnd_Box.hxx>
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -84,16 +82,7 @@ bool BuildFeatures(const Project& project)
 
 bool BuildByHand(const Project& project)
 {
-    return RunHere(project, [] {
-        const TopoDS_Shape part = FlangeByHand();
-        GProp_GProps volume;
-        BRepGProp::VolumeProperties(part, volume);
-        GProp_GProps area;
-        BRepGProp::SurfaceProperties(part, area);
-        Bnd_Box box;
-        BRepBndLib::AddOptimal(part, box, false, false);
-        return volume.Mass() > 0.0 && area.Mass() > 0.0 && !box.IsVoid();
-    });
+    return RunHere(project, [] { return MeasureByHand(FlangeByHand()) > 0.0; });
 }
 
 } // namespace

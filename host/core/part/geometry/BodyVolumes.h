@@ -10,7 +10,7 @@
 struct VolumeMoments
 {
     double volume = 0.0; ///< mm3
-    gp_XYZ centre;       ///< Of the volume, in mm; the origin if there is no volume.
+    gp_XYZ centre;       ///< Of the volume, in mm; the origin if the volume is 0.
     /// The tensor of inertia for a density of 1, about the centre and parallel to the axes, in mm5.
     gp_Mat inertia;
 };

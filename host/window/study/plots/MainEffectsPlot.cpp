@@ -93,7 +93,7 @@ void MainEffectsPlot::ShowRows()
         titles << columns.Title(effect.column);
     }
     auto* const names = new NameScale(titles);
-    // Otherwise there is no room for what is below the base line, such as "_".
+    // Leaves room for what is below the base line, such as "_".
     names->setMinimumExtent(names->spacing() + fontMetrics().height() + fontMetrics().descent());
     m_plot->setAxisScaleDraw(QwtPlot::xBottom, names);
     m_plot->setAxisScaleDiv(QwtPlot::xBottom,
