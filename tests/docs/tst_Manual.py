@@ -155,6 +155,11 @@ class GeneratedPages(unittest.TestCase):
                   if not ELSEWHERE.match(target) and self.IsBroken(name, target)]
         self.assertEqual(broken, [])
 
+    def test_NoPageShowsMarkup(self):
+        # A line break in the text of a link makes Doxygen show the rest of the section as source.
+        markup = re.compile(r"@(code|endcode|verbatim|endverbatim|ref)\b|&lt;/?(tt|h\d)&gt;")
+        self.assertEqual([name for name in self.pages if markup.search((self.folder / name).read_text())], [])
+
     def IsBroken(self, name, target):
         path, _, anchor = unquote(target).partition("#")
         path = path or name
