@@ -160,8 +160,8 @@ void ChoosePlatform(const CommandLine& line)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     else if (qEnvironmentVariableIsEmpty("DISPLAY") &&
              qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        throw HostError(QStringLiteral("there is no display; --study, --solve and --screenshots "
-                                       "work without one, see --help"));
+        throw HostError(QStringLiteral("the window needs a display; --study, --solve and "
+                                       "--screenshots work without one, see --help"));
 }
 
 // What the toolkit says about a missing desktop is no news to the user.

@@ -51,6 +51,6 @@ int main(int argc, char** argv)
     } catch (const HostError& error) {
         return Refuse(FailedCode, error.Reason());
     } catch (const std::bad_alloc&) {
-        return Refuse(FailedCode, QStringLiteral("there is not enough memory"));
+        return Refuse(FailedCode, QStringLiteral("the program ran out of memory"));
     }
 }

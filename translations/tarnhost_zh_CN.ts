@@ -490,10 +490,6 @@
         <translation>点 %1 处没有面。</translation>
     </message>
     <message>
-        <source>The project has no features, so there is no part.</source>
-        <translation>项目没有特征，因此没有零件。</translation>
-    </message>
-    <message>
         <source>too many bodies to combine: %1 (maximum %2).</source>
         <translation>参与布尔运算的实体过多：%1 个（最多 %2 个）。</translation>
     </message>
@@ -600,6 +596,10 @@
     <message>
         <source>the faces to mirror at do not lie in one plane; name one of them.</source>
         <translation>用于镜像的各面不在同一平面内；请指定其中一个。</translation>
+    </message>
+    <message>
+        <source>The project has no part. Add a body first.</source>
+        <translation>项目没有零件。请先添加实体。</translation>
     </message>
 </context>
 <context>
@@ -1264,16 +1264,16 @@ Remove these as well?</source>
         <translation>几何内核失败：%1（%2）</translation>
     </message>
     <message>
-        <source>There is not enough memory</source>
-        <translation>内存不足</translation>
-    </message>
-    <message>
         <source>An unexpected error: %1</source>
         <translation>意外错误：%1</translation>
     </message>
     <message>
         <source>An unknown error occurred</source>
         <translation>发生未知错误</translation>
+    </message>
+    <message>
+        <source>The program ran out of memory</source>
+        <translation>程序内存不足</translation>
     </message>
 </context>
 <context>
@@ -1446,10 +1446,6 @@ Remove these as well?</source>
         <translation>有两个参数 %1</translation>
     </message>
     <message>
-        <source>has samples for %1, which is no parameter</source>
-        <translation>有 %1 的样本，但它不是参数</translation>
-    </message>
-    <message>
         <source>has two sample lists for %1</source>
         <translation>有 %1 的两个样本列表</translation>
     </message>
@@ -1594,16 +1590,20 @@ Remove these as well?</source>
         <translation>%1 的“%2”</translation>
     </message>
     <message>
-        <source>There are no copied features on the clipboard.</source>
-        <translation>剪贴板上没有复制的特征。</translation>
-    </message>
-    <message>
         <source>the clipboard</source>
         <translation>剪贴板</translation>
     </message>
     <message>
         <source>is of the unknown type %1</source>
         <translation>的类型 %1 未知</translation>
+    </message>
+    <message>
+        <source>The clipboard has no copied features. Copy features first.</source>
+        <translation>剪贴板中没有已复制的特征。请先复制特征。</translation>
+    </message>
+    <message>
+        <source>has samples for %1, which is not a parameter</source>
+        <translation>有 %1 的样本，但它不是参数</translation>
     </message>
 </context>
 <context>
@@ -1960,10 +1960,6 @@ Remove these as well?</source>
         <translation>%1 %2：请添加支撑。</translation>
     </message>
     <message>
-        <source>There is no load, so nothing moves: add a load.</source>
-        <translation>没有载荷，因此不会产生位移：请添加载荷。</translation>
-    </message>
-    <message>
         <source>All nodes are held, so nothing can move: hold fewer faces, or make the mesh finer.</source>
         <translation>所有节点都已被约束，无法运动：请减少约束的面，或加密网格。</translation>
     </message>
@@ -1978,6 +1974,10 @@ Remove these as well?</source>
     <message>
         <source>The bodies touch without being joined: %1 and %2. Fuse them, or leave a gap.</source>
         <translation>实体相互接触但未连接：%1 与 %2。请用“求和”将它们合并，或留出间隙。</translation>
+    </message>
+    <message>
+        <source>The set-up has no load, so nothing moves. Add a load first.</source>
+        <translation>分析设置中没有载荷，因此不会产生位移。请先添加载荷。</translation>
     </message>
 </context>
 <context>
@@ -2379,14 +2379,6 @@ Remove these as well?</source>
         <translation>%1需要两个实体，但实体不足</translation>
     </message>
     <message>
-        <source>There is no 3D view to pick a face in: type a point on the face into the fields of %1</source>
-        <translation>没有可选取面的三维视图：请在 %1 的参数中输入面上一点</translation>
-    </message>
-    <message>
-        <source>There is no shape to export</source>
-        <translation>没有可导出的形状</translation>
-    </message>
-    <message>
         <source>Wrote %1</source>
         <translation>已写入 %1</translation>
     </message>
@@ -2401,6 +2393,14 @@ Remove these as well?</source>
     <message>
         <source>&amp;Paste features</source>
         <translation>粘贴特征(&amp;P)</translation>
+    </message>
+    <message>
+        <source>The 3D view is not available: type a point on the face into the fields of %1</source>
+        <translation>三维视图不可用：请在 %1 的参数中输入面上一点</translation>
+    </message>
+    <message>
+        <source>The part has no shape to export. Add or correct a body first.</source>
+        <translation>零件没有可导出的形状。请先添加或更正实体。</translation>
     </message>
 </context>
 <context>
@@ -2537,10 +2537,6 @@ Remove these as well?</source>
         <translation>生成于 %1</translation>
     </message>
     <message>
-        <source>There is no earlier shape.</source>
-        <translation>没有更早的形状。</translation>
-    </message>
-    <message>
         <source>Showing the last valid shape, built at %1.</source>
         <translation>显示的是上一个有效形状，生成于 %1。</translation>
     </message>
@@ -2549,10 +2545,6 @@ Remove these as well?</source>
 %2</source>
         <translation>未生成：%1
 %2</translation>
-    </message>
-    <message>
-        <source>There is no shape yet</source>
-        <translation>尚无形状</translation>
     </message>
     <message>
         <source>none</source>
@@ -2587,6 +2579,14 @@ Remove these as well?</source>
 Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3 kg·mm²</source>
         <translation>绕过质心且平行于 x、y、z 的轴的转动惯量。
 同一组轴的惯性积 ∫xy dm、∫xz dm、∫yz dm：%1、%2、%3 kg·mm²</translation>
+    </message>
+    <message>
+        <source>The part has no earlier shape.</source>
+        <translation>零件没有更早的形状。</translation>
+    </message>
+    <message>
+        <source>The part has no shape yet</source>
+        <translation>零件尚无形状</translation>
     </message>
 </context>
 <context>
@@ -2975,8 +2975,8 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
         <translation>已导出到 %1</translation>
     </message>
     <message>
-        <source>Results are not drawn: there is no 3D view.</source>
-        <translation>结果不绘制：没有三维视图。</translation>
+        <source>Results are not drawn: the 3D view is not available.</source>
+        <translation>结果不绘制：三维视图不可用。</translation>
     </message>
 </context>
 <context>
@@ -3330,10 +3330,6 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
         <translation>%1 为 %2 %3，但必须大于 0</translation>
     </message>
     <message>
-        <source>There is no part: add a body to analyse</source>
-        <translation>没有零件：请添加要分析的实体</translation>
-    </message>
-    <message>
         <source>This kind of analysis cannot be solved here: choose vibration or static</source>
         <translation>此处无法求解该类分析：请选择振动或静力</translation>
     </message>
@@ -3446,6 +3442,10 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
         <source>%1 fixes no degree of freedom</source>
         <translation>%1 没有固定任何自由度</translation>
     </message>
+    <message>
+        <source>The project has no part. Add a body first.</source>
+        <translation>项目没有零件。请先添加实体。</translation>
+    </message>
 </context>
 <context>
     <name>SetupCheckDock</name>
@@ -3485,16 +3485,16 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
         <translation>取消</translation>
     </message>
     <message>
-        <source>There is no 3D view to pick in</source>
-        <translation>没有可供拾取的三维视图</translation>
-    </message>
-    <message>
-        <source>There is no shape to pick from</source>
-        <translation>没有可供拾取的形状</translation>
-    </message>
-    <message>
         <source>Click in the view; click again to take back.</source>
         <translation>请在视图中单击；再次单击可取消。</translation>
+    </message>
+    <message>
+        <source>Picking needs the 3D view, which is not available</source>
+        <translation>拾取需要三维视图，但三维视图不可用</translation>
+    </message>
+    <message>
+        <source>The part has no shape to pick from. Add or correct a body first.</source>
+        <translation>零件没有可供拾取的形状。请先添加或更正实体。</translation>
     </message>
 </context>
 <context>
@@ -3521,10 +3521,6 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
     <message>
         <source>Static analysis</source>
         <translation>静力分析</translation>
-    </message>
-    <message>
-        <source>There are no modes in the range of frequencies</source>
-        <translation>频率范围内没有模态</translation>
     </message>
     <message>
         <source>Modes found: %1, the lowest at %2 Hz</source>
@@ -3565,6 +3561,10 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
     <message>
         <source>%1 begins when the running analysis has ended</source>
         <translation>正在运行的分析结束后开始：%1</translation>
+    </message>
+    <message>
+        <source>The solver found no modes in the range of frequencies</source>
+        <translation>求解器在频率范围内未找到模态</translation>
     </message>
 </context>
 <context>
@@ -3649,12 +3649,12 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
         <translation>分析已取消。</translation>
     </message>
     <message>
-        <source>There is not enough memory: choose a greater mesh size.</source>
-        <translation>内存不足：请选择更大的网格尺寸。</translation>
-    </message>
-    <message>
         <source>The results in the folder are not those of the part and its set-up as they are now: solve again.</source>
         <translation>文件夹中的结果不属于零件及其设置的当前状态：请重新求解。</translation>
+    </message>
+    <message>
+        <source>The analysis ran out of memory. Choose a greater mesh size.</source>
+        <translation>分析内存不足。请选择更大的网格尺寸。</translation>
     </message>
 </context>
 <context>

@@ -125,7 +125,8 @@ void tst_Program::BadInputIsRefusedInOneLine_data()
     row("pictures into a file", {"--screenshots", "broken.json"},
         "broken.json: cannot create the folder");
     row("no display", {"p.json"},
-        "there is no display; --study, --solve and --screenshots work without one, see --help");
+        "the window needs a display; --study, --solve and --screenshots work without one, see "
+        "--help");
 }
 
 void tst_Program::BadInputIsRefusedInOneLine()
@@ -183,8 +184,9 @@ void tst_Program::TheExitCodeOfSolvingSaysWhatWentWrong_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("cannot be solved") << QStringList{"--out", "out", "--static"} << 1
-                                      << "There is no load, so nothing moves: add a load.";
+    QTest::newRow("cannot be solved")
+        << QStringList{"--out", "out", "--static"} << 1
+        << "The set-up has no load, so nothing moves. Add a load first.";
     QTest::newRow("unknown parameter") << QStringList{"--out", "out", "--set", "k=1"} << 2
                                        << "--set k: the project has no parameter of that name";
     QTest::newRow("folder is a file")

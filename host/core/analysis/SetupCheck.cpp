@@ -121,7 +121,7 @@ void Check::CheckPart()
     if (!m_context.failure.isEmpty())
         Fail(entry, tr("The part cannot be built: %1").arg(m_context.failure));
     else if (m_context.longestSide <= 0.0)
-        Fail(entry, tr("There is no part: add a body to analyse"));
+        Fail(entry, tr("The project has no part. Add a body first."));
     const QString overlaps = m_context.overlaps.AnalysisProblem();
     if (!overlaps.isEmpty())
         Fail(entry, overlaps);

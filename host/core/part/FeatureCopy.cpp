@@ -38,7 +38,8 @@ FeatureList WithPastedFeatures(FeatureList features, const QString& text, QStrin
 {
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
     if (!document.isObject() || !document.object().contains(FeaturesKey))
-        throw JsonError(JsonError::tr("There are no copied features on the clipboard."));
+        throw JsonError(
+            JsonError::tr("The clipboard has no copied features. Copy features first."));
     const QJsonArray entries =
         JsonSection(JsonError::tr("the clipboard"), document.object(), {FeaturesKey})
             .Array(FeaturesKey);

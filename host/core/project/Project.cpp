@@ -95,7 +95,8 @@ void Project::Read(const QJsonValue& json)
         m_samples.push_back(ReadSampleList(value, int(m_samples.size()) + 1));
         const QString& name = m_samples.back().parameter;
         if (!names.contains(name))
-            root.Fail(JsonError::tr("has samples for %1, which is no parameter").arg(Quoted(name)));
+            root.Fail(
+                JsonError::tr("has samples for %1, which is not a parameter").arg(Quoted(name)));
         if (sampled.contains(name))
             root.Fail(JsonError::tr("has two sample lists for %1").arg(Quoted(name)));
         sampled.insert(name);
@@ -203,7 +204,7 @@ PartPlan Project::Plan() const
     const bool buildsSomething = std::any_of(
         plan.begin(), plan.end(), [](const BuildStep& step) { return !step.suppressed; });
     if (!buildsSomething)
-        throw BuildError(BuildError::tr("The project has no features, so there is no part."));
+        throw BuildError(BuildError::tr("The project has no part. Add a body first."));
     return plan;
 }
 

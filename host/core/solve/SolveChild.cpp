@@ -161,7 +161,7 @@ int RunSolveChild(int argc, char** argv)
         Say(SolveMessage::Problem, error.Reason());
     } catch (const std::bad_alloc&) {
         Say(SolveMessage::Problem,
-            SolveJob::tr("There is not enough memory: choose a greater mesh size."));
+            SolveJob::tr("The analysis ran out of memory. Choose a greater mesh size."));
     }
     return EXIT_FAILURE;
 }

@@ -70,7 +70,7 @@ bool HostApplication::notify(QObject* receiver, QEvent* event)
                             .arg(QString::fromLocal8Bit(failure.GetMessageString()),
                                  QString::fromLatin1(failure.DynamicType()->Name())));
     } catch (const std::bad_alloc&) {
-        PostFailure(tr("There is not enough memory"));
+        PostFailure(tr("The program ran out of memory"));
     } catch (const std::exception& exception) {
         PostFailure(tr("An unexpected error: %1").arg(QString::fromLocal8Bit(exception.what())));
     } catch (...) {

@@ -194,8 +194,8 @@ void PartActions::AddNamed(Feature feature)
     m_model.Add(feature);
     m_tree.Select(feature.name);
     if (feature.kind->isAtFace && !m_placing.HasView()) {
-        PostMessageToChannel(WarningLevel, tr("There is no 3D view to pick a face in: type a point "
-                                              "on the face into the fields of %1")
+        PostMessageToChannel(WarningLevel, tr("The 3D view is not available: type a point on the "
+                                              "face into the fields of %1")
                                                .arg(Quoted(feature.name)));
         m_fields.StartEditing();
     }
@@ -271,7 +271,8 @@ void PartActions::ExportStep()
     const QString feature = selected.size() == 1 ? selected.first() : QString();
     const TopoDS_Shape shape = feature.isEmpty() ? m_model.Shape() : m_model.ShapeOf(feature);
     if (shape.IsNull() && !m_model.IsBusy()) {
-        PostMessageToChannel(WarningLevel, tr("There is no shape to export"));
+        PostMessageToChannel(WarningLevel,
+                             tr("The part has no shape to export. Add or correct a body first."));
         return;
     }
     const QString path = AskForStepTarget(m_window, m_model.Folder());

@@ -244,7 +244,7 @@ void PartPanel::ShowOverlaps(const QString& warning)
 void PartPanel::ShowFailure(const QString& reason)
 {
     const QString shown = m_builtAt.isEmpty()
-                              ? tr("There is no earlier shape.")
+                              ? tr("The part has no earlier shape.")
                               : tr("Showing the last valid shape, built at %1.").arg(m_builtAt);
     m_status->setText(tr("Not built: %1\n%2").arg(reason, shown));
 }
@@ -253,7 +253,7 @@ void PartPanel::Clear()
 {
     Show({}, {});
     m_builtAt.clear();
-    m_status->setText(tr("There is no shape yet"));
+    m_status->setText(tr("The part has no shape yet"));
     for (QLabel* const label : {m_volume, m_area, m_mass, m_centre, m_inertia, m_size, m_position})
         label->setText(tr("none"));
     m_inertia->setToolTip({});

@@ -86,11 +86,12 @@ void ShapePicker::Start(const Request& request)
 {
     Cancel();
     if (m_view == nullptr) {
-        PostMessageToChannel(WarningLevel, tr("There is no 3D view to pick in"));
+        PostMessageToChannel(WarningLevel, tr("Picking needs the 3D view, which is not available"));
         return;
     }
     if (ShownShape(m_model, request.step).IsNull()) {
-        PostMessageToChannel(WarningLevel, tr("There is no shape to pick from"));
+        PostMessageToChannel(
+            WarningLevel, tr("The part has no shape to pick from. Add or correct a body first."));
         return;
     }
     m_request = request;

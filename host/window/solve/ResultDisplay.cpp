@@ -218,7 +218,7 @@ QString ResultDisplay::ValueText(Content content) const
 {
     const QString reason = PartView::UnavailableReason();
     if (m_view == nullptr && reason.isEmpty())
-        return tr("Results are not drawn: there is no 3D view.");
+        return tr("Results are not drawn: the 3D view is not available.");
     if (m_view == nullptr)
         return tr("Results are not drawn: %1").arg(reason);
     if (m_report == nullptr || content == Part || content == Mesh)

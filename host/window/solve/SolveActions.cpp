@@ -32,7 +32,7 @@ QString SuccessText(const SolveReport& report)
     switch (report.kind) {
     case SolveKind::Vibration:
         return report.modes.empty()
-                   ? SolveActions::tr("There are no modes in the range of frequencies")
+                   ? SolveActions::tr("The solver found no modes in the range of frequencies")
                    : SolveActions::tr("Modes found: %1, the lowest at %2 Hz")
                          .arg(report.modes.size())
                          .arg(ShortText(report.modes.front().frequency));

@@ -145,7 +145,8 @@ void tst_MainWindow::ANewWindowHasNoShape()
 {
     const EmptyDesignStores stores;
     MainWindow window;
-    QCOMPARE(Find<QLabel>(window, "label_Status").text(), QStringLiteral("There is no shape yet"));
+    QCOMPARE(Find<QLabel>(window, "label_Status").text(),
+             QStringLiteral("The part has no shape yet"));
     QCOMPARE(Find<QLabel>(window, "label_Volume").text(), QStringLiteral("none"));
 }
 

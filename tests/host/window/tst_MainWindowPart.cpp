@@ -134,7 +134,7 @@ void tst_MainWindowPart::AnEmptyPartIsNotAFailure()
     Find<QTreeWidget>(open.window, "featureTree").selectAll();
     open.Trigger("action_DeleteFeature");
     QCOMPARE(posted.At(ErrorLevel), QStringList());
-    QCOMPARE(open.Shown("label_Status"), QString("There is no shape yet"));
+    QCOMPARE(open.Shown("label_Status"), QString("The part has no shape yet"));
     open.Trigger("action_Undo");
     QVERIFY(open.Shown("label_Status").startsWith("Built at "));
 }

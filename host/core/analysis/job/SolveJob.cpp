@@ -308,7 +308,8 @@ void SolveJob::Try(const std::function<void()>& step)
     } catch (const FolderError& error) {
         Fail(SolveResult::FolderFailed, error.Reason());
     } catch (const std::bad_alloc&) {
-        Fail(SolveResult::Failed, tr("There is not enough memory: choose a greater mesh size."));
+        Fail(SolveResult::Failed,
+             tr("The analysis ran out of memory. Choose a greater mesh size."));
     } catch (const HostError& error) {
         FailUnlessFolder(error.Reason());
     }

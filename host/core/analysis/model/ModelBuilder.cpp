@@ -218,7 +218,8 @@ void CheckStatic(const FiniteElementModel& model, const std::vector<QString>& bo
     const bool isLoaded = std::any_of(model.forces.begin(), model.forces.end(),
                                       [](const Vector3& force) { return Length(force) > 0.0; });
     if (!isLoaded)
-        throw ModelError(ModelError::tr("There is no load, so nothing moves: add a load."));
+        throw ModelError(
+            ModelError::tr("The set-up has no load, so nothing moves. Add a load first."));
     CheckVibration(model);
 }
 

@@ -119,7 +119,7 @@ void tst_SetupCheck::EachFaultIsReported_data()
 {
     AddFaultColumns();
     const auto row = AddFault;
-    row("no part", AnalysisEntry::Part, "There is no part: add a body to analyse",
+    row("no part", AnalysisEntry::Part, "The project has no part. Add a body first.",
         [](Definition&, SetupContext& context) { context.longestSide = 0.0; });
     row("overlap", AnalysisEntry::Part, "", [](Definition&, SetupContext& context) {
         context.overlaps.pairs = {{1, 2}};

@@ -93,7 +93,7 @@ void tst_FeatureCopy::OtherTextsAreRefused_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("reason");
-    const QString none = "There are no copied features on the clipboard.";
+    const QString none = "The clipboard has no copied features. Copy features first.";
     QTest::newRow("nothing") << QString() << none;
     QTest::newRow("a word") << QString("plate") << none;
     QTest::newRow("other JSON") << QString("{\"a\": 1}") << none;

@@ -243,7 +243,7 @@ void tst_Project::BadFilesAreReportedInOneLine_data()
     row("samples without parameter", WithSamples("{\"min\": 0}"),
         "sample list 1 has no \"parameter\"");
     row("samples for nobody", WithSamples("{\"parameter\": \"b\", \"values\": [1]}"),
-        "the project has samples for \"b\", which is no parameter");
+        "the project has samples for \"b\", which is not a parameter");
     row("two lists",
         WithSamples("{\"parameter\": \"a\", \"values\": [1]}, "
                     "{\"parameter\": \"a\", \"values\": [1]}"),
@@ -341,7 +341,7 @@ void tst_Project::APartWithoutFeaturesIsReported()
         project.Plan();
         QFAIL("It was planned.");
     } catch (const BuildError& error) {
-        QCOMPARE(error.Reason(), QString("The project has no features, so there is no part."));
+        QCOMPARE(error.Reason(), QString("The project has no part. Add a body first."));
     }
 }
 

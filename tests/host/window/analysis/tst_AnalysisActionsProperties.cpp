@@ -191,7 +191,7 @@ void tst_AnalysisActionsProperties::TheCheckListsEveryProblem()
     for (int row = 0; row < list.count(); ++row)
         texts << list.item(row)->text();
     QCOMPARE(texts,
-             QStringList({"There is no part: add a body to analyse",
+             QStringList({"The project has no part. Add a body first.",
                           "Boundary condition \"foot\" acts nowhere: pick its faces or edges",
                           "The mesh size is 0 mm, but has to be greater than 0"}));
     QCOMPARE(host.posted.size(), 1);

@@ -117,7 +117,7 @@ void tst_HostApplication::AnExceptionBecomesAMessage_data()
     row(
         "standard, Chinese", [] { throw std::runtime_error("长度"); }, "长度");
     row(
-        "memory", [] { throw std::bad_alloc(); }, "not enough memory");
+        "memory", [] { throw std::bad_alloc(); }, "ran out of memory");
     row(
         "any other", [] { throw 7; }, "unknown error");
 }

@@ -283,7 +283,7 @@ void tst_PartActions::PastingOtherTextIsRefusedWithAMessage()
     modelling.posted.clear();
     QGuiApplication::clipboard()->setText("a sentence");
     modelling.Trigger("action_PasteFeatures");
-    modelling.CheckRefused("There are no copied features on the clipboard.");
+    modelling.CheckRefused("The clipboard has no copied features. Copy features first.");
     QCOMPARE(modelling.Names().size(), 3);
 }
 

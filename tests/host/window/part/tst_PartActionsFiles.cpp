@@ -64,7 +64,8 @@ void tst_PartActionsFiles::ThereIsNothingToExportWithoutAShape()
     Modelling modelling;
     modelling.Trigger("action_ExportStep");
     QCOMPARE(modelling.posted.count(), 1);
-    QCOMPARE(modelling.posted[0][1].toString(), QString("There is no shape to export"));
+    QCOMPARE(modelling.posted[0][1].toString(),
+             QString("The part has no shape to export. Add or correct a body first."));
 }
 
 void tst_PartActionsFiles::AFileThatCannotBeWrittenIsReported()

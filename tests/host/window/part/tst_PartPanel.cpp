@@ -50,7 +50,7 @@ QString Shown(const PartPanel& summary, const char* label)
 void tst_PartPanel::InitiallyThereIsNoShape()
 {
     const PartPanel summary(nullptr);
-    QCOMPARE(Shown(summary, "label_Status"), QStringLiteral("There is no shape yet"));
+    QCOMPARE(Shown(summary, "label_Status"), QStringLiteral("The part has no shape yet"));
     for (const char* const label :
          {"label_Volume", "label_Area", "label_Mass", "label_CentreOfMass", "label_Inertia",
           "label_BoundingBox", "label_BoundingBoxPosition"})

@@ -184,7 +184,7 @@ void tst_SolveJob::WhatIsWrongIsSaidByName_data()
     NewRow("free to move", Beam(R"("X_D", "Y_D", "Z_D")", R"("X_D", "Z_D")"), true,
            QString("The part is free to move along y: add supports."));
     NewRow("no load", Beam(R"([2000, 0, "l"])", "[0, 0, 0]"), true,
-           QString("There is no load, so nothing moves: add a load."));
+           QString("The set-up has no load, so nothing moves. Add a load first."));
     NewRow("no material", Beam(R"("material": "Steel S355",)", ""), false,
            QString("The part has no material."));
     NewRow("a face that is missing", Beam("beam.xmin", "hole.side"), false,

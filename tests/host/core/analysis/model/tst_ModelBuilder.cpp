@@ -234,7 +234,8 @@ void tst_ModelBuilder::AStaticAnalysisNeedsSupportsAndALoad()
     QCOMPARE(refusal(two, {}), "Body 2" + free);
     QCOMPARE(refusal(two, {"plate", "pin"}), "pin" + free);
     plan.loads.clear();
-    QCOMPARE(refusal(m_solid, {}), QString("There is no load, so nothing moves: add a load."));
+    QCOMPARE(refusal(m_solid, {}),
+             QString("The set-up has no load, so nothing moves. Add a load first."));
 }
 
 void tst_ModelBuilder::AModelWhereAllIsHeldIsRefused()
