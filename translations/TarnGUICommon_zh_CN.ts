@@ -397,7 +397,7 @@
     </message>
     <message>
         <source>&apos;:&apos; without a matching &apos;?&apos;</source>
-        <translation>此 &apos;:&apos; 之前没有 &apos;?&apos;</translation>
+        <translation>缺少与 &apos;:&apos; 匹配的 &apos;?&apos;</translation>
     </message>
     <message>
         <source>more than one value; &apos;,&apos; is only used between the values of a function, and the decimal sign is the full stop</source>
@@ -405,7 +405,7 @@
     </message>
     <message>
         <source>&apos;)&apos; without a matching &apos;(&apos;</source>
-        <translation>此 &apos;)&apos; 之前没有 &apos;(&apos;</translation>
+        <translation>缺少与 &apos;)&apos; 匹配的 &apos;(&apos;</translation>
     </message>
     <message>
         <source>the expression is empty</source>
@@ -421,11 +421,11 @@
     </message>
     <message>
         <source>&apos;?&apos; without a matching &apos;:&apos;</source>
-        <translation>此 &apos;?&apos; 之后没有 &apos;:&apos;</translation>
+        <translation>缺少与 &apos;?&apos; 匹配的 &apos;:&apos;</translation>
     </message>
     <message>
         <source>&apos;(&apos; without a matching &apos;)&apos;</source>
-        <translation>此 &apos;(&apos; 之后没有 &apos;)&apos;</translation>
+        <translation>缺少与 &apos;(&apos; 匹配的 &apos;)&apos;</translation>
     </message>
 </context>
 <context>
@@ -1499,7 +1499,7 @@
     </message>
     <message>
         <source>Frequency Number:</source>
-        <translation>频率点数：</translation>
+        <translation>频率个数：</translation>
     </message>
     <message>
         <source>10</source>
