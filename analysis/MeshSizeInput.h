@@ -24,8 +24,8 @@ public:
     MeshSizeInput(double meshSize, QWidget* parent);
     ~MeshSizeInput() override;
 
-    /// The number in the field when called, even after Cancel; 0 if the text is not a number.
-    /// "nan", "inf" and "1e999" are accepted.
+    /// The number in the field, in the model's length unit, when called, even after Cancel; 0 if
+    /// the text is not a number. "nan", "inf" and "1e999" are accepted.
     double GetMeshSize();
 
 private:

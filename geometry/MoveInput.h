@@ -23,7 +23,8 @@ public:
     explicit MoveInput(QWidget* parent);
     ~MoveInput() override;
 
-    /// Reads the components from the fields when called, even after Cancel.
+    /// Reads the components, in the model's length unit, from the fields when called, even after
+    /// Cancel.
     void GetMoveData(double& dx, double& dy, double& dz) const;
 
 private Q_SLOTS:

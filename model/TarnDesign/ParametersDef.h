@@ -11,9 +11,9 @@ struct ParametersDef
     /// The codes of m_nType.
     enum Type
     {
-        BoolType = 0,   ///< True or false.
+        BoolType = 0,   ///< A text that the dialogs do not interpret: m_strValue.
         ScalarType = 1, ///< One number: m_dValue.
-        VectorType = 2, ///< Three components: m_dX, m_dY and m_dZ.
+        VectorType = 2, ///< Three components: m_dX, m_dY and m_dZ; "x,y,z" in m_strValue.
         TensorType = 3  ///< A text that is not evaluated: m_strValue.
     };
 

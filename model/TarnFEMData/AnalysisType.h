@@ -9,8 +9,8 @@ namespace AnalysisType {
 enum Family
 {
     MechanicsFamily = 1,
-    ComplexEigenvalueFamily =
-        7 ///< OK of the dialog gives it; InitData() takes MechanicsFamily only.
+    /// OK of the dialog gives it; InitData() takes MechanicsFamily only.
+    ComplexEigenvalueFamily = 7
 };
 
 /// The second code of the pair. There is no kind 5.

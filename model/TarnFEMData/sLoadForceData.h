@@ -2,7 +2,7 @@
 
 #include <string>
 
-/// One force load.
+/// One force load, in the force unit of the model.
 struct sLoadForceData
 {
     /// The codes of m_nKind.

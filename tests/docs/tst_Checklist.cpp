@@ -1,5 +1,8 @@
 #include "Checklist.h"
+#include "EmptyAnalysisStores.h"
+#include "EmptyDesignStores.h"
 #include "TestCase.h"
+#include "TestFiles.h"
 
 #include <MirrorDialog.h>
 
@@ -13,11 +16,13 @@ class tst_Checklist : public TestCase
 private Q_SLOTS:
     void TheProcessIsSetUp();
     void AFolderGetsTheSystemLibrary();
+    void TheStoresAreEmptiedAndRead();
     void NumbersAreChecked();
     void ADialogOfAMainWindowIsItsChild();
     void ButtonsCloseTheDialog();
     void ARenamedSupportFreesItsName();
     void AParameterChangesThoseThatUseIt();
+    void TicksAreOnTheirRows();
     void APathWithBlanksIsFound();
 };
 
@@ -38,6 +43,31 @@ void tst_Checklist::AFolderGetsTheSystemLibrary()
     QCOMPARE(ModulusOf(QStringLiteral("Steel S355")), QStringLiteral("2.1e11"));
     KVMaterialData::GetInstance()->ClearInfo();
     QVERIFY(ModulusOf(QStringLiteral("Steel S355")).isEmpty());
+}
+
+void tst_Checklist::TheStoresAreEmptiedAndRead()
+{
+    const EmptyAnalysisStores analysis;
+    const EmptyDesignStores design;
+    QVERIFY(EnterFolder(EnterTemporaryDirectory()));
+    Put(QStringLiteral("UserMaterial.xml"), "<Materials version=\"99\" units=\"SI\"/>");
+    GlobalParaMeterMgr::AddParameter(QStringLiteral("old"), ParametersDef());
+    g_mapParaArrays[QStringLiteral("old")].bChecked = 1;
+    AttributeCommonMgr::GetInstance()->AddName("old");
+    auto* const material = new KVMaterialInfo;
+    material->m_strName = QStringLiteral("old");
+    KVMaterialData::GetInstance()->AddMaterialInfo(material);
+    KVPropertyData::GetInstance()->AddPropInfo(new CQLTElemPropDef);
+
+    QCOMPARE(OpenTheStores(), QStringList(QStringLiteral("UserMaterial.xml")));
+    QVERIFY(GlobalParaMeterMgr::m_nameMapParameters.empty());
+    QVERIFY(g_mapParaArrays.empty());
+    QVERIFY(!AttributeCommonMgr::GetInstance()->FindName("old"));
+    QVERIFY(KVMaterialData::GetInstance()->GetMaterialInfo(QStringLiteral("old")) == nullptr);
+    QVERIFY(KVPropertyData::GetInstance()->GetProptyDataMap().empty());
+    QVERIFY(!ModulusOf(QStringLiteral("Steel S355")).isEmpty());
+    QVERIFY(QFile::remove(QStringLiteral("UserMaterial.xml")));
+    QCOMPARE(OpenTheStores(), QStringList());
 }
 
 void tst_Checklist::NumbersAreChecked()
@@ -98,6 +128,27 @@ void tst_Checklist::AParameterChangesThoseThatUseIt()
     GlobalParaMeterMgr::m_nameMapParameters.at(half.m_strName).m_strExpression = "missing / 2";
     QCOMPARE(SetParameter(length.m_strName, 6.0).size(), 1);
     GlobalParaMeterMgr::m_nameMapParameters.clear();
+}
+
+void tst_Checklist::TicksAreOnTheirRows()
+{
+    const EmptyDesignStores stores;
+    const QString last = QStringLiteral("last");
+    for (const QString& name : {QStringLiteral("first"), last})
+        GlobalParaMeterMgr::AddParameter(name, ParametersDef());
+    for (auto& [name, record] : GlobalParaMeterMgr::m_nameMapParameters)
+        record.m_strName = name;
+    g_mapParaArrays[last].bChecked = 1;
+    g_mapParaArrays[last].strName = last;
+
+    DOEDlg dialog(nullptr);
+    ShowTicks(dialog);
+    auto& table = Find<QTableWidget>(dialog, "tableWidget_Parameters");
+    for (int row = 0; row < 2; ++row) {
+        const bool isLast = table.item(row, 0)->text() == last;
+        QCOMPARE(qobject_cast<QCheckBox*>(table.cellWidget(row, 1))->isChecked(), isLast);
+        QCOMPARE(table.cellWidget(row, 2)->isEnabled(), isLast);
+    }
 }
 
 void tst_Checklist::APathWithBlanksIsFound()

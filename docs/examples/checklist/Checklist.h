@@ -1,6 +1,7 @@
 // What every host does, as functions to copy. The checklist of the manual shows them.
 #pragma once
 
+#include <QCheckBox>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
@@ -8,15 +9,20 @@
 #include <QLocale>
 #include <QProcess>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QWidget>
 #include <gp_Dir.hxx>
 
 #include <AttributeCommonMgr.h>
+#include <DOEDlg.h>
+#include <DesignRun.h>
 #include <GlobalParaMeterMgr.h>
 #include <KVMaterialData.h>
+#include <KVPropertyData.h>
 #include <ParameterEvaluator.h>
 #include <SubShapeMeshParameterDlg.h>
 #include <TarnGUICommonData.h>
+#include <sParaArrayData.h>
 
 #include <clocale>
 #include <cmath>
@@ -34,6 +40,27 @@ inline bool EnterFolder(const QString& folder)
     const QString library = QStringLiteral("SysMaterial.xml");
     return QDir::setCurrent(folder) &&
            (QFile::exists(library) || QFile::copy(TarnGUICommonData::SystemMaterials(), library));
+}
+
+inline QStringList OpenTheStores()
+{
+    GlobalParaMeterMgr::m_nameMapParameters.clear();
+    g_mapParaArrays.clear();
+    AttributeCommonMgr::GetInstance()->Clear();
+    KVMaterialData& materials = *KVMaterialData::GetInstance();
+    materials.ClearInfo();
+    KVPropertyData& properties = *KVPropertyData::GetInstance();
+    properties.Clear();
+
+    QStringList refused;
+    const auto check = [&refused](const QString& file, int result) {
+        if (result != 0 && QFile::exists(file))
+            refused << file;
+    };
+    check(QStringLiteral("SysMaterial.xml"), materials.ReadXML("SysMaterial.xml", MATERIAL_SYSTEM));
+    check(QStringLiteral("UserMaterial.xml"), materials.ReadXML("UserMaterial.xml", MATERIAL_USER));
+    check(QStringLiteral("ElementProperty.xml"), properties.ReadXML("ElementProperty.xml"));
+    return refused;
 }
 
 inline bool IsLength(double value)
@@ -82,6 +109,18 @@ inline QStringList SetParameter(const QString& name, double value)
     for (const QString& message : ParameterEvaluator::Evaluate().messages)
         messages << message;
     return messages;
+}
+
+inline void ShowTicks(const DOEDlg& dialog)
+{
+    const QSet<QString> ticked = DesignRun::Ticked();
+    const auto* const table =
+        dialog.findChild<QTableWidget*>(QStringLiteral("tableWidget_Parameters"));
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const bool isTicked = ticked.contains(table->item(row, 0)->text());
+        qobject_cast<QCheckBox*>(table->cellWidget(row, 1))->setChecked(isTicked);
+        table->cellWidget(row, 2)->setEnabled(isTicked); // "Set Array"
+    }
 }
 
 inline bool IsSplit(const QString& pathOfSolver)

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QLocale>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -8,6 +9,7 @@
 #include <ExtrudInputDlg.h>
 #include <GlobalParaMeterMgr.h>
 #include <ParameterEditor.h>
+#include <TarnGUICommonData.h>
 
 #include <clocale>
 
@@ -90,6 +92,7 @@ int main(int argc, char** argv)
 {
     Application application(argc, argv);
     std::setlocale(LC_NUMERIC, "C"); // Not earlier: the constructor above sets the user's locale.
+    TarnGUICommonData::InstallTranslations(QLocale()); // Otherwise two titles are Chinese.
 
     ParametersDef length;
     length.m_strName = QStringLiteral("length");
