@@ -3458,16 +3458,16 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
         <translation>尚未检查设置。</translation>
     </message>
     <message>
-        <source>The set-up is complete</source>
-        <translation>设置完整</translation>
-    </message>
-    <message>
         <source>Set-up check: problems: %1, warnings: %2</source>
         <translation>设置检查：问题 %1 个，警告 %2 个</translation>
     </message>
     <message>
         <source>The set-up has changed since it was checked: check it again.</source>
         <translation>检查之后设置已更改：请重新检查。</translation>
+    </message>
+    <message>
+        <source>The check of the set-up found no problems</source>
+        <translation>分析设置检查未发现问题</translation>
     </message>
 </context>
 <context>
@@ -3871,7 +3871,7 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
     </message>
     <message>
         <source>a wire</source>
-        <translation>线框</translation>
+        <translation>线环</translation>
     </message>
     <message>
         <source>an edge</source>

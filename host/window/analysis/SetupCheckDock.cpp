@@ -46,7 +46,7 @@ void SetupCheckDock::ShowProblems(const std::vector<SetupProblem>& problems)
                       [](const SetupProblem& problem) { return !problem.isWarning; });
     const int warnings = int(problems.size()) - int(errors);
     if (problems.empty())
-        m_summary->setText(tr("The set-up is complete"));
+        m_summary->setText(tr("The check of the set-up found no problems"));
     else
         m_summary->setText(
             tr("Set-up check: problems: %1, warnings: %2").arg(errors).arg(warnings));

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void ACancelledLibraryReportsNothing();
     void TheLibraryOpensAtTheMaterialChosenBefore();
     void TheCheckListsEveryProblem();
+    void ACheckWithoutProblemsIsReported();
     void TheCheckReadsTheFilesFirst();
 };
 
@@ -201,6 +202,15 @@ void tst_AnalysisActionsProperties::TheCheckListsEveryProblem()
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
                       list.visualItemRect(list.item(1)).center());
     QVERIFY(host.tree.Selected() == (AnalysisEntry{AnalysisEntry::Constraint, 0}));
+}
+
+void tst_AnalysisActionsProperties::ACheckWithoutProblemsIsReported()
+{
+    AnalysisHost host(*this);
+    host.check.ShowProblems({});
+    QCOMPARE(host.posted.size(), 1);
+    QCOMPARE(host.posted[0][0].toInt(), int(InfoLevel));
+    QCOMPARE(host.posted[0][1].toString(), QString("The check of the set-up found no problems"));
 }
 
 void tst_AnalysisActionsProperties::TheCheckReadsTheFilesFirst()
