@@ -21,7 +21,7 @@ class QPushButton;
 ///
 /// g_mapParaArrays holds ticks and samples, so they outlive the dialog. "Generate" writes the
 /// chosen run to GlobalParaMeterMgr and sets every parameter without a column in the run table to
-/// 0.
+/// 0; DesignRun restores these.
 class TARNGUICOMMON_EXPORT DOEDlg : public QDialog
 {
     Q_OBJECT
@@ -43,7 +43,8 @@ public:
     void InitGUIData();
 
 Q_SIGNALS:
-    /// "Generate" has written a run to the parameter store; the host must rebuild the geometry.
+    /// "Generate" has written a run to the parameter store; the host must complete the run and
+    /// rebuild the geometry.
     void m_Signal_RegenerateGeo();
 
 private Q_SLOTS:
