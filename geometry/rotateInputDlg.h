@@ -28,7 +28,7 @@ public:
     explicit rotateInputDlg(QWidget* parent);
     ~rotateInputDlg() override;
 
-    /// The axis point entered; the origin before OK.
+    /// The axis point entered, in the model's length unit; the origin before OK.
     gp_Pnt GetBasePt() const;
     /// The direction entered; (1, 0, 0) before OK.
     gp_Dir GetRotateDir() const;
