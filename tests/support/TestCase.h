@@ -65,7 +65,7 @@ protected:
     }
     QStringList TearDown() override
     {
-        const QStringList failures = Base::TearDown();
+        QStringList failures = Base::TearDown();
         m_guards.reset();
         return failures;
     }
