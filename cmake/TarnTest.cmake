@@ -41,10 +41,25 @@ function(tarn_test name)
     # Also without the OpenGL of any display that is present.
     set(platform "offscreen;DISPLAY=")
   endif()
+  if(TARN_TESTS STREQUAL PLAIN)
+    set_target_properties(${target} PROPERTIES EXCLUDE_FROM_ALL ON)
+  endif()
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 120)
   endif()
   # Long tests start first, unless the order is random.
   set_tests_properties(${target} PROPERTIES TIMEOUT ${arg_TIMEOUT} COST ${arg_TIMEOUT} ENVIRONMENT
                                             "QT_QPA_PLATFORM=${platform};${TARN_LSAN_OPTIONS}")
+endfunction()
+
+# tarn_plain_test(<test>...)
+#
+# Marks tests that need a build without sanitizers. With TARN_TESTS=PLAIN, only these are built.
+function(tarn_plain_test)
+  set_property(TEST ${ARGN} APPEND PROPERTY LABELS plain)
+  foreach(test IN LISTS ARGN)
+    if(TARGET ${test})
+      set_target_properties(${test} PROPERTIES EXCLUDE_FROM_ALL OFF)
+    endif()
+  endforeach()
 endfunction()
