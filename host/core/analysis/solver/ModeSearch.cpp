@@ -7,6 +7,9 @@
 
 namespace {
 
+// The solver iterates with four vectors for each mode that it is asked for. If these are few, it
+// misses one of two modes that lie close together, so it computes more modes than are wanted.
+constexpr int SpareModes = 4;
 constexpr int FreedomsPerMode = 4;
 constexpr int Growth = 3;
 
@@ -26,7 +29,7 @@ ModeSearch::ModeSearch(const FiniteElementModel& model, const FrequencyRange& ra
     : m_range(range)
     , m_rigid(range.min > 0.0 ? CountRigidModes(model) : 0)
     , m_most((FreeDisplacements(model) - 1) / FreedomsPerMode)
-    , m_asked(std::min(range.number + m_rigid, m_most))
+    , m_asked(std::min(range.number + m_rigid + SpareModes, m_most))
 {
     if (m_asked <= m_rigid)
         throw ModelError(ModelError::tr("The mesh has too few nodes for a mode: make it finer."));

@@ -70,13 +70,13 @@ void tst_SolveFaults::AProgramThatFailsIsReported_data()
     solver("solver without a word", "exit 0\n", "The solver ended before its job was finished.");
     solver("solver writes garbage",
            "echo Job finished\nhead -c 100000 /dev/urandom > Model_Active.dat\n",
-           "The solver found 0 of 3 modes.");
+           "The solver found 0 of 7 modes.");
     solver("no file of results", SolveFirst + "rm *.frd\n", "Model_Active.frd: ");
     solver("results cut short", SolveFirst + "head -c 3000 *.frd > a\nmv a Model_Active.frd\n",
            "The solver's file of results is damaged or not complete.");
     solver("no table of modes", SolveFirst + "rm *.dat\n", "Model_Active.dat: ");
     solver("fewer modes", SolveFirst + "head -n 9 *.dat > a\nmv a Model_Active.dat\n",
-           "The solver found 2 of 3 modes.");
+           "The solver found 2 of 7 modes.");
     solver("results of another mesh",
            SolveFirst + "sed 's/^ -1         1/ -1    999999/' *.frd > a\nmv a Model_Active.frd\n",
            "The solver's results do not belong to this mesh.");
