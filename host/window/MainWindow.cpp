@@ -256,8 +256,10 @@ void MainWindow::ShowBuiltPart()
     else
         m_summary->ShowShape(m_part->Shape(), m_part->Lines(), m_part->Measures(),
                              m_session->Density());
+    HighlightSelectedFeature();
     PastFailure();
-    PostMessageToChannel(InfoLevel, tr("The part was built"));
+    if (!m_part->Shape().IsNull())
+        PostMessageToChannel(InfoLevel, tr("The part was built"));
 }
 
 // A message about a part that is built now, or fails elsewhere.
@@ -280,6 +282,12 @@ void MainWindow::ShowSelectedFeature()
 {
     const QStringList& selected = m_features->Selected();
     m_fields->ShowFeature(selected.size() == 1 ? selected.first() : QString());
+    HighlightSelectedFeature();
+}
+
+void MainWindow::HighlightSelectedFeature()
+{
+    const QStringList& selected = m_features->Selected();
     if (PartView* const view = m_summary->View())
         view->HighlightShape(selected.isEmpty() ? TopoDS_Shape()
                                                 : m_part->ShapeOf(selected.last()));

@@ -67,6 +67,7 @@ private:
     void ShowFailure(const QString& reason);
     void PastFailure();
     void ShowSelectedFeature();
+    void HighlightSelectedFeature();
 
     AnalysisRecords* m_analysis;
     DesignModel* m_design;

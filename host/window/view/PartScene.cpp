@@ -29,9 +29,7 @@ namespace {
 constexpr int EdgeSelection = 2; // As AIS_Shape::SelectionMode() has it.
 constexpr int FaceSelection = 4;
 constexpr int NoSelection = -1;
-
 constexpr unsigned int DotsPerInch = 96;
-
 constexpr double FitMargin = 0.05;
 constexpr int Samples = 4;
 
@@ -162,17 +160,22 @@ void PartScene::SetPickable(bool hasFaces, bool hasEdges)
 {
     m_hasFaces = hasFaces;
     m_hasEdges = hasEdges;
+    m_context->ClearSelected(false); // what was clicked for something else
     UpdatePart();
 }
 
 void PartScene::UpdatePart()
 {
-    if (m_part.IsNull())
+    // A result takes the place of the part and of what is highlighted in it.
+    const bool isSeen = LayerIn(m_layers, SceneLayer::Result).IsNull();
+    for (const auto& object : {m_part, LayerIn(m_layers, SceneLayer::Highlight)}) {
+        if (!object.IsNull() && !isSeen)
+            m_context->Erase(object, false);
+        else if (!object.IsNull() && !m_context->IsDisplayed(object))
+            m_context->Display(object, object->DisplayMode(), NoSelection, false);
+    }
+    if (m_part.IsNull() || !isSeen)
         return;
-    if (!LayerIn(m_layers, SceneLayer::Result).IsNull())
-        return m_context->Erase(m_part, false);
-    if (!m_context->IsDisplayed(m_part))
-        m_context->Display(m_part, m_part->DisplayMode(), NoSelection, false);
     const auto set = [this](int selection, bool isActive) {
         m_context->SetSelectionModeActive(m_part, selection, isActive,
                                           AIS_SelectionModesConcurrency_Multiple, true);
@@ -231,7 +234,7 @@ void PartScene::SetShaded(bool isShaded)
 void PartScene::ShowLayer(SceneLayer layer, const Handle(AIS_InteractiveObject) & object)
 {
     Replace(LayerIn(m_layers, layer), object, NoSelection);
-    if (layer == SceneLayer::Result)
+    if (layer == SceneLayer::Result || layer == SceneLayer::Highlight)
         UpdatePart();
 }
 

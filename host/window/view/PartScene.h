@@ -45,7 +45,8 @@ public:
 
     void ShowPart(const TopoDS_Shape& shape, bool isShaded);
     void SetShaded(bool isShaded);
-    /// What the cursor finds: faces, edges, or both.
+    /// What the cursor finds from now on: faces, edges, or both. What was clicked is not selected
+    /// any more.
     void SetPickable(bool hasFaces, bool hasEdges);
     /// Cuts the part at @p place of its box, from 0 to 1, and hides the side to which @p normal
     /// points; nothing if that is zero.

@@ -132,6 +132,8 @@ Handle(AIS_InteractiveObject) SceneStyle::NewHighlight(const TopoDS_Shape& shape
     highlight->SetMaterial(Graphic3d_NameOfMaterial_Plastified);
     highlight->SetDisplayMode(AIS_Shaded);
     highlight->SetColor(Colour(SelectionColour));
+    highlight->Attributes()->SetFaceBoundaryAspect(NewLineAspect(EdgeColour));
+    highlight->Attributes()->SetFaceBoundaryDraw(true);
     // Above the part, which would hide a shape within it; opaque, with a depth of its own, so that
     // a body does not look hollow.
     highlight->SetZLayer(Graphic3d_ZLayerId_Topmost);

@@ -7,6 +7,7 @@ class tst_ResultObject : public TestCase
 
 private Q_SLOTS:
     void AResultStandsInForThePart();
+    void AHighlightDoesNotCoverAResult();
     void ValuesAreColours();
     void TheLegendIsShown();
     void LinesAreDrawnOnDemand();
@@ -72,6 +73,20 @@ void tst_ResultObject::AResultStandsInForThePart()
     QCOMPARE(shown.Picture(), shown.before);
     shown.MoveTo(shown.Middle());
     QVERIFY(shown.point.has_value());
+}
+
+void tst_ResultObject::AHighlightDoesNotCoverAResult()
+{
+    SeenFromAbove shown;
+    shown.view->HighlightShape(Block());
+    QVERIFY(IsOrange(shown.Colour()));
+    shown.Show(Square());
+    QVERIFY(!IsOrange(shown.Colour()));
+    // What is selected meanwhile is seen later.
+    shown.view->HighlightShape(Block());
+    QVERIFY(!IsOrange(shown.Colour()));
+    shown.view->HideResult();
+    QVERIFY(IsOrange(shown.Colour()));
 }
 
 void tst_ResultObject::ValuesAreColours()
