@@ -17,6 +17,8 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QLabel>
+#include <QLineEdit>
 
 #include <cmath>
 #include <memory>
@@ -63,6 +65,20 @@ QString EditedText(const QString& text, const QString& former)
     return text == ShortText(value) ? former : text;
 }
 
+// The form has the field of FZ beside the label "FY", and that of FY beside "FZ".
+void PutForcesBesideTheirLabels(const CQLTLoadForceEditor& editor)
+{
+    auto* const forceY = editor.findChild<QLineEdit*>(QStringLiteral("lied_FY"));
+    auto* const forceZ = editor.findChild<QLineEdit*>(QStringLiteral("lied_FZ"));
+    const QRect besideZ = forceY->geometry();
+    forceY->setGeometry(forceZ->geometry());
+    forceZ->setGeometry(besideZ);
+    editor.findChild<QLabel*>(QStringLiteral("label_5"))->setBuddy(forceY);
+    editor.findChild<QLabel*>(QStringLiteral("label_4"))->setBuddy(forceZ);
+    QWidget::setTabOrder(editor.findChild<QLineEdit*>(QStringLiteral("lied_FX")), forceY);
+    QWidget::setTabOrder(forceY, forceZ);
+}
+
 } // namespace
 
 std::optional<ConstraintDefinition> AskConstraint(QWidget* parent,
@@ -86,6 +102,7 @@ std::optional<ConstraintDefinition> AskConstraint(QWidget* parent,
 std::optional<LoadDefinition> AskLoad(QWidget* parent, const LoadDefinition& former)
 {
     CQLTLoadForceEditor editor(parent);
+    PutForcesBesideTheirLabels(editor);
     std::optional<FreeName> freeName;
     if (!former.name.isEmpty()) {
         freeName.emplace(former.name);

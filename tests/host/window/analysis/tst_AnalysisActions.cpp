@@ -4,9 +4,12 @@
 #include "AttributeCommonMgr.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+
+#include <algorithm>
 
 class tst_AnalysisActions : public TestCase
 {
@@ -47,6 +50,24 @@ void Choose(AnalysisHost& host, const AnalysisEntry& entry)
 {
     host.tree.Select(entry);
     QVERIFY(host.tree.Selected() == entry);
+}
+
+const QWidget* NextByTab(const QWidget& widget)
+{
+    const QWidget* next = widget.nextInFocusChain();
+    while ((next->focusPolicy() & Qt::TabFocus) == 0)
+        next = next->nextInFocusChain();
+    return next;
+}
+
+// The one in the same row.
+const QLabel* LabelBeside(const QLineEdit& field)
+{
+    const QList<QLabel*> labels = field.parentWidget()->findChildren<QLabel*>();
+    const auto found = std::find_if(labels.begin(), labels.end(), [&](const QLabel* label) {
+        return qAbs(label->geometry().center().y() - field.geometry().center().y()) < 8;
+    });
+    return found == labels.end() ? nullptr : *found;
 }
 
 } // namespace
@@ -181,9 +202,18 @@ void tst_AnalysisActions::AForceIsStoredByTheLabelOfItsField()
 {
     AnalysisHost host(*this);
     host.Run("action_LoadForce", [](QDialog& dialog) {
-        // The fields beside the labels "FY" and "FZ", in this order.
-        Type(dialog, "lied_FZ", "5");
+        for (const char* const force : {"FX", "FY", "FZ"}) {
+            const auto& field = Find<QLineEdit>(dialog, QByteArray("lied_") + force);
+            const QLabel* const label = LabelBeside(field);
+            QVERIFY(label != nullptr);
+            QCOMPARE(label->text(), QString(force));
+            QCOMPARE(label->buddy(), &field);
+        }
+        const auto& forceY = Find<QLineEdit>(dialog, "lied_FY");
+        QCOMPARE(NextByTab(Find<QLineEdit>(dialog, "lied_FX")), &forceY);
+        QCOMPARE(NextByTab(forceY), &Find<QLineEdit>(dialog, "lied_FZ"));
         Type(dialog, "lied_FY", "7");
+        Type(dialog, "lied_FZ", "5");
         Click(dialog, "okButton");
     });
     QCOMPARE(host.Shown("Loads"),
