@@ -3496,6 +3496,10 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
         <source>The part has no shape to pick from. Add or correct a body first.</source>
         <translation>零件没有可供拾取的形状。请先添加或更正实体。</translation>
     </message>
+    <message>
+        <source>This line is the seam of a face, not an edge; click beside it to pick the face</source>
+        <translation>这条线是面的接缝，不是边；请点击它旁边以选取该面</translation>
+    </message>
 </context>
 <context>
     <name>ShapePicture</name>

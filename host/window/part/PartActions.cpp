@@ -73,6 +73,8 @@ void PartActions::FillMenu(QMenu& menu)
     OfferKinds(transforms, FeatureGroup::Transform);
     transforms.addSeparator();
     OfferKinds(transforms, FeatureGroup::Array);
+    transforms.addSeparator();
+    OfferKinds(transforms, FeatureGroup::Edge);
     OfferKinds(*menu.addMenu(tr("&Combine")), FeatureGroup::Combination);
     menu.addSeparator();
     menu.addActions({m_edit, m_up, m_down, m_suppress, m_delete, m_copy, m_paste});

@@ -144,12 +144,19 @@ void ShapePicker::Toggle(const TopoDS_Shape& shape, const gp_Pnt& point)
     if (number == 0)
         return;
     const std::array<double, 3> at = {point.X(), point.Y(), point.Z()};
-    if (shape.ShapeType() == TopAbs_FACE)
+    if (shape.ShapeType() == TopAbs_FACE) {
         ToggleIn(m_request.choice.faces,
                  ReferenceToFace(m_model.Built(), m_request.step, number, at));
-    else
-        ToggleIn(m_request.choice.edges,
-                 ReferenceToEdge(m_model.Built(), m_request.step, number, at));
+    } else {
+        const EdgeReference edge = ReferenceToEdge(m_model.Built(), m_request.step, number, at);
+        // A reference to a seam finds nothing.
+        if (ShapeOf(m_model, {{}, {edge}}, m_request.step).IsNull()) {
+            PostMessageToChannel(InfoLevel, tr("This line is the seam of a face, not an edge; "
+                                               "click beside it to pick the face"));
+            return;
+        }
+        ToggleIn(m_request.choice.edges, edge);
+    }
     ShowChoice();
 }
 

@@ -41,7 +41,7 @@ TracedShape WithEdgesReplaced(const BuildInput& input, double size, const QStrin
 
 FeatureKind AtEdges(const char* word, const char* title, const FieldDefinition& size)
 {
-    FeatureKind kind(word, title, FeatureGroup::Combination);
+    FeatureKind kind(word, title, FeatureGroup::Edge);
     kind.minInputs = 1;
     kind.maxInputs = 1;
     kind.isAtEdges = true;

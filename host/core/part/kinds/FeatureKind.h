@@ -38,6 +38,7 @@ enum class FeatureGroup
     Import,
     Transform,
     Array,
+    Edge, ///< What changes edges of a body.
     Combination
 };
 

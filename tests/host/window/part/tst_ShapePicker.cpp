@@ -1,12 +1,15 @@
 #include "AnalysisEntries.h"
 #include "AnalysisRecords.h"
 #include "AnalysisTree.h"
+#include "FeatureTree.h"
 #include "HostTestMain.h"
 #include "NewFeature.h"
+#include "OpenWindow.h"
 #include "PickingWindow.h"
 
 #include <QLabel>
 #include <QPushButton>
+#include <QTableWidget>
 
 /// Picking faces and edges in the window with the mouse.
 class tst_ShapePicker : public TestCase
@@ -17,12 +20,15 @@ private Q_SLOTS:
     void ANewSupportIsPickedAtOnce();
     void ASecondClickTakesTheFaceBack();
     void AnEdgeIsNamedByItsFaces();
+    void ASeamIsNotPicked();
     void AFaceThatSharesItsNameIsNamedByAPoint();
     void EscapeAndCancelKeepTheTargets_data();
     void EscapeAndCancelKeepTheTargets();
     void AChangedPartEndsPicking();
     void ALoadActsOnFacesOrOnEdges();
     void TheSelectedEntryIsHighlighted();
+    void TheHighlightFollowsAChangedField();
+    void NothingStaysSelectedAfterPicking();
     void SymbolsAreShownWhileTheTreeIsVisible();
     void AFilletIsAtTheEdgesThatArePicked();
 };
@@ -92,6 +98,20 @@ void tst_ShapePicker::AnEdgeIsNamedByItsFaces()
     QCOMPARE(edge.between.size(), std::size_t(2));
     QCOMPARE(QSet<QString>({edge.between[0].name, edge.between[1].name}),
              QSet<QString>({"cube.xmax", "cube.zmax"}));
+}
+
+void tst_ShapePicker::ASeamIsNotPicked()
+{
+    PickingWindow open;
+    // Its seam is under the middle of the view.
+    open.Add(NewFeature("round", "cylinder", {}, {{"radius", "20"}}));
+    open.AddSupport();
+    const PostedMessages posted;
+    open.ClickInTheMiddle();
+    QCOMPARE(posted.At(InfoLevel).filter("seam").size(), 1);
+    Click(open.window, "doneButton");
+    QVERIFY(FirstConstraint(open).edges.empty());
+    QVERIFY(FirstConstraint(open).faces.empty());
 }
 
 void tst_ShapePicker::AFaceThatSharesItsNameIsNamedByAPoint()
@@ -170,6 +190,35 @@ void tst_ShapePicker::TheSelectedEntryIsHighlighted()
     const QPoint place = open.view->rect().center() + QPoint(40, 40);
     QVERIFY(IsOrange(At(after, place)));
     QVERIFY(!IsOrange(At(before, place)));
+}
+
+void tst_ShapePicker::TheHighlightFollowsAChangedField()
+{
+    PickingWindow open;
+    Find<FeatureTree>(open.window, "featureDock").Select("cube");
+    auto& fields = Find<QTableWidget>(open.window, "fieldTable");
+    const int zRow = 4;
+    QCOMPARE(fields.item(zRow, 1)->text(), QString("10"));
+    fields.item(zRow, 1)->setText("100");
+    open.window.Part().WaitUntilIdle();
+    open.Trigger("action_FitView");
+    const QImage picture = open.view->grab().toImage();
+    // The upper half of the body, which the former one did not reach.
+    const QPoint upper(open.view->width() / 2, open.view->height() / 4);
+    QVERIFY(IsOrange(At(picture, upper)));
+}
+
+void tst_ShapePicker::NothingStaysSelectedAfterPicking()
+{
+    PickingWindow open;
+    open.AddSupport();
+    open.ClickInTheMiddle();
+    QVERIFY(IsOrange(At(open.view->grab().toImage(), open.view->rect().center())));
+    Click(open.window, "clearButton");
+    Click(open.window, "doneButton");
+    QCoreApplication::sendPostedEvents();
+    const QPoint place = open.view->rect().center();
+    QVERIFY(!IsOrange(At(open.view->grab().toImage(), place)));
 }
 
 void tst_ShapePicker::SymbolsAreShownWhileTheTreeIsVisible()
