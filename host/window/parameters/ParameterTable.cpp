@@ -19,6 +19,7 @@
 namespace {
 
 constexpr int CodeRole = Qt::UserRole; // The stored name or type of the cell's row.
+constexpr int LeastCharacters = 10;    // Of a column.
 const QColor WrongColor(Qt::red);
 
 QString TypeWord(int code)
@@ -128,7 +129,14 @@ void ParameterTable::Refresh()
     const bool hasVectors = std::any_of(entries.begin(), entries.end(), IsVector);
     for (const int column : {YColumn, ZColumn})
         setColumnHidden(column, !hasVectors);
-    resizeColumnsToContents();
+    // The last column takes what is left. The others leave room for a name that is typed and for
+    // the list of the types.
+    const int least = fontMetrics().averageCharWidth() * LeastCharacters;
+    for (int column = NameColumn; column < DescriptionColumn; ++column) {
+        if (!isColumnHidden(column))
+            setColumnWidth(column, qMax(qMax(sizeHintForColumn(column), least),
+                                        horizontalHeader()->sectionSizeHint(column)));
+    }
 }
 
 void ParameterTable::ShowRow(int row, const ParameterEntry& entry)

@@ -15,7 +15,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QThread>
@@ -61,16 +60,13 @@ StudyPanel::StudyPanel(ProjectSession& session, DesignModel& design, PartModel& 
     , m_form(std::make_unique<Ui::StudyPanel>())
 {
     setObjectName(QStringLiteral("studyDock"));
-    auto* const area = new QScrollArea(this);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    auto* const content = new QWidget(area);
+    auto* const content = new QWidget(this);
     m_form->setupUi(content);
-    area->setWidget(content);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setMinimumWidth(content->minimumSizeHint().width() +
-                          area->verticalScrollBar()->sizeHint().width());
-    setWidget(area);
+    // Only the settings scroll: progress and buttons are always in sight.
+    m_form->settingsArea->setMinimumWidth(
+        m_form->settings->minimumSizeHint().width() +
+        m_form->settingsArea->verticalScrollBar()->sizeHint().width());
+    setWidget(content);
 
     m_form->spinBox_Runs->setRange(1, StudyDefinition::MaximumRuns);
     m_form->spinBox_Runs->setValue(UsualRuns);

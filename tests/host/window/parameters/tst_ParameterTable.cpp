@@ -2,6 +2,7 @@
 #include "ParameterRows.h"
 
 #include <QComboBox>
+#include <QHeaderView>
 #include <QSignalSpy>
 
 class tst_ParameterTable : public With<TestCase, EmptyDesignStores>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void UnitAndDescriptionAreEdited();
     void EachEditIsOneChange();
     void RefreshFollowsTheStore();
+    void TheColumnsFillTheTable();
 };
 
 namespace {
@@ -247,6 +249,13 @@ void tst_ParameterTable::RefreshFollowsTheStore()
     shown.model.Edit({NewParameter("c")}, "test");
     QCOMPARE(shown.table.rowCount(), 1);
     QCOMPARE(CellText(shown.table, 0, ParameterTable::NameColumn), QString("c"));
+}
+
+void tst_ParameterTable::TheColumnsFillTheTable()
+{
+    Shown shown;
+    shown.model.Edit({NewParameter("c")}, "test");
+    QCOMPARE(shown.table.horizontalHeader()->length(), shown.table.viewport()->width());
 }
 
 TARN_TEST_MAIN(tst_ParameterTable)
