@@ -12,6 +12,12 @@
 #include <utility>
 #include <vector>
 
+namespace {
+
+constexpr int LeastCharacters = 9; // Of a column.
+
+} // namespace
+
 StudyTableView::StudyTableView(StudyTable& table, StudySelection& selection, QWidget* parent)
     : QTableView(parent)
     , m_table(table)
@@ -22,6 +28,8 @@ StudyTableView::StudyTableView(StudyTable& table, StudySelection& selection, QWi
     MakeCompact(*this);
     // Before the model: each row of hundreds of thousands would be measured.
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    // So that the arrow of the sorted column leaves room for a short name.
+    horizontalHeader()->setMinimumSectionSize(LeastCharacters * fontMetrics().averageCharWidth());
     setModel(&table);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setContextMenuPolicy(Qt::ActionsContextMenu);
