@@ -87,6 +87,7 @@ Headers, CMake package, pkg-config file and documentation for applications that
 use the dialogs.")
 set(CPACK_DEBIAN_HOST_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_HOST_PACKAGE_RECOMMENDS "calculix-ccx, fonts-noto-cjk, gmsh, qttranslations5-l10n")
+set(CPACK_DEBIAN_HOST_PACKAGE_SUGGESTS ${debian_development}) # The manual.
 set(CPACK_COMPONENT_HOST_DESCRIPTION
     "reference application of the TarnGUICommon dialog library
 Edits the parameters of a part, runs design studies with or without a window,
