@@ -90,6 +90,9 @@ ParameterTable::ParameterTable(DesignModel& model, QWidget* parent)
     setAccessibleName(tr("Parameters"));
     setHorizontalHeaderLabels({tr("Name"), tr("Type"), tr("Number or expression"), tr("y"), tr("z"),
                                tr("Unit"), tr("Result"), tr("Description")});
+    // A narrow panel leaves the last column less than its title.
+    for (int column = NameColumn; column <= DescriptionColumn; ++column)
+        horizontalHeaderItem(column)->setToolTip(horizontalHeaderItem(column)->text());
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                     QAbstractItemView::AnyKeyPressed);
