@@ -59,7 +59,7 @@ inline void AddWallColumns()
     QTest::addColumn<std::vector<Wall>>("walls");
 }
 
-inline void AddWalls(const char* name, const QByteArray& list, const std::vector<Wall>& walls)
+inline void AddWalls(const QByteArray& name, const QByteArray& list, const std::vector<Wall>& walls)
 {
     QTest::newRow(name) << list << walls;
 }
@@ -87,5 +87,7 @@ inline void CheckWalls()
         QVERIFY2(distance < 1e-6, wall.name + QByteArray(": ") + QByteArray::number(distance));
     }
     for (int face = 1; face <= Count(part.shape, TopAbs_FACE); ++face)
-        QVERIFY2(!faces.NamesOf(PartFaces::WholePart, face).isEmpty(), QByteArray::number(face));
+        QVERIFY2(!faces.NamesOf(PartFaces::WholePart, face).isEmpty(),
+                 "give every face a name with FaceTrace; without one is face " +
+                     QByteArray::number(face));
 }

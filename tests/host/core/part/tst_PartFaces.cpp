@@ -1,3 +1,4 @@
+#include "FeatureKinds.h"
 #include "NamedWalls.h"
 #include "TestCase.h"
 
@@ -98,6 +99,19 @@ void tst_PartFaces::EveryKindNamesItsFaces_data()
               {"a.start", Flat, {5, 0, 5}},
               {"a.end", Flat, {0, 5, 5}},
               {"a.side4", Flat, {}, 0}});
+    AddWalls("revolved profile, full turn", Single("revolve", ""),
+             {{"a.side1", Flat, {5, 0, 0}},
+              {"a.side2", Cylindrical, {-10, 0, 5}},
+              {"a.side3", Flat, {5, 0, 10}},
+              {"a.side4", Flat, {}, 0}});
+    AddWalls("ring of two steps",
+             R"({"name": "a", "kind": "revolve",
+                 "profile": [{"x": 2, "y": 0}, {"x": 5, "y": 0}, {"x": 8, "y": 0}, {"x": 8, "y": 3}, {"x": 2, "y": 3}]})",
+             {{"a.side1", Flat, {3, 0, 0}},
+              {"a.side2", Flat, {7, 0, 0}},
+              {"a.side3", Cylindrical, {-8, 0, 1}},
+              {"a.side4", Flat, {7, 0, 3}},
+              {"a.side5", Cylindrical, {-2, 0, 1}}});
     AddWalls("ring",
              R"({"name": "a", "kind": "revolve",
                  "profile": [{"x": 5, "y": 0, "viaX": 7, "viaY": 2}, {"x": 9, "y": 0, "viaX": 7, "viaY": -2}]})",
@@ -105,6 +119,10 @@ void tst_PartFaces::EveryKindNamesItsFaces_data()
               {"a.side1", Toroidal, {7, 0, -2}},
               {"a.side2", Toroidal, {7, 0, 2}},
               {"a.start", Flat, {}, 0}});
+    for (const FeatureKind& kind : FeatureKinds::All()) {
+        if (kind.group == FeatureGroup::Body)
+            AddWalls("all of " + QByteArray(kind.word.data()), Single(kind.word.data(), ""), {});
+    }
 }
 
 void tst_PartFaces::EveryKindNamesItsFaces()
