@@ -1,4 +1,7 @@
-"""Every class and file of functions has a test of its name, or CONTRIBUTING names the tests that cover it."""
+"""Every class and file of functions has a test of its name, or CONTRIBUTING names the tests that cover it.
+
+Every test is built, and every dialog elides its texts.
+"""
 
 import fnmatch
 import os
@@ -9,7 +12,8 @@ from pathlib import Path
 SOURCE = Path(os.environ["TARN_SOURCE_DIR"]).resolve()
 TESTS = SOURCE / "tests"
 # The tests mirror these folders; those of the model libraries are in one folder.
-MIRRORED = ("common", "design", "analysis", "geometry", "solver", "host/core", "host/window")
+DIALOGS = ("common", "design", "analysis", "geometry", "solver")
+MIRRORED = (*DIALOGS, "host/core", "host/window")
 LONGEST_TEST = 500
 
 
@@ -42,14 +46,16 @@ def WithoutTest():
 class Structure(unittest.TestCase):
     def test_EverySourceHasATestOfItsNameOrIsListed(self):
         missing = [source for source in WithoutTest() if not any(fnmatch.fnmatch(source, row) for row in CoveredElsewhere())]
-        self.assertEqual(missing, [], "write their tests, or list them in CONTRIBUTING.md")
+        self.assertEqual(missing, [], "write their tests, or list them in CONTRIBUTING.md with the tests that cover them")
 
     def test_TheListNamesTestsThatExist(self):
         tests = {path.stem for path in TESTS.rglob("tst_*") if path.suffix in (".cpp", ".py")}
+        without = WithoutTest()
         for row, covering in CoveredElsewhere().items():
             with self.subTest(row):
-                self.assertTrue(covering)
-                self.assertEqual(set(covering) - tests, set())
+                self.assertTrue(covering, "name the tests that cover it")
+                self.assertEqual(set(covering) - tests, set(), "name tests that exist")
+                self.assertTrue(fnmatch.filter(without, row), "remove the row: no source without a test has this name")
 
     def test_NoTestFileIsTooLong(self):
         long = {}
@@ -57,7 +63,25 @@ class Structure(unittest.TestCase):
             lines = len(path.read_text().splitlines())
             if lines > LONGEST_TEST:
                 long[path.relative_to(SOURCE).as_posix()] = lines
-        self.assertEqual(long, {})
+        self.assertEqual(long, {}, f"split them by subject into files of at most {LONGEST_TEST} lines")
+
+    def test_EveryTestIsBuilt(self):
+        lists = {}
+        for path in TESTS.rglob("tst_*.cpp"):
+            lists.setdefault(path.parent / "CMakeLists.txt", []).append(path.stem.removeprefix("tst_"))
+        for path, names in sorted(lists.items()):
+            with self.subTest(path.relative_to(SOURCE).as_posix()):
+                words = set(re.findall(r"\w+", path.read_text()))
+                self.assertEqual(set(names) - words, set(), "add them with tarn_test()")
+
+    def test_EveryDialogElidesItsTexts(self):
+        forgotten = []
+        for folder in DIALOGS:
+            for path in (SOURCE / folder).glob("*.cpp"):
+                text = path.read_text()
+                if "setupUi(" in text and "tarn::ElideTexts(" not in text:
+                    forgotten.append(path.relative_to(SOURCE).as_posix())
+        self.assertEqual(forgotten, [], "call tarn::ElideTexts() after setupUi()")
 
 
 if __name__ == "__main__":

@@ -88,7 +88,8 @@ class MarkdownPages(unittest.TestCase):
 
     def test_EveryWindowHasAPicture(self):
         self.assertGreater(len(self.pictured), 20)
-        self.assertEqual(self.pictured - {picture.stem for picture in IMAGES.iterdir()}, set())
+        self.assertEqual(self.pictured - {picture.stem for picture in IMAGES.iterdir()}, set(),
+                         "copy their pictures from ./run --screenshots out/pictures --lang en to docs/images")
 
     def test_EveryOtherPictureIsOnAPage(self):
         shown = {Path(link).stem for page in MarkdownFiles() for link in Links(page) if link.endswith((".png", ".svg"))}
@@ -98,14 +99,15 @@ class MarkdownPages(unittest.TestCase):
         for dialog in sorted(self.pictured - OWN_WINDOWS):
             with self.subTest(dialog):
                 page = MANUAL / f"{dialog}.md"
-                self.assertTrue(page.is_file())
+                self.assertTrue(page.is_file(), f"write {page.relative_to(SOURCE)} with the sections {self.SECTIONS}")
                 self.assertIn(f"../images/{dialog}.png", Links(page))
                 self.assertRegex(page.read_text(), rf"^# .*\b{dialog}\n")
                 chapters = re.findall(r"^## (.*)$", page.read_text(), flags=re.M)
                 self.assertEqual(chapters, self.SECTIONS)
 
     def test_EveryPageIsReachableFromTheFirst(self):
-        self.assertEqual(set(MANUAL.glob("*.md")) - ReachableFrom(MANUAL / "README.md"), set())
+        pages = {page.name for page in set(MANUAL.glob("*.md")) - ReachableFrom(MANUAL / "README.md")}
+        self.assertEqual(pages, set(), "link them from the pages of their areas")
 
     def test_TheManPageHasEveryOptionOfTheProgram(self):
         told = subprocess.run([os.environ["TARN_HOST_PROGRAM"], "--help"], check=True, capture_output=True, text=True).stdout
@@ -147,7 +149,8 @@ class GeneratedPages(unittest.TestCase):
         self.assertIn("index.html", self.pages)
         for page in MANUAL.glob("*.md"):
             if page.name != "README.md":
-                self.assertIn(f"md_docs_manual_{page.stem.replace('-', '_')}.html", self.pages)
+                self.assertIn(f"md_docs_manual_{page.stem.replace('-', '_')}.html", list(self.pages),
+                              f"run CMake again, so that it finds {page.name}")
         self.assertIn("classParameterEditor.html", self.pages)
 
     def test_EveryLinkAndPictureExists(self):

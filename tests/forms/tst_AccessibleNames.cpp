@@ -143,7 +143,8 @@ void tst_AccessibleNames::EveryFieldOfEveryWindowHasAUniqueName()
                      for (const QString& field : fields)
                          bad << name + ": " + field;
                  });
-    QVERIFY2(bad.isEmpty(), qPrintable(bad.join('\n')));
+    QVERIFY2(bad.isEmpty(), qPrintable("Give each a label as its buddy, or an accessible name:\n" +
+                                       bad.join('\n')));
     QVERIFY2(count > 100, qPrintable(QString::number(count)));
 }
 

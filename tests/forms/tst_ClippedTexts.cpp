@@ -192,7 +192,9 @@ void tst_ClippedTexts::AToolTipShowsACutTextInFull()
     });
     QVERIFY(clipped > 0);
     QVERIFY2(unexplained.isEmpty(),
-             qPrintable("These texts are cut and have no tool tip:\n" + unexplained.join('\n')));
+             qPrintable("These texts are cut and have no tool tip; a dialog of the library calls "
+                        "tarn::ElideTexts() after setupUi():\n" +
+                        unexplained.join('\n')));
 }
 
 TARN_TEST_MAIN(tst_ClippedTexts, HostApplication)

@@ -122,9 +122,9 @@ void tst_Translations::ChineseIsComplete()
         else if (message.translation.isEmpty())
             bad << message.Place() + " has no translation";
     }
-    QVERIFY2(
-        bad.isEmpty(),
-        qPrintable("After the target UpdateTranslations there is to be done:\n" + bad.join('\n')));
+    QVERIFY2(bad.isEmpty(),
+             qPrintable("Build the target UpdateTranslations, then finish in translations:\n" +
+                        bad.join('\n')));
 }
 
 void tst_Translations::EnglishCoversTheTextsThatAreNotEnglish()
@@ -141,7 +141,10 @@ void tst_Translations::EnglishCoversTheTextsThatAreNotEnglish()
         if (isFinished)
             ++translated;
     }
-    QVERIFY2(bad.isEmpty(), qPrintable(bad.join('\n')));
+    QVERIFY2(bad.isEmpty(),
+             qPrintable("TarnGUICommon_en.ts has the Chinese texts of the sources in English, and "
+                        "no others:\n" +
+                        bad.join('\n')));
     QCOMPARE(translated, 6);
 }
 
@@ -161,7 +164,10 @@ void tst_Translations::ATranslationKeepsItsPlaceholders()
             message.source.count(";;") != message.translation.count(";;"))
             bad << message.Place();
     }
-    QVERIFY2(bad.isEmpty(), qPrintable(bad.join('\n')));
+    QVERIFY2(bad.isEmpty(),
+             qPrintable("Placeholders, access keys, line ends or filters differ from "
+                        "those of the source:\n" +
+                        bad.join('\n')));
 }
 
 void tst_Translations::StoredTextsAreNotTranslated()
@@ -180,7 +186,9 @@ void tst_Translations::StoredTextsAreNotTranslated()
         if (message.translation != message.source)
             bad << message.Place();
     }
-    QVERIFY2(bad.isEmpty(), qPrintable(bad.join('\n')));
+    QVERIFY2(bad.isEmpty(), qPrintable("The program reads these texts back; their translations "
+                                       "have to be equal to them:\n" +
+                                       bad.join('\n')));
     QCOMPARE(found.size(), words.size());
 }
 

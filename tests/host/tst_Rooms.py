@@ -7,6 +7,7 @@ import sys
 import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+PICTURE = "host/README.md shows which folders may include which"
 DIALOGS = ["common", "design", "analysis", "geometry", "solver"]
 
 # What a room's files may include besides files of their own room.
@@ -70,7 +71,9 @@ def cycle(graph):
 
 class Rooms(unittest.TestCase):
     def test_each_header_has_a_name_of_its_own(self):
-        self.assertEqual(len(HEADERS), sum(path.suffix == ".h" for path in sources()))
+        paths = [path for path in sources() if path.suffix == ".h"]
+        alike = sorted(str(path.relative_to(ROOT)) for path in paths if path != HEADERS[path.name])
+        self.assertEqual(alike, [], "rename them: other headers have their names")
 
     def test_each_room_includes_only_the_rooms_below_it(self):
         wrong = [
@@ -79,7 +82,7 @@ class Rooms(unittest.TestCase):
             for header in includes(path)
             if room(header) != room(path) and room(header) not in ROOMS[room(path)]
         ]
-        self.assertEqual(wrong, [])
+        self.assertEqual(wrong, [], f"{PICTURE}; a room may include {ROOMS}")
 
     def test_no_folder_is_in_a_circle_with_another(self):
         graph = collections.defaultdict(set)
@@ -87,7 +90,7 @@ class Rooms(unittest.TestCase):
             for header in includes(path):
                 if room(path) == room(header) and path.parent != header.parent:
                     graph[str(path.parent.relative_to(ROOT))].add(str(header.parent.relative_to(ROOT)))
-        self.assertIsNone(cycle(graph))
+        self.assertIsNone(cycle(graph), f"{PICTURE}; these folders include each other in a circle")
 
     def test_a_circle_is_found(self):
         graph = collections.defaultdict(set, {"a": {"b"}, "b": {"c"}, "c": {"b"}})

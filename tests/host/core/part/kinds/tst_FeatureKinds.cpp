@@ -1,6 +1,8 @@
 #include "NewFeature.h"
 #include "TestCase.h"
 
+#include <QFile>
+#include <QJsonDocument>
 #include <QSet>
 
 class tst_FeatureKinds : public TestCase
@@ -12,6 +14,8 @@ private Q_SLOTS:
     void EveryKindHasItsFields_data();
     void EveryKindHasItsFields();
     void EveryKindIsInTheTestOfItsFields();
+    void TheManualHasEveryKind();
+    void TheSchemaHasEveryKind();
     void KindsAreFoundByTheirExactWord();
     void DefaultsAreWithinTheirRules();
     void ANewFeatureHasTheDefaults();
@@ -71,6 +75,22 @@ const std::vector<KindRow> Rows = {
     {"chamfer", "distance x y z", 1, 1},
 };
 
+QStringList Words()
+{
+    QStringList words;
+    for (const FeatureKind& kind : FeatureKinds::All())
+        words << kind.word;
+    return words;
+}
+
+QByteArray Content(const QString& place)
+{
+    QFile file(SourcePath(place));
+    if (!file.open(QIODevice::ReadOnly))
+        FailTest(place + " cannot be read");
+    return file.readAll();
+}
+
 } // namespace
 
 void tst_FeatureKinds::EveryKindHasItsFields_data()
@@ -95,13 +115,31 @@ void tst_FeatureKinds::EveryKindHasItsFields()
 
 void tst_FeatureKinds::EveryKindIsInTheTestOfItsFields()
 {
-    QStringList words;
-    for (const FeatureKind& kind : FeatureKinds::All())
-        words << kind.word;
     QStringList tested;
     for (const KindRow& row : Rows)
         tested << row.word;
-    QCOMPARE(words, tested);
+    QCOMPARE(Words().join(' '), tested.join(' '));
+}
+
+void tst_FeatureKinds::TheManualHasEveryKind()
+{
+    const QByteArray page = Content("docs/manual/modelling.md");
+    const QStringList words = Words();
+    for (const QString& word : words)
+        QVERIFY2(page.contains("\n| `" + word.toUtf8() + "` |"),
+                 qPrintable("Add to the kinds in docs/manual/modelling.md: " + word));
+}
+
+void tst_FeatureKinds::TheSchemaHasEveryKind()
+{
+    const QJsonValue feature =
+        QJsonDocument::fromJson(Content("docs/schemas/Project.schema.json"))["$defs"]["feature"];
+    const QStringList listed = feature["properties"]["kind"]["enum"].toVariant().toStringList();
+    const QStringList words = Words();
+    for (const QString& word : words)
+        QVERIFY2(listed.contains(word),
+                 qPrintable("Add to the kinds in docs/schemas/Project.schema.json: " + word));
+    QCOMPARE(listed.size(), words.size());
 }
 
 void tst_FeatureKinds::KindsAreFoundByTheirExactWord()
