@@ -105,17 +105,21 @@ def main(arguments):
     arguments = [argument for argument in arguments if argument != "--all"]
     if not arguments:
         sys.exit(__doc__)
+    prefixes = tuple(arguments[1:]) or ("",)
     build = pathlib.Path(arguments[0]).resolve()
+    if not (build / "build.ninja").exists():
+        sys.exit(f"{arguments[0]} has no build; for example: cmake --preset dev && cmake --build --preset dev")
+    files = {path: how for path, how in commands(build).items() if str(path.relative_to(ROOT)).startswith(prefixes)}
+    if not files:
+        sys.exit(f"no source of {arguments[0]} begins with {' or '.join(prefixes)}")
     passed_file = build / "checked.json"
     passed = json.loads(passed_file.read_text()) if passed_file.exists() and not forget else {}
     versions = [subprocess.run([tool[0], "--version"], capture_output=True, text=True).stdout for tool in (TIDY, CLAZY)]
     made_of = dependencies(build)
 
     marks, alike = {}, {}
-    for path, (directory, target, flags) in commands(build).items():
+    for path, (directory, target, flags) in files.items():
         name = str(path.relative_to(ROOT))
-        if arguments[1:] and not name.startswith(tuple(arguments[1:])):
-            continue
         for tool, version in zip((TIDY, CLAZY), versions):
             mark = fingerprint([*tool, version], path, flags, made_of.get(target, []))
             if passed.get(f"{tool[0]} {name}") != mark:

@@ -98,6 +98,8 @@ def main(arguments):
     for form in files("*.ui"):
         findings += check_form(form)
     print("\n".join(findings + [f"format: {len(findings)} finding(s)"]))
+    if findings and not apply:
+        print("cmake/check-format.py --fix formats C++ and CMake files; correct forms by hand")
     sys.exit(len(findings) > 0)
 
 
