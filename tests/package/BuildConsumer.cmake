@@ -14,6 +14,9 @@ if(EVERY_HEADER)
   endforeach()
 endif()
 
+if(NOT STANDARD)
+  set(STANDARD 17)
+endif()
 set(strict "-DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII")
 if(SANITIZE)
   set(sanitize -fsanitize=${SANITIZE})
@@ -28,6 +31,7 @@ if(TOOL STREQUAL "cmake")
       ${GENERATOR}
       -DCMAKE_PREFIX_PATH=${PREFIX}
       -DCMAKE_CXX_COMPILER=${CXX}
+      -DCMAKE_CXX_STANDARD=${STANDARD}
       -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
       "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror ${strict} ${sanitize}"
       -DHEADERS_DIR=${WORK_DIR}/headers)
@@ -45,7 +49,7 @@ else()
   run(pkg-config --cflags --libs TarnGUICommon)
   separate_arguments(flags UNIX_COMMAND "${output}")
   run(${CXX}
-      -std=c++17
+      -std=c++${STANDARD}
       -Wall
       -Wextra
       -Wpedantic
