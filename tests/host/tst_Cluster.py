@@ -228,10 +228,12 @@ class Cluster(unittest.TestCase):
         return int(self.run_host("--status", folder).split()[0])
 
     def is_over(self):
-        """Whether no task is left. Tasks that start again do so without the queue's pause."""
+        """Whether no task is left. Failed tasks start again, without the queue's pause."""
+        for task in self.tasks("failed"):
+            self.ask("scontrol", "requeue", task[1])
         for task in self.tasks("pending"):
             self.ask("scontrol", "update", f"JobId={task[1]}", "StartTime=now")
-        return not self.tasks("pending,running,completing,requeued")
+        return not self.tasks("pending,running,completing,requeued,failed")
 
     def tasks(self, state):
         """The tasks in a state, each with its node."""
@@ -253,8 +255,6 @@ class Cluster(unittest.TestCase):
         wait_for("some runs", lambda: self.ended_runs(shared) >= 10)
         kill(f"SLURM_CONF={self.folder}", "SLURM_ARRAY_TASK_ID")
         wait_for("their failure", lambda: len(self.tasks("failed")) > 0)
-        for task in self.tasks("failed"):
-            self.ask("scontrol", "requeue", task[1])
 
         # A node, with all that runs on it.
         wait_for("tasks on the second node",

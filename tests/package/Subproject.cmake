@@ -32,7 +32,8 @@ run(${CMAKE_COMMAND}
     -DCMAKE_CXX_COMPILER=${CXX}
     -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
     -DCMAKE_BUILD_TYPE=Release
-    -DCMAKE_CXX_FLAGS_RELEASE=-O0)
+    -DCMAKE_CXX_FLAGS_RELEASE=-O0
+    -DTARN_UNITE=ON)
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
 run(${WORK_DIR}/build/consumer)
 expect(output STREQUAL "a = 2\n")
