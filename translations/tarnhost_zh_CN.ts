@@ -859,7 +859,7 @@ Remove these as well?</source>
     </message>
     <message>
         <source>Select a feature in the tree, or click it in the view, to edit its fields here. The menu &quot;Model&quot; adds features.</source>
-        <translation>在特征树中选择一个特征，或在视图中单击它，即可在此编辑其参数。“模型”菜单用于添加特征。</translation>
+        <translation>在特征树中选择一个特征，或在视图中单击它，即可在此编辑其参数。“建模”菜单用于添加特征。</translation>
     </message>
     <message>
         <source>At face</source>
@@ -1220,6 +1220,10 @@ Remove these as well?</source>
     <message>
         <source>Made from</source>
         <translation>构成</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <translation>位于 %1</translation>
     </message>
 </context>
 <context>
@@ -2722,7 +2726,7 @@ Products of inertia ∫xy dm, ∫xz dm, ∫yz dm about the same axes: %1, %2, %3
     </message>
     <message>
         <source>The project is empty: start with a body of the menu &quot;Model&quot; or with a parameter</source>
-        <translation>项目为空：请从“模型”菜单中的实体或从参数开始</translation>
+        <translation>项目为空：请从“建模”菜单中的实体或从参数开始</translation>
     </message>
     <message>
         <source>none yet</source>

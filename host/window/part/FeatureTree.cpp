@@ -1,6 +1,7 @@
 #include "FeatureTree.h"
 
 #include "FeatureKind.h"
+#include "FeatureTexts.h"
 #include "PartModel.h"
 
 #include <QAction>
@@ -20,9 +21,15 @@ QString FieldsText(const Feature& feature)
         texts << FeatureTree::tr("of %1").arg(feature.inputs.join(QStringLiteral(", ")));
     if (!feature.file.isEmpty())
         texts << QFileInfo(feature.file).fileName();
+    if (feature.face)
+        texts << FeatureTree::tr("at %1").arg(feature.face->Text());
+    if (!feature.edges.empty())
+        texts << FeatureTree::tr("at %1").arg(TextOf(feature.edges));
     for (int i = 0; i < feature.fields.size(); ++i) {
         const FieldDefinition& field = feature.kind->fields[std::size_t(i)];
-        if (!field.isOptional || feature.fields[i] != field.defaultText)
+        const bool isReplaced = feature.HasReferences() && feature.kind->IsPosition(field);
+        const bool isOmitted = field.isOptional && feature.fields[i] == field.defaultText;
+        if (!isReplaced && !isOmitted)
             texts << QStringLiteral("%1 = %2").arg(field.Label(), feature.fields[i]);
     }
     return texts.join(QStringLiteral(", "));

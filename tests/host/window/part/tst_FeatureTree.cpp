@@ -1,4 +1,5 @@
 #include "EmptyDesignStores.h"
+#include "FeatureTexts.h"
 #include "FeatureTree.h"
 #include "HostTestMain.h"
 #include "NewFeature.h"
@@ -76,6 +77,15 @@ void tst_FeatureTree::ARowShowsTheInputsAndFieldsOfTheFeature()
     import.file = "parts/nut.step";
     shown.model.Add(import);
     QCOMPARE(shown.Row(3).text(FeatureTree::FieldsColumn), QString("nut.step"));
+    Feature image = NewFeature("image", "mirrorFace", {"plate"});
+    image.face = FaceReference{"plate.xmax", {}};
+    shown.model.Add(image);
+    QCOMPARE(shown.Row(4).text(FeatureTree::FieldsColumn), QString("of plate, at plate.xmax"));
+    Feature round = NewFeature("round", "fillet", {"plate"});
+    round.edges = EdgesOf("plate.xmax | plate.zmax");
+    shown.model.Add(round);
+    QCOMPARE(shown.Row(5).text(FeatureTree::FieldsColumn),
+             QString("of plate, at plate.xmax | plate.zmax, Radius = 1"));
 }
 
 void tst_FeatureTree::ASuppressedFeatureIsStruckOut()
