@@ -93,7 +93,8 @@ class MarkdownPages(unittest.TestCase):
 
     def test_EveryOtherPictureIsOnAPage(self):
         shown = {Path(link).stem for page in MarkdownFiles() for link in Links(page) if link.endswith((".png", ".svg"))}
-        self.assertEqual({picture.stem for picture in IMAGES.iterdir()} - self.pictured - shown, set())
+        self.assertEqual({picture.stem for picture in IMAGES.iterdir()} - self.pictured - shown, set(),
+                         "show them on a page, or remove them")
 
     def test_EveryDialogHasAPageWithItsPictureAndTheSameSections(self):
         for dialog in sorted(self.pictured - OWN_WINDOWS):

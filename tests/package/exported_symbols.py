@@ -46,6 +46,7 @@ def main():
         strangers = [symbol for symbol in symbols if not is_public(symbol, classes)]
         if strangers:
             print(f"{name} exports symbols that no public header declares:", *strangers, sep="\n  ")
+            print("List the header of the class in tarn_public_headers(), or do not export the class.")
             failed = True
             continue
         if arguments.update:
